@@ -1,0 +1,33 @@
+# What every target of the project is compiled with. Link `quillorent::options`; targets that use Qt link
+# `quillorent::qt-strict` as well.
+
+option(QUILLORENT_WARNINGS_ARE_ERRORS "Treat compiler warnings as errors" OFF)
+set(QUILLORENT_SANITIZE "" CACHE STRING "Sanitizers for -fsanitize=, for example address,undefined")
+
+add_library(quillorent-options INTERFACE)
+add_library(quillorent::options ALIAS quillorent-options)
+target_compile_features(quillorent-options INTERFACE cxx_std_20)
+target_compile_options(quillorent-options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
+    -Wold-style-cast -Wcast-qual -Wformat=2 -Wimplicit-fallthrough -Wnull-dereference -Wundef
+    $<$<BOOL:${QUILLORENT_WARNINGS_ARE_ERRORS}>:-Werror>)
+# Files larger than 2 GiB are the rule here, on 32-bit systems too.
+target_compile_definitions(quillorent-options INTERFACE _FILE_OFFSET_BITS=64)
+
+if(QUILLORENT_SANITIZE)
+    target_compile_options(quillorent-options INTERFACE
+        -fsanitize=${QUILLORENT_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_link_options(quillorent-options INTERFACE -fsanitize=${QUILLORENT_SANITIZE})
+    # The sanitizers' instrumentation makes g++ see null dereferences that are not there.
+    target_compile_options(quillorent-options INTERFACE -Wno-null-dereference)
+else()
+    target_compile_options(quillorent-options INTERFACE $<$<CONFIG:Release>:-fstack-protector-strong>)
+    target_compile_definitions(quillorent-options INTERFACE $<$<CONFIG:Release>:_FORTIFY_SOURCE=2>)
+endif()
+
+add_library(quillorent-qt-strict INTERFACE)
+add_library(quillorent::qt-strict ALIAS quillorent-qt-strict)
+target_compile_definitions(quillorent-qt-strict INTERFACE
+    QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+    QT_NO_CAST_FROM_BYTEARRAY QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_STRICT_ITERATORS
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400)

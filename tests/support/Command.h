@@ -1,0 +1,21 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+/// What a program did: its exit status (128 + the signal's number where a signal ended it) and what it wrote.
+struct CommandResult {
+    int status = -1;
+    std::string output; ///< standard output
+    std::string errors; ///< standard error
+};
+
+struct CommandOptions {
+    std::string folder;                             ///< working directory; empty: the test's own
+    std::map<std::string, std::string> environment; ///< set on top of the test's own
+    std::string input;                              ///< standard input
+};
+
+/// Runs a program (looked up in PATH) to its end, without a shell. Throws std::system_error where it can't be started.
+CommandResult runCommand(const std::vector<std::string> &arguments, const CommandOptions &options = {});

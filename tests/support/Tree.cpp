@@ -1,0 +1,252 @@
+#include "Tree.h"
+
+#include "TemporaryFolder.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <fstream>
+#include <random>
+#include <string_view>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+[[noreturn]] void fail(const fs::path &path)
+{
+    throw std::system_error(errno, std::generic_category(), path.string());
+}
+
+/// FNV-1a over 64 bits: enough to notice any accidental difference.
+std::uint64_t hashContent(const fs::path &path)
+{
+    std::ifstream file(path, std::ios::binary);
+    if (!file) fail(path);
+    std::uint64_t hash = 0xcbf29ce484222325u;
+    std::vector<char> buffer(1 << 16);
+    while (file) {
+        file.read(buffer.data(), static_cast<std::streamsize>(buffer.size()));
+        const std::string_view read(buffer.data(), static_cast<std::size_t>(file.gcount()));
+        for (const char byte : read)
+            hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001b3u;
+    }
+    return hash;
+}
+
+TreeEntry readEntry(const fs::path &path)
+{
+    struct stat status {};
+    if (lstat(path.c_str(), &status) != 0) fail(path);
+    TreeEntry entry;
+    entry.seconds = status.st_mtim.tv_sec;
+    entry.nanoseconds = status.st_mtim.tv_nsec;
+    entry.owner = status.st_uid;
+    entry.group = status.st_gid;
+    if (S_ISLNK(status.st_mode)) {
+        entry.type = 'l';
+        entry.target = fs::read_symlink(path).string();
+        return entry;
+    }
+    entry.mode = status.st_mode & 07777u;
+    entry.type = S_ISDIR(status.st_mode) ? 'd' : S_ISREG(status.st_mode) ? 'f' : 'o';
+    if (entry.type != 'f') return entry;
+    entry.size = static_cast<std::uint64_t>(status.st_size);
+    entry.contentHash = hashContent(path);
+    return entry;
+}
+
+std::string printable(const std::string &bytes)
+{
+    std::string text;
+    for (const char byte : bytes) {
+        const auto value = static_cast<unsigned char>(byte);
+        if (value >= 0x20 && value < 0x7f) {
+            text += byte;
+            continue;
+        }
+        char escaped[5];
+        std::snprintf(escaped, sizeof escaped, "\\x%02x", value);
+        text += escaped;
+    }
+    return text;
+}
+
+std::string timeText(const TreeEntry &entry)
+{
+    return std::to_string(entry.seconds) + " s " + std::to_string(entry.nanoseconds) + " ns";
+}
+
+bool timesMatter(const TreeEntry &entry, const TreeComparison &comparison)
+{
+    if (!comparison.times) return false;
+    if (entry.type == 'l') return comparison.linkTimes;
+    return entry.type != 'd' || comparison.folderTimes;
+}
+
+/// What differs between two entries of the same path, as "kind expected/actual" items.
+std::string entryDifference(const TreeEntry &expected, const TreeEntry &actual,
+                            const TreeComparison &comparison)
+{
+    std::string text;
+    const auto note = [&text](const std::string &what, const std::string &left, const std::string &right) {
+        if (left != right) text += "; " + what + " " + left + " became " + right;
+    };
+    note("type", std::string(1, expected.type), std::string(1, actual.type));
+    note("target", printable(expected.target), printable(actual.target));
+    note("size", std::to_string(expected.size), std::to_string(actual.size));
+    if (text.empty() && expected.contentHash != actual.contentHash) text += "; the content differs";
+    const auto octal = [](unsigned mode) {
+        char digits[16];
+        std::snprintf(digits, sizeof digits, "%04o", mode);
+        return std::string(digits);
+    };
+    if (comparison.modes) note("mode", octal(expected.mode), octal(actual.mode));
+    if (comparison.ownership) {
+        note("owner", std::to_string(expected.owner), std::to_string(actual.owner));
+        note("group", std::to_string(expected.group), std::to_string(actual.group));
+    }
+    const bool sameTime = expected.seconds == actual.seconds &&
+                          (!comparison.nanoseconds || expected.nanoseconds == actual.nanoseconds);
+    if (timesMatter(expected, comparison) && !sameTime) note("time", timeText(expected), timeText(actual));
+    return text;
+}
+
+void setTime(const fs::path &path, std::int64_t seconds, std::int64_t nanoseconds)
+{
+    const timespec times[2] = {{seconds, nanoseconds}, {seconds, nanoseconds}};
+    if (utimensat(AT_FDCWD, path.c_str(), times, AT_SYMLINK_NOFOLLOW) != 0) fail(path);
+}
+
+void setMode(const fs::path &path, mode_t mode)
+{
+    if (chmod(path.c_str(), mode) != 0) fail(path);
+}
+
+void makeOddNames(const fs::path &folder)
+{
+    const std::vector<std::string> names = {"plain.txt",
+                                            "with space.txt",
+                                            " leading space",
+                                            "trailing space ",
+                                            "line\nbreak",
+                                            "-leading",
+                                            "--",
+                                            "*",
+                                            "*.txt",
+                                            "?",
+                                            "[a-z]",
+                                            "@list",
+                                            "#comment",
+                                            ";semicolon",
+                                            "$HOME",
+                                            "back\\slash",
+                                            "quote'\"",
+                                            "tab\there",
+                                            "~",
+                                            "...",
+                                            ".hidden",
+                                            "gr\xC3\xBC\xC3\x9F"
+                                            "e.txt",
+                                            "\xE6\x97\xA5\xE6\x9C\xAC.txt",
+                                            "latin1 caf\xE9",
+                                            "\xFF\xFEraw",
+                                            "cut\xC3",
+                                            "\xEF\xBF\xBE marker",
+                                            "\xEE\x83\xBF private",
+                                            "private \xEE\x83\xA9 and \xE9",
+                                            "surrogate \xED\xA0\x80",
+                                            std::string(255, 'n')};
+    for (const std::string &name : names)
+        writeFile(folder / name, "content of " + name);
+}
+
+} // namespace
+
+TreeSnapshot snapshotTree(const fs::path &folder)
+{
+    TreeSnapshot snapshot;
+    snapshot["."] = readEntry(folder);
+    for (const fs::directory_entry &entry : fs::recursive_directory_iterator(folder))
+        snapshot[entry.path().lexically_relative(folder).string()] = readEntry(entry.path());
+    return snapshot;
+}
+
+std::string treeDifference(const TreeSnapshot &expected, const TreeSnapshot &actual,
+                           const TreeComparison &comparison)
+{
+    std::string text;
+    for (const auto &[path, entry] : expected) {
+        if (path == "." && !comparison.root) continue;
+        const auto found = actual.find(path);
+        const std::string difference =
+            found == actual.end() ? "; is missing" : entryDifference(entry, found->second, comparison);
+        if (!difference.empty()) text += printable(path) + ":" + difference.substr(1) + "\n";
+    }
+    for (const auto &[path, entry] : actual)
+        if (!expected.contains(path)) text += printable(path) + ": was not expected\n";
+    return text;
+}
+
+std::string treeDifference(const fs::path &expected, const fs::path &actual, const TreeComparison &comparison)
+{
+    return treeDifference(snapshotTree(expected), snapshotTree(actual), comparison);
+}
+
+void makeSampleTree(const fs::path &folder)
+{
+    makeOddNames(folder / "names");
+    fs::create_directories(folder / "empty");
+    fs::create_directories(folder / "deep" / "er" / "still deeper" / "-" / "*");
+    fs::create_directories(folder / "caf\xE9" / "sub");
+    writeFile(folder / "caf\xE9" / "sub" / "file", "below a name that is not UTF-8\n");
+    writeFile(folder / "deep" / "er" / "still deeper" / "-" / "*" / "bottom", "far below\n");
+    writeFile(folder / "empty.bin", "");
+    writeFile(folder / "one byte", "1");
+    writeFile(folder / "zeros.bin", std::string(100'000, '\0'));
+    writeFile(folder / "large.bin", randomBytes(1'572'865));
+    writeFile(folder / "original", "two names for one file\n");
+    fs::create_hard_link(folder / "original", folder / "second name");
+
+    fs::create_symlink("plain.txt", folder / "names" / "relative link");
+    fs::create_symlink("../../deep", folder / "deep" / "folder link");
+    fs::create_symlink("/usr/bin/env", folder / "absolute link");
+    fs::create_symlink("nowhere/at all", folder / "dangling link");
+    fs::create_symlink("names/latin1 caf\xE9", folder / "link to latin1");
+
+    writeFile(folder / "modes" / "private", "0600");
+    writeFile(folder / "modes" / "program", "0755");
+    writeFile(folder / "modes" / "read only", "0444");
+    writeFile(folder / "modes" / "everyone", "0777");
+    writeFile(folder / "read only folder" / "inside", "the folder can't be written to");
+    setMode(folder / "modes" / "private", 0600);
+    setMode(folder / "modes" / "program", 0755);
+    setMode(folder / "modes" / "read only", 0444);
+    setMode(folder / "modes" / "everyone", 0777);
+    setMode(folder / "read only folder" / "inside", 0400);
+
+    setTime(folder / "one byte", 31'536'000, 1);                       // 1971
+    setTime(folder / "names" / "plain.txt", 946'684'799, 999'999'999); // the end of 1999
+    setTime(folder / "zeros.bin", 4'102'444'800, 500'000'000);         // 2100
+    setTime(folder / "dangling link", 1'000'000'000, 123'456'789);
+    setTime(folder / "absolute link", 1'100'000'000, 0);
+    setTime(folder / "empty", 1'200'000'000, 42);
+    setTime(folder / "deep" / "er", 1'300'000'000, 43);
+    setMode(folder / "empty", 0700);
+    setMode(folder / "modes", 01777);
+    setMode(folder / "read only folder", 0555);
+    setTime(folder, 1'400'000'000, 44);
+}
+
+std::string randomBytes(std::size_t size, std::uint32_t seed)
+{
+    std::mt19937 generator(seed);
+    std::string bytes(size, '\0');
+    for (char &byte : bytes)
+        byte = static_cast<char>(generator() >> 24);
+    return bytes;
+}
