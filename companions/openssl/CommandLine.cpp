@@ -1,0 +1,42 @@
+#include "CommandLine.h"
+
+#include <algorithm>
+#include <cstring>
+
+CommandLine::CommandLine(std::span<char *const> arguments, std::span<const std::string_view> withValue)
+    : m_arguments(arguments)
+{
+    std::size_t next = 1;
+    while (next < arguments.size()) {
+        char *const argument = arguments[next];
+        if (*argument != '-' || std::strcmp(argument, "--") == 0) return;
+
+        Option option;
+        option.first = next++;
+        option.name = argument + (argument[1] == '-' ? 2 : 1);
+        const std::size_t equals = option.name.find('=');
+        if (equals != std::string_view::npos) {
+            option.value = argument + (option.name.data() - argument) + equals + 1;
+            option.name = option.name.substr(0, equals);
+        } else if (std::ranges::find(withValue, option.name) != withValue.end() && next < arguments.size()) {
+            option.value = arguments[next++];
+            option.length = 2;
+        }
+        m_options.push_back(option);
+    }
+}
+
+const Option *CommandLine::last(std::initializer_list<std::string_view> names) const
+{
+    const auto isNamed = [names](const Option &option) {
+        return std::ranges::find(names, option.name) != names.end();
+    };
+    const auto found = std::find_if(m_options.rbegin(), m_options.rend(), isNamed);
+    return found == m_options.rend() ? nullptr : &*found;
+}
+
+const char *CommandLine::value(std::string_view name) const
+{
+    const Option *const option = last({name});
+    return option ? option->value : nullptr;
+}

@@ -1,0 +1,77 @@
+#include "Relay.h"
+
+#include <cerrno>
+#include <cstddef>
+#include <poll.h>
+#include <string_view>
+#include <unistd.h>
+#include <utility>
+
+namespace {
+
+constexpr std::size_t bufferSize = 65536; // what a pipe holds
+
+/// 0, or the errno value of the write that failed.
+int writeAll(int sink, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t count = write(sink, bytes.data(), bytes.size());
+        if (count >= 0)
+            bytes.remove_prefix(static_cast<std::size_t>(count));
+        else if (errno != EINTR)
+            return errno;
+    }
+    return 0;
+}
+
+} // namespace
+
+void Relay::forward(FileDescriptor childOutput, int sink)
+{
+    m_drains.push_back({std::move(childOutput), sink, false});
+}
+
+void Relay::collect(FileDescriptor childOutput, int sink)
+{
+    m_drains.push_back({std::move(childOutput), sink, true});
+}
+
+Relay::Result Relay::run()
+{
+    m_buffer.resize(bufferSize);
+    while (!isDone()) {
+        std::vector<pollfd> ends;
+        for (const Drain &each : m_drains)
+            ends.push_back({each.source.get(), POLLIN, 0});
+        if (poll(ends.data(), ends.size(), -1) < 0) {
+            if (errno == EINTR) continue;
+            break;
+        }
+        for (std::size_t i = 0; i < m_drains.size(); ++i)
+            if (ends[i].revents) drain(m_drains[i]);
+    }
+    return m_result;
+}
+
+bool Relay::isDone() const
+{
+    for (const Drain &each : m_drains)
+        if (each.source.isOpen()) return false;
+    return true;
+}
+
+void Relay::drain(Drain &drain)
+{
+    const ssize_t count = read(drain.source.get(), m_buffer.data(), m_buffer.size());
+    if (count <= 0) {
+        if (count == 0 || errno != EINTR) drain.source.close();
+        return;
+    }
+    const int error = writeAll(drain.sink, {m_buffer.data(), static_cast<std::size_t>(count)});
+    if (!drain.isResult) {
+        m_result.printed = true;
+    } else if (error != 0) {
+        m_result.outputError = error;
+        drain.source.close();
+    }
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <csignal>
+#include <sys/types.h>
+
+/// Passes on to a child process the signals that ask the program to stop (SIGTERM, SIGINT, SIGHUP), so that
+/// the program can put things in order once the child is gone. Signals that the program was started to ignore
+/// stay ignored. From its construction until watch(), the signals wait. There is one of it at a time.
+class StopSignals {
+public:
+    StopSignals();
+    ~StopSignals();
+    StopSignals(const StopSignals &) = delete;
+    StopSignals &operator=(const StopSignals &) = delete;
+
+    /// In the child between fork and exec: everything about signals as the program found it.
+    void restoreInChild() const;
+    /// From now on signals go to this child; one that came in the meantime goes there at once.
+    void watch(pid_t child);
+    /// Waits for the end of the watched child and returns its status, as waitpid() gives it.
+    [[nodiscard]] int waitForChild();
+    /// The signal that asked to stop; 0: none did.
+    [[nodiscard]] static int received();
+
+private:
+    sigset_t m_formerMask;
+    struct sigaction m_formerPipe {};
+};
+
+/// Ends the program the way the signal would have done.
+[[noreturn]] void endBySignal(int signal);

@@ -1,0 +1,123 @@
+#include "CommandPlan.h"
+
+#include "Secret.h"
+#include "SmimeCommand.h"
+#include "TemporaryFolder.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace {
+
+/// A command line in memory that can be written to, as a program gets it. Words are separated by one space.
+class ArgumentList {
+public:
+    explicit ArgumentList(const std::string &line) : m_memory(line + ' ')
+    {
+        for (std::size_t start = 0; start < m_memory.size(); start = m_memory.find('\0', start) + 1) {
+            m_memory[m_memory.find(' ', start)] = '\0';
+            m_words.push_back(m_memory.data() + start);
+        }
+    }
+    CommandPlan plan(Secret &password) { return planCommand(m_words, password); }
+    bool shows(const std::string &text) const { return m_memory.find(text) != std::string::npos; }
+
+private:
+    std::string m_memory;
+    std::vector<char *> m_words;
+};
+
+/// The planned arguments of the tool, separated by spaces; nothing where the command is passed through.
+std::string plannedArguments(const CommandPlan &plan)
+{
+    std::string all;
+    if (const ToolRun *const run = std::get_if<ToolRun>(&plan))
+        for (const std::string &argument : run->arguments)
+            all += (all.empty() ? "" : " ") + argument;
+    return all;
+}
+
+TEST(CommandPlan, AddsWhatTheCallerLeftOpen)
+{
+    const std::string derivation = " -pbkdf2 -iter 600000 -md sha256";
+    const std::string legacy = " -provider legacy -provider default";
+    const std::string buffer = " -bufsize 262144";
+    struct Case {
+        std::string line;
+        std::string arguments;
+        std::string password{};
+    };
+    const std::vector<Case> cases{
+        {"aes-256-cbc -a -in F -out G -pass pass:hush", "aes-256-cbc" + derivation + buffer + " -a -in F",
+         "hush"},
+        {"BF-cbc --pass=pass:hush -d", "BF-cbc" + derivation + legacy + buffer + " -d", "hush"},
+        {"enc -e -rc4-40 -in F", "enc" + derivation + legacy + buffer + " -e -rc4-40 -in F"},
+        {"des -in F", "des" + derivation + legacy + buffer + " -in F"},
+        {"des-ede3-cbc -in F", "des-ede3-cbc" + derivation + buffer + " -in F"},
+        // What the caller chose stays his choice.
+        {"aes256 -pbkdf2 -in F", "aes256" + buffer + " -pbkdf2 -in F"},
+        {"aes256 -iter 5 -bufsize 1k", "aes256 -iter 5 -bufsize 1k"},
+        {"cast -md=sha1 -provider p", "cast -pbkdf2 -iter 600000" + buffer + " -md=sha1 -provider p"},
+        // A value that looks like an option is a value.
+        {"sm4-cbc -in -iter -out -md", "sm4-cbc" + derivation + buffer + " -in -iter"},
+        // The password that counts for the tool counts here; none stays in sight.
+        {"aes256 -k hush1 -pass file:P", "aes256" + derivation + buffer, "hush1"},
+        {"aes256 -pass pass:hush1 -pass pass:hush2", "aes256" + derivation + buffer, "hush2"},
+        {"aes256 -pass pass:hush -kfile P", "aes256" + derivation + buffer + " -kfile P"},
+        {"aes256 -pass env:P", "aes256" + derivation + buffer + " -pass env:P"},
+        {"smime -aes256 -encrypt -in /proc/self/exe -out G C", "smime -stream -aes256 -encrypt C"},
+        {"smime -encrypt -indef C", "smime -encrypt -indef C"},
+        {"smime -decrypt -in F -out G -inkey K C", "smime -decrypt -in F -inkey K C"},
+        {"x509 -in F", ""},
+        {"enc -base64 -in F", ""},
+        {"enc -in -aes256", ""},
+        {"description", ""},
+        {"dsa -des3", ""},
+        {"smime -sign -in F", ""}};
+    for (const Case &each : cases) {
+        SCOPED_TRACE(each.line);
+        ArgumentList list(each.line);
+        Secret password;
+        const CommandPlan plan = list.plan(password);
+        EXPECT_EQ(plannedArguments(plan), each.arguments);
+        EXPECT_EQ(password.text(), each.password);
+        EXPECT_FALSE(list.shows("hush"));
+    }
+}
+
+TEST(CommandPlan, RefusesAPasswordThatWouldBeCutOff)
+{
+    const std::string longest(Secret::maximumSize, 'x');
+    const std::vector<std::pair<std::string, std::string>> reasons{
+        {"hush\nhush", "line break"}, {longest + "hush", "1023 bytes"}, {longest + "hush\n", "line break"}};
+    for (const auto &[text, reason] : reasons) {
+        ArgumentList list("aes-256-cbc -pass pass:" + text);
+        Secret password;
+        const CommandPlan plan = list.plan(password);
+        ASSERT_TRUE(std::holds_alternative<Refusal>(plan));
+        EXPECT_NE(std::get<Refusal>(plan).message.find(reason), std::string::npos);
+        EXPECT_FALSE(list.shows("hush"));
+    }
+}
+
+TEST(CommandPlan, RefusesWhatACertificateCouldNotDecryptAgain)
+{
+    const TemporaryFolder folder;
+    const std::string file = folder / "big";
+    writeFile(file, "");
+    const auto plan = [&file](std::int64_t size, const std::string &options) {
+        std::filesystem::resize_file(file, static_cast<std::uintmax_t>(size));
+        Secret password;
+        return ArgumentList("smime -encrypt " + options + "-in " + file + " C").plan(password);
+    };
+    EXPECT_TRUE(std::holds_alternative<ToolRun>(plan(maximumSmimeSize, "")));
+    EXPECT_TRUE(std::holds_alternative<Refusal>(plan(maximumUnstreamedSmimeSize + 1, "-noindef ")));
+    const CommandPlan tooLarge = plan(maximumSmimeSize + 1, "");
+    ASSERT_TRUE(std::holds_alternative<Refusal>(tooLarge));
+    const std::string &message = std::get<Refusal>(tooLarge).message;
+    for (const char *const part : {file.c_str(), "1900000001", "1900000000", "password"})
+        EXPECT_NE(message.find(part), std::string::npos) << message;
+}
+
+} // namespace

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "Command.h"
+#include "TemporaryFolder.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+using Arguments = std::vector<std::string>;
+
+inline Arguments operator+(Arguments first, const Arguments &second)
+{
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+/// Runs a program in `folder`; what it writes to both streams is in `output`.
+inline CommandResult runIn(const TemporaryFolder &folder, const Arguments &arguments)
+{
+    CommandOptions options;
+    options.folder = folder.path();
+    CommandResult result = runCommand(arguments, options);
+    result.output += result.errors;
+    return result;
+}
+
+inline CommandResult runFront(const TemporaryFolder &folder, const Arguments &arguments)
+{
+    return runIn(folder, Arguments{OPENSSL_FRONT} + arguments);
+}
+
+/// Runs the system's own tool.
+inline CommandResult runStock(const TemporaryFolder &folder, const Arguments &arguments)
+{
+    return runIn(folder, Arguments{"openssl"} + arguments);
+}
+
+/// Success in the sense of the front's callers: not a word.
+inline testing::AssertionResult isSilentSuccess(const CommandResult &result)
+{
+    if (result.status == 0 && result.output.empty()) return testing::AssertionSuccess();
+    return testing::AssertionFailure() << "exit status " << result.status << ": " << result.output;
+}
+
+/// Bytes that hold every value.
+inline std::string binaryData(std::size_t size)
+{
+    std::string data(size, '\0');
+    for (std::size_t i = 0; i < size; ++i)
+        data[i] = static_cast<char>(i * i / 7 + i);
+    return data;
+}
+
+inline std::ptrdiff_t entriesIn(const TemporaryFolder &folder)
+{
+    return std::distance(std::filesystem::directory_iterator(folder.path()), {});
+}
