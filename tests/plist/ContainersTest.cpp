@@ -1,0 +1,152 @@
+#include "plist/Value.h"
+
+#include <gtest/gtest.h>
+#include <limits>
+#include <thread>
+#include <vector>
+
+using namespace Qt::Literals::StringLiterals;
+using plist::Array;
+using plist::Dictionary;
+using plist::Value;
+
+namespace {
+
+Dictionary makeRecord()
+{
+    const Dictionary record = Dictionary::make();
+    record.setValue(u"folders"_s, Array::make({u"a"_s, u"b"_s}));
+    record.setValue(u"passtype"_s, 2);
+    record.setValue(u"sub"_s, Dictionary::make());
+    return record;
+}
+
+} // namespace
+
+TEST(Dictionary, KeepsTheOrderInWhichKeysCame)
+{
+    const Dictionary record = makeRecord();
+    record.setValue(u"folders"_s, u"replaced"); // keeps its place
+    record.remove(u"passtype"_s);
+    record.setValue(u"passtype"_s, u"3"); // comes back last
+    record.setValue(u"sub"_s, Value{});   // setting none removes
+    EXPECT_EQ(record.keys(), (QStringList{u"folders"_s, u"passtype"_s}));
+    EXPECT_EQ(record.count(), 2);
+}
+
+TEST(Dictionary, IsSharedByItsHandlesAndNotByItsDeepCopy)
+{
+    const Dictionary record = makeRecord();
+    const Dictionary sameRecord = record;
+    const Dictionary copy = record.deepCopy();
+    EXPECT_EQ(copy, record);
+    EXPECT_EQ(copy.keys(), record.keys());
+
+    sameRecord.array(u"folders"_s).append(u"c");
+    sameRecord.dictionary(u"sub"_s).setSwitch(u"on"_s, true);
+    EXPECT_EQ(record.array(u"folders"_s).count(), 3);
+    EXPECT_TRUE(record.dictionary(u"sub"_s).isOn(u"on"_s));
+    EXPECT_EQ(copy.array(u"folders"_s).strings(), (QStringList{u"a"_s, u"b"_s}));
+    EXPECT_EQ(copy.dictionary(u"sub"_s).count(), 0);
+    EXPECT_FALSE(copy == record);
+}
+
+TEST(Dictionary, EqualsByContentWhateverTheOrder)
+{
+    const Dictionary record = makeRecord();
+    const Dictionary other = Dictionary::make();
+    const QStringList keys = record.keys();
+    for (auto key = keys.rbegin(); key != keys.rend(); ++key)
+        other.setValue(*key, record.deepCopy().value(*key));
+    EXPECT_EQ(record, other);
+
+    other.setValue(u"passtype"_s, u"2"); // a text is not a number
+    EXPECT_FALSE(record == other);
+    EXPECT_FALSE(Dictionary::make() == Dictionary{}); // the empty one is not none
+}
+
+TEST(Containers, NoneFindsNothingAndTakesNothing)
+{
+    const Dictionary none;
+    none.setValue(u"key"_s, 1);
+    EXPECT_FALSE(none);
+    EXPECT_FALSE(none.contains(u"key"_s) || none.array(u"key"_s) || none.string(u"key"_s) || none.deepCopy());
+
+    const Array noArray;
+    noArray.append({u"a"_s, u"b"_s});
+    EXPECT_EQ(noArray.count(), 0);
+    EXPECT_TRUE(Value(noArray).isNone());
+    EXPECT_TRUE(Value(none).isNone());
+    EXPECT_TRUE(Array::make({u"a"_s}).at(1).isNone());
+    EXPECT_TRUE(Array::make({u"a"_s}).at(-1).isNone());
+}
+
+TEST(Array, RemovesAllIndexesAtOnce)
+{
+    const Array array = Array::make({u"a"_s, u"b"_s, u"c"_s, u"d"_s});
+    array.removeAt({0, 2, 2, -1, 4}); // where the first removal moved the second, "d" would go
+    EXPECT_EQ(array.strings(), (QStringList{u"b"_s, u"d"_s}));
+    EXPECT_TRUE(array.contains(u"d"));
+    EXPECT_FALSE(array.contains(u"c"));
+}
+
+TEST(Value, ConvertsScalarsOnly)
+{
+    constexpr qint64 largest = std::numeric_limits<qint64>::max();
+    constexpr qint64 lowest = std::numeric_limits<qint64>::min();
+    const std::vector<std::pair<Value, std::optional<qint64>>> integers{
+        {u"2", 2},
+        {u" -7 days", -7},
+        {u"+8", 8},
+        {u"", 0},
+        {u"abc", 0},
+        {u"9223372036854775807", largest},
+        {u"9223372036854775808", largest},
+        {u"-9223372036854775808", lowest},
+        {u"-99999999999999999999", lowest},
+        {2.9, 2},
+        {-1e300, lowest},
+        {std::numeric_limits<double>::quiet_NaN(), 0},
+        {true, 1},
+        {QByteArray("1"), std::nullopt},
+        {Array::make(), std::nullopt},
+        {Value{}, std::nullopt}};
+    for (const auto &[value, integer] : integers)
+        EXPECT_EQ(value.integer(), integer) << value.string().value_or(u"no text"_s).toStdString();
+
+    EXPECT_EQ(Value(12).string(), u"12");
+    EXPECT_EQ(Value(0.1).string(), u"0.1");
+    EXPECT_FALSE(Value(true).string() || Value(QByteArray("1")).string() ||
+                 Value(Dictionary::make()).string());
+}
+
+// What ThreadSanitizer is for; without it, a lost append still shows.
+TEST(Containers, MayBeUsedByManyThreads)
+{
+    constexpr int threadCount = 4;
+    constexpr int rounds = 300;
+    const Dictionary root = makeRecord();
+    const Dictionary other = makeRecord();
+    root.setValue(u"other"_s, other);
+
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < threadCount; ++thread) {
+        threads.emplace_back([=] {
+            for (int round = 0; round < rounds; ++round) {
+                root.array(u"folders"_s).append({u"x"_s, u"y"_s});
+                root.setValue(u"key"_s + QString::number(thread), round);
+                root.setValue(u"passtype"_s, other.value(u"passtype"_s));
+                other.setSwitch(u"switch"_s, round % 2 == 0);
+                if (round % 50 != 0) continue;
+                const Dictionary copy = root.deepCopy();
+                EXPECT_EQ(copy.array(u"folders"_s).count() % 2, 0); // an append of two is one step
+                EXPECT_FALSE(copy == other);
+                EXPECT_FALSE(other == copy);
+            }
+        });
+    }
+    for (std::thread &thread : threads)
+        thread.join();
+    EXPECT_EQ(root.array(u"folders"_s).count(), 2 + 2 * threadCount * rounds);
+    EXPECT_EQ(root.count(), 4 + threadCount);
+}

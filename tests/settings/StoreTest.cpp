@@ -1,0 +1,280 @@
+#include "settings/Store.h"
+#include "plist/File.h"
+#include "plist/Value.h"
+
+#include "TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+#include <thread>
+#include <unistd.h>
+
+using namespace Qt::Literals::StringLiterals;
+namespace fs = std::filesystem;
+using namespace quillorentLibrary;
+using plist::Dictionary;
+
+namespace {
+
+const std::string settingsName = "com.brolvanek.Quillorent.config.plist";
+const std::string profilesName = "com.brolvanek.Quillorent.profiles.plist";
+
+std::string document(const std::string &elements)
+{
+    return "<plist version=\"1.0\"><dict>" + elements + "</dict></plist>";
+}
+
+std::string versionElement(const std::string &version)
+{
+    return "<key>version</key><string>" + version + "</string>";
+}
+
+const std::string newKey = "<key>new</key><string>x</string>";
+const std::string halfWritten = "<plist version=\"1.0\"><dict><key>version</key><str";
+
+/// While it lives, the process has no more rights than any user: root may write what nobody may.
+class OrdinaryUser {
+public:
+    explicit OrdinaryUser(const fs::path &folder)
+    {
+        if (getuid() != 0) return;
+        for (const auto &entry : fs::recursive_directory_iterator(folder))
+            EXPECT_EQ(lchown(entry.path().c_str(), nobody, nobody), 0);
+        EXPECT_EQ(lchown(folder.c_str(), nobody, nobody), 0);
+        EXPECT_EQ(setresuid(nobody, nobody, 0), 0);
+        m_wasRoot = true;
+    }
+    ~OrdinaryUser()
+    {
+        if (!m_wasRoot) return;
+        EXPECT_EQ(setresuid(0, 0, 0), 0);
+    }
+    OrdinaryUser(const OrdinaryUser &) = delete;
+    OrdinaryUser &operator=(const OrdinaryUser &) = delete;
+
+private:
+    static constexpr uid_t nobody = 65534;
+    bool m_wasRoot = false;
+};
+
+class Store : public testing::Test {
+protected:
+    Store()
+    {
+        qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(config.string()));
+        setResourceFolder(QString::fromStdString(templates.string()));
+        writeFile(templates / "config.plist", document(versionElement("2") + newKey));
+        writeFile(templates / "profiles.plist",
+                  document("<key>Default profile</key><dict>" + newKey + "</dict>"));
+    }
+    ~Store() override
+    {
+        setResourceFolder({});
+        qunsetenv("XDG_CONFIG_HOME");
+        fs::permissions(folder.path(), fs::perms::owner_all);
+        if (fs::exists(config)) fs::permissions(config, fs::perms::owner_all);
+    }
+
+    TemporaryFolder folder;
+    fs::path config = folder / "new" / "config";
+    fs::path templates = folder / "templates";
+    fs::path settings = config / settingsName;
+    fs::path profiles = config / profilesName;
+    fs::path damaged = config / (settingsName + ".damaged");
+};
+
+Dictionary someSettings()
+{
+    const Dictionary settings = Dictionary::make();
+    settings.setValue(u"version"_s, u"2");
+    return settings;
+}
+
+} // namespace
+
+TEST_F(Store, StartsFromTheTemplates)
+{
+    fs::permissions(templates / "config.plist", fs::perms{0444});
+    EXPECT_EQ(readSettings().keys(), (QStringList{u"version"_s, u"new"_s}));
+    EXPECT_EQ(readProfiles().keys(), (QStringList{u"Default profile"_s}));
+    EXPECT_EQ(readFile(settings), readFile(templates / "config.plist"));
+    EXPECT_EQ(fs::status(settings).permissions(), fs::perms{0600});
+    EXPECT_EQ(fs::status(config).permissions(), fs::perms{0700});
+    EXPECT_EQ(fs::status(config.parent_path()).permissions(), fs::perms{0700});
+}
+
+TEST_F(Store, LiesInTheFolderThatTheEnvironmentNames)
+{
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", "/home/of/one");
+    const std::vector<std::pair<QByteArray, QString>> cases{{"/some/where/", u"/some/where"_s},
+                                                            {"relative", u"/home/of/one/.config"_s},
+                                                            {"", u"/home/of/one/.config"_s}};
+    for (const auto &[configured, expected] : cases) {
+        qputenv("XDG_CONFIG_HOME", configured);
+        EXPECT_EQ(settingsPath(), expected + u'/' + QString::fromStdString(settingsName));
+        EXPECT_EQ(profilesPath(), expected + u'/' + QString::fromStdString(profilesName));
+    }
+    qputenv("HOME", home);
+}
+
+TEST_F(Store, IsBroughtUpToDateWhereTheVersionDiffers)
+{
+    struct Case {
+        std::string version;
+        bool isMerged;
+        QString versionAfter;
+    };
+    const std::vector<Case> cases{{versionElement("1"), true, u"2"_s}, // older
+                                  {versionElement("3"), true, u"2"_s}, // newer
+                                  {versionElement("2"), false, u"2"_s},
+                                  {"", true, {}}};
+    for (const Case &test : cases) {
+        writeFile(settings, document(test.version));
+        writeFile(profiles, document("<key>Mine</key><dict/>"));
+        const Dictionary read = readSettings();
+        EXPECT_EQ(read.contains(u"new"_s), test.isMerged) << test.version;
+        EXPECT_EQ(read.string(u"version"_s).value_or(QString()), test.versionAfter) << test.version;
+        EXPECT_EQ(readProfiles().dictionary(u"Mine"_s).contains(u"new"_s), test.isMerged) << test.version;
+        EXPECT_EQ(readProfiles().keys(), (QStringList{u"Mine"_s})) << test.version;
+    }
+}
+
+TEST_F(Store, KeepsWhatCannotBeReadWhenItIsSavedOver)
+{
+    for (const std::string &content : {halfWritten, std::string("other"), halfWritten, std::string()}) {
+        writeFile(settings, content);
+        EXPECT_FALSE(readSettings());
+        EXPECT_EQ(readFile(settings), content);
+        saveSettings(someSettings());
+        EXPECT_EQ(readSettings(), someSettings());
+    }
+    // The second "halfWritten" is kept already, and nothing is not worth keeping.
+    EXPECT_EQ(readFile(damaged), halfWritten);
+    EXPECT_EQ(readFile(damaged.string() + ".1"), "other");
+    EXPECT_FALSE(fs::exists(damaged.string() + ".2"));
+    EXPECT_EQ(fs::status(damaged).permissions(), fs::perms{0600});
+
+    saveSettings(Dictionary{});
+    EXPECT_EQ(readSettings(), someSettings());
+}
+
+TEST_F(Store, LeavesWhatStandsInItsPlaceAndIsNoFile)
+{
+    writeFile(settings / "precious", "x");
+    EXPECT_FALSE(readSettings());
+    saveSettings(someSettings());
+    EXPECT_EQ(readFile(settings / "precious"), "x");
+    EXPECT_TRUE(readProfiles());
+}
+
+TEST_F(Store, ReplacesAFileThatMayNotBeWrittenAndKeepsIt)
+{
+    for (const std::string &content :
+         {versionElement("old"), versionElement("older"), versionElement("old")}) {
+        writeFile(settings, document(content));
+        fs::permissions(settings, fs::perms{0400});
+        const OrdinaryUser user(folder.path());
+        EXPECT_EQ(readSettings().string(u"version"_s), u"2");
+    }
+    EXPECT_EQ(readFile(damaged), document(versionElement("old")));
+    EXPECT_EQ(readFile(damaged.string() + ".1"), document(versionElement("older")));
+    EXPECT_FALSE(fs::exists(damaged.string() + ".2"));
+    EXPECT_EQ(fs::status(settings).permissions(), fs::perms{0600});
+}
+
+TEST_F(Store, LeavesAFileThatMayNotBeWrittenWhereNothingCanReplaceIt)
+{
+    struct Case {
+        const char *name;
+        fs::perms folder;
+        bool hasTemplate;
+    };
+    for (const Case &test :
+         {Case{"folder", fs::perms{0500}, true}, Case{"template", fs::perms{0700}, false}}) {
+        writeFile(settings, document(versionElement("old")));
+        writeFile(profiles, document(""));
+        fs::permissions(settings, fs::perms{0400});
+        fs::permissions(config, test.folder);
+        if (!test.hasTemplate) fs::remove(templates / "config.plist");
+        const OrdinaryUser user(folder.path());
+        EXPECT_EQ(readSettings().string(u"version"_s), u"old") << test.name;
+        saveSettings(someSettings());
+        EXPECT_EQ(readFile(settings), document(versionElement("old"))) << test.name;
+        EXPECT_FALSE(fs::exists(damaged)) << test.name;
+        fs::permissions(config, fs::perms{0700});
+        fs::permissions(settings, fs::perms{0600});
+    }
+}
+
+TEST_F(Store, FollowsLinks)
+{
+    const fs::path kept = folder / "kept.plist";
+    fs::create_directories(config);
+    fs::create_symlink("../../kept.plist", settings);
+    fs::create_symlink("/nonexistent/folder/file", profiles);
+    EXPECT_TRUE(readSettings()); // the template, through a link to what was not there
+    EXPECT_FALSE(readProfiles());
+    saveSettings(someSettings());
+    EXPECT_TRUE(fs::is_symlink(settings));
+    EXPECT_TRUE(fs::is_symlink(profiles));
+    EXPECT_EQ(plist::readFile(QString::fromStdString(kept.string())).dictionary, someSettings());
+
+    fs::permissions(kept, fs::perms{0400});
+    const OrdinaryUser user(folder.path());
+    EXPECT_TRUE(readSettings().contains(u"new"_s));
+    EXPECT_EQ(fs::read_symlink(damaged), "../../kept.plist");
+    EXPECT_EQ(plist::readFile(QString::fromStdString(kept.string())).dictionary, someSettings());
+}
+
+TEST_F(Store, NeedsItsTemplates)
+{
+    fs::remove_all(templates);
+    EXPECT_FALSE(readSettings());
+    EXPECT_FALSE(fs::exists(settings));
+
+    writeFile(templates / "config.plist", document(newKey)); // gives no version
+    writeFile(settings, document(versionElement("1")));
+    EXPECT_EQ(readSettings().keys(), (QStringList{u"version"_s}));
+    EXPECT_EQ(readFile(settings), document(versionElement("1")));
+}
+
+TEST_F(Store, MayBeSavedByManyThreads)
+{
+    const Dictionary shared = someSettings();
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < 3; ++thread) {
+        threads.emplace_back([=] {
+            for (int round = 0; round < 20; ++round) {
+                shared.setValue(u"key"_s + QString::number(thread), round);
+                saveSettings(shared);
+                EXPECT_TRUE(readSettings().contains(u"version"_s));
+            }
+        });
+    }
+    for (std::thread &thread : threads)
+        thread.join();
+    // The last save wrote the state of its turn, to which all threads had come.
+    EXPECT_EQ(readSettings(), shared);
+}
+
+TEST(Templates, FitTogether)
+{
+    setResourceFolder(QStringLiteral(QUILLORENT_TEMPLATES));
+    const plist::FileContent settings = plist::readFile(settingsTemplatePath());
+    const plist::FileContent profiles = plist::readFile(profilesTemplatePath());
+    setResourceFolder({});
+    ASSERT_EQ(settings.reason + profiles.reason, QString());
+
+    const QStringList tools = settings.dictionary.dictionary(u"external"_s).keys();
+    EXPECT_EQ(settings.dictionary.dictionary(u"executables"_s).keys(), tools);
+    EXPECT_EQ(settings.dictionary.dictionary(u"verifiers"_s).keys(), tools);
+    for (const QString &tool : tools)
+        EXPECT_TRUE(settings.dictionary.dictionary(u"external"_s).string(tool)->startsWith(u'/'))
+            << tool.toStdString();
+
+    const Dictionary record = profiles.dictionary.dictionary(u"Default profile"_s);
+    const QStringList methods = settings.dictionary.dictionary(u"encparam"_s).keys();
+    EXPECT_EQ(QStringList{u"RAR"_s} + methods, settings.dictionary.dictionary(u"extensions"_s).keys());
+    EXPECT_TRUE(methods.contains(record.string(u"symencryption"_s).value_or(QString())));
+    EXPECT_TRUE(methods.contains(record.string(u"asymencryption"_s).value_or(QString())));
+}
