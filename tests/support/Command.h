@@ -12,10 +12,11 @@ struct CommandResult {
 };
 
 struct CommandOptions {
-    std::string folder;                             ///< working directory; empty: the test's own
-    std::map<std::string, std::string> environment; ///< set on top of the test's own
-    std::string input;                              ///< standard input
+    std::string folder{};                             ///< working directory; empty: the test's own
+    std::map<std::string, std::string> environment{}; ///< set on top of the test's own
+    std::string input{};                              ///< standard input
 };
 
-/// Runs a program (looked up in PATH) to its end, without a shell. Throws std::system_error where it can't be started.
+/// Runs a program (looked up in PATH) to its end, without a shell. Throws std::system_error where it can't be
+/// started.
 CommandResult runCommand(const std::vector<std::string> &arguments, const CommandOptions &options = {});

@@ -19,7 +19,8 @@ TemporaryFolder::~TemporaryFolder()
 {
     // Tests take permissions away; without them back, a folder can't be emptied by anyone but root.
     std::error_code ignored;
-    for (auto entry = fs::recursive_directory_iterator(m_path, fs::directory_options::skip_permission_denied, ignored);
+    for (auto entry =
+             fs::recursive_directory_iterator(m_path, fs::directory_options::skip_permission_denied, ignored);
          entry != fs::recursive_directory_iterator(); entry.increment(ignored))
         if (entry->is_directory(ignored) && !entry->is_symlink(ignored))
             fs::permissions(entry->path(), fs::perms::owner_all, fs::perm_options::add, ignored);

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "outlets/Outlet.h"
+
+#include <QStringList>
+
+namespace outlets {
+
+/// A part of the window that is shown or hidden as a whole.
+class View : public Outlet {
+public:
+    using Outlet::Outlet;
+};
+
+class TextField : public Outlet {
+public:
+    using Outlet::Outlet;
+
+    [[nodiscard]] QString text() const { return read(m_text); }
+    void setText(const QString &text) { write(m_text, text); }
+
+private:
+    QString m_text;
+};
+
+class CheckBox : public Outlet {
+public:
+    using Outlet::Outlet;
+
+    [[nodiscard]] bool isOn() const { return read(m_on); }
+    void setOn(bool on) { write(m_on, on); }
+
+private:
+    bool m_on = false;
+};
+
+class Button : public Outlet {
+public:
+    using Outlet::Outlet;
+
+    /// The title that the program gives it; empty where it keeps the one from the form.
+    [[nodiscard]] QString title() const { return read(m_title); }
+    void setTitle(const QString &title) { write(m_title, title); }
+
+private:
+    QString m_title;
+};
+
+/// A field's arrows: an integer.
+class Stepper : public Outlet {
+public:
+    using Outlet::Outlet;
+
+    [[nodiscard]] int value() const { return read(m_value); }
+    void setValue(int value) { write(m_value, value); }
+
+private:
+    int m_value = 0;
+};
+
+/// One of several: a chooser, a group of radio buttons, a tab view. Its choices come from the form unless the
+/// program fills it.
+class Selector : public Outlet {
+public:
+    using Outlet::Outlet;
+
+    /// -1 where nothing is selected.
+    [[nodiscard]] int selectedIndex() const { return read(m_selected); }
+    void selectIndex(int index) { write(m_selected, index); }
+
+private:
+    int m_selected = -1;
+};
+
+/// A chooser that the program fills with titles.
+class Chooser : public Outlet {
+public:
+    using Outlet::Outlet;
+
+    [[nodiscard]] QStringList titles() const { return read(m_titles); }
+    void setTitles(
+        const QStringList &titles); ///< keeps the selected title where it is still there, else selects none
+
+    /// The empty string where nothing is selected.
+    [[nodiscard]] QString selectedTitle() const { return read(m_selected); }
+    void selectTitle(const QString &title); ///< a title that it does not have selects none
+    void selectIndex(qsizetype index) { selectTitle(titles().value(index)); }
+
+private:
+    QStringList m_titles;
+    QString m_selected;
+};
+
+} // namespace outlets
