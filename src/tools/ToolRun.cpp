@@ -1,0 +1,224 @@
+#include "tools/ToolRun.h"
+
+#include <QByteArray>
+#include <array>
+#include <cerrno>
+#include <condition_variable>
+#include <csignal>
+#include <cstring>
+#include <fcntl.h>
+#include <mutex>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+extern char **environ;
+
+namespace {
+
+/// One pipe for both of the child's output streams; the ends are closed when they are given up.
+class OutputPipe {
+public:
+    OutputPipe() { m_error = pipe2(m_ends.data(), O_CLOEXEC) == 0 ? 0 : errno; }
+    ~OutputPipe()
+    {
+        closeEnd(0);
+        closeEnd(1);
+    }
+    OutputPipe(const OutputPipe &) = delete;
+    OutputPipe &operator=(const OutputPipe &) = delete;
+
+    [[nodiscard]] int error() const { return m_error; }
+    [[nodiscard]] int writeEnd() const { return m_ends[1]; }
+    void closeWriteEnd() { closeEnd(1); }
+
+    QByteArray readToEnd() const
+    {
+        QByteArray bytes;
+        std::array<char, 16384> buffer;
+        for (;;) {
+            const ssize_t count = read(m_ends[0], buffer.data(), buffer.size());
+            if (count > 0)
+                bytes.append(buffer.data(), count);
+            else if (count == 0 || errno != EINTR)
+                return bytes;
+        }
+    }
+
+private:
+    void closeEnd(std::size_t end)
+    {
+        if (m_ends[end] >= 0) close(m_ends[end]);
+        m_ends[end] = -1;
+    }
+
+    std::array<int, 2> m_ends{-1, -1};
+    int m_error = 0;
+};
+
+/// Arguments as the kernel takes them. A password may be among them: they are wiped when they are not needed
+/// any more.
+class ArgumentVector {
+public:
+    ArgumentVector(const QString &tool, const QStringList &arguments)
+    {
+        m_bytes.reserve(static_cast<std::size_t>(arguments.size()) + 1);
+        m_bytes.push_back(tool.toUtf8());
+        for (const QString &argument : arguments)
+            m_bytes.push_back(argument.toUtf8());
+        for (QByteArray &bytes : m_bytes)
+            m_pointers.push_back(bytes.data());
+        m_pointers.push_back(nullptr);
+    }
+    ~ArgumentVector()
+    {
+        for (QByteArray &bytes : m_bytes)
+            explicit_bzero(bytes.data(), static_cast<std::size_t>(bytes.size()));
+    }
+    ArgumentVector(const ArgumentVector &) = delete;
+    ArgumentVector &operator=(const ArgumentVector &) = delete;
+
+    [[nodiscard]] char *const *data() const { return m_pointers.data(); }
+
+private:
+    std::vector<QByteArray> m_bytes;
+    std::vector<char *> m_pointers;
+};
+
+/// 0, or the error that kept the tool from starting.
+int spawn(pid_t &child, const ArgumentVector &arguments, int output)
+{
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, output, STDERR_FILENO);
+
+    // What this program blocks or ignores is no business of the tool.
+    sigset_t none;
+    sigemptyset(&none);
+    sigset_t reset;
+    sigemptyset(&reset);
+    for (const int signal : {SIGPIPE, SIGINT, SIGTERM, SIGHUP, SIGQUIT})
+        sigaddset(&reset, signal);
+
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    posix_spawnattr_setsigmask(&attributes, &none);
+    posix_spawnattr_setsigdefault(&attributes, &reset);
+    posix_spawnattr_setflags(&attributes,
+                             POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSID);
+
+    const int error =
+        posix_spawn(&child, arguments.data()[0], &actions, &attributes, arguments.data(), environ);
+    posix_spawnattr_destroy(&attributes);
+    posix_spawn_file_actions_destroy(&actions);
+    return error;
+}
+
+/// The tools that run, by process id. Each leads a session of its own, so its id also names the group of all
+/// that it started.
+class RunningTools {
+public:
+    /// 0, or the error that kept the tool from starting. Starting and noting are one step: a tool that
+    /// endTools() did not know of would stay.
+    int start(pid_t &child, const ArgumentVector &arguments, int output)
+    {
+        const std::lock_guard lock(m_mutex);
+        const int error = spawn(child, arguments, output);
+        if (!error) m_tools.push_back(child);
+        return error;
+    }
+
+    /// Waits for the tool and gives its status. Its id is free for another process once its end is taken note
+    /// of, so both happen in one step.
+    int waitFor(pid_t child)
+    {
+        siginfo_t info{};
+        while (waitid(P_PID, static_cast<id_t>(child), &info, WEXITED | WNOWAIT) < 0 && errno == EINTR) {
+        }
+
+        const std::lock_guard lock(m_mutex);
+        int status = 0;
+        while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
+        }
+        std::erase(m_tools, child);
+        m_ended.notify_all();
+        return status;
+    }
+
+    void signalAll(int signal)
+    {
+        const std::lock_guard lock(m_mutex);
+        for (const pid_t tool : m_tools)
+            kill(-tool, signal);
+    }
+
+    void waitForNone(std::chrono::milliseconds atMost)
+    {
+        std::unique_lock lock(m_mutex);
+        m_ended.wait_for(lock, atMost, [this] { return m_tools.empty(); });
+    }
+
+    int count()
+    {
+        const std::lock_guard lock(m_mutex);
+        return static_cast<int>(m_tools.size());
+    }
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_ended;
+    std::vector<pid_t> m_tools;
+};
+
+// Never destroyed: a worker may outlive the end of main() by a moment.
+RunningTools &runningTools()
+{
+    static auto *tools = new RunningTools;
+    return *tools;
+}
+
+ToolResult notStarted(const QString &tool, int error)
+{
+    const QString reason = QString::fromLocal8Bit(std::strerror(error));
+    return {u"Can't start \"%1\": %2. Choose the tool's path on the Tools tab.\n"_qs.arg(tool, reason),
+            false};
+}
+
+/// Silence is how a tool reports success, and one that crashed or was killed is silent too: its end is put
+/// into words.
+QString describeEnd(const QString &tool, int status)
+{
+    if (!WIFSIGNALED(status)) return {};
+    const int signal = WTERMSIG(status);
+    return u"\"%1\" was ended by signal %2 (%3).\n"_qs.arg(tool).arg(signal).arg(
+        QString::fromLocal8Bit(strsignal(signal)));
+}
+
+} // namespace
+
+ToolResult runTool(const QString &tool, const QStringList &arguments)
+{
+    OutputPipe pipe;
+    if (pipe.error()) return notStarted(tool, pipe.error());
+
+    pid_t child = 0;
+    const int error = runningTools().start(child, ArgumentVector(tool, arguments), pipe.writeEnd());
+    if (error) return notStarted(tool, error);
+
+    pipe.closeWriteEnd();
+    QByteArray bytes = pipe.readToEnd();
+    bytes += describeEnd(tool, runningTools().waitFor(child)).toUtf8();
+    if (!bytes.isValidUtf8()) return {std::nullopt};
+    return {QString::fromUtf8(bytes)};
+}
+
+void endTools(std::chrono::milliseconds grace)
+{
+    runningTools().signalAll(SIGTERM);
+    runningTools().waitForNone(grace);
+    runningTools().signalAll(SIGKILL);
+}
+
+int toolsRunning() { return runningTools().count(); }

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <chrono>
+#include <optional>
+
+/// What a tool said: standard output and standard error together, as they came. A tool that could not be
+/// started, or that a signal ended, has that reason at the end.
+struct ToolResult {
+    std::optional<QString> output; ///< none where it was not UTF-8
+    bool wasStarted = true;
+
+    /// A tool succeeded when it said nothing. Its exit status is not looked at.
+    [[nodiscard]] bool isSilent() const { return output && output->isEmpty(); }
+
+    /// What it said, "" where that was not UTF-8.
+    [[nodiscard]] QString text() const { return output.value_or(QString()); }
+};
+
+/// Runs `tool` (an absolute path) to its end and blocks the calling thread. No shell takes part: each
+/// argument arrives as it is, empty ones too. The child has no controlling terminal, so that it can't stop
+/// for a prompt.
+[[nodiscard]] ToolResult runTool(const QString &tool, const QStringList &arguments);
+
+/// Ends every tool that runs, with all that it started: asks first, and kills what is still there after
+/// `grace`. Blocks until then at the longest. Any thread may call.
+void endTools(std::chrono::milliseconds grace = std::chrono::seconds(2));
+
+/// How many tools run at this moment.
+[[nodiscard]] int toolsRunning();
