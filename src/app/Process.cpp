@@ -1,0 +1,21 @@
+#include "app/Process.h"
+
+#include <csignal>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+void prepareProcess(bool keepInput)
+{
+    umask(077);
+    signal(SIGPIPE, SIG_IGN);
+    if (!keepInput) detachInput();
+}
+
+void detachInput()
+{
+    const int nothing = open("/dev/null", O_RDONLY);
+    if (nothing < 0 || nothing == STDIN_FILENO) return;
+    dup2(nothing, STDIN_FILENO);
+    close(nothing);
+}

@@ -1,0 +1,44 @@
+#include "app/QuillorentAppDelegate.h"
+
+#include "app/Pauses.h"
+
+#include <QtGlobal>
+
+namespace {
+
+QuillorentAppDelegate *controller = nullptr;
+
+} // namespace
+
+QuillorentAppDelegate::QuillorentAppDelegate()
+{
+    Q_ASSERT_X(!controller, "QuillorentAppDelegate", "there is one controller at a time");
+    controller = this;
+
+    listTableView.setDataSource(&m_listTable);
+    pathTableView.setDataSource(&m_pathTable);
+
+    // A program without a front end has nobody who could choose.
+    openPanel = [](const outlets::OpenPanel &) { return std::nullopt; };
+
+    passCombo01.selectIndex(TypedPassword);
+    prefSelector01.selectIndex(0);
+    checkBox01.setOn(true);
+    checkBox03.setOn(true);
+    secureText01b.setHidden(true);
+    currentProfileTextView.setHidden(true);
+}
+
+QuillorentAppDelegate::~QuillorentAppDelegate() { controller = nullptr; }
+
+QuillorentAppDelegate &theDelegate()
+{
+    Q_ASSERT_X(controller, "theDelegate", "called before the controller was made");
+    return *controller;
+}
+
+Pauses &pauses()
+{
+    static Pauses inForce;
+    return inForce;
+}

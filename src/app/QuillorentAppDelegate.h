@@ -1,0 +1,114 @@
+#pragma once
+
+#include "app/Guarded.h"
+#include "app/MainWindow.h"
+#include "app/Messages.h"
+#include "app/RunState.h"
+#include "backup/FolderTab.h"
+#include "backup/ListTable.h"
+#include "backup/ProgressSheet.h"
+#include "extract/ExtractTab.h"
+#include "keys/PasswordTab.h"
+#include "plist/Value.h"
+#include "settings/OptionsPanel.h"
+#include "sync/SyncTab.h"
+#include "tools/PathTable.h"
+#include "tools/ToolsTab.h"
+
+/// The controller: all state of the program, what every control holds, and what every control does. It knows
+/// no toolkit; a front end shows its outlets and calls its actions, on the main thread.
+class QuillorentAppDelegate : public RunState,
+                              public MainWindowOutlets,
+                              public FolderTab,
+                              public BackupProgressSheet,
+                              public PasswordTab,
+                              public ExtractTab,
+                              public SyncTab,
+                              public OptionsPanel,
+                              public ToolsTab,
+                              public Messages {
+public:
+    QuillorentAppDelegate();
+    ~QuillorentAppDelegate();
+
+    // State
+    Guarded<plist::Dictionary> configPlist;    ///< settings; none where their file can't be read
+    Guarded<plist::Dictionary> listPlist;      ///< profile name to record; none where the file can't be read
+    Guarded<QString> currentProfile;           ///< the profile shown and acted on
+    Guarded<plist::Dictionary> defaultProfile; ///< what a new profile starts with
+    Guarded<QString> tempFile;                 ///< list file of the sync that runs
+    Guarded<QString> partSize;                 ///< volume size, thousands of bytes, as text
+    plist::Array extractList = plist::Array::make();     ///< archives to extract
+    plist::Array extractFullList = plist::Array::make(); ///< archives shown
+    Guarded<bool> compliance;                            ///< every registered tool is the right one
+    Guarded<int> compliant;                              ///< how many are
+    Guarded<int> compliantBase;                          ///< how many are registered
+
+    /// The record of the current profile; none where there is no such profile.
+    [[nodiscard]] plist::Dictionary currentRecord() const { return listPlist().dictionary(currentProfile()); }
+
+    /// The text under `key` in the settings' dictionary `table`; none where either is missing.
+    [[nodiscard]] std::optional<QString> setting(const QString &table, const QString &key) const
+    {
+        return configPlist().dictionary(table).string(key);
+    }
+
+    /// Shows `warningPanel01` with the text, and waits until it is closed.
+    void warn(const QString &text);
+
+    // Start-up and quitting
+    void applicationDidFinishLaunching();
+    void
+    applicationWillTerminate(); ///< saves where the settings say so, then endRuns(); takes a second or two
+    void endRuns();             ///< cancels for good and returns when no thread and no tool is left
+
+    // Profiles and settings
+    QString loadProfiles(); ///< the profile to open; none (a null string) where there is no profile
+    void refreshProfileCombo();
+    void setterCurrentProfile(const QString &name);
+    void profileCombo01Action();
+    void profileButton01Action(); ///< save the profiles
+    void profileButton02Action(); ///< load the chosen profile
+    void setterDefaultProfile();  ///< open this profile at start-up
+    void saveSettings1Action();
+    void autosaveCheck01Action();
+    void prefStepper01Action(const QString &senderText); ///< sent by `prefStepper01` and by `prefText01`
+    void prefCheck01Action();                            ///< `checkBox04`
+    void checkBox05Action();
+
+    // Folders
+    void folderButton01Action();
+    void folderButton02Action();
+    void fileButton01Action();
+    void addFolders(const QStringList &paths); ///< chosen in a panel, or dropped onto the list
+
+    // Backup
+    void buttonLaunch01();
+    void buttonLaunch01b();
+    void buttonLaunch01Stop();
+    void buttonKill01(outlets::Button &sender);
+    void killer();
+
+    // Passwords and keys
+    [[nodiscard]] QString passwordSelector() const;
+    void passCombo01Action();
+    void checkBox01Action();
+    void certButton01Action();
+
+    // Tools
+    void selectFile();
+
+    // Messages
+    void warningPanel01Close();
+    void consolePanel01Action();
+
+private:
+    void applyRecord(const plist::Dictionary &record);
+    void showPartSize(const QString &size);
+
+    listTable m_listTable;
+    pathTable m_pathTable;
+};
+
+/// The one controller, from its construction to its destruction. Any thread may call.
+QuillorentAppDelegate &theDelegate();

@@ -1,0 +1,30 @@
+#include "backup/BackupArguments.h"
+
+// Arguments that are off are passed as empty ones, which the archiver skips.
+
+QStringList backupArguments::firstPass(const QString &keepDate, const QString &archive, const QString &source)
+{
+    return {u"a"_qs,  u"-r"_qs, u"-ol"_qs,  u"-o+"_qs, u"-m0"_qs,
+            keepDate, u"-t"_qs, u"-idq"_qs, archive,   source};
+}
+
+QStringList backupArguments::encryptByPassword(const QString &cipher, const QString &archive,
+                                               const QString &encrypted, const QString &password)
+{
+    return {cipher,    u"-a"_qs,    u"-salt"_qs,           u"-in"_qs, archive, u"-out"_qs,
+            encrypted, u"-pass"_qs, u"pass:"_qs + password};
+}
+
+QStringList backupArguments::encryptByCertificate(const QString &archive, const QString &encrypted,
+                                                  const QString &certificate)
+{
+    return {u"smime"_qs, u"-aes256"_qs, u"-encrypt"_qs, u"-binary"_qs, u"-in"_qs,
+            archive,     u"-out"_qs,    encrypted,      certificate};
+}
+
+QStringList backupArguments::secondPass(const QString &keepDate, const QString &split, const QString &archive,
+                                        const QString &encrypted)
+{
+    return {u"a"_qs,  u"-m5"_qs, u"-o+"_qs, u"-t"_qs, u"-idq"_qs,
+            keepDate, split,     u"-ep"_qs, archive,  encrypted};
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// The argument lists of the three tool runs that make a backup.
+namespace backupArguments {
+
+/// The archiver stores `source` in `archive`, uncompressed: links as links, folders with all below them,
+/// tested after writing. `keepDate` is "-tl" or "".
+[[nodiscard]] QStringList firstPass(const QString &keepDate, const QString &archive, const QString &source);
+
+/// The encoder encrypts `archive` into `encrypted` as salted base64, by a password.
+[[nodiscard]] QStringList encryptByPassword(const QString &cipher, const QString &archive,
+                                            const QString &encrypted, const QString &password);
+
+/// The encoder encrypts `archive` into `encrypted` as an S/MIME message for the owner of `certificate`.
+[[nodiscard]] QStringList encryptByCertificate(const QString &archive, const QString &encrypted,
+                                               const QString &certificate);
+
+/// The archiver packs `encrypted` into `archive`, best compression, without its path. `split` is "-v" and a
+/// size in thousands of bytes, or "".
+[[nodiscard]] QStringList secondPass(const QString &keepDate, const QString &split, const QString &archive,
+                                     const QString &encrypted);
+
+} // namespace backupArguments

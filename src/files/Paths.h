@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+namespace quillorentLibrary {
+
+/// `path` with "..", "." and double slashes collapsed and a leading "~" expanded.
+[[nodiscard]] QString standardizePath(const QString &path);
+
+/// Whether a folder is there, or a link to one.
+[[nodiscard]] bool folderExists(const QString &path);
+
+/// Whether the folder counts as empty: nothing in it but hidden entries. Every folder does while
+/// `prefCheck02` is on, and so does one whose path is not the text of a URL.
+[[nodiscard]] bool folderIsEmpty(const QString &path);
+
+/// The standardised form of those paths that exist, in their order.
+[[nodiscard]] QStringList translatePath(const QStringList &paths);
+
+/// The target of the link at `path`; `path` itself where there is no link; none for a target that is not
+/// absolute.
+[[nodiscard]] std::optional<QString> stringByConditionallyResolvingSymlink(const QString &path);
+
+/// The target of the alias file at `path`; none where there is no alias.
+[[nodiscard]] std::optional<QString> stringByConditionallyResolvingAlias(const QString &path);
+
+} // namespace quillorentLibrary

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "outlets/Controls.h"
+
+/// The tab of passwords and keys. Of each pair of password fields one is visible: the first masked, the
+/// second clear.
+struct PasswordTab : virtual outlets::Registry {
+    /// Where the password comes from, by the index in the chooser.
+    enum Source { TypedPassword = 0, KeychainPassword = 1, Certificate = 2 };
+
+    outlets::Selector passCombo01{*this, u"passCombo01"_qs};
+    outlets::Selector passTabs{*this, u"passTabs"_qs};
+
+    outlets::TextField secureText01a{*this, u"secureText01a"_qs};
+    outlets::TextField secureText01b{*this, u"secureText01b"_qs};
+    outlets::CheckBox checkBox01{*this, u"checkBox01"_qs}; ///< on: the masked field counts
+
+    outlets::TextField keychainUser{*this, u"keychainUser"_qs};
+    outlets::TextField keychainPass{*this, u"keychainPass"_qs};
+    outlets::TextField keychainClear{*this, u"keychainClear"_qs};
+
+    outlets::View pkView{*this, u"pkView"_qs};
+    outlets::TextField certFile01{*this, u"certFile01"_qs};
+    outlets::TextField pkFile01{*this, u"pkFile01"_qs};
+};

@@ -1,0 +1,26 @@
+#include "app/QuillorentAppDelegate.h"
+
+void QuillorentAppDelegate::showPartSize(const QString &size)
+{
+    partSize.set(size);
+    prefStepper01.setValue(int(plist::Value(size).integer().value_or(0)));
+    prefText01.setText(size);
+}
+
+void QuillorentAppDelegate::prefStepper01Action(const QString &senderText)
+{
+    showPartSize(senderText);
+    currentRecord().setValue(u"part"_qs, senderText);
+}
+
+void QuillorentAppDelegate::prefCheck01Action() { currentRecord().setSwitch(u"split"_qs, checkBox04.isOn()); }
+
+void QuillorentAppDelegate::checkBox05Action()
+{
+    currentRecord().setSwitch(u"keepdate"_qs, checkBox05.isOn());
+}
+
+void QuillorentAppDelegate::autosaveCheck01Action()
+{
+    configPlist().dictionary(u"resources"_qs).setSwitch(u"autosave"_qs, autosaveCheck01.isOn());
+}
