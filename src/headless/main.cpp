@@ -1,0 +1,80 @@
+#include "app/Process.h"
+#include "app/QuillorentAppDelegate.h"
+#include "headless/BackupCommand.h"
+#include "headless/Print.h"
+#include "tools/Verification.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+ExitStatus listTools(const QuillorentAppDelegate &delegate)
+{
+    bool allPass = true;
+    const plist::Dictionary tools = delegate.configPlist().dictionary(u"external"_qs);
+    for (const QString &name : tools.keys()) {
+        const bool passes = quillorentLibrary::testAll(name);
+        allPass = allPass && passes;
+        print(
+            QStringList{name, tools.string(name).value_or(QString()), passes ? u"ok"_qs : u"not ok"_qs}.join(
+                u'\t'));
+    }
+    return allPass ? Done : RunFailed;
+}
+
+ExitStatus listProfiles(const QuillorentAppDelegate &delegate)
+{
+    for (const QString &name : delegate.listPlist().keys())
+        print((name == delegate.currentProfile() ? u"* "_qs : u"  "_qs) + name);
+    return Done;
+}
+
+/// Whether the profile that was asked for is the current one now.
+bool openProfile(QuillorentAppDelegate &delegate, const QString &name)
+{
+    const QStringList names = delegate.listPlist().keys();
+    if (names.isEmpty()) {
+        printError(u"There are no profiles, or their file can't be read."_qs);
+        return false;
+    }
+    if (name.isEmpty()) return true;
+    if (!names.contains(name)) {
+        printError(u"There is no profile \"%1\"; there are: %2."_qs.arg(name, names.join(u", "_qs)));
+        return false;
+    }
+    delegate.setterCurrentProfile(name);
+    return true;
+}
+
+ExitStatus runCommand(QuillorentAppDelegate &delegate, const Options &options)
+{
+    switch (options.command) {
+    case Options::Command::Tools:
+        return listTools(delegate);
+    case Options::Command::Profiles:
+        return listProfiles(delegate);
+    case Options::Command::Backup:
+        break;
+    }
+    return openProfile(delegate, options.profile) ? runBackup(delegate, options) : NotStarted;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    const ParsedArguments parsed = parseArguments(QCoreApplication::arguments().mid(1));
+    if (!parsed.options) {
+        std::fputs(qUtf8Printable(parsed.message), parsed.exitStatus == Done ? stdout : stderr);
+        return parsed.exitStatus;
+    }
+
+    prepareProcess(parsed.options->passwordFile == u"-");
+    QuillorentAppDelegate delegate;
+    delegate.applicationDidFinishLaunching();
+    const ExitStatus status = runCommand(delegate, *parsed.options);
+    // Nothing is saved: a run without a window leaves the user's files as they are.
+    delegate.endRuns();
+    return status;
+}
