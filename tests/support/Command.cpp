@@ -19,7 +19,8 @@ struct Pipe {
     Pipe()
     {
         std::array<int, 2> ends{};
-        if (pipe2(ends.data(), O_CLOEXEC) != 0) throw std::system_error(errno, std::generic_category(), "pipe2");
+        if (pipe2(ends.data(), O_CLOEXEC) != 0)
+            throw std::system_error(errno, std::generic_category(), "pipe2");
         read = ends[0];
         write = ends[1];
     }
@@ -43,24 +44,30 @@ void drain(int &end, std::string &into)
 {
     std::array<char, 65536> buffer;
     const ssize_t count = read(end, buffer.data(), buffer.size());
-    if (count > 0) into.append(buffer.data(), static_cast<std::size_t>(count));
-    else if (count == 0 || errno != EINTR) Pipe::closeEnd(end);
+    if (count > 0)
+        into.append(buffer.data(), static_cast<std::size_t>(count));
+    else if (count == 0 || errno != EINTR)
+        Pipe::closeEnd(end);
 }
 
 void feed(int &end, const std::string &input, std::size_t &written)
 {
     const ssize_t count = write(end, input.data() + written, input.size() - written);
-    if (count > 0) written += static_cast<std::size_t>(count);
-    else if (errno != EINTR) written = input.size(); // the reader went away
+    if (count > 0)
+        written += static_cast<std::size_t>(count);
+    else if (errno != EINTR && errno != EAGAIN)
+        written = input.size(); // the reader went away
     if (written == input.size()) Pipe::closeEnd(end);
 }
 
 [[noreturn]] void becomeProgram(const std::vector<std::string> &arguments, const CommandOptions &options)
 {
     if (!options.folder.empty() && chdir(options.folder.c_str()) != 0) _exit(126);
-    for (const auto &[name, value] : options.environment) setenv(name.c_str(), value.c_str(), 1);
+    for (const auto &[name, value] : options.environment)
+        setenv(name.c_str(), value.c_str(), 1);
     std::vector<char *> argv;
-    for (const std::string &argument : arguments) argv.push_back(const_cast<char *>(argument.c_str()));
+    for (const std::string &argument : arguments)
+        argv.push_back(const_cast<char *>(argument.c_str()));
     argv.push_back(nullptr);
     execvp(argv.front(), argv.data());
     _exit(127);
@@ -85,6 +92,9 @@ CommandResult runCommand(const std::vector<std::string> &arguments, const Comman
     Pipe::closeEnd(output.write);
     Pipe::closeEnd(errors.write);
 
+    // A blocking write of more than the pipe holds would keep the program's output waiting, and so the program.
+    fcntl(input.write, F_SETFL, O_NONBLOCK);
+
     // A program that does not read its input must not end the test.
     signal(SIGPIPE, SIG_IGN);
 
@@ -100,7 +110,8 @@ CommandResult runCommand(const std::vector<std::string> &arguments, const Comman
         if (ends[2].revents) feed(input.write, options.input, written);
     }
     int status = 0;
-    while (waitpid(child, &status, 0) < 0 && errno == EINTR) {}
+    while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
+    }
     result.status = WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
     return result;
 }

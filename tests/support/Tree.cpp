@@ -150,8 +150,7 @@ void makeOddNames(const fs::path &folder)
                                             "~",
                                             "...",
                                             ".hidden",
-                                            "gr\xC3\xBC\xC3\x9F"
-                                            "e.txt",
+                                            "stra\xC3\x9F\x65 gr\xC3\xBCn.txt",
                                             "\xE6\x97\xA5\xE6\x9C\xAC.txt",
                                             "latin1 caf\xE9",
                                             "\xFF\xFEraw",

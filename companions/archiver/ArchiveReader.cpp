@@ -1,0 +1,268 @@
+#include "ArchiveReader.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+namespace archiver {
+
+bool ArchiveReader::fail(const std::string &message)
+{
+    m_failed = true;
+    return m_diagnostics.report(message);
+}
+
+ArchiveReader::Format ArchiveReader::open()
+{
+    std::unique_ptr<ByteSource> source = m_volumes.open(0);
+    if (!source) {
+        m_failed = true;
+        m_diagnostics.reportSystem("Cannot open " + printable(m_volumes.name(0)));
+        return Format::Unreadable;
+    }
+    m_window = SourceWindow(std::move(source));
+    const Bytes start = m_window.peek(signature.size());
+    if (start.size() >= oldSignature.size() &&
+        std::ranges::equal(start.first(oldSignature.size()), oldSignature))
+        return Format::Older;
+    return readSignature() && readMainHeader(0) ? Format::Rar5 : Format::Unreadable;
+}
+
+bool ArchiveReader::readSignature()
+{
+    const Bytes start = m_window.peek(signature.size());
+    if (start.size() < signature.size() || !std::ranges::equal(start.first(signature.size()), signature))
+        return fail(printable(m_volumes.name(m_volume)) + " is not a RAR archive");
+    m_window.skip(signature.size());
+    return true;
+}
+
+bool ArchiveReader::readMainHeader(std::size_t index)
+{
+    const std::optional<HeaderFrame> frame = readFrame();
+    if (!frame) return false;
+    const std::string name = printable(m_volumes.name(index));
+    if (frame->type == HeaderType::Encryption)
+        return fail(name + " is encrypted by the archiver, which is not supported");
+    const std::optional<MainHeader> header = parseMainHeader(*frame);
+    if (!header) return fail(name + " has a damaged main header");
+    if (index == 0 && header->volumeIndex > 0)
+        return fail(name + " is not the first volume: start with the first one");
+    if (header->volumeIndex != index)
+        return fail(name + " is volume " + std::to_string(header->volumeIndex + 1) +
+                    " of a set, where volume " + std::to_string(index + 1) + " was expected");
+    m_isVolume = header->volume;
+    return skipData(frame->dataSize);
+}
+
+std::optional<HeaderFrame> ArchiveReader::readFrame()
+{
+    constexpr std::size_t shortest = 7; // 4 bytes of checksum, and three that hold at least the size
+    const Bytes start = m_window.peek(shortest);
+    const auto damaged = [this] {
+        if (m_window.error() != 0) {
+            errno = m_window.error();
+            m_failed = true;
+            m_diagnostics.reportSystem("Cannot read " + printable(m_volumes.name(m_volume)));
+        } else {
+            fail("Corrupt header in " + printable(m_volumes.name(m_volume)) + ": checksum error");
+        }
+        return std::nullopt;
+    };
+    if (start.size() < shortest && m_window.error() == 0) {
+        fail("Unexpected end of archive " + printable(m_volumes.name(m_volume)));
+        return std::nullopt;
+    }
+    const std::optional<std::size_t> length = headerLength(start);
+    if (!length) return damaged();
+    const Bytes bytes = m_window.peek(*length);
+    if (bytes.size() < *length && m_window.error() == 0) {
+        fail("Unexpected end of archive " + printable(m_volumes.name(m_volume)));
+        return std::nullopt;
+    }
+    std::optional<HeaderFrame> frame =
+        bytes.size() < *length ? std::nullopt : parseFrame(bytes.first(*length));
+    if (!frame) return damaged();
+    m_window.skip(*length); // the bytes stay where they are until the next peek
+    return frame;
+}
+
+bool ArchiveReader::skipData(std::uint64_t count)
+{
+    if (count > m_window.left())
+        return fail("Unexpected end of archive " + printable(m_volumes.name(m_volume)));
+    m_window.skip(count);
+    return true;
+}
+
+ArchiveReader::Step ArchiveReader::next()
+{
+    if (m_failed || !skipRestOfEntry()) return Step::Failed;
+    for (;;) {
+        const std::optional<HeaderFrame> frame = readFrame();
+        if (!frame) return Step::Failed;
+        if (frame->type == HeaderType::File) return acceptEntry(*frame) ? Step::Entry : Step::Failed;
+        if (frame->type == HeaderType::End) {
+            const std::optional<bool> more = parseEndHeader(*frame);
+            if (!more) return fail("Corrupt end of archive"), Step::Failed;
+            if (!*more) return Step::End;
+            if (!openVolume(m_volume + 1)) return Step::Failed;
+            continue;
+        }
+        if (frame->type == HeaderType::Encryption)
+            return fail(printable(m_volumes.name(0)) +
+                        " is encrypted by the archiver, which is not supported"),
+                   Step::Failed;
+        if (!skipData(frame->dataSize)) return Step::Failed;
+    }
+}
+
+bool ArchiveReader::acceptEntry(const HeaderFrame &frame)
+{
+    std::optional<FileHeader> header = parseFileHeader(frame);
+    if (!header) return fail("Corrupt file header in " + printable(m_volumes.name(m_volume)));
+    if (header->continuesBefore)
+        return fail(printable(header->name) + " begins in a volume before " +
+                    printable(m_volumes.name(m_volume)) + ": start with the first one");
+    if (header->continuesAfter && !m_isVolume)
+        return fail("Corrupt file header of " + printable(header->name));
+    m_entry = std::move(*header);
+    m_partLeft = m_entry.packedSize;
+    m_partCrc = 0;
+    m_partSkipped = false;
+    m_gathered.clear();
+    m_gatheredUsed = 0;
+    return true;
+}
+
+bool ArchiveReader::skipRestOfEntry()
+{
+    for (;;) {
+        if (m_partLeft > 0) m_partSkipped = true;
+        if (!skipData(m_partLeft)) return false;
+        m_partLeft = 0;
+        if (!m_entry.continuesAfter) return true;
+        if (!continueInNextVolume()) return false;
+    }
+}
+
+bool ArchiveReader::finishPart()
+{
+    if (m_partSkipped || !m_entry.crc || *m_entry.crc == m_partCrc) return true;
+    return fail(printable(m_entry.name) + ": packed data checksum error in volume " +
+                printable(m_volumes.name(m_volume)));
+}
+
+bool ArchiveReader::continueInNextVolume()
+{
+    return finishPart() && findEndOfVolume() && openVolume(m_volume + 1) && findContinuation();
+}
+
+bool ArchiveReader::findEndOfVolume()
+{
+    for (;;) {
+        const std::optional<HeaderFrame> frame = readFrame();
+        if (!frame) return false;
+        if (frame->type == HeaderType::End) {
+            if (parseEndHeader(*frame).value_or(false)) return true;
+            return fail("Unexpected end of archive " + printable(m_volumes.name(m_volume)));
+        }
+        if (frame->type == HeaderType::File)
+            return fail("Corrupt volume " + printable(m_volumes.name(m_volume)) +
+                        ": an entry is not at its end");
+        if (!skipData(frame->dataSize)) return false;
+    }
+}
+
+bool ArchiveReader::openVolume(std::size_t index)
+{
+    std::unique_ptr<ByteSource> source = m_volumes.open(index);
+    if (!source) {
+        if (errno == ENOENT) return fail("Cannot find volume " + printable(m_volumes.name(index)));
+        m_failed = true;
+        return m_diagnostics.reportSystem("Cannot open " + printable(m_volumes.name(index)));
+    }
+    m_window = SourceWindow(std::move(source));
+    m_volume = index;
+    return readSignature() && readMainHeader(index);
+}
+
+bool ArchiveReader::findContinuation()
+{
+    for (;;) {
+        const std::optional<HeaderFrame> frame = readFrame();
+        if (!frame) return false;
+        if (frame->type == HeaderType::Service && skipData(frame->dataSize)) continue;
+        if (m_failed) return false;
+        const std::optional<FileHeader> header =
+            frame->type == HeaderType::File ? parseFileHeader(*frame) : std::nullopt;
+        const bool same = header && header->continuesBefore && header->name == m_entry.name &&
+                          header->unpackedSize == m_entry.unpackedSize && header->method == m_entry.method;
+        if (!same)
+            return fail(printable(m_volumes.name(m_volume)) + " does not continue " +
+                        printable(m_entry.name) + ": it belongs to another set of volumes");
+        m_entry.continuesAfter = header->continuesAfter;
+        m_entry.crc = header->crc;
+        m_partLeft = header->packedSize;
+        m_partCrc = 0;
+        m_partSkipped = false;
+        return true;
+    }
+}
+
+Bytes ArchiveReader::available(std::size_t wanted)
+{
+    const Bytes bytes = m_window.peek(static_cast<std::size_t>(std::min<std::uint64_t>(wanted, m_partLeft)));
+    return bytes.first(static_cast<std::size_t>(std::min<std::uint64_t>(bytes.size(), m_partLeft)));
+}
+
+Bytes ArchiveReader::packed(std::size_t wanted)
+{
+    if (m_failed) return {};
+    if (m_gatheredUsed < m_gathered.size()) return gather(wanted);
+    while (m_partLeft == 0 && m_entry.continuesAfter)
+        if (!continueInNextVolume()) return {};
+    if (m_partLeft == 0) return {};
+    if (wanted > m_partLeft && m_entry.continuesAfter) return gather(wanted);
+    const Bytes bytes = available(wanted);
+    if (bytes.size() >= std::min<std::uint64_t>(wanted, m_partLeft)) return bytes;
+    if (m_window.error() != 0) {
+        errno = m_window.error();
+        m_failed = true;
+        m_diagnostics.reportSystem("Cannot read " + printable(m_volumes.name(m_volume)));
+    } else {
+        fail(printable(m_entry.name) + ": Unexpected end of archive " + printable(m_volumes.name(m_volume)));
+    }
+    return {};
+}
+
+Bytes ArchiveReader::gather(std::size_t wanted)
+{
+    m_gathered.erase(m_gathered.begin(), m_gathered.begin() + static_cast<std::ptrdiff_t>(m_gatheredUsed));
+    m_gatheredUsed = 0;
+    ByteBuffer gathered = std::move(m_gathered);
+    m_gathered.clear();
+    while (gathered.size() < wanted) {
+        const Bytes bytes = packed(1);
+        if (bytes.empty()) break;
+        const std::size_t count = std::min(bytes.size(), wanted - gathered.size());
+        putBytes(gathered, bytes.first(count));
+        consume(count);
+    }
+    if (m_failed) return {};
+    m_gathered = std::move(gathered);
+    return m_gathered;
+}
+
+void ArchiveReader::consume(std::size_t count)
+{
+    if (m_gatheredUsed < m_gathered.size()) {
+        m_gatheredUsed += count;
+        return;
+    }
+    if (m_entry.continuesAfter) m_partCrc = crc32(m_window.peek(count).first(count), m_partCrc);
+    m_window.skip(count);
+    m_partLeft -= count;
+}
+
+} // namespace archiver

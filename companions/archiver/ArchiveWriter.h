@@ -1,0 +1,77 @@
+#pragma once
+
+#include "HuffmanEncoder.h"
+#include "OutputVolumes.h"
+
+#include <optional>
+#include <string>
+#include <sys/stat.h>
+
+namespace archiver {
+
+/// Writes entries one behind the other, with no need to know a file's content or final size before: the
+/// header goes in front of the data first, and is replaced when the data is there.
+///
+/// Each function gives false when the archive can't go on. What is wrong with a source file alone is
+/// reported, and nothing else happens.
+class ArchiveWriter {
+public:
+    enum class Packing { Store, Pack };
+    ArchiveWriter(OutputVolumes &output, Packing packing, Diagnostics &diagnostics);
+
+    /// The regular file open as `file`; `path` is its name for messages. A file that grows meanwhile is taken
+    /// with the size that `status` has.
+    [[nodiscard]] bool addFile(int file, const struct stat &status, const std::string &name,
+                               const std::string &path);
+    [[nodiscard]] bool addFolder(const struct stat &status, const std::string &name);
+    [[nodiscard]] bool addLink(const struct stat &status, const std::string &name, const std::string &target);
+
+    /// Time of the newest file or link; without any, of the newest folder.
+    [[nodiscard]] std::optional<Timestamp> newest() const
+    {
+        return m_newestFile ? m_newestFile : m_newestFolder;
+    }
+
+private:
+    /// What is left to read of the present file, and how it is called.
+    struct Source {
+        int file;
+        std::uint64_t left;
+        bool sizeKnown;
+        const std::string &path;
+    };
+
+    [[nodiscard]] bool addWithoutData(const FileHeader &header);
+    [[nodiscard]] bool addContent(Source &source);
+    [[nodiscard]] bool addStored(Source &source);
+    [[nodiscard]] bool addPackedWhole(Source &source);
+    [[nodiscard]] bool addPackedBlocks(Source &source);
+    [[nodiscard]] bool shouldPack(const Source &source);
+
+    [[nodiscard]] bool makeRoom(std::size_t headerSize, std::uint64_t dataSize);
+    [[nodiscard]] bool beginPart();
+    [[nodiscard]] bool endPart(bool continues);
+    [[nodiscard]] bool continueInNextVolume();
+    [[nodiscard]] bool putBlock(Bytes block, bool last);
+    [[nodiscard]] bool putStored(Bytes bytes);
+    [[nodiscard]] bool putData(Bytes bytes);
+    void countData(Bytes bytes);
+    /// Reads up to `into.size()` bytes; 0 after a fault as well, which has been reported.
+    [[nodiscard]] std::size_t read(Source &source, std::span<std::uint8_t> into);
+
+    OutputVolumes &m_output;
+    Packing m_packing;
+    Diagnostics &m_diagnostics;
+    HuffmanEncoder m_encoder;
+    ByteBuffer m_block;
+
+    FileHeader m_header; ///< of the present file
+    ByteBuffer m_headerBytes;
+    std::uint64_t m_headerOffset = 0;
+    std::uint32_t m_fileCrc = 0; ///< of its content
+    std::uint32_t m_partCrc = 0; ///< of what this volume has of it, where the size of volumes is limited
+    std::optional<Timestamp> m_newestFile;
+    std::optional<Timestamp> m_newestFolder;
+};
+
+} // namespace archiver

@@ -1,0 +1,84 @@
+#include "ByteSource.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace archiver {
+
+namespace {
+
+constexpr std::size_t windowSize = 256 << 10; // fits the processor's cache, where the bytes are used at once
+
+} // namespace
+
+std::unique_ptr<FileSource> FileSource::open(const std::string &path) { return openAt(AT_FDCWD, path); }
+
+std::unique_ptr<FileSource> FileSource::openAt(int folder, const std::string &path)
+{
+    FileDescriptor file(openat(folder, path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat status {};
+    if (!file || fstat(file.get(), &status) != 0) return nullptr;
+    if (!S_ISREG(status.st_mode)) {
+        errno = S_ISDIR(status.st_mode) ? EISDIR : EINVAL;
+        return nullptr;
+    }
+    posix_fadvise(file.get(), 0, 0, POSIX_FADV_SEQUENTIAL);
+    auto source = std::make_unique<FileSource>(file.get(), static_cast<std::uint64_t>(status.st_size));
+    source->m_own = std::move(file);
+    return source;
+}
+
+ssize_t MemorySource::read(std::uint64_t offset, std::span<std::uint8_t> into)
+{
+    if (offset >= m_bytes.size()) return 0;
+    const Bytes from = m_bytes.subspan(static_cast<std::size_t>(offset));
+    const std::size_t count = std::min(from.size(), into.size());
+    std::copy_n(from.begin(), count, into.begin());
+    return static_cast<ssize_t>(count);
+}
+
+Bytes SourceWindow::peek(std::size_t wanted)
+{
+    if (m_end - m_begin < wanted && m_error == 0 && m_source) {
+        const std::uint64_t there = left();
+        const auto useful =
+            static_cast<std::size_t>(std::min<std::uint64_t>(std::max(wanted, windowSize), there));
+        // What is left over moves to the front, even when it must first be made longer.
+        std::copy(m_buffer.begin() + static_cast<std::ptrdiff_t>(m_begin),
+                  m_buffer.begin() + static_cast<std::ptrdiff_t>(m_end), m_buffer.begin());
+        m_end -= m_begin;
+        m_begin = 0;
+        if (useful > m_buffer.size()) m_buffer.resize(useful);
+        if (useful > m_end) {
+            const ssize_t count =
+                m_source->read(m_position + m_end, std::span(m_buffer).subspan(m_end, useful - m_end));
+            if (count < 0)
+                m_error = errno;
+            else
+                m_end += static_cast<std::size_t>(count);
+        }
+    }
+    return Bytes(m_buffer).subspan(m_begin, m_end - m_begin);
+}
+
+void SourceWindow::skip(std::uint64_t count)
+{
+    m_position += count;
+    if (count <= m_end - m_begin) {
+        m_begin += static_cast<std::size_t>(count);
+        return;
+    }
+    m_begin = 0;
+    m_end = 0;
+}
+
+std::uint64_t SourceWindow::left() const
+{
+    const std::uint64_t size = m_source ? m_source->size() : 0;
+    return size > m_position ? size - m_position : 0;
+}
+
+} // namespace archiver

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace archiver {
+
+using Bytes = std::span<const std::uint8_t>;
+
+/// Takes little-endian numbers off the front of bytes that may be anything. After a read beyond the end, or
+/// of a number that is too long, ok() is false and every further read gives 0 or nothing.
+class ByteReader {
+public:
+    explicit ByteReader(Bytes bytes) : m_left(bytes) {}
+
+    [[nodiscard]] bool ok() const { return m_ok; }
+    [[nodiscard]] std::size_t remaining() const { return m_left.size(); }
+
+    Bytes take(std::uint64_t count);
+    std::uint8_t u8();
+    std::uint32_t u32();
+    std::uint64_t u64();
+    /// Groups of 7 bits, the lowest first, the top bit set in all but the last; at most 10 bytes.
+    std::uint64_t vint();
+
+private:
+    std::uint64_t littleEndian(std::size_t width);
+
+    Bytes m_left;
+    bool m_ok = true;
+};
+
+using ByteBuffer = std::vector<std::uint8_t>;
+
+void putBytes(ByteBuffer &into, Bytes bytes);
+void putText(ByteBuffer &into, std::string_view text);
+void putU32(ByteBuffer &into, std::uint32_t value);
+void putU64(ByteBuffer &into, std::uint64_t value);
+/// Padded to `width` bytes where the value needs fewer, so that it can be replaced later by another of that
+/// width.
+void putVint(ByteBuffer &into, std::uint64_t value, std::size_t width = 1);
+
+[[nodiscard]] std::uint32_t crc32(Bytes bytes, std::uint32_t start = 0);
+
+} // namespace archiver

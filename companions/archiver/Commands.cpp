@@ -1,0 +1,97 @@
+#include "Commands.h"
+
+#include "ArchiveProcessor.h"
+#include "ArchiveWriter.h"
+#include "Extractor.h"
+#include "Interrupt.h"
+#include "TreeWalker.h"
+
+namespace archiver {
+
+namespace {
+
+/// Writes what the walk finds into the archive, except the archive itself.
+class Adder final : public TreeVisitor {
+public:
+    Adder(ArchiveWriter &writer, const OutputVolumes &output) : m_writer(writer), m_output(output) {}
+
+    bool file(int descriptor, const struct stat &status, const std::string &name,
+              const std::string &path) override
+    {
+        return m_writer.addFile(descriptor, status, name, path);
+    }
+    bool folder(const struct stat &status, const std::string &name) override
+    {
+        return m_writer.addFolder(status, name);
+    }
+    bool link(const struct stat &status, const std::string &name, const std::string &target) override
+    {
+        return m_writer.addLink(status, name, target);
+    }
+    bool excluded(const struct stat &folder, const std::string &name) override
+    {
+        return m_output.owns(folder.st_dev, folder.st_ino, name);
+    }
+
+private:
+    ArchiveWriter &m_writer;
+    const OutputVolumes &m_output;
+};
+
+void test(VolumeSource &volumes, Diagnostics &diagnostics)
+{
+    EntryTester tester;
+    processVolumes(volumes, tester, diagnostics);
+}
+
+/// An archive that misses something is none: nothing takes its name unless all went well.
+void add(const Arguments &arguments, Diagnostics &diagnostics)
+{
+    OutputVolumes output(arguments.archive, arguments.volumeSize, diagnostics);
+    if (!output.begin()) return;
+    ArchiveWriter writer(
+        output, arguments.pack ? ArchiveWriter::Packing::Pack : ArchiveWriter::Packing::Store, diagnostics);
+    Adder adder(writer, output);
+    TreeWalker walker(adder, arguments.keepLinks ? TreeWalker::Links::Keep : TreeWalker::Links::Follow,
+                      arguments.bareNames ? TreeWalker::Names::Bare : TreeWalker::Names::Path, diagnostics);
+    for (const std::string &source : arguments.names)
+        if (!walker.walk(source)) return;
+    if (!diagnostics.silent() || !output.finish()) return;
+    if (arguments.test) test(*output.written(), diagnostics);
+    if (!diagnostics.silent() || interrupted()) return;
+    const bool published = output.publish(arguments.timeOfNewest ? writer.newest() : std::nullopt);
+    static_cast<void>(published); // reported
+}
+
+void extract(const Arguments &arguments, Diagnostics &diagnostics)
+{
+    Destination destination;
+    const std::string folder = arguments.names.empty() ? "." : arguments.names.front();
+    if (!destination.open(folder)) {
+        diagnostics.reportSystem("Cannot open the destination " + printable(folder));
+        return;
+    }
+    const bool paths = arguments.command == Arguments::Command::ExtractPaths;
+    Extractor extractor(destination, paths ? Extractor::Paths::Keep : Extractor::Paths::Drop, diagnostics);
+    processArchive(arguments.archive, extractor, diagnostics);
+    extractor.finish();
+}
+
+} // namespace
+
+void runCommand(const Arguments &arguments, Diagnostics &diagnostics)
+{
+    switch (arguments.command) {
+    case Arguments::Command::Add:
+        return add(arguments, diagnostics);
+    case Arguments::Command::Test: {
+        EntryTester tester;
+        return processArchive(arguments.archive, tester, diagnostics);
+    }
+    case Arguments::Command::ExtractFlat:
+    case Arguments::Command::ExtractPaths:
+        return extract(arguments, diagnostics);
+    }
+}
+
+} // namespace archiver

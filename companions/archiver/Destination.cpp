@@ -1,0 +1,94 @@
+#include "Destination.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace archiver {
+
+namespace {
+
+constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+
+bool makeFolders(const std::string &path)
+{
+    for (std::size_t slash = path.find('/', 1);; slash = path.find('/', slash + 1)) {
+        const std::string part = path.substr(0, slash);
+        if (mkdir(part.c_str(), 0777) != 0 && errno != EEXIST) {
+            struct stat status {};
+            if (stat(part.c_str(), &status) != 0)
+                return false; // a folder that is there may be on a read-only system
+        }
+        if (slash == std::string::npos) return true;
+    }
+}
+
+} // namespace
+
+bool Destination::open(const std::string &path)
+{
+    m_root = FileDescriptor(::open(path.c_str(), folderFlags));
+    if (m_root || errno != ENOENT) return static_cast<bool>(m_root);
+    if (!makeFolders(path)) return false;
+    m_root = FileDescriptor(::open(path.c_str(), folderFlags));
+    return static_cast<bool>(m_root);
+}
+
+std::optional<std::vector<std::string>> Destination::components(const std::string &name)
+{
+    if (name.find('\0') != std::string::npos) return std::nullopt;
+    std::vector<std::string> parts;
+    for (std::size_t start = 0; start <= name.size();) {
+        const std::size_t end = std::min(name.find('/', start), name.size());
+        std::string part = name.substr(start, end - start);
+        if (part == "..") return std::nullopt;
+        if (!part.empty() && part != ".") parts.push_back(std::move(part));
+        start = end + 1;
+    }
+    if (parts.empty()) return std::nullopt;
+    return parts;
+}
+
+std::string Destination::join(const std::vector<std::string> &components)
+{
+    std::string path;
+    for (const std::string &part : components)
+        path += (path.empty() ? "" : "/") + part;
+    return path;
+}
+
+int Destination::parentOf(const std::vector<std::string> &components)
+{
+    const std::size_t depth = components.size() - 1;
+    std::size_t common = 0;
+    while (common < std::min(depth, m_chain.size()) && m_chain[common].first == components[common])
+        ++common;
+    m_chain.erase(m_chain.begin() + static_cast<std::ptrdiff_t>(common), m_chain.end());
+    while (m_chain.size() < depth) {
+        const int from = m_chain.empty() ? m_root.get() : m_chain.back().second.get();
+        if (!descend(from, components[m_chain.size()])) return -1;
+    }
+    return m_chain.empty() ? m_root.get() : m_chain.back().second.get();
+}
+
+bool Destination::descend(int from, const std::string &name)
+{
+    FileDescriptor folder(openat(from, name.c_str(), folderFlags | O_NOFOLLOW));
+    if (!folder && errno == ENOENT) {
+        if (mkdirat(from, name.c_str(), 0700) != 0) return false;
+        folder = FileDescriptor(openat(from, name.c_str(), folderFlags | O_NOFOLLOW));
+        if (!folder) return false;
+        std::string path;
+        for (const auto &[part, descriptor] : m_chain)
+            path += part + '/';
+        m_made.push_back(path + name);
+    }
+    if (!folder) return false;
+    m_chain.emplace_back(name, std::move(folder));
+    return true;
+}
+
+std::vector<std::string> Destination::takeMadeFolders() { return std::exchange(m_made, {}); }
+
+} // namespace archiver

@@ -1,0 +1,53 @@
+#include "Diagnostics.h"
+
+#include "Utf8.h"
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <unistd.h>
+
+namespace archiver {
+
+bool Diagnostics::report(std::string_view message)
+{
+    ++m_count;
+    std::string line = "\n";
+    line += message;
+    line += '\n';
+    if (m_collected) {
+        *m_collected += line;
+        return false;
+    }
+    // One call for each message: several archivers may share a pipe.
+    const ssize_t written = write(STDERR_FILENO, line.data(), line.size());
+    static_cast<void>(written); // the exit status still tells
+    return false;
+}
+
+bool Diagnostics::reportSystem(std::string_view message)
+{
+    const int reason = errno;
+    std::array<char, 256> buffer{};
+    return report(std::string(message) + ": " + strerror_r(reason, buffer.data(), buffer.size()));
+}
+
+std::string printable(std::string_view name)
+{
+    constexpr std::string_view digits = "0123456789abcdef";
+    std::string text;
+    while (!name.empty()) {
+        const std::size_t length = utf8::sequenceLength(name);
+        const auto byte = static_cast<unsigned char>(name.front());
+        if (length == 0 || byte < 0x20 || byte == 0x7f) {
+            text += {'\\', 'x', digits[byte >> 4], digits[byte & 15]};
+            name.remove_prefix(1);
+            continue;
+        }
+        text += name.substr(0, length);
+        name.remove_prefix(length);
+    }
+    return text;
+}
+
+} // namespace archiver

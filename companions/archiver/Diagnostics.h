@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace archiver {
+
+/// Takes what goes wrong. Each message is a line of its own on standard error, after an empty one; nothing
+/// else is ever printed, so silence means success to the caller of the program.
+class Diagnostics {
+public:
+    Diagnostics() = default;
+    /// Collects the messages in `text` instead of printing them.
+    explicit Diagnostics(std::string &text) : m_collected(&text) {}
+
+    /// Always false, for `return diagnostics.report(…)`.
+    bool report(std::string_view message);
+    /// Adds what errno says: "MESSAGE: No such file or directory". Always false.
+    bool reportSystem(std::string_view message);
+
+    [[nodiscard]] bool silent() const { return m_count == 0; }
+
+private:
+    std::string *m_collected = nullptr;
+    unsigned long m_count = 0;
+};
+
+/// A file name for a message: control characters and bytes that are not UTF-8 as "\xHH".
+[[nodiscard]] std::string printable(std::string_view name);
+
+} // namespace archiver

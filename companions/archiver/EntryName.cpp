@@ -1,0 +1,79 @@
+#include "EntryName.h"
+
+#include "Utf8.h"
+
+#include <algorithm>
+
+namespace archiver {
+
+namespace {
+
+constexpr std::string_view marker = "\xEF\xBF\xBE"; // U+FFFE
+
+void appendMapped(std::string &name, unsigned char byte)
+{
+    name += '\xEE';
+    name += static_cast<char>(0x80 | byte >> 6);
+    name += static_cast<char>(0x80 | (byte & 0x3F));
+}
+
+/// Whether `sequence` is U+E080 to U+E0FF, what appendMapped() writes for a byte that can't be ASCII.
+bool isMapped(std::string_view sequence)
+{
+    if (sequence.size() != 3 || sequence[0] != '\xEE') return false;
+    const auto second = static_cast<unsigned char>(sequence[1]);
+    return second == 0x82 || second == 0x83;
+}
+
+char mappedByte(std::string_view sequence)
+{
+    const auto second = static_cast<unsigned char>(sequence[1]);
+    const auto third = static_cast<unsigned char>(sequence[2]);
+    return static_cast<char>((second & 3) << 6 | (third & 0x3F));
+}
+
+} // namespace
+
+std::string encodeName(std::string_view bytes)
+{
+    std::string name;
+    name.reserve(bytes.size());
+    bool marked = false;
+    while (!bytes.empty()) {
+        const std::size_t length = utf8::sequenceLength(bytes);
+        const std::string_view sequence = bytes.substr(0, std::max<std::size_t>(length, 1));
+        // A name may really hold the marker, or the mapped characters: those have to survive as well.
+        const bool plain = length > 0 && sequence != marker && !(marked && isMapped(sequence));
+        if (plain) {
+            name += sequence;
+        } else {
+            if (!marked) name += marker;
+            marked = true;
+            for (const char byte : sequence)
+                appendMapped(name, static_cast<unsigned char>(byte));
+        }
+        bytes.remove_prefix(sequence.size());
+    }
+    return name;
+}
+
+std::string decodeName(std::string_view stored)
+{
+    std::string name;
+    name.reserve(stored.size());
+    bool marked = false;
+    while (!stored.empty()) {
+        const std::string_view sequence =
+            stored.substr(0, std::max<std::size_t>(utf8::sequenceLength(stored), 1));
+        if (!marked && sequence == marker)
+            marked = true;
+        else if (marked && isMapped(sequence))
+            name += mappedByte(sequence);
+        else
+            name += sequence;
+        stored.remove_prefix(sequence.size());
+    }
+    return name;
+}
+
+} // namespace archiver

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace archiver {
+
+// RAR 5 stores names as UTF-8; a name on disk is any bytes. What is not UTF-8 follows a U+FFFE, each byte b
+// as U+E000 + b, as other archivers of the format do it.
+
+/// The form in an archive of a name (or path) on disk. decodeName() gives back exactly what went in, for any
+/// bytes.
+[[nodiscard]] std::string encodeName(std::string_view bytes);
+
+/// The name on disk of a name in an archive.
+[[nodiscard]] std::string decodeName(std::string_view stored);
+
+} // namespace archiver

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "Bytes.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <tuple>
+
+// The headers of the RAR 5 container, as its maker describes them publicly ("RAR 5.0 archive format"). A
+// header is CRC32, size, type, flags, fields, extra area; packed data follows a file's or a service header.
+
+namespace archiver {
+
+inline constexpr std::array<std::uint8_t, 8> signature{0x52, 0x61, 0x72, 0x21, 0x1A, 0x07, 0x01, 0x00};
+/// Of the format before it, which only the foreign reader knows; one byte shorter.
+inline constexpr std::array<std::uint8_t, 7> oldSignature{0x52, 0x61, 0x72, 0x21, 0x1A, 0x07, 0x00};
+
+inline constexpr std::size_t largestHeader = 2u << 20; ///< bytes after the size field
+inline constexpr std::size_t endHeaderSize = 8;
+
+enum class HeaderType : std::uint64_t { Main = 1, File = 2, Service = 3, Encryption = 4, End = 5 };
+
+/// What all headers have in common; `fields` and `extra` point into the bytes that were parsed.
+struct HeaderFrame {
+    HeaderType type = HeaderType::End;
+    std::uint64_t flags = 0;
+    std::uint64_t dataSize = 0; ///< of the packed data behind the header
+    Bytes fields;
+    Bytes extra;
+};
+
+/// Bytes that `start` (7 or more bytes from the header's first one) says its whole header has; none where
+/// that can't be.
+[[nodiscard]] std::optional<std::size_t> headerLength(Bytes start);
+/// None where the checksum or the structure is wrong.
+[[nodiscard]] std::optional<HeaderFrame> parseFrame(Bytes header);
+
+struct MainHeader {
+    bool volume = false;
+    std::uint64_t volumeIndex = 0; ///< 0 for the first
+};
+
+[[nodiscard]] std::optional<MainHeader> parseMainHeader(const HeaderFrame &frame);
+/// Whether more volumes follow.
+[[nodiscard]] std::optional<bool> parseEndHeader(const HeaderFrame &frame);
+
+struct Timestamp {
+    std::int64_t seconds = 0; ///< since 1970
+    std::uint32_t nanoseconds = 0;
+
+    friend bool operator==(const Timestamp &, const Timestamp &) = default;
+    friend bool operator<(const Timestamp &left, const Timestamp &right)
+    {
+        return std::tie(left.seconds, left.nanoseconds) < std::tie(right.seconds, right.nanoseconds);
+    }
+};
+
+struct LinkTarget {
+    enum class Kind : std::uint64_t { Symbolic = 1, WindowsSymbolic = 2, Junction = 3, Hard = 4, Copy = 5 };
+    Kind kind = Kind::Symbolic;
+    bool toFolder = false;
+    std::string path; ///< bytes as on disk; for Hard and Copy the name of an entry before
+};
+
+/// A file, folder or link, or the part of a file in one volume.
+struct FileHeader {
+    std::string name; ///< bytes as on disk, relative, '/' between components
+    bool folder = false;
+    bool continuesBefore = false; ///< its data began in the volume before
+    bool continuesAfter = false;  ///< its data goes on in the next volume
+    std::uint64_t unpackedSize = 0;
+    bool sizeUnknown = false;
+    std::uint64_t packedSize = 0; ///< in this volume
+    std::uint32_t mode = 0;       ///< st_mode, where `unixHost`; else the attributes of Windows
+    bool unixHost = true;
+    std::optional<Timestamp> modified;
+    std::optional<std::uint32_t>
+        crc;                 ///< of the unpacked file; with continuesAfter, of this part's packed bytes
+    unsigned version = 0;    ///< of the compression; above 0 there are dictionaries of other sizes
+    unsigned method = 0;     ///< 0 stored, 1 to 5 packed
+    unsigned dictionary = 0; ///< 128 KiB << dictionary
+    bool solid = false;
+    bool encrypted = false;
+    std::optional<LinkTarget> link;
+
+    [[nodiscard]] bool stored() const { return method == 0; }
+};
+
+[[nodiscard]] std::optional<FileHeader> parseFileHeader(const HeaderFrame &frame);
+
+void putMainHeader(ByteBuffer &into, const MainHeader &header);
+/// The same length for the same name, link and time, whatever the sizes (up to 4 TiB), flags and checksum: a
+/// header can be replaced when its data is behind it. A file has a checksum always, 0 as long as none is
+/// known.
+void putFileHeader(ByteBuffer &into, const FileHeader &header);
+void putEndHeader(ByteBuffer &into, bool moreVolumes);
+
+} // namespace archiver

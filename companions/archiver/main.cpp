@@ -1,0 +1,45 @@
+#include "Arguments.h"
+#include "Commands.h"
+#include "Diagnostics.h"
+#include "File.h"
+#include "Interrupt.h"
+
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+constexpr int usageError = 7; // as other archivers have it
+constexpr int failure = 3;
+
+int run(std::span<const char *const> words, archiver::Diagnostics &diagnostics)
+{
+    const auto parsed = archiver::parseArguments(words);
+    if (const auto *problem = std::get_if<std::string>(&parsed)) {
+        diagnostics.report(*problem);
+        std::fputs(archiver::usageText().c_str(), stderr);
+        return usageError;
+    }
+    archiver::runCommand(std::get<archiver::Arguments>(parsed), diagnostics);
+    archiver::endByCaughtSignal();
+    return diagnostics.silent() ? EXIT_SUCCESS : failure;
+}
+
+} // namespace
+
+int main(int count, char **arguments)
+{
+    // libarchive turns names of older archives into those of the locale.
+    std::setlocale(LC_CTYPE, "C.UTF-8");
+    archiver::raiseOpenFileLimit();
+    archiver::catchInterrupts();
+    archiver::Diagnostics diagnostics;
+    try {
+        return run({arguments + 1, arguments + (count > 0 ? count : 1)}, diagnostics);
+    } catch (const std::bad_alloc &) {
+        diagnostics.report("Out of memory");
+        return failure;
+    }
+}

@@ -1,0 +1,119 @@
+#include "Rar.h"
+
+#include "Tree.h"
+#include "VolumeNames.h"
+
+#include <cerrno>
+
+namespace fs = std::filesystem;
+
+CommandResult rar(std::vector<std::string> arguments, const CommandOptions &options)
+{
+    arguments.insert(arguments.begin(), QUILLORENT_RAR);
+    return runCommand(arguments, options);
+}
+
+CommandResult addTree(const fs::path &archive, const fs::path &source)
+{
+    return rar({"a", "-r", "-ol", "-o+", "-m0", "", "-t", "-idq", archive, source});
+}
+
+CommandResult packFile(const fs::path &archive, const fs::path &file, const std::string &volume)
+{
+    return rar({"a", "-m5", "-o+", "-t", "-idq", "", volume, "-ep", archive, file});
+}
+
+std::string base64Text(std::size_t size)
+{
+    constexpr std::string_view alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    std::string text = randomBytes(size, 7);
+    for (std::size_t index = 0; index < size; ++index)
+        text[index] = index % 65 == 64 ? '\n' : alphabet[static_cast<unsigned char>(text[index]) % 64];
+    return text;
+}
+
+std::vector<fs::path> volumesOf(const fs::path &archive)
+{
+    for (std::size_t digits = 1; digits < 5; ++digits) {
+        std::vector<fs::path> paths;
+        const std::string base = archiver::withoutExtension(archive.string());
+        while (fs::exists(archiver::volumePath(base, paths.size() + 1, digits)))
+            paths.emplace_back(archiver::volumePath(base, paths.size() + 1, digits));
+        if (!paths.empty()) return paths;
+    }
+    return {};
+}
+
+archiver::Bytes bytesOf(const std::string &text)
+{
+    return {reinterpret_cast<const std::uint8_t *>(text.data()), text.size()};
+}
+
+HandmadeEntry storedFile(const std::string &name, const std::string &content)
+{
+    HandmadeEntry entry;
+    entry.header.name = name;
+    entry.header.mode = 0100644;
+    entry.header.unpackedSize = content.size();
+    entry.header.packedSize = content.size();
+    entry.header.crc = archiver::crc32(bytesOf(content));
+    entry.data = content;
+    return entry;
+}
+
+HandmadeEntry symbolicLink(const std::string &name, const std::string &target)
+{
+    HandmadeEntry entry;
+    entry.header.name = name;
+    entry.header.mode = 0120777;
+    entry.header.link = archiver::LinkTarget{archiver::LinkTarget::Kind::Symbolic, false, target};
+    return entry;
+}
+
+HandmadeEntry folderEntry(const std::string &name, unsigned mode)
+{
+    HandmadeEntry entry;
+    entry.header.name = name;
+    entry.header.mode = 040000 | mode;
+    entry.header.folder = true;
+    return entry;
+}
+
+std::string handmadeArchive(const std::vector<HandmadeEntry> &entries, bool solid)
+{
+    archiver::ByteBuffer bytes(archiver::signature.begin(), archiver::signature.end());
+    if (solid) {
+        const archiver::ByteBuffer checked{3, 1, 0, 4}; // size, type, header's flags, archive's flags
+        archiver::putU32(bytes, archiver::crc32(checked));
+        archiver::putBytes(bytes, checked);
+    } else {
+        archiver::putMainHeader(bytes, {});
+    }
+    for (const HandmadeEntry &entry : entries) {
+        archiver::putFileHeader(bytes, entry.header);
+        archiver::putText(bytes, entry.data);
+    }
+    archiver::putEndHeader(bytes, false);
+    return {bytes.begin(), bytes.end()};
+}
+
+archiver::ContentSink *CollectingReceiver::beginFile(const archiver::FileHeader &)
+{
+    m_content.clear();
+    return this;
+}
+
+void CollectingReceiver::finishFile(const archiver::FileHeader &header) { files[header.name] = m_content; }
+
+bool CollectingReceiver::write(archiver::Bytes bytes)
+{
+    m_content.append(bytes.begin(), bytes.end());
+    return true;
+}
+
+std::unique_ptr<archiver::ByteSource> MemoryVolumes::open(std::size_t index)
+{
+    errno = ENOENT;
+    if (index >= m_volumes.size()) return nullptr;
+    return std::make_unique<archiver::MemorySource>(bytesOf(m_volumes[index]));
+}
