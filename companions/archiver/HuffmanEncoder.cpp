@@ -134,14 +134,22 @@ Tables planTables(std::span<const std::uint8_t> literalLengths, std::size_t plai
     return tables;
 }
 
-/// Tables with which a block of `dataBits` does not end at the end of a byte: at the end of the data some
-/// readers look for one more byte then.
-Tables planTablesFor(std::span<const std::uint8_t> literalLengths, std::size_t dataBits)
+unsigned usedBitsOfLastByte(std::size_t bits) { return bits % 8 == 0 ? 8 : static_cast<unsigned>(bits % 8); }
+
+/// Tables with which the last block, of `dataBits`, leaves as much of its last byte unused as can be had: at the
+/// end of the data some readers look further ahead than the last symbol is long, and take it for a cut archive
+/// when there is nothing.
+Tables planLastTables(std::span<const std::uint8_t> literalLengths, std::size_t dataBits)
 {
-    Tables tables = planTables(literalLengths, 0);
-    for (std::size_t plainZeros = 1; plainZeros <= 8 && (tables.bits + dataBits) % 8 == 0; ++plainZeros)
-        tables = planTables(literalLengths, plainZeros);
-    return tables;
+    constexpr std::size_t mostPlainZeros = 64;
+    Tables best = planTables(literalLengths, 0);
+    for (std::size_t plainZeros = 1; plainZeros <= mostPlainZeros; ++plainZeros) {
+        if (usedBitsOfLastByte(best.bits + dataBits) == 1) break;
+        Tables tables = planTables(literalLengths, plainZeros);
+        if (usedBitsOfLastByte(tables.bits + dataBits) < usedBitsOfLastByte(best.bits + dataBits))
+            best = std::move(tables);
+    }
+    return best;
 }
 
 void writeTables(BitWriter &bits, const Tables &tables)
@@ -209,7 +217,7 @@ Bytes HuffmanEncoder::encode(Bytes input, bool last)
     std::size_t dataBits = 0;
     for (std::size_t byte = 0; byte < counts.size(); ++byte)
         dataBits += std::size_t{counts[byte]} * lengths[byte];
-    writeTables(bits, planTablesFor(lengthList, dataBits));
+    writeTables(bits, last ? planLastTables(lengthList, dataBits) : planTables(lengthList, 0));
     const auto &joined = *m_joined;
     const auto pair = [&](std::size_t index) {
         return joined[std::size_t{input[index + 1]} << 8 | input[index]];
