@@ -9,7 +9,7 @@ add_library(quillorent::options ALIAS quillorent-options)
 target_compile_features(quillorent-options INTERFACE cxx_std_20)
 target_compile_options(quillorent-options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
-    -Wold-style-cast -Wcast-qual -Wformat=2 -Wimplicit-fallthrough -Wnull-dereference -Wundef
+    -Wold-style-cast -Wcast-qual -Wformat=2 -Wimplicit-fallthrough -Wundef
     $<$<BOOL:${QUILLORENT_WARNINGS_ARE_ERRORS}>:-Werror>)
 # Files larger than 2 GiB are the rule here, on 32-bit systems too.
 target_compile_definitions(quillorent-options INTERFACE _FILE_OFFSET_BITS=64)
@@ -18,8 +18,6 @@ if(QUILLORENT_SANITIZE)
     target_compile_options(quillorent-options INTERFACE
         -fsanitize=${QUILLORENT_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     target_link_options(quillorent-options INTERFACE -fsanitize=${QUILLORENT_SANITIZE})
-    # The sanitizers' instrumentation makes g++ see null dereferences that are not there.
-    target_compile_options(quillorent-options INTERFACE -Wno-null-dereference)
 else()
     target_compile_options(quillorent-options INTERFACE $<$<CONFIG:Release>:-fstack-protector-strong>)
     target_compile_definitions(quillorent-options INTERFACE $<$<CONFIG:Release>:_FORTIFY_SOURCE=2>)

@@ -94,7 +94,7 @@ void waitForEnd(const QuillorentAppDelegate &delegate, bool showProgress)
         line.show(delegate);
         if (!delegate.isRunActive()) loop.quit();
     });
-    look.start(100ms);
+    look.start(20ms);
     loop.exec();
 }
 

@@ -1,0 +1,208 @@
+#include "Command.h"
+#include "Stub.h"
+#include "TemporaryFolder.h"
+
+#include <csignal>
+#include <gtest/gtest.h>
+#include <regex>
+#include <thread>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// The program in a home of its own, with one profile called "Mine" beside the one that every user starts
+/// with.
+class Home {
+public:
+    Home()
+    {
+        for (const char *name : {"archives", "config"})
+            fs::create_directories(m_folder / name);
+        writeFile(m_folder / "docs/file", "content");
+        writeFile(m_folder / "password", "from a file\nsecond line");
+        EXPECT_EQ(run({"profiles"}).status, 0);
+        writeFile(profiles(),
+                  "<plist version=\"1.0\"><dict><key>Default profile</key><dict/><key>Mine</key><dict>"
+                  "<key>folders</key><array><string>" +
+                      (m_folder / "docs").string() +
+                      "</string></array>"
+                      "<key>path</key><string>" +
+                      (m_folder / "archives").string() +
+                      "</string>"
+                      "<key>passtype</key><integer>0</integer><key>emptydir</key><string>0</string>"
+                      "<key>symencryption</key><string>OpenSSL-AES</string></dict></dict></plist>");
+    }
+
+    [[nodiscard]] CommandResult run(std::vector<std::string> arguments, const std::string &input = {}) const
+    {
+        arguments.insert(arguments.begin(), {"setsid", "--wait", QUILLORENT_RUN}); // no terminal to ask on
+        return runCommand(arguments, {.environment = {{"HOME", m_folder.path().string()},
+                                                      {"XDG_CONFIG_HOME", (m_folder / "config").string()}},
+                                      .input = input});
+    }
+
+    [[nodiscard]] CommandResult backUp(std::vector<std::string> more = {}) const
+    {
+        std::vector<std::string> arguments{"backup", "Mine", "--password-file",
+                                           (m_folder / "password").string()};
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        return run(arguments);
+    }
+
+    void useTool(const std::string &standard, const fs::path &replacement) const
+    {
+        const fs::path settings = m_folder / "config/com.brolvanek.Quillorent.config.plist";
+        writeFile(settings,
+                  std::regex_replace(readFile(settings), std::regex(standard), replacement.string()));
+    }
+
+    [[nodiscard]] fs::path folder() const { return m_folder.path(); }
+    [[nodiscard]] fs::path profiles() const
+    {
+        return m_folder / "config/com.brolvanek.Quillorent.profiles.plist";
+    }
+    [[nodiscard]] fs::path archive() const { return m_folder / "archives/docs.rar.aes.rar"; }
+
+private:
+    TemporaryFolder m_folder;
+};
+
+bool contains(const std::string &text, const std::string &part)
+{
+    return text.find(part) != std::string::npos;
+}
+
+} // namespace
+
+TEST(Run, RefusesWrongUsage)
+{
+    const Home home;
+    for (const auto &[arguments, reason] : std::vector<std::pair<std::vector<std::string>, std::string>>{
+             {{}, "command is missing"},
+             {{"restore"}, "\"restore\" is no command"},
+             {{"backup", "--now"}, "now"},
+             {{"backup", "Mine", "Yours"}, "\"Yours\" is one word too many"},
+             {{"tools", "--yes"}, "does not go with"},
+             {{"backup", "--password-file"}, "password-file"},
+         }) {
+        const CommandResult result = home.run(arguments);
+        EXPECT_EQ(result.status, 64) << reason;
+        EXPECT_TRUE(contains(result.errors, reason)) << result.errors;
+        EXPECT_EQ(result.output, "");
+    }
+    EXPECT_EQ(home.run({"--help"}).status, 0);
+    EXPECT_TRUE(contains(home.run({"--help"}).output, "Exit status"));
+}
+
+TEST(Run, ListsProfilesAndTools)
+{
+    const Home home;
+    EXPECT_EQ(home.run({"profiles"}).output, "  Default profile\n* Mine\n");
+
+    const std::string libexec = QUILLORENT_LIBEXEC;
+    const std::string rows =
+        "RAR\t" + libexec + "/rar\tok\nOpenSSL\t" + libexec + "/openssl\tok\nRSync\t/usr/bin/rsync\tok\n";
+    const CommandResult good = home.run({"tools"});
+    EXPECT_EQ(good.output, rows);
+    EXPECT_EQ(good.status, 0);
+    home.useTool("/usr/bin/rsync", "/nowhere/rsync");
+    const CommandResult bad = home.run({"tools"});
+    EXPECT_TRUE(contains(bad.output, "RSync\t/nowhere/rsync\tnot ok\n")) << bad.output;
+    EXPECT_EQ(bad.status, 1);
+}
+
+TEST(Run, BacksUpWithAPasswordFromAFileOrStandardInput)
+{
+    const Home home;
+    const std::string before = readFile(home.profiles());
+    const CommandResult result = home.backUp();
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_TRUE(contains(result.errors, "Backed up 1 of 1")) << result.errors;
+    ASSERT_TRUE(fs::exists(home.archive()));
+    EXPECT_EQ(readFile(home.profiles()), before) << "a run without a window saves nothing";
+
+    fs::remove(home.archive());
+    EXPECT_EQ(home.run({"backup", "Mine", "--password-file", "-", "--progress"}, "from a file\n").status, 0);
+
+    // Either way the password is the first line alone.
+    const fs::path opened = home.folder() / "opened";
+    fs::create_directories(opened);
+    const std::string rar = std::string(QUILLORENT_LIBEXEC) + "/rar";
+    EXPECT_EQ(runCommand({rar, "e", "-o+", "-idq", home.archive().string(), opened.string()}).errors, "");
+    EXPECT_EQ(runCommand({"openssl", "aes-256-cbc", "-d", "-a", "-pbkdf2", "-iter", "600000", "-md", "sha256",
+                          "-in", (opened / "docs.rar.aes").string(), "-out", "/dev/null", "-pass",
+                          "pass:from a file"})
+                  .status,
+              0);
+}
+
+TEST(Run, SaysWhyItCanNotStart)
+{
+    struct Case {
+        std::vector<std::string> arguments;
+        std::string reason;
+    };
+    const Home home;
+    const std::string missing = (home.folder() / "no such file").string();
+    for (const Case &c : {
+             Case{{"backup", "Yours"}, "no profile \"Yours\"; there are: Default profile, Mine."},
+             Case{{"backup", "Mine"}, "No password is given"},
+             Case{{"backup", "Mine", "--password-file", missing},
+                  "Can't read the password from \"" + missing},
+             Case{{"backup", "Default profile", "--password-file", (home.folder() / "password").string()},
+                  "not this profile's own"},
+         }) {
+        const CommandResult result = home.run(c.arguments);
+        EXPECT_EQ(result.status, 2) << c.reason;
+        EXPECT_TRUE(contains(result.errors, c.reason)) << result.errors;
+    }
+
+    writeFile(home.folder() / "archives/other", "x");
+    const CommandResult refused = home.backUp();
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_TRUE(contains(refused.errors, "is not empty")) << refused.errors;
+    EXPECT_FALSE(fs::exists(home.archive()));
+    EXPECT_EQ(home.backUp({"--yes"}).status, 0);
+    EXPECT_TRUE(fs::exists(home.archive()));
+
+    writeFile(home.profiles(), "damaged");
+    const CommandResult damaged = home.backUp();
+    EXPECT_EQ(damaged.status, 2);
+    EXPECT_TRUE(contains(damaged.errors, "can't be read")) << damaged.errors;
+}
+
+TEST(Run, FailsWithTheConsoleOnStandardError)
+{
+    const Home home;
+    const Stub openssl(home.folder() / "tools", "openssl", "print bad magic number");
+    home.useTool(std::string(QUILLORENT_LIBEXEC) + "/openssl", openssl.path());
+    const CommandResult failed = home.backUp();
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_TRUE(contains(failed.errors, "Encoder ERROR - ")) << failed.errors;
+    EXPECT_TRUE(contains(failed.errors, "bad magic number")) << failed.errors;
+    EXPECT_FALSE(contains(failed.errors, "from a file")) << "the password is shown";
+
+    fs::remove_all(home.folder() / "docs");
+    const CommandResult skipped = home.backUp({"--yes"});
+    EXPECT_EQ(skipped.status, 1) << "a folder that is not there is not backed up";
+    EXPECT_TRUE(contains(skipped.errors, "Not found: ")) << skipped.errors;
+}
+
+TEST(Run, EndsItsToolsOnASignal)
+{
+    for (const int signal : {SIGINT, SIGTERM}) {
+        const Home home;
+        const Stub rar(home.folder() / "tools", "rar", "hang Unknown option");
+        home.useTool(std::string(QUILLORENT_LIBEXEC) + "/rar", rar.path());
+        CommandResult result;
+        std::thread program([&] { result = home.backUp({"--progress"}); });
+        const int tool = rar.processId();
+        const std::string parent = runCommand({"ps", "-o", "ppid=", "-p", std::to_string(tool)}).output;
+        kill(std::stoi(parent), signal);
+        program.join();
+        EXPECT_EQ(result.status, 1) << result.errors;
+        EXPECT_TRUE(contains(result.errors, "Cancelled")) << result.errors;
+        EXPECT_NE(kill(tool, 0), 0) << "the tool is left running";
+    }
+}

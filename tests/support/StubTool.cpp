@@ -1,0 +1,89 @@
+// A tool that does what the file beside it says, for what a real tool rarely does. "<program>.behaviour"
+// holds a word, and what the word needs after it:
+//   print TEXT     the text on standard output
+//   complain TEXT  the text on standard error
+//   bad-bytes      bytes that are no UTF-8
+//   hang TEXT      its process id goes into "<program>.pid", then it waits for ever; asked for help with
+//   "-h", it prints
+//                  the text instead
+//   crash          ends by a signal, silently
+//   arguments      prints its arguments, each between "[" and "]"
+//   terminal       says whether it could open a controlling terminal
+//   helper         leaves a process behind that writes "late" to its output a moment later
+//   relay PROGRAM  its arguments, each followed by a zero byte, go at the end of "<program>.record", then it
+//   becomes the
+//                  program
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <unistd.h>
+
+namespace {
+
+void record(const std::string &path, int argc, char **argv)
+{
+    std::string bytes;
+    for (int i = 1; i < argc; ++i)
+        bytes.append(argv[i]).push_back('\0');
+    bytes.append("--\n");
+    std::ofstream(path, std::ios::app | std::ios::binary) << bytes;
+}
+
+[[noreturn]] void hang(const std::string &pidFile)
+{
+    std::ofstream(pidFile + ".new") << getpid() << std::flush;
+    std::rename((pidFile + ".new").c_str(), pidFile.c_str());
+    for (;;)
+        pause();
+}
+
+void leaveHelper()
+{
+    if (fork() != 0) return;
+    usleep(200'000);
+    std::fputs("late", stdout);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const std::string self = argv[0];
+    std::ifstream file(self + ".behaviour", std::ios::binary);
+    std::string word;
+    file >> word;
+    file.ignore(1);
+    const std::string rest{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+
+    if (word == "print")
+        std::fputs(rest.c_str(), stdout);
+    else if (word == "complain")
+        std::fputs(rest.c_str(), stderr);
+    else if (word == "bad-bytes")
+        std::fputs("caf\xe9 \xff\xfe", stdout);
+    else if (word == "hang" && argc == 2 && argv[1] == std::string("-h"))
+        std::fputs(rest.c_str(), stdout);
+    else if (word == "hang")
+        hang(self + ".pid");
+    else if (word == "crash")
+        raise(SIGKILL);
+    else if (word == "arguments")
+        for (int i = 1; i < argc; ++i)
+            std::printf("[%s]", argv[i]);
+    else if (word == "terminal")
+        std::fputs(open("/dev/tty", O_RDWR) < 0 ? "none" : "open", stdout);
+    else if (word == "helper")
+        leaveHelper();
+    else if (word == "relay") {
+        record(self + ".record", argc, argv);
+        argv[0] = const_cast<char *>(rest.c_str());
+        execv(rest.c_str(), argv);
+        return 127;
+    }
+    return 0;
+}

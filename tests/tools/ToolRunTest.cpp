@@ -1,0 +1,101 @@
+#include "tools/ToolRun.h"
+
+#include "Stub.h"
+#include "TestProgram.h"
+#include "tools/Threads.h"
+
+#include <csignal>
+#include <gtest/gtest.h>
+#include <thread>
+
+using namespace std::chrono_literals;
+namespace fs = std::filesystem;
+
+namespace {
+
+ToolResult runStub(const Stub &stub, const QStringList &arguments = {})
+{
+    return runTool(toQString(stub.path()), arguments);
+}
+
+bool isAlive(int process) { return kill(process, 0) == 0; }
+
+} // namespace
+
+TEST(RunTool, JudgesByWhatTheToolSays)
+{
+    struct Case {
+        std::string behaviour;
+        bool isSilent;
+        std::optional<QString> output;
+    };
+    const TemporaryFolder folder;
+    for (const Case &c : {
+             Case{"nothing", true, u""_qs},
+             Case{"print hello", false, u"hello"_qs},
+             Case{"print \n", false, u"\n"_qs},
+             Case{"complain oh", false, u"oh"_qs},
+             Case{"print " + std::string(1'000'000, 'x'), false, QString(1'000'000, u'x')},
+             Case{"bad-bytes", false, std::nullopt},
+             Case{"helper", false, u"late"_qs},
+             Case{"terminal", false, u"none"_qs},
+         }) {
+        const ToolResult result = runStub(Stub(folder.path(), "tool", c.behaviour));
+        EXPECT_EQ(result.isSilent(), c.isSilent) << c.behaviour.substr(0, 20);
+        EXPECT_TRUE(result.output == c.output)
+            << c.behaviour.substr(0, 20) << ": " << qPrintable(result.text().left(200));
+    }
+}
+
+TEST(RunTool, PassesArgumentsAsTheyAre)
+{
+    const TemporaryFolder folder;
+    const Stub stub(folder.path(), "tool", "arguments");
+    const QStringList arguments{u""_qs,      u"a b"_qs, u"$HOME `id` \"'"_qs, u"*"_qs, u"line\nbreak"_qs,
+                                u"naïve"_qs, u""_qs};
+    QString expected;
+    for (const QString &argument : arguments)
+        expected += u'[' + argument + u']';
+    EXPECT_EQ(runStub(stub, arguments).output, expected);
+}
+
+TEST(RunTool, SaysWhyAToolCanNotStart)
+{
+    const TemporaryFolder folder;
+    writeFile(folder / "text", "no program");
+    writeFile(folder / "garbage", "\x7f"
+                                  "ELF and nothing more");
+    fs::permissions(folder / "garbage", fs::perms::owner_all);
+    for (const char *name : {"missing", "text", "garbage", "."}) {
+        const QString path = toQString(folder / name);
+        const ToolResult result = runTool(path, {});
+        EXPECT_FALSE(result.wasStarted) << name;
+        EXPECT_FALSE(result.isSilent()) << name;
+        EXPECT_TRUE(result.text().contains(path)) << qPrintable(result.text());
+    }
+    EXPECT_FALSE(runTool({}, {}).isSilent());
+}
+
+TEST(RunTool, DoesNotTakeACrashForSuccess)
+{
+    const TemporaryFolder folder;
+    const ToolResult result = runStub(Stub(folder.path(), "tool", "crash"));
+    EXPECT_FALSE(result.isSilent());
+    EXPECT_TRUE(result.text().contains(u"signal 9"_qs)) << qPrintable(result.text());
+}
+
+TEST(EndTools, LeavesNoToolBehind)
+{
+    const TemporaryFolder folder;
+    const Stub one(folder.path(), "one", "hang");
+    const Stub two(folder.path(), "two", "hang");
+    for (const Stub *stub : {&one, &two})
+        detachThread(u"hanging"_qs, [stub] { EXPECT_FALSE(runStub(*stub).isSilent()); });
+    const int processes[] = {one.processId(), two.processId()};
+
+    endTools();
+    EXPECT_TRUE(waitForThreads(30s));
+    EXPECT_EQ(toolsRunning(), 0);
+    for (const int process : processes)
+        EXPECT_FALSE(isAlive(process));
+}
