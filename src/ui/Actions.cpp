@@ -1,0 +1,150 @@
+#include "ui/Actions.h"
+
+#include "app/QuillorentAppDelegate.h"
+#include "ui/Binding.h"
+#include "ui/FolderList.h"
+#include "ui/PanelDialog.h"
+#include "ui/StepperButtons.h"
+#include "ui/ToolTable.h"
+
+#include <QAbstractButton>
+#include <QClipboard>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QTabWidget>
+
+namespace ui {
+namespace {
+
+using Controller = QuillorentAppDelegate;
+
+template <auto action>
+void send(const ActionCall &call)
+{
+    if constexpr (std::is_invocable_v<decltype(action), Controller &, const QString &>)
+        (call.controller.*action)(call.text);
+    else
+        (call.controller.*action)();
+}
+
+// The entry that comes to stand in the place of the first removed one is selected: it can be removed next,
+// and never more than it by accident.
+void removeFolders(const ActionCall &call)
+{
+    const int first = call.controller.listTableView.selectedRow();
+    call.controller.folderButton02Action();
+    call.controller.listTableView.setSelectedRows(first < 0 ? QList<int>() : QList<int>{first});
+}
+
+void cancelBackup(const ActionCall &call) { call.controller.buttonKill01(call.controller.buttonCancel01); }
+
+void showConsole(const ActionCall &call) { call.controller.consolePanel01.orderFront(); }
+
+void closeConsole(const ActionCall &call) { call.controller.consolePanel01.orderOut(); }
+
+void copyConsole(const ActionCall &call)
+{
+    QGuiApplication::clipboard()->setText(call.controller.consoleTextView01.text());
+}
+
+void showPasswords(const ActionCall &call)
+{
+    auto &tabs = *call.window.findChild<QTabWidget *>(u"mainTabs"_qs);
+    tabs.setCurrentWidget(tabs.findChild<QWidget *>(u"passwordsPage"_qs));
+}
+
+constexpr QLatin1StringView operator""_name(const char *text, size_t size)
+{
+    return QLatin1StringView(text, qsizetype(size));
+}
+
+constexpr ActionRow table[] = {
+    {"profileCombo01"_name, send<&Controller::profileCombo01Action>},
+    {"profileButton01"_name, send<&Controller::profileButton01Action>},
+    {"profileButton02"_name, send<&Controller::profileButton02Action>},
+    {"defaultProfileButton"_name, send<&Controller::setterDefaultProfile>},
+    {"autosaveCheck01"_name, send<&Controller::autosaveCheck01Action>},
+
+    {"folderButton01"_name, send<&Controller::folderButton01Action>},
+    {"folderButton02"_name, removeFolders},
+    {"fileButton01"_name, send<&Controller::fileButton01Action>},
+    {"checkBox04"_name, send<&Controller::prefCheck01Action>},
+    {"prefText01"_name, send<&Controller::prefStepper01Action>},
+    {"prefStepper01"_name, send<&Controller::prefStepper01Action>},
+    {"checkBox05"_name, send<&Controller::checkBox05Action>},
+    {"protectionButton"_name, showPasswords},
+    {"buttonLaunch01"_name, send<&Controller::buttonLaunch01>},
+
+    {"passCombo01"_name, send<&Controller::passCombo01Action>},
+    {"checkBox01"_name, send<&Controller::checkBox01Action>},
+    {"certButton01"_name, send<&Controller::certButton01Action>},
+
+    {"settingsSaveButton"_name, send<&Controller::saveSettings1Action>},
+    {"consoleShowButton"_name, showConsole},
+
+    {"progressPanel01"_name, cancelBackup},
+    {"buttonCancel01"_name, cancelBackup},
+    {"warningPanel01"_name, send<&Controller::warningPanel01Close>},
+    {"warningPanel01CloseButton"_name, send<&Controller::warningPanel01Close>},
+    {"warningPanel03"_name, send<&Controller::buttonLaunch01Stop>},
+    {"buttonLaunch01Stop"_name, send<&Controller::buttonLaunch01Stop>},
+    {"buttonLaunch01b"_name, send<&Controller::buttonLaunch01b>},
+    {"consolePanel01"_name, closeConsole},
+    {"consoleCloseButton"_name, closeConsole},
+    {"consoleCopyButton"_name, copyConsole},
+    {"consolePanel01Clear"_name, send<&Controller::consolePanel01Action>},
+};
+
+/// Connects the signal by which a user's doing shows. Says whether the widget has one.
+template <class Perform>
+bool connectControl(QWidget &widget, Perform perform)
+{
+    const auto performPlain = [perform] { perform(QString()); };
+    if (auto *button = qobject_cast<QAbstractButton *>(&widget))
+        return bool(QObject::connect(button, &QAbstractButton::clicked, &widget, performPlain));
+    if (auto *combo = qobject_cast<QComboBox *>(&widget))
+        return bool(QObject::connect(combo, &QComboBox::activated, &widget, performPlain));
+    if (auto *field = qobject_cast<QLineEdit *>(&widget))
+        return bool(QObject::connect(field, &QLineEdit::textEdited, &widget, perform));
+    if (auto *stepper = qobject_cast<StepperButtons *>(&widget))
+        return bool(QObject::connect(stepper, &StepperButtons::stepped, &widget,
+                                     [perform](int value) { perform(QString::number(value)); }));
+    if (auto *panel = qobject_cast<PanelDialog *>(&widget))
+        return bool(QObject::connect(panel, &PanelDialog::closeRequested, &widget, performPlain));
+    return false;
+}
+
+// What the lists do beyond showing their outlets.
+void connectLists(Controller &controller, QMainWindow &window)
+{
+    for (auto *folders : window.findChildren<FolderListView *>()) {
+        QObject::connect(folders, &FolderListView::pathsDropped, folders,
+                         [&controller](const QStringList &paths) { controller.addFolders(paths); });
+        QObject::connect(folders, &FolderListView::deletePressed,
+                         window.findChild<QAbstractButton *>(u"folderButton02"_qs), &QAbstractButton::click);
+    }
+    for (auto *tools : window.findChildren<ToolTableView *>())
+        QObject::connect(tools, &ToolTableView::chooseRequested, tools,
+                         [&controller] { controller.selectFile(); });
+}
+
+} // namespace
+
+std::span<const ActionRow> actionTable() { return table; }
+
+void connectActions(Controller &controller, QMainWindow &window, const QList<QWidget *> &roots)
+{
+    for (const ActionRow &row : table) {
+        const auto perform = [&row, &controller, &window](const QString &text) {
+            row.perform({controller, window, text});
+        };
+        const QList<QWidget *> widgets = widgetsNamed(QString(row.control), roots);
+        if (widgets.size() != 1 || !connectControl(*widgets.first(), perform))
+            qFatal("no control of the name %s", row.control.data());
+    }
+    connectLists(controller, window);
+}
+
+} // namespace ui

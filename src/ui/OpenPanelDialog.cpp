@@ -1,0 +1,122 @@
+#include "ui/OpenPanelDialog.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileSystemModel>
+#include <QLineEdit>
+#include <QListView>
+#include <QSortFilterProxyModel>
+#include <QTreeView>
+#include <memory>
+
+namespace ui {
+namespace {
+
+/// Takes files and folders alike: what is selected when the dialog is accepted is the answer, where the
+/// ordinary dialog would enter a folder.
+class MixedFileDialog : public QFileDialog {
+public:
+    using QFileDialog::QFileDialog;
+
+    void accept() override
+    {
+        if (!selection().isEmpty()) done(Accepted);
+    }
+
+    [[nodiscard]] QStringList selection() const
+    {
+        const QStringList selected = selectedFiles();
+        return selected.isEmpty() ? typed() : selected;
+    }
+
+private:
+    [[nodiscard]] QStringList typed() const
+    {
+        const auto *field = findChild<QLineEdit *>(u"fileNameEdit"_qs);
+        if (!field || field->text().isEmpty()) return {};
+        const QString path = QDir::cleanPath(directory().absoluteFilePath(field->text()));
+        return QFileInfo::exists(path) ? QStringList{path} : QStringList{};
+    }
+};
+
+/// Lets through folders, and files with one of the extensions; the extension "" is that of files that have
+/// none.
+class ExtensionFilter : public QSortFilterProxyModel {
+public:
+    ExtensionFilter(QStringList extensions, QObject *parent)
+        : QSortFilterProxyModel(parent), m_extensions(std::move(extensions))
+    {
+    }
+
+protected:
+    [[nodiscard]] bool filterAcceptsRow(int row, const QModelIndex &parent) const override
+    {
+        const auto *files = qobject_cast<QFileSystemModel *>(sourceModel());
+        if (!files) return true;
+        const QModelIndex entry = files->index(row, 0, parent);
+        return files->isDir(entry) ||
+               m_extensions.contains(QFileInfo(files->fileName(entry)).suffix(), Qt::CaseInsensitive);
+    }
+
+private:
+    const QStringList m_extensions;
+};
+
+std::unique_ptr<QFileDialog> makeMixedDialog(QWidget *parent)
+{
+    auto dialog = std::make_unique<MixedFileDialog>(parent);
+    dialog->setOption(QFileDialog::DontUseNativeDialog);
+    dialog->setFileMode(QFileDialog::ExistingFiles);
+    for (QAbstractItemView *view : dialog->findChildren<QAbstractItemView *>())
+        if (view->objectName() == u"listView" || view->objectName() == u"treeView")
+            view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    return dialog;
+}
+
+void setMode(QFileDialog &dialog, const outlets::OpenPanel &panel)
+{
+    if (panel.canChooseDirectories) {
+        dialog.setFileMode(QFileDialog::Directory);
+        dialog.setOption(QFileDialog::ShowDirsOnly);
+    } else {
+        dialog.setFileMode(panel.allowsMultipleSelection ? QFileDialog::ExistingFiles
+                                                         : QFileDialog::ExistingFile);
+    }
+}
+
+void setFilter(QFileDialog &dialog, const QStringList &extensions)
+{
+    if (extensions.isEmpty()) return;
+    // Name patterns can't say "without an extension"; a filter of our own can, and works in Qt's own dialog
+    // only.
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setProxyModel(new ExtensionFilter(extensions, &dialog));
+}
+
+} // namespace
+
+std::unique_ptr<QFileDialog> makeOpenPanelDialog(const outlets::OpenPanel &panel, QWidget *parent)
+{
+    const bool mixed = panel.canChooseFiles && panel.canChooseDirectories;
+    auto dialog = mixed ? makeMixedDialog(parent) : std::make_unique<QFileDialog>(parent);
+    if (!mixed) setMode(*dialog, panel);
+    dialog->setWindowTitle(panel.title);
+    dialog->setAcceptMode(QFileDialog::AcceptOpen);
+    dialog->setLabelText(QFileDialog::Accept, QFileDialog::tr("&Choose"));
+    dialog->setOption(QFileDialog::ReadOnly, !panel.canCreateDirectories);
+    dialog->setOption(QFileDialog::DontResolveSymlinks, !panel.resolvesAliases);
+    setFilter(*dialog, panel.allowedFileTypes);
+    dialog->resize(780, 480);
+    if (!panel.directory.isEmpty()) dialog->setDirectory(panel.directory);
+    return dialog;
+}
+
+std::optional<QStringList> askForPaths(const outlets::OpenPanel &panel, QWidget *parent)
+{
+    const auto dialog = makeOpenPanelDialog(panel, parent);
+    if (dialog->exec() != QDialog::Accepted) return std::nullopt;
+    const auto *mixed = dynamic_cast<MixedFileDialog *>(dialog.get());
+    return mixed ? mixed->selection() : dialog->selectedFiles();
+}
+
+} // namespace ui

@@ -1,0 +1,63 @@
+#include "ui/OutletTableView.h"
+
+#include <QHeaderView>
+#include <QStyledItemDelegate>
+
+namespace ui {
+
+namespace {
+
+/// Gives cells some room on their right, so that columns which fit their contents do not touch.
+class RoomyDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(16, 0);
+    }
+};
+
+} // namespace
+
+OutletTableView::OutletTableView(QWidget *parent) : QTableView(parent)
+{
+    setSelectionBehavior(SelectRows);
+    setShowGrid(false);
+    setWordWrap(false);
+    setTabKeyNavigation(false); // Tab leads on to the next control
+    setCornerButtonEnabled(false);
+    setTextElideMode(Qt::ElideMiddle);
+    setItemDelegate(new RoomyDelegate(this));
+    verticalHeader()->hide();
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void OutletTableView::setOutletModel(OutletTableModel *model)
+{
+    m_model = model;
+    setModel(model);
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] { Q_EMIT selectedRowsChanged(selectedRows()); });
+}
+
+QList<int> OutletTableView::selectedRows() const
+{
+    QList<int> rows;
+    for (const QModelIndex &index : selectionModel()->selectedRows())
+        rows.append(index.row());
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+void OutletTableView::selectRows(const QList<int> &rows)
+{
+    QItemSelection selection;
+    for (const int row : rows)
+        if (row < m_model->rowCount()) selection.select(m_model->index(row, 0), m_model->index(row, 0));
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+} // namespace ui

@@ -1,0 +1,74 @@
+#include "ui/PanelDialog.h"
+
+#include <QHideEvent>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QShowEvent>
+
+namespace ui {
+
+using Place = outlets::Panel::Place;
+
+PanelDialog::PanelDialog(QWidget *parent) : QDialog(parent) {}
+
+void PanelDialog::setPlace(Place place)
+{
+    if (place != Place::Sheet) blockContents(false);
+    if (place == Place::Hidden || (place == Place::Window && isModal())) hide();
+
+    switch (place) {
+    case Place::Hidden:
+        return;
+    case Place::Sheet:
+        openAsSheet();
+        return;
+    case Place::Window:
+        setWindowModality(Qt::NonModal);
+        show();
+        raise();
+        activateWindow();
+        return;
+    }
+}
+
+void PanelDialog::openAsSheet()
+{
+    if (!m_windowClosable) {
+        open();
+        return;
+    }
+    // Qt lets no close event through to a window that a modal dialog blocks.
+    blockContents(true);
+    setWindowModality(Qt::NonModal);
+    show();
+    raise();
+    activateWindow();
+}
+
+void PanelDialog::blockContents(bool block)
+{
+    const auto *window = qobject_cast<QMainWindow *>(parentWidget());
+    if (!m_windowClosable || !window || window->centralWidget()->isEnabled() != block) return;
+    if (block) m_focusBefore = window->focusWidget();
+    window->centralWidget()->setEnabled(!block);
+    if (!block && m_focusBefore) m_focusBefore->setFocus();
+}
+
+void PanelDialog::reject() { Q_EMIT closeRequested(); }
+
+void PanelDialog::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    if (event->spontaneous()) return;
+    for (auto *button : findChildren<QPushButton *>())
+        if (button->isDefault()) button->setFocus();
+    Q_EMIT visibilityChanged(true);
+}
+
+void PanelDialog::hideEvent(QHideEvent *event)
+{
+    QDialog::hideEvent(event);
+    if (!event->spontaneous()) Q_EMIT visibilityChanged(false);
+}
+
+} // namespace ui

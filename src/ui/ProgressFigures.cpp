@@ -1,0 +1,83 @@
+#include "ui/ProgressFigures.h"
+
+#include "app/RunState.h"
+#include "ui/Appearance.h"
+#include "ui_ProgressPanel01.h"
+
+#include <QHeaderView>
+#include <QLocale>
+#include <QTime>
+
+using namespace std::chrono_literals;
+
+namespace ui {
+namespace {
+
+QString dataSize(double bytes)
+{
+    return QLocale().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeSIFormat);
+}
+
+QString clock(std::chrono::milliseconds time)
+{
+    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(time).count();
+    const QChar zero = u'0';
+    return u"%1:%2:%3"_qs.arg(seconds / 3600)
+        .arg(seconds / 60 % 60, 2, 10, zero)
+        .arg(seconds % 60, 2, 10, zero);
+}
+
+void setCell(QTreeWidgetItem &row, int column, const QString &text)
+{
+    if (row.text(column) == text) return;
+    row.setText(column, text);
+    row.setToolTip(column, plainToolTip(text));
+}
+
+} // namespace
+
+ProgressFigures::ProgressFigures(const RunState &run, Ui::ProgressPanel01 &form) : m_run(run), m_form(form)
+{
+    form.itemsRunning->setHeaderLabels({tr("Being worked on"), tr("Stage")});
+    QHeaderView &header = *form.itemsRunning->header();
+    header.setStretchLastSection(false);
+    header.setSectionResizeMode(0, QHeaderView::Stretch);
+    header.setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    m_timer.setInterval(200ms);
+    connect(&m_timer, &QTimer::timeout, this, &ProgressFigures::update);
+}
+
+void ProgressFigures::setRunning(bool running)
+{
+    if (!running) {
+        m_timer.stop();
+        return;
+    }
+    update();
+    m_timer.start();
+}
+
+void ProgressFigures::update()
+{
+    m_form.itemsDone->setText(tr("%1 of %2 items").arg(m_run.foldersDone()).arg(m_run.foldersToDo()));
+    m_form.bytesDone->setText(tr("%1 of %2").arg(dataSize(m_run.sizeDone()), dataSize(m_run.sizeToDo())));
+    m_form.elapsed->setText(tr("Time: %1").arg(clock(m_run.elapsed())));
+    updateItems();
+}
+
+// Rows are changed in place: a list that is made anew five times a second could not be scrolled.
+void ProgressFigures::updateItems()
+{
+    QTreeWidget &list = *m_form.itemsRunning;
+    const QList<RunState::Item> items = m_run.itemsRunning();
+    while (list.topLevelItemCount() > items.size())
+        delete list.takeTopLevelItem(list.topLevelItemCount() - 1);
+    while (list.topLevelItemCount() < items.size())
+        new QTreeWidgetItem(&list);
+    for (int row = 0; row < items.size(); ++row) {
+        setCell(*list.topLevelItem(row), 0, items[row].path);
+        setCell(*list.topLevelItem(row), 1, items[row].stage);
+    }
+}
+
+} // namespace ui

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "ui/RefreshQueue.h"
+
+#include <QWidget>
+
+namespace ui {
+
+/// Ties an outlet and the widget that shows it, by their classes. Says whether there is a way to do so.
+[[nodiscard]] bool tie(RefreshQueue &queue, outlets::Outlet &outlet, QWidget &widget);
+
+} // namespace ui

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "ui/OutletTableView.h"
+
+namespace ui {
+
+/// The registered tools; their state in words beside a coloured sign.
+class ToolTableModel : public OutletTableModel {
+    Q_OBJECT
+
+public:
+    explicit ToolTableModel(QObject *parent = nullptr);
+
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+};
+
+/// Shows the tools, with a button in each row that asks for another file.
+class ToolTableView : public OutletTableView {
+    Q_OBJECT
+
+public:
+    explicit ToolTableView(QWidget *parent = nullptr);
+
+Q_SIGNALS:
+    /// The row is selected already.
+    void chooseRequested();
+
+private:
+    void updateButtons();
+};
+
+} // namespace ui

@@ -1,0 +1,133 @@
+#include "ui/Window.h"
+
+#include "app/QuillorentAppDelegate.h"
+#include "ui/Actions.h"
+#include "ui/Binding.h"
+#include "ui/OpenPanelDialog.h"
+#include "ui/PanelDialog.h"
+#include "ui/Panels.h"
+#include "ui/Protection.h"
+#include "ui_MainWindow.h"
+
+#include <QCloseEvent>
+#include <QLocale>
+#include <QShortcut>
+#include <QStandardItemModel>
+
+namespace ui {
+namespace {
+
+QString volumeHint(const QString &size)
+{
+    bool isNumber = false;
+    const qint64 thousands = size.toLongLong(&isNumber);
+    if (!isNumber || thousands <= 0) return Window::tr("not a size");
+    if (thousands > std::numeric_limits<qint64>::max() / 1000) return {};
+    return u"= "_qs + QLocale().formattedDataSize(thousands * 1000, 1, QLocale::DataSizeSIFormat);
+}
+
+} // namespace
+
+Window::Window(QuillorentAppDelegate &controller)
+    : m_controller(controller), m_form(std::make_unique<Ui::MainWindow>())
+{
+    m_form->setupUi(this);
+    finishForm();
+    m_panels = std::make_unique<Panels>(controller, *this);
+    m_binding = std::make_unique<Binding>(controller.outlets(), roots());
+    connectActions(controller, *this, roots());
+    deriveFromOutlets();
+    addShortcuts();
+    controller.openPanel = [this](const outlets::OpenPanel &panel) { return askForPaths(panel, this); };
+}
+
+Window::~Window()
+{
+    m_controller.openPanel = [](const outlets::OpenPanel &) { return std::nullopt; };
+}
+
+QList<QWidget *> Window::roots() { return QList<QWidget *>{this} + m_panels->all(); }
+
+// What a form can't say.
+void Window::finishForm()
+{
+    m_form->prefStepper01->setRange(1, 10'000'000, 1000);
+    m_form->prefStepper01->listenTo(*m_form->prefText01);
+
+    // The source is kept in profiles and so has its place among the choices; this version can't fetch from
+    // it.
+    auto *sources = qobject_cast<QStandardItemModel *>(m_form->passCombo01->model());
+    sources->item(PasswordTab::KeychainPassword)->setEnabled(false);
+
+    QFont bold = m_form->currentProfileTextView->font();
+    bold.setBold(true);
+    m_form->currentProfileTextView->setFont(bold);
+    m_form->outputText01->setMinimumHeight(m_form->outputText01->fontMetrics().height());
+}
+
+void Window::deriveFromOutlets()
+{
+    QuillorentAppDelegate &all = m_controller;
+    RefreshQueue &queue = m_binding->queue();
+    queue.watch({&all.passCombo01, &all.checkBox01, &all.secureText01a, &all.secureText01b, &all.certFile01},
+                [this] { m_form->protectionText->setText(protectionText(m_controller)); });
+    queue.watch(all.checkBox01, [this] {
+        m_form->typedLabel->setBuddy(m_controller.checkBox01.isOn() ? m_form->secureText01a
+                                                                    : m_form->secureText01b);
+    });
+    queue.watch(all.listTableView, [this] {
+        m_form->folderButton02->setEnabled(!m_controller.listTableView.selectedRows().isEmpty());
+    });
+    queue.watch(all.prefText01,
+                [this] { m_form->volumeHint->setText(volumeHint(m_controller.prefText01.text())); });
+    queue.watch(all.checkBox04, [this] {
+        for (QWidget *widget : std::initializer_list<QWidget *>{m_form->prefText01, m_form->prefStepper01,
+                                                                m_form->volumeUnit, m_form->volumeHint})
+            widget->setEnabled(m_controller.checkBox04.isOn());
+    });
+}
+
+void Window::addShortcuts()
+{
+    for (QWidget *root : roots()) {
+        auto *quit = new QShortcut(QKeySequence::Quit, root);
+        connect(quit, &QShortcut::activated, this, &QWidget::close);
+    }
+}
+
+void Window::closeEvent(QCloseEvent *event)
+{
+    if (m_controller.isRunActive() && !m_mayStop) {
+        event->ignore();
+        askToStop();
+        return;
+    }
+    event->accept();
+    Q_EMIT closed();
+}
+
+void Window::askToStop()
+{
+    if (m_question) return;
+    QWidget *over = m_panels->progress().isVisible() ? static_cast<QWidget *>(&m_panels->progress()) : this;
+    auto *question = new QMessageBox(QMessageBox::Question, tr("Backup in progress"),
+                                     tr("A backup is running."), QMessageBox::NoButton, over);
+    question->setInformativeText(
+        tr("Quitting stops it: archives that are finished stay, those being made are not "
+           "completed."));
+    QPushButton *stop = question->addButton(tr("&Stop and quit"), QMessageBox::DestructiveRole);
+    QPushButton *keep = question->addButton(tr("&Keep running"), QMessageBox::RejectRole);
+    question->setDefaultButton(keep);
+    question->setEscapeButton(keep);
+    question->setAttribute(Qt::WA_DeleteOnClose);
+    connect(stop, &QAbstractButton::clicked, this, [this] {
+        m_mayStop = true;
+        close();
+    });
+    // The question goes with the sheet: then the run is over, or cancelled.
+    connect(&m_panels->progress(), &PanelDialog::visibilityChanged, question, &QDialog::reject);
+    m_question = question;
+    question->open();
+}
+
+} // namespace ui

@@ -1,0 +1,129 @@
+#include "TestWindow.h"
+
+#include "ui/PanelDialog.h"
+#include "ui/RefreshQueue.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QStackedWidget>
+#include <thread>
+
+namespace {
+
+class BindingTest : public WindowTest {};
+
+/// Outlets of features that the window does not show yet. One that gains a widget leaves this list.
+const QSet<QString> outletsOfLater{u"updatesCheck01"_qs,     u"extractTableView"_qs, u"extractPath"_qs,
+                                   u"decryptionCombo01"_qs,  u"syncTableView"_qs,    u"syncSelector01"_qs,
+                                   u"syncTextSourcePath"_qs, u"syncTextDestPath"_qs, u"checkBoxSync1"_qs,
+                                   u"checkBoxSync2"_qs,      u"syncCheck01"_qs,      u"syncView"_qs,
+                                   u"syncUser"_qs,           u"syncServer"_qs,       u"syncPort"_qs,
+                                   u"keychainUser"_qs,       u"keychainPass"_qs,     u"keychainClear"_qs,
+                                   u"pkFile01"_qs,           u"prefSelector01"_qs,   u"prefCheck02"_qs};
+
+template <class Work>
+void onAnotherThread(Work work)
+{
+    std::thread(work).join();
+}
+
+} // namespace
+
+TEST_F(BindingTest, EveryOutletHasOneWidget)
+{
+    QStringList wrong;
+    for (const outlets::Outlet *outlet : delegate.outlets()) {
+        const auto widgets = ui::widgetsNamed(outlet->name(), window.roots()).size();
+        if (widgets != (outletsOfLater.contains(outlet->name()) ? 0 : 1)) wrong.append(outlet->name());
+    }
+    EXPECT_EQ(wrong.join(u' ').toStdString(), "");
+}
+
+TEST_F(BindingTest, ManyChangesAreShownOnceAndByTheLastValue)
+{
+    outlets::Registry registry;
+    outlets::TextField field(registry, u"field"_qs);
+    QStringList shown;
+    {
+        ui::RefreshQueue queue;
+        queue.watch(field, [&] { shown.append(field.text()); });
+        onAnotherThread([&] {
+            for (int number = 1; number <= 1000; ++number)
+                field.setText(QString::number(number));
+        });
+        settle();
+        EXPECT_EQ(shown, (QStringList{QString(), u"1000"_qs}));
+        field.setText(u"queued when the window goes"_qs);
+    }
+    field.setText(u"later still"_qs);
+    settle();
+    EXPECT_EQ(shown.size(), 2);
+}
+
+TEST_F(BindingTest, ChangesOfOtherThreadsShow)
+{
+    onAnotherThread([this] {
+        delegate.outputText01.setText(u"<b>done</b>"_qs);
+        delegate.checkBox05.setOn(false);
+        delegate.profileCombo01.setTitles({u"one"_qs, u"two"_qs});
+        delegate.profileCombo01.selectTitle(u"two"_qs);
+        delegate.passTabs.selectIndex(2);
+        delegate.secureText01b.setHidden(false);
+        delegate.view01progressIndicator01.setMaximum(8e12);
+        delegate.view01progressIndicator01.setValue(6e12);
+        delegate.consoleTextView01.setText(u"first\n"_qs);
+    });
+    settle();
+    onAnotherThread([this] { delegate.consoleTextView01.append(u"second"_qs); });
+    settle();
+
+    const auto &label = widget<QLabel>(u"outputText01"_qs);
+    EXPECT_EQ(label.text(), u"<b>done</b>"_qs);
+    EXPECT_EQ(label.textFormat(), Qt::PlainText);
+    EXPECT_FALSE(widget<QCheckBox>(u"checkBox05"_qs).isChecked());
+    EXPECT_EQ(widget<QComboBox>(u"profileCombo01"_qs).currentText(), u"two"_qs);
+    EXPECT_EQ(widget<QStackedWidget>(u"passTabs"_qs).currentIndex(), 2);
+    EXPECT_FALSE(widget(u"secureText01b"_qs).isHidden());
+    const auto &bar = widget<QProgressBar>(u"view01progressIndicator01"_qs);
+    EXPECT_EQ(bar.value() * 4, bar.maximum() * 3);
+    EXPECT_EQ(widget<QPlainTextEdit>(u"consoleTextView01"_qs).toPlainText(), u"first\nsecond"_qs);
+}
+
+TEST_F(BindingTest, TypingWritesTheOutletAndKeepsTheCursor)
+{
+    auto &edit = widget<QLineEdit>(u"prefText01"_qs);
+    delegate.prefText01.setText(u"1234"_qs);
+    settle();
+    edit.setCursorPosition(2);
+    QTest::keyClicks(&edit, u"56"_qs);
+    settle();
+    EXPECT_EQ(delegate.prefText01.text(), u"125634"_qs);
+    EXPECT_EQ(edit.cursorPosition(), 4);
+}
+
+TEST_F(BindingTest, EscapeAsksThePanelsClosingAction)
+{
+    struct Case {
+        outlets::Panel &panel;
+        bool asSheet;
+    };
+    for (const auto &[panel, asSheet] :
+         {Case{delegate.warningPanel01, true}, Case{delegate.warningPanel03, true},
+          Case{delegate.consolePanel01, false}}) {
+        SCOPED_TRACE(panel.name().toStdString());
+        asSheet ? panel.beginSheet() : panel.orderFront();
+        settle();
+        auto &dialog = widget<ui::PanelDialog>(panel.name());
+        ASSERT_TRUE(dialog.isVisible());
+        EXPECT_EQ(dialog.windowModality(), asSheet ? Qt::WindowModal : Qt::NonModal);
+
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        settle();
+        EXPECT_EQ(panel.place(), outlets::Panel::Place::Hidden);
+        EXPECT_FALSE(dialog.isVisible());
+    }
+}

@@ -1,0 +1,121 @@
+#include "TestWindow.h"
+
+#include "ui/LevelBar.h"
+#include "ui/ToolTable.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <semaphore>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+class TableTest : public WindowTest {
+protected:
+    ui::ToolTableView &tools() { return widget<ui::ToolTableView>(u"pathTableView"_qs); }
+
+    QString status(int row)
+    {
+        return tools().outletModel().index(row, tools().outletModel().columnOf(u"c30"_qs)).data().toString();
+    }
+};
+
+/// Two rows, whose slow cells come one by one when the test lets them.
+class SlowSource : public outlets::TableDataSource {
+public:
+    int numberOfRows() const override { return 2; }
+    QVariant objectValue(const QString &column, int row) const override
+    {
+        if (!isSlow(column)) return u"quick %1"_qs.arg(row);
+        ++asked;
+        letGo.acquire();
+        return u"slow %1 of %2"_qs.arg(row).arg(edition.load());
+    }
+    void setObjectValue(const QVariant &, const QString &, int) override {}
+    bool isEditable(const QString &) const override { return false; }
+    bool isSlow(const QString &column) const override { return column == u"slow"; }
+
+    mutable std::counting_semaphore<> letGo{0};
+    mutable std::atomic<int> asked = 0;
+    std::atomic<int> edition = 1;
+};
+
+std::unique_ptr<ui::OutletTableModel> makeModel(SlowSource &source)
+{
+    auto model = std::make_unique<ui::OutletTableModel>(
+        QList<ui::OutletTableModel::Column>{{u"quick"_qs, {}}, {u"slow"_qs, {}}});
+    model->setSource(&source);
+    return model;
+}
+
+} // namespace
+
+TEST_F(TableTest, SlowCellsComeLaterAndOnlyThoseOfTheLastReload)
+{
+    SlowSource source;
+    const auto model = makeModel(source);
+    EXPECT_EQ(model->cell(1, u"quick"_qs), u"quick 1"_qs);
+    EXPECT_FALSE(model->cell(0, u"slow"_qs).isValid());
+
+    // The cell that is being fetched is of an older reload by the time that it comes.
+    ASSERT_TRUE(waitUntil([&] { return source.asked == 1; }));
+    source.letGo.release();
+    ASSERT_TRUE(waitUntil([&] { return source.asked == 2; }));
+    model->reload();
+    source.letGo.release();
+    ASSERT_TRUE(waitUntil([&] { return source.asked == 3; }));
+    settle();
+    EXPECT_FALSE(model->cell(1, u"slow"_qs).isValid());
+
+    source.edition = 2;
+    source.letGo.release(2);
+    EXPECT_TRUE(waitUntil([&] { return model->cell(1, u"slow"_qs) == u"slow 1 of 2"_qs; }));
+    EXPECT_EQ(model->cell(0, u"slow"_qs), u"slow 0 of 2"_qs);
+}
+
+TEST_F(TableTest, ATableMayGoWhileACellIsFetched)
+{
+    SlowSource source;
+    auto model = makeModel(source);
+    ASSERT_TRUE(waitUntil([&] { return source.asked == 1; }));
+    model.reset();
+    source.letGo.release(2);
+    EXPECT_TRUE(waitForThreads(10s));
+    EXPECT_EQ(source.asked, 1);
+}
+
+TEST_F(TableTest, ToolsAreJudgedInWords)
+{
+    ASSERT_EQ(tools().outletModel().rowCount(), 3);
+    EXPECT_TRUE(waitUntil([&] { return status(0) == u"right tool" && status(2) == u"right tool"; }));
+    EXPECT_EQ(widget<ui::LevelBar>(u"level01"_qs).text(), u"3 of 3 tools are in order"_qs);
+
+    delegate.openPanel = [](const outlets::OpenPanel &) { return QStringList{u"/usr/bin/true"_qs}; };
+    showTab(u"toolsPage"_qs);
+    const QModelIndex place = tools().outletModel().index(1, tools().outletModel().columnOf(u"c40"_qs));
+    QTest::mouseClick(tools().indexWidget(place), Qt::LeftButton);
+    EXPECT_TRUE(waitUntil([&] { return status(1) == u"not usable"; }));
+    EXPECT_EQ(delegate.setting(u"external"_qs, u"OpenSSL"_qs), u"/usr/bin/true"_qs);
+    EXPECT_TRUE(waitUntil([&] { return widget<ui::LevelBar>(u"level01"_qs).text().startsWith(u'2'); }));
+}
+
+TEST_F(TableTest, AReloadLeavesTypingAlone)
+{
+    showTab(u"toolsPage"_qs);
+    const QModelIndex path = tools().outletModel().index(0, tools().outletModel().columnOf(u"c20"_qs));
+    tools().setCurrentIndex(path);
+    tools().edit(path);
+    auto *editor = tools().findChild<QLineEdit *>();
+    ASSERT_TRUE(editor);
+    editor->clear();
+    QTest::keyClicks(editor, u"/opt/ra"_qs);
+    delegate.pathTableView.reloadData();
+    settle();
+    ASSERT_EQ(tools().findChild<QLineEdit *>(), editor);
+    QTest::keyClicks(editor, u"r"_qs);
+    QTest::keyClick(editor, Qt::Key_Return);
+    settle();
+    EXPECT_EQ(delegate.setting(u"external"_qs, u"RAR"_qs), u"/opt/rar"_qs);
+    EXPECT_EQ(path.data().toString(), u"/opt/rar"_qs);
+}

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "TestProgram.h"
+
+#include "tools/Threads.h"
+#include "ui/Binding.h"
+#include "ui/Window.h"
+
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+inline void PrintTo(const QString &text, std::ostream *stream)
+{
+    *stream << '"' << text.toStdString() << '"';
+}
+
+/// The program with its window, started up.
+class WindowTest : public testing::Test {
+protected:
+    WindowTest()
+    {
+        program.closesWarnings = false;
+        window.show();
+        program.start();
+        settle();
+        // The table of tools has started them; a test that exchanges one must not have the new one looked at.
+        if (!waitForThreads(std::chrono::seconds(60))) qFatal("a tool does not end");
+        settle();
+    }
+
+    /// Everything that is due on the main thread has happened.
+    static void settle()
+    {
+        for (int round = 0; round < 5; ++round)
+            QCoreApplication::processEvents();
+    }
+
+    static bool waitUntil(const std::function<bool()> &condition)
+    {
+        return TestProgram::waitUntil(condition);
+    }
+
+    /// The one widget of that name, which must be of that class.
+    template <class W = QWidget>
+    W &widget(const QString &name)
+    {
+        const QList<QWidget *> found = ui::widgetsNamed(name, window.roots());
+        auto *wanted = found.size() == 1 ? dynamic_cast<W *>(found.first()) : nullptr;
+        if (!wanted) qFatal("no widget %s", qUtf8Printable(name));
+        return *wanted;
+    }
+
+    void click(const QString &name)
+    {
+        // Near its beginning: a check box listens on its sign and words only.
+        QWidget &control = widget(name);
+        QTest::mouseClick(&control, Qt::LeftButton, {}, QPoint(10, control.height() / 2));
+        settle();
+    }
+
+    void showTab(const QString &page)
+    {
+        widget<QTabWidget>(u"mainTabs"_qs).setCurrentWidget(&widget(page));
+        settle();
+    }
+
+    /// Clicks a button whose action waits for a panel; `answer` is given once the panel is there.
+    void clickAndAnswer(const QString &button, const QString &panel, const std::function<void()> &answer)
+    {
+        bool answered = false;
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+            if (answered || !widget(panel).isVisible()) return;
+            answered = true;
+            answer();
+        });
+        timer.start(5);
+        click(button);
+        EXPECT_TRUE(waitUntil([&] { return answered; })) << panel.toStdString() << " did not appear";
+        settle();
+    }
+
+    TestProgram program;
+    QuillorentAppDelegate &delegate = program.delegate();
+    ui::Window window{delegate};
+};
