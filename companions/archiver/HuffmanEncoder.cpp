@@ -136,9 +136,9 @@ Tables planTables(std::span<const std::uint8_t> literalLengths, std::size_t plai
 
 unsigned usedBitsOfLastByte(std::size_t bits) { return bits % 8 == 0 ? 8 : static_cast<unsigned>(bits % 8); }
 
-/// Tables with which the last block, of `dataBits`, leaves as much of its last byte unused as can be had: at the
-/// end of the data some readers look further ahead than the last symbol is long, and take it for a cut archive
-/// when there is nothing.
+/// Tables with which the last block, of `dataBits`, leaves as much of its last byte unused as can be had: at
+/// the end of the data some readers look further ahead than the last symbol is long, and take it for a cut
+/// archive when there is nothing.
 Tables planLastTables(std::span<const std::uint8_t> literalLengths, std::size_t dataBits)
 {
     constexpr std::size_t mostPlainZeros = 64;

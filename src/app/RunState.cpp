@@ -18,7 +18,7 @@ void write(std::mutex &mutex, T &member, T value)
     member = std::move(value);
 }
 
-auto findItem(QList<RunState::Item> &items, const QString &path)
+auto findItem(std::vector<RunState::Item> &items, const QString &path)
 {
     return std::find_if(items.begin(), items.end(),
                         [&](const RunState::Item &item) { return item.path == path; });
@@ -30,7 +30,7 @@ double RunState::foldersToDo() const { return read(m_mutex, m_foldersToDo); }
 double RunState::foldersDone() const { return read(m_mutex, m_foldersDone); }
 double RunState::sizeToDo() const { return read(m_mutex, m_sizeToDo); }
 double RunState::sizeDone() const { return read(m_mutex, m_sizeDone); }
-QList<RunState::Item> RunState::itemsRunning() const { return read(m_mutex, m_running); }
+std::vector<RunState::Item> RunState::itemsRunning() const { return read(m_mutex, m_running); }
 bool RunState::cancelFlag() const { return read(m_mutex, m_cancelFlag); }
 bool RunState::isRunActive() const { return read(m_mutex, m_runActive); }
 
@@ -72,9 +72,9 @@ QStringList RunState::threadsRunning() const
 
 void RunState::setThreadsRunning(const QStringList &paths)
 {
-    QList<Item> items;
+    std::vector<Item> items;
     for (const QString &path : paths)
-        items.append({path, {}});
+        items.push_back({path, {}});
     write(m_mutex, m_running, items);
 }
 
@@ -95,7 +95,7 @@ double RunState::addDone(double bytes)
 void RunState::beginItem(const QString &path)
 {
     const std::lock_guard lock(m_mutex);
-    m_running.append({path, {}});
+    m_running.push_back({path, {}});
 }
 
 void RunState::setStage(const QString &path, const QString &stage)

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QList>
 #include <QString>
 #include <QStringList>
 #include <chrono>
 #include <mutex>
+#include <vector>
 
 /// How far a run is, who works for it, and the flag that ends it. One lock guards all of it; any thread may
 /// call.
@@ -16,12 +16,12 @@ public:
         QString stage;
     };
 
-    [[nodiscard]] double foldersToDo() const;         ///< entries counted for the run
-    [[nodiscard]] double foldersDone() const;         ///< entries finished successfully
-    [[nodiscard]] double sizeToDo() const;            ///< bytes counted for the run
-    [[nodiscard]] double sizeDone() const;            ///< bytes of the entries finished successfully
-    [[nodiscard]] QStringList threadsRunning() const; ///< paths of the items that workers are busy with
-    [[nodiscard]] QList<Item> itemsRunning() const;   ///< the same, with what is being done
+    [[nodiscard]] double foldersToDo() const;             ///< entries counted for the run
+    [[nodiscard]] double foldersDone() const;             ///< entries finished successfully
+    [[nodiscard]] double sizeToDo() const;                ///< bytes counted for the run
+    [[nodiscard]] double sizeDone() const;                ///< bytes of the entries finished successfully
+    [[nodiscard]] QStringList threadsRunning() const;     ///< paths of the items that workers are busy with
+    [[nodiscard]] std::vector<Item> itemsRunning() const; ///< the same, with what is being done
 
     /// Raised to end the run: by the user, by a worker that failed, by the last worker. Lowered when a run
     /// starts.
@@ -75,7 +75,8 @@ private:
     double m_foldersDone = 0;
     double m_sizeToDo = 0;
     double m_sizeDone = 0;
-    QList<Item> m_running;
+    // No QList: it asks without a barrier whether another thread still shares it, before it changes in place.
+    std::vector<Item> m_running;
     bool m_cancelFlag = false;
     QString m_failure;
     bool m_cancelledByUser = false;

@@ -143,7 +143,8 @@ QString BackupRun::summary() const
     const auto number = [&](double value) { return locale.toString(qint64(value)); };
     const QString count =
         u"%1 of %2"_qs.arg(number(m_delegate.foldersDone()), number(m_delegate.foldersToDo()));
-    const QString size = locale.formattedDataSize(qint64(m_delegate.sizeDone()));
+    const QString size =
+        locale.formattedDataSize(qint64(m_delegate.sizeDone()), 1, QLocale::DataSizeSIFormat);
 
     if (m_delegate.isCancelledByUser())
         return u"Cancelled. An archive that was not finished can't be used."_qs;

@@ -11,14 +11,15 @@ namespace {
 
 QString describe(const QuillorentAppDelegate &delegate)
 {
-    const QLocale locale;
+    const auto size = [](double bytes) {
+        return QLocale().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeSIFormat);
+    };
     QStringList running;
     for (const RunState::Item &item : delegate.itemsRunning())
         running.append(quillorentLibrary::lastPathComponent(item.path) + u' ' + item.stage);
     return u"%1 of %2 items, %3 of %4  %5"_qs.arg(
         QString::number(delegate.foldersDone()), QString::number(delegate.foldersToDo()),
-        locale.formattedDataSize(qint64(delegate.sizeDone())),
-        locale.formattedDataSize(qint64(delegate.sizeToDo())), running.join(u", "_qs));
+        size(delegate.sizeDone()), size(delegate.sizeToDo()), running.join(u", "_qs));
 }
 
 } // namespace

@@ -16,7 +16,7 @@ public:
     void append(const QString &text)
     {
         update([&] {
-            m_text += text;
+            m_text = m_text + text; // a copy: another thread may still read the old text
             return !text.isEmpty();
         });
     }

@@ -69,14 +69,15 @@ void ProgressFigures::update()
 void ProgressFigures::updateItems()
 {
     QTreeWidget &list = *m_form.itemsRunning;
-    const QList<RunState::Item> items = m_run.itemsRunning();
-    while (list.topLevelItemCount() > items.size())
+    const std::vector<RunState::Item> items = m_run.itemsRunning();
+    const int count = int(items.size());
+    while (list.topLevelItemCount() > count)
         delete list.takeTopLevelItem(list.topLevelItemCount() - 1);
-    while (list.topLevelItemCount() < items.size())
+    while (list.topLevelItemCount() < count)
         new QTreeWidgetItem(&list);
-    for (int row = 0; row < items.size(); ++row) {
-        setCell(*list.topLevelItem(row), 0, items[row].path);
-        setCell(*list.topLevelItem(row), 1, items[row].stage);
+    for (int row = 0; row < count; ++row) {
+        setCell(*list.topLevelItem(row), 0, items[size_t(row)].path);
+        setCell(*list.topLevelItem(row), 1, items[size_t(row)].stage);
     }
 }
 

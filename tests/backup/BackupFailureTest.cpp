@@ -124,14 +124,21 @@ TEST(BackupFailure, StopsTheOtherFolders)
 
 TEST(BackupCancel, EndsTheRunInEachStage)
 {
-    for (const std::string tool : {"rar", "openssl"}) {
-        SCOPED_TRACE(tool);
+    struct Case {
+        std::string tool;
+        std::string stageMark; ///< an argument that the tool gets in that stage alone
+        const char *left;      ///< what a person still has of the backup
+    };
+    for (const auto &[tool, stageMark, left] :
+         {Case{"rar", "-m0", "docs.rar.aes.rar"}, Case{"openssl", "-salt", "docs.rar.aes.rar"},
+          Case{"rar", "-m5", "docs.rar.aes"}}) {
+        SCOPED_TRACE(stageMark);
         StubbedBackup backup;
         backup.program.backUp();
         ASSERT_TRUE(backup.archiveExists("docs.rar.aes.rar"));
 
         const Stub &hanging = tool == "rar" ? backup.rar : backup.openssl;
-        hanging.behave("hang");
+        hanging.behave("hang-at " + stageMark + " " + libexec + "/" + tool);
         QuillorentAppDelegate &delegate = backup.program.delegate();
         delegate.buttonLaunch01b();
         const int process = hanging.processId();
@@ -143,7 +150,7 @@ TEST(BackupCancel, EndsTheRunInEachStage)
         EXPECT_TRUE(delegate.cancelFlag());
         EXPECT_EQ(toolsRunning(), 0);
         EXPECT_NE(kill(process, 0), 0) << "the tool is left running";
-        EXPECT_TRUE(backup.archiveExists("docs.rar.aes.rar")) << "the last backup is gone";
+        EXPECT_TRUE(backup.archiveExists(left));
 
         // The next run begins anew.
         hanging.behave("relay " + libexec + "/" + tool);

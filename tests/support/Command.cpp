@@ -92,7 +92,8 @@ CommandResult runCommand(const std::vector<std::string> &arguments, const Comman
     Pipe::closeEnd(output.write);
     Pipe::closeEnd(errors.write);
 
-    // A blocking write of more than the pipe holds would keep the program's output waiting, and so the program.
+    // A blocking write of more than the pipe holds would keep the program's output waiting, and so the
+    // program.
     fcntl(input.write, F_SETFL, O_NONBLOCK);
 
     // A program that does not read its input must not end the test.

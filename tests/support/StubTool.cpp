@@ -10,10 +10,12 @@
 //   arguments      prints its arguments, each between "[" and "]"
 //   terminal       says whether it could open a controlling terminal
 //   helper         leaves a process behind that writes "late" to its output a moment later
+//   hang-at WORD PROGRAM  hangs where the word is among its arguments, and becomes the program otherwise
 //   relay PROGRAM  its arguments, each followed by a zero byte, go at the end of "<program>.record", then it
 //   becomes the
 //                  program
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -49,41 +51,55 @@ void leaveHelper()
     std::fputs("late", stdout);
 }
 
+[[noreturn]] void become(const std::string &program, const std::string &recordFile, int argc, char **argv)
+{
+    record(recordFile, argc, argv);
+    argv[0] = const_cast<char *>(program.c_str());
+    execv(program.c_str(), argv);
+    _exit(127);
+}
+
+bool hasArgument(const std::string &word, int argc, char **argv)
+{
+    return std::find(argv + 1, argv + argc, word) != argv + argc;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     const std::string self = argv[0];
     std::ifstream file(self + ".behaviour", std::ios::binary);
-    std::string word;
-    file >> word;
-    file.ignore(1);
+    const auto nextWord = [&file] {
+        std::string word;
+        file >> word;
+        file.ignore(1);
+        return word;
+    };
+    const std::string behaviour = nextWord();
+    const std::string stopWord = behaviour == "hang-at" ? nextWord() : "";
     const std::string rest{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 
-    if (word == "print")
+    if (behaviour == "print")
         std::fputs(rest.c_str(), stdout);
-    else if (word == "complain")
+    else if (behaviour == "complain")
         std::fputs(rest.c_str(), stderr);
-    else if (word == "bad-bytes")
+    else if (behaviour == "bad-bytes")
         std::fputs("caf\xe9 \xff\xfe", stdout);
-    else if (word == "hang" && argc == 2 && argv[1] == std::string("-h"))
+    else if (behaviour == "hang" && argc == 2 && hasArgument("-h", argc, argv))
         std::fputs(rest.c_str(), stdout);
-    else if (word == "hang")
+    else if (behaviour == "hang" || (behaviour == "hang-at" && hasArgument(stopWord, argc, argv)))
         hang(self + ".pid");
-    else if (word == "crash")
+    else if (behaviour == "crash")
         raise(SIGKILL);
-    else if (word == "arguments")
+    else if (behaviour == "arguments")
         for (int i = 1; i < argc; ++i)
             std::printf("[%s]", argv[i]);
-    else if (word == "terminal")
+    else if (behaviour == "terminal")
         std::fputs(open("/dev/tty", O_RDWR) < 0 ? "none" : "open", stdout);
-    else if (word == "helper")
+    else if (behaviour == "helper")
         leaveHelper();
-    else if (word == "relay") {
-        record(self + ".record", argc, argv);
-        argv[0] = const_cast<char *>(rest.c_str());
-        execv(rest.c_str(), argv);
-        return 127;
-    }
+    else if (behaviour == "relay" || behaviour == "hang-at")
+        become(rest, self + ".record", argc, argv);
     return 0;
 }

@@ -1,4 +1,5 @@
 #include "ArchiveWriter.h"
+#include "Commands.h"
 #include "Rar.h"
 #include "TemporaryFolder.h"
 #include "Tree.h"
@@ -114,6 +115,34 @@ TEST(CommandLine, missingSourcesLeaveNoArchiveAndTheOldOneInPlace)
     const CommandResult nowhere = rar({"a", temporary / "no folder/a.rar", temporary / "there"});
     EXPECT_NE(nowhere.status, 0);
     EXPECT_NE(nowhere.errors.find("No such file or directory"), std::string::npos);
+}
+
+// In a process of its own, which stops being root where it was: root can read every file.
+TEST(CommandLineDeathTest, everyUnreadableFileIsNamed)
+{
+    TemporaryFolder temporary;
+    for (const char *name : {"letter", "secret", "hidden/deeper"})
+        writeFile(temporary / "source" / name, name);
+    fs::permissions(temporary / "source/secret", fs::perms::none);
+    fs::permissions(temporary / "source/hidden", fs::perms::none);
+    fs::permissions(temporary.path(), fs::perms::all);
+    fs::permissions(temporary / "source", fs::perms::all);
+
+    const auto archiveAsNobody = [&] {
+        constexpr unsigned nobody = 65534;
+        if (getuid() == 0 && setresuid(nobody, nobody, nobody) != 0) _exit(1);
+        archiver::Arguments arguments;
+        arguments.command = archiver::Arguments::Command::Add;
+        arguments.archive = temporary / "a.rar";
+        arguments.names = {temporary / "source"};
+        archiver::Diagnostics diagnostics;
+        archiver::runCommand(arguments, diagnostics);
+        _exit(diagnostics.silent() ? 0 : 3);
+    };
+    EXPECT_EXIT(
+        archiveAsNobody(), testing::ExitedWithCode(3),
+        "Cannot open .*source/hidden: Permission denied\n\nCannot open .*source/secret: Permission denied");
+    EXPECT_FALSE(fs::exists(temporary / "a.rar")) << "an archive without them looks like a whole one";
 }
 
 TEST(CommandLine, noConfigurationIsRead)
