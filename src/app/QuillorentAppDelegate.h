@@ -58,9 +58,10 @@ public:
 
     // Start-up and quitting
     void applicationDidFinishLaunching();
-    void
-    applicationWillTerminate(); ///< saves where the settings say so, then endRuns(); takes a second or two
-    void endRuns();             ///< cancels for good and returns when no thread and no tool is left
+    /// Saves where the settings say so, then endRuns(); takes a second or two.
+    void applicationWillTerminate();
+    /// Cancels for good and returns when no thread and no tool is left.
+    void endRuns();
 
     // Profiles and settings
     QString loadProfiles(); ///< the profile to open; none (a null string) where there is no profile

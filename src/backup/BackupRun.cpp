@@ -147,7 +147,7 @@ QString BackupRun::summary() const
         locale.formattedDataSize(qint64(m_delegate.sizeDone()), 1, QLocale::DataSizeSIFormat);
 
     if (m_delegate.isCancelledByUser())
-        return u"Cancelled. An archive that was not finished can't be used."_qs;
+        return u"Cancelled. Files left in the destination may not be encrypted: back up again, or remove them."_qs;
     if (!m_delegate.failure().isEmpty()) return u"Failed: "_qs + m_delegate.failure();
     if (!m_missing.isEmpty())
         return u"Backed up %1 (%2). Not found: %3"_qs.arg(count, size, m_missing.join(u", "_qs));

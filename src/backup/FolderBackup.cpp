@@ -25,6 +25,8 @@ private:
     void succeed();
     void fail();
 
+    [[nodiscard]] QString whatIsLeftInClear() const;
+
     [[nodiscard]] bool isCancelled() const { return m_delegate.cancelFlag(); }
     [[nodiscard]] bool goesOn() const { return !isCancelled() && m_succeeded; }
     void removeIfGoingOn(const QString &path) const;
@@ -159,11 +161,19 @@ void FolderBackup::succeed()
     // The log of a success is not shown: the console is for failures.
 }
 
+// What a failed stage leaves stays, so that nothing is lost; but who wanted it encrypted must know.
+QString FolderBackup::whatIsLeftInClear() const
+{
+    if (!QFile::exists(m_storedArchive)) return {};
+    return u"\n\"%1\" is left and is not encrypted: run the backup again, or remove it."_qs.arg(
+        m_storedArchive);
+}
+
 void FolderBackup::fail()
 {
     m_log += u"\n *** ERROR! *** "_qs + m_source;
     m_delegate.consoleTextView01.append(m_log);
-    m_delegate.setFailure(m_source, m_reason);
+    m_delegate.setFailure(m_source, m_reason + whatIsLeftInClear());
     m_delegate.setCancelFlag(true);
 }
 

@@ -75,6 +75,8 @@ TEST(BackupFailure, PutsTheStageLogOnTheConsole)
             << qPrintable(backup.program.delegate().outputText01.text());
         EXPECT_EQ(backup.program.delegate().foldersDone(), 0);
         EXPECT_FALSE(backup.archiveExists("docs.rar.aes.rar"));
+        EXPECT_EQ(backup.program.delegate().outputText01.text().contains(u"not encrypted"_qs),
+                  backup.archiveExists("docs.rar"));
     }
 }
 
