@@ -2,8 +2,6 @@
 
 namespace plist {
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 // Far above what any tag of a property list needs: the longest is the document type.
@@ -70,7 +68,7 @@ std::optional<Refusal> forbiddenCharacter(QStringView text)
         if (isPair)
             ++index;
         else if (isControl || unit.isSurrogate() || unit >= QChar(0xFFFE))
-            return Refusal{index, u"U+%1, which XML can't carry"_s.arg(hexadecimal(unit))};
+            return Refusal{index, u"U+%1, which XML can't carry"_qs.arg(hexadecimal(unit))};
     }
     return std::nullopt;
 }
@@ -78,16 +76,16 @@ std::optional<Refusal> forbiddenCharacter(QStringView text)
 std::optional<Refusal> refusedMarkup(QStringView document)
 {
     if (const auto forbidden = forbiddenCharacter(document))
-        return Refusal{forbidden->index, u"it holds "_s + forbidden->reason};
+        return Refusal{forbidden->index, u"it holds "_qs + forbidden->reason};
 
     qsizetype index = document.indexOf(u'<');
     while (index >= 0) {
         const qsizetype end = pastMarkup(document, index);
         const QStringView markup = document.sliced(index, end - index);
         if (isTag(markup) && isDeclaration(markup))
-            return Refusal{index, u"declarations within the document are not supported"_s};
+            return Refusal{index, u"declarations within the document are not supported"_qs};
         if (isTag(markup) && markup.size() > maximumTagLength)
-            return Refusal{index, u"it holds a tag of more than %1 characters"_s.arg(maximumTagLength)};
+            return Refusal{index, u"it holds a tag of more than %1 characters"_qs.arg(maximumTagLength)};
         index = document.indexOf(u'<', end);
     }
     return std::nullopt;

@@ -6,8 +6,6 @@
 
 namespace plist {
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 // As many as the Linux kernel follows before it calls them a loop.
@@ -28,9 +26,9 @@ std::optional<QString> targetOf(const QString &path)
 QString replacePrivateFile(const QString &path, const QByteArray &content)
 {
     const auto target = targetOf(path);
-    if (!target) return u"%1: it can't be written: its links lead in a circle"_s.arg(path);
+    if (!target) return u"%1: it can't be written: its links lead in a circle"_qs.arg(path);
     QSaveFile file(*target);
-    const auto failure = [&] { return u"%1: it can't be written: %2"_s.arg(path, file.errorString()); };
+    const auto failure = [&] { return u"%1: it can't be written: %2"_qs.arg(path, file.errorString()); };
 
     if (!file.open(QIODevice::WriteOnly)) return failure();
     // Before anything is in it: a new file would have the process's mode, a replaced one that of the old.

@@ -11,8 +11,6 @@
 
 namespace plist {
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 /// One pass over one document. After the first refusal nothing more is read, and all that was read is
@@ -57,16 +55,16 @@ Dictionary Reader::readDocument()
 {
     if (!toNextTag()) return {};
     if (m_xml.qualifiedName() != u"plist")
-        return refuse(u"the root element is <%1>, not <plist>"_s.arg(m_xml.qualifiedName())).dictionary();
+        return refuse(u"the root element is <%1>, not <plist>"_qs.arg(m_xml.qualifiedName())).dictionary();
     checkAttributes();
 
     if (!toNextTag()) return {};
-    if (m_xml.isEndElement()) return refuse(u"the list is empty"_s).dictionary();
+    if (m_xml.isEndElement()) return refuse(u"the list is empty"_qs).dictionary();
     if (m_xml.qualifiedName() != u"dict")
-        return refuse(u"the root is <%1>, not a dictionary"_s.arg(m_xml.qualifiedName())).dictionary();
+        return refuse(u"the root is <%1>, not a dictionary"_qs.arg(m_xml.qualifiedName())).dictionary();
     const Dictionary root = readValue(1).dictionary();
 
-    if (toNextTag() && m_xml.isStartElement()) refuse(u"something follows the root dictionary"_s);
+    if (toNextTag() && m_xml.isStartElement()) refuse(u"something follows the root dictionary"_qs);
     while (toNextTag())
         ;
     return m_xml.hasError() ? Dictionary{} : root;
@@ -87,10 +85,10 @@ bool Reader::toNextTag()
             checkDocumentType();
             break;
         case QXmlStreamReader::Characters:
-            if (!m_xml.isWhitespace()) refuse(u"there is text between the elements"_s);
+            if (!m_xml.isWhitespace()) refuse(u"there is text between the elements"_qs);
             break;
         case QXmlStreamReader::EntityReference:
-            refuse(u"entities are not supported"_s);
+            refuse(u"entities are not supported"_qs);
             break;
         default:
             break; // comments and processing instructions say nothing about the values
@@ -102,14 +100,14 @@ bool Reader::toNextTag()
 void Reader::checkEncoding()
 {
     const QString encoding = m_xml.documentEncoding().toString();
-    const QStringList readable{u""_s, u"UTF-8"_s, u"US-ASCII"_s};
+    const QStringList readable{u""_qs, u"UTF-8"_qs, u"US-ASCII"_qs};
     if (!readable.contains(encoding, Qt::CaseInsensitive))
-        refuse(u"its encoding is %1, not UTF-8"_s.arg(encoding));
+        refuse(u"its encoding is %1, not UTF-8"_qs.arg(encoding));
 }
 
 void Reader::checkDocumentType()
 {
-    if (m_xml.dtdName() != u"plist") refuse(u"the document type is not that of a property list"_s);
+    if (m_xml.dtdName() != u"plist") refuse(u"the document type is not that of a property list"_qs);
 }
 
 void Reader::checkAttributes()
@@ -118,9 +116,9 @@ void Reader::checkAttributes()
     const QXmlStreamAttributes attributes = m_xml.attributes();
     for (const QXmlStreamAttribute &attribute : attributes) {
         if (!isRoot || attribute.qualifiedName() != u"version")
-            refuse(u"the attribute %1 is unknown"_s.arg(attribute.qualifiedName()));
+            refuse(u"the attribute %1 is unknown"_qs.arg(attribute.qualifiedName()));
         else if (attribute.value() != u"1.0")
-            refuse(u"version %1 of the format is unknown"_s.arg(attribute.value()));
+            refuse(u"version %1 of the format is unknown"_qs.arg(attribute.value()));
     }
 }
 
@@ -129,10 +127,10 @@ Dictionary Reader::readDictionary(int depth)
     const Dictionary dictionary = Dictionary::make();
     while (toNextTag() && m_xml.isStartElement()) {
         const QString key = readKey();
-        if (dictionary.contains(key)) refuse(u"the key %1 is there twice"_s.arg(key));
+        if (dictionary.contains(key)) refuse(u"the key %1 is there twice"_qs.arg(key));
         if (!toNextTag()) break;
         if (m_xml.isEndElement() || m_xml.qualifiedName() == u"key")
-            refuse(u"the key %1 has no value"_s.arg(key));
+            refuse(u"the key %1 has no value"_qs.arg(key));
         else
             dictionary.setValue(key, readValue(depth));
     }
@@ -150,7 +148,7 @@ Array Reader::readArray(int depth)
 QString Reader::readKey()
 {
     if (m_xml.qualifiedName() != u"key")
-        refuse(u"<%1> stands where a key is expected"_s.arg(m_xml.qualifiedName()));
+        refuse(u"<%1> stands where a key is expected"_qs.arg(m_xml.qualifiedName()));
     checkAttributes();
     return m_xml.hasError() ? QString{} : m_xml.readElementText();
 }
@@ -160,7 +158,7 @@ Value Reader::readValue(int depth)
     const bool isDictionary = m_xml.qualifiedName() == u"dict";
     if (!isDictionary && m_xml.qualifiedName() != u"array") return readScalar();
 
-    if (depth > maximumDepth) return refuse(u"it is nested deeper than %1 levels"_s.arg(maximumDepth));
+    if (depth > maximumDepth) return refuse(u"it is nested deeper than %1 levels"_qs.arg(maximumDepth));
     checkAttributes();
     return isDictionary ? Value(readDictionary(depth + 1)) : Value(readArray(depth + 1));
 }
@@ -168,9 +166,9 @@ Value Reader::readValue(int depth)
 Value Reader::readScalar()
 {
     const QString element = m_xml.qualifiedName().toString();
-    const QStringList known{u"string"_s, u"integer"_s, u"real"_s, u"true"_s,
-                            u"false"_s,  u"data"_s,    u"date"_s};
-    if (!known.contains(element)) return refuse(u"the element <%1> is unknown"_s.arg(element));
+    const QStringList known{u"string"_qs, u"integer"_qs, u"real"_qs, u"true"_qs,
+                            u"false"_qs,  u"data"_qs,    u"date"_qs};
+    if (!known.contains(element)) return refuse(u"the element <%1> is unknown"_qs.arg(element));
     checkAttributes();
     if (m_xml.hasError()) return {};
 
@@ -185,11 +183,11 @@ Value Reader::readScalar()
 
 Value Reader::readInteger(const QString &text)
 {
-    static const QRegularExpression form(uR"(\A[+-]?[0-9]+\z)"_s);
-    if (!form.match(text).hasMatch()) return refuse(u"“%1” is not an integer"_s.arg(text.left(40)));
+    static const QRegularExpression form(uR"(\A[+-]?[0-9]+\z)"_qs);
+    if (!form.match(text).hasMatch()) return refuse(u"“%1” is not an integer"_qs.arg(text.left(40)));
     bool fits = false;
     const qint64 number = text.toLongLong(&fits);
-    if (!fits) return refuse(u"the integer %1 does not fit into 64 bits"_s.arg(text.left(40)));
+    if (!fits) return refuse(u"the integer %1 does not fit into 64 bits"_qs.arg(text.left(40)));
     return number;
 }
 
@@ -199,34 +197,34 @@ Value Reader::readReal(const QString &text)
     if (text == u"+infinity") return std::numeric_limits<double>::infinity();
     if (text == u"-infinity") return -std::numeric_limits<double>::infinity();
 
-    static const QRegularExpression form(uR"(\A[+-]?([0-9]+\.?[0-9]*|\.[0-9]+)([eE][+-]?[0-9]+)?\z)"_s);
+    static const QRegularExpression form(uR"(\A[+-]?([0-9]+\.?[0-9]*|\.[0-9]+)([eE][+-]?[0-9]+)?\z)"_qs);
     bool fits = form.match(text).hasMatch();
     const double number = fits ? text.toDouble(&fits) : 0;
-    if (!fits) return refuse(u"“%1” is not a real number"_s.arg(text.left(40)));
+    if (!fits) return refuse(u"“%1” is not a real number"_qs.arg(text.left(40)));
     return number;
 }
 
 Value Reader::readData(const QString &text)
 {
-    static const QRegularExpression space(u"[ \t\r\n]+"_s);
+    static const QRegularExpression space(u"[ \t\r\n]+"_qs);
     const QByteArray encoded = QString(text).remove(space).toUtf8();
     auto decoded = QByteArray::fromBase64Encoding(encoded, QByteArray::AbortOnBase64DecodingErrors);
-    if (!decoded) return refuse(u"the data is not Base64"_s);
+    if (!decoded) return refuse(u"the data is not Base64"_qs);
     return std::move(decoded.decoded);
 }
 
 Value Reader::readDate(const QString &text)
 {
-    static const QRegularExpression form(uR"(\A[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9]{2}:[0-9]{2}:[0-9]{2}Z\z)"_s);
+    static const QRegularExpression form(uR"(\A[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9]{2}:[0-9]{2}:[0-9]{2}Z\z)"_qs);
     const QDateTime date = QDateTime::fromString(text, Qt::ISODate);
     if (!form.match(text).hasMatch() || !date.isValid())
-        return refuse(u"“%1” is not a date like 2001-12-31T23:59:59Z"_s.arg(text.left(40)));
+        return refuse(u"“%1” is not a date like 2001-12-31T23:59:59Z"_qs.arg(text.left(40)));
     return date;
 }
 
 Value Reader::readTruth(const QString &text, bool truth)
 {
-    if (!text.isEmpty()) return refuse(u"there is text in <true> or <false>"_s);
+    if (!text.isEmpty()) return refuse(u"there is text in <true> or <false>"_qs);
     return truth;
 }
 
@@ -240,16 +238,18 @@ Bytes readBytes(const QString &path)
 {
     // Looked at before it is opened: opening a pipe would wait for its other end.
     const QFileInfo info(path);
-    if (!info.exists()) return {{}, u"there is no such file"_s};
-    if (!info.isFile()) return {{}, u"it is not a regular file"_s};
+    if (!info.exists()) return {{}, u"there is no such file"_qs};
+    if (!info.isFile()) return {{}, u"it is not a regular file"_qs};
 
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return {{}, file.errorString()};
     QByteArray bytes = file.read(maximumFileSize + 1);
     if (file.error() != QFile::NoError) return {{}, file.errorString()};
-    if (bytes.size() > maximumFileSize) return {{}, u"it is larger than %1 MiB"_s.arg(maximumFileSize >> 20)};
-    if (bytes.isEmpty()) return {{}, u"it is empty"_s};
-    if (bytes.startsWith("bplist")) return {{}, u"it is a binary property list; only XML ones can be read"_s};
+    if (bytes.size() > maximumFileSize)
+        return {{}, u"it is larger than %1 MiB"_qs.arg(maximumFileSize >> 20)};
+    if (bytes.isEmpty()) return {{}, u"it is empty"_qs};
+    if (bytes.startsWith("bplist"))
+        return {{}, u"it is a binary property list; only XML ones can be read"_qs};
     return {std::move(bytes), {}};
 }
 
@@ -258,21 +258,21 @@ Bytes readBytes(const QString &path)
 FileContent readFile(const QString &path)
 {
     const Bytes content = readBytes(path);
-    if (!content.reason.isEmpty()) return {{}, u"%1: %2"_s.arg(path, content.reason)};
+    if (!content.reason.isEmpty()) return {{}, u"%1: %2"_qs.arg(path, content.reason)};
 
     // Decoded here, as the XML reader puts replacement characters for some of the bytes that are not UTF-8.
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString document = decoder(content.bytes);
-    if (decoder.hasError()) return {{}, u"%1: it is not UTF-8"_s.arg(path)};
+    if (decoder.hasError()) return {{}, u"%1: it is not UTF-8"_qs.arg(path)};
 
     if (const auto refusal = refusedMarkup(document)) {
         const qsizetype line = QStringView(document).first(refusal->index).count(u'\n') + 1;
-        return {{}, u"%1:%2: %3"_s.arg(path).arg(line).arg(refusal->reason)};
+        return {{}, u"%1:%2: %3"_qs.arg(path).arg(line).arg(refusal->reason)};
     }
 
     Reader reader(document);
     Dictionary dictionary = reader.readDocument();
-    if (!dictionary) return {{}, u"%1:%2: %3"_s.arg(path).arg(reader.line()).arg(reader.error())};
+    if (!dictionary) return {{}, u"%1:%2: %3"_qs.arg(path).arg(reader.line()).arg(reader.error())};
     return {std::move(dictionary), {}};
 }
 

@@ -9,14 +9,12 @@
 
 namespace plist {
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 QString realText(double number)
 {
-    if (std::isnan(number)) return u"nan"_s;
-    if (std::isinf(number)) return number > 0 ? u"+infinity"_s : u"-infinity"_s;
+    if (std::isnan(number)) return u"nan"_qs;
+    if (std::isinf(number)) return number > 0 ? u"+infinity"_qs : u"-infinity"_qs;
     return QString::number(number, 'g', QLocale::FloatingPointShortest);
 }
 
@@ -50,21 +48,21 @@ private:
 
 void Writer::refuse(const QString &reason)
 {
-    if (m_reason.isEmpty()) m_reason = u"the value under “%1” %2"_s.arg(m_keys.join(u"/"_s), reason);
+    if (m_reason.isEmpty()) m_reason = u"the value under “%1” %2"_qs.arg(m_keys.join(u"/"_qs), reason);
 }
 
 void Writer::writeDocument(const Dictionary &root)
 {
     m_xml.writeStartDocument();
     m_xml.writeDTD(u"<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
-                   "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">"_s);
-    m_xml.writeStartElement(u"plist"_s);
-    m_xml.writeAttribute(u"version"_s, u"1.0"_s);
+                   "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">"_qs);
+    m_xml.writeStartElement(u"plist"_qs);
+    m_xml.writeAttribute(u"version"_qs, u"1.0"_qs);
     writeDictionary(root, 1);
     m_xml.writeEndDocument();
-    if (m_xml.hasError() && m_reason.isEmpty()) m_reason = u"it can't be put into XML"_s;
+    if (m_xml.hasError() && m_reason.isEmpty()) m_reason = u"it can't be put into XML"_qs;
     if (m_bytes.size() > maximumFileSize && m_reason.isEmpty())
-        m_reason = u"it would be larger than %1 MiB"_s.arg(maximumFileSize >> 20);
+        m_reason = u"it would be larger than %1 MiB"_qs.arg(maximumFileSize >> 20);
 }
 
 void Writer::writeValue(const Value &value, int depth)
@@ -72,25 +70,26 @@ void Writer::writeValue(const Value &value, int depth)
     const Value::Content &content = value.content();
     if (const auto *dictionary = std::get_if<Dictionary>(&content)) writeDictionary(*dictionary, depth);
     if (const auto *array = std::get_if<Array>(&content)) writeArray(*array, depth);
-    if (const auto *text = std::get_if<QString>(&content)) writeText(u"string"_s, *text);
-    if (const auto *number = std::get_if<qint64>(&content)) writeText(u"integer"_s, QString::number(*number));
-    if (const auto *number = std::get_if<double>(&content)) writeText(u"real"_s, realText(*number));
+    if (const auto *text = std::get_if<QString>(&content)) writeText(u"string"_qs, *text);
+    if (const auto *number = std::get_if<qint64>(&content))
+        writeText(u"integer"_qs, QString::number(*number));
+    if (const auto *number = std::get_if<double>(&content)) writeText(u"real"_qs, realText(*number));
     if (const auto *truth = std::get_if<bool>(&content))
-        m_xml.writeEmptyElement(*truth ? u"true"_s : u"false"_s);
+        m_xml.writeEmptyElement(*truth ? u"true"_qs : u"false"_qs);
     if (const auto *data = std::get_if<QByteArray>(&content))
-        writeText(u"data"_s, QString::fromLatin1(data->toBase64()));
+        writeText(u"data"_qs, QString::fromLatin1(data->toBase64()));
     if (const auto *date = std::get_if<QDateTime>(&content)) writeDate(*date);
 }
 
 void Writer::writeDictionary(const Dictionary &dictionary, int depth)
 {
     // Also what ends the writing of a container that came to lie in itself.
-    if (depth > maximumDepth) return refuse(u"is nested deeper than %1 levels"_s.arg(maximumDepth));
-    m_xml.writeStartElement(u"dict"_s);
+    if (depth > maximumDepth) return refuse(u"is nested deeper than %1 levels"_qs.arg(maximumDepth));
+    m_xml.writeStartElement(u"dict"_qs);
     const QList<Dictionary::Entry> entries = dictionary.entries();
     for (const Dictionary::Entry &entry : entries) {
         m_keys.append(entry.key);
-        writeText(u"key"_s, entry.key);
+        writeText(u"key"_qs, entry.key);
         writeValue(entry.value, depth + 1);
         m_keys.removeLast();
     }
@@ -99,8 +98,8 @@ void Writer::writeDictionary(const Dictionary &dictionary, int depth)
 
 void Writer::writeArray(const Array &array, int depth)
 {
-    if (depth > maximumDepth) return refuse(u"is nested deeper than %1 levels"_s.arg(maximumDepth));
-    m_xml.writeStartElement(u"array"_s);
+    if (depth > maximumDepth) return refuse(u"is nested deeper than %1 levels"_qs.arg(maximumDepth));
+    m_xml.writeStartElement(u"array"_qs);
     const QList<Value> values = array.values();
     for (const Value &value : values)
         writeValue(value, depth + 1);
@@ -111,20 +110,20 @@ void Writer::writeDate(const QDateTime &date)
 {
     const QDateTime utc = date.toUTC();
     if (!utc.isValid() || utc.date().year() < 1 || utc.date().year() > 9999)
-        return refuse(u"is a date that a property list can't carry"_s);
-    writeText(u"date"_s, utc.toString(u"yyyy-MM-ddTHH:mm:ssZ"_s));
+        return refuse(u"is a date that a property list can't carry"_qs);
+    writeText(u"date"_qs, utc.toString(u"yyyy-MM-ddTHH:mm:ssZ"_qs));
 }
 
 void Writer::writeText(const QString &element, const QString &text)
 {
-    if (const auto forbidden = forbiddenCharacter(text)) return refuse(u"holds "_s + forbidden->reason);
+    if (const auto forbidden = forbiddenCharacter(text)) return refuse(u"holds "_qs + forbidden->reason);
 
     m_xml.writeStartElement(element);
     m_xml.writeCharacters({}); // so that even an empty element has both of its tags
     const QStringList parts = text.split(u'\r');
     for (qsizetype part = 0; part < parts.size(); ++part) {
         // A bare carriage return would be read back as a line feed.
-        if (part > 0) m_xml.writeEntityReference(u"#13"_s);
+        if (part > 0) m_xml.writeEntityReference(u"#13"_qs);
         m_xml.writeCharacters(parts[part]);
     }
     m_xml.writeEndElement();
@@ -134,10 +133,10 @@ void Writer::writeText(const QString &element, const QString &text)
 
 QString writeFile(const QString &path, const Dictionary &dictionary)
 {
-    if (!dictionary) return u"%1: there is nothing to write"_s.arg(path);
+    if (!dictionary) return u"%1: there is nothing to write"_qs.arg(path);
     Writer writer;
     writer.writeDocument(dictionary);
-    if (!writer.reason().isEmpty()) return u"%1: %2"_s.arg(path, writer.reason());
+    if (!writer.reason().isEmpty()) return u"%1: %2"_qs.arg(path, writer.reason());
     return replacePrivateFile(path, writer.bytes());
 }
 

@@ -7,8 +7,6 @@
 
 namespace quillorentLibrary {
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 bool isEmptyFile(const QString &path)
@@ -38,12 +36,12 @@ struct Place {
 
 Place placeFor(const QString &path, bool mayBeThere = true)
 {
-    Place place{path + u".damaged"_s};
+    Place place{path + u".damaged"_qs};
     for (int number = 1;; ++number) {
         const QFileInfo info(place.path);
         if (!info.exists() && !info.isSymLink()) return place;
         if (mayBeThere && haveSameContent(path, place.path)) return {place.path, true};
-        place.path = u"%1.damaged.%2"_s.arg(path).arg(number);
+        place.path = u"%1.damaged.%2"_qs.arg(path).arg(number);
     }
 }
 

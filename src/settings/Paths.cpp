@@ -5,8 +5,6 @@
 
 namespace quillorentLibrary {
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 QString &resourceFolderOverride()
@@ -20,33 +18,33 @@ QString &resourceFolderOverride()
 QString preferencesFolder()
 {
 #ifdef Q_OS_MACOS
-    return QDir::cleanPath(QDir::home().filePath(u"Library/Preferences"_s));
+    return QDir::cleanPath(QDir::home().filePath(u"Library/Preferences"_qs));
 #else
     const QString configured = QFile::decodeName(qgetenv("XDG_CONFIG_HOME"));
     return QDir::cleanPath(QDir::isAbsolutePath(configured) ? configured
-                                                            : QDir::home().filePath(u".config"_s));
+                                                            : QDir::home().filePath(u".config"_qs));
 #endif
 }
 
 QString settingsPath()
 {
-    return QDir(preferencesFolder()).filePath(u"com.brolvanek.Quillorent.config.plist"_s);
+    return QDir(preferencesFolder()).filePath(u"com.brolvanek.Quillorent.config.plist"_qs);
 }
 
 QString profilesPath()
 {
-    return QDir(preferencesFolder()).filePath(u"com.brolvanek.Quillorent.profiles.plist"_s);
+    return QDir(preferencesFolder()).filePath(u"com.brolvanek.Quillorent.profiles.plist"_qs);
 }
 
 QString resourceFolder()
 {
     if (!resourceFolderOverride().isEmpty()) return resourceFolderOverride();
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../share/quillorent"_s);
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../share/quillorent"_qs);
 }
 
-QString settingsTemplatePath() { return QDir(resourceFolder()).filePath(u"config.plist"_s); }
+QString settingsTemplatePath() { return QDir(resourceFolder()).filePath(u"config.plist"_qs); }
 
-QString profilesTemplatePath() { return QDir(resourceFolder()).filePath(u"profiles.plist"_s); }
+QString profilesTemplatePath() { return QDir(resourceFolder()).filePath(u"profiles.plist"_qs); }
 
 void setResourceFolder(const QString &folder) { resourceFolderOverride() = folder; }
 

@@ -8,11 +8,9 @@
 
 namespace quillorentLibrary {
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
-const QString versionKey = u"version"_s;
+const QString versionKey = u"version"_qs;
 
 void addMissing(const plist::Dictionary &user, const QString &key, const plist::Value &value)
 {
@@ -57,7 +55,7 @@ void mergeSettings(const plist::Dictionary &user, const plist::Dictionary &newDi
 
 void mergeProfile(const plist::Dictionary &record, const plist::Dictionary &newDict)
 {
-    const QList<plist::Dictionary::Entry> entries = newDict.dictionary(u"Default profile"_s).entries();
+    const QList<plist::Dictionary::Entry> entries = newDict.dictionary(u"Default profile"_qs).entries();
     for (const auto &[key, value] : entries) {
         if (value.isString()) addMissing(record, key, value);
         if (value.isArray()) mergeList(record, key, value.array());
@@ -101,11 +99,11 @@ void checkVersion()
 
     // One version is that of both files: profiles carry none.
     settingsFile().change([&](const plist::Dictionary &settings) {
-        mergeData(settings, settingsTemplate, *newVersion, u"config"_s);
+        mergeData(settings, settingsTemplate, *newVersion, u"config"_qs);
     });
     const plist::Dictionary profilesTemplate = profilesFile().readTemplate();
     profilesFile().change([&](const plist::Dictionary &profiles) {
-        mergeData(profiles, profilesTemplate, *newVersion, u"profile"_s);
+        mergeData(profiles, profilesTemplate, *newVersion, u"profile"_qs);
     });
 }
 

@@ -1,5 +1,6 @@
 #include "Stub.h"
 #include "TestProgram.h"
+#include "app/Pauses.h"
 #include "tools/ToolRun.h"
 
 #include <gtest/gtest.h>
@@ -165,6 +166,7 @@ TEST(BackupCancel, WhileMeasuringStartsNothing)
 {
     StubbedBackup backup;
     QuillorentAppDelegate &delegate = backup.program.delegate();
+    pauses().beforeMeasuring = std::chrono::seconds(1); // time enough to press the button
     delegate.buttonLaunch01b();
     ASSERT_TRUE(TestProgram::waitUntil(
         [&] { return delegate.progressPanel01.place() == outlets::Panel::Place::Sheet; }));
