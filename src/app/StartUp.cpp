@@ -10,7 +10,7 @@ namespace {
 
 plist::Dictionary makeDefaultProfile()
 {
-    const auto record = plist::Dictionary::make();
+    auto record = plist::Dictionary::make();
     record.setValue(u"folders"_qs, plist::Array::make());
     record.setValue(u"path"_qs, u"");
     record.setValue(u"password"_qs, u"");

@@ -13,8 +13,6 @@
 #include <unistd.h>
 #include <vector>
 
-extern char **environ;
-
 namespace {
 
 /// One pipe for both of the child's output streams; the ends are closed when they are given up.
