@@ -1,4 +1,6 @@
 #include "app/QuillorentAppDelegate.h"
+#include "plist/File.h"
+#include "settings/Paths.h"
 #include "settings/Store.h"
 #include "tools/Threads.h"
 #include "tools/ToolRun.h"
@@ -34,6 +36,14 @@ plist::Dictionary makeDefaultProfile()
     return record;
 }
 
+/// What a person must know of a file that gave no dictionary; empty where it gave one.
+QString describeUnreadable(const QString &path, const plist::Dictionary &dictionary)
+{
+    if (dictionary) return {};
+    return u"\n%1\nIt stays as it is. Repair it, or move it away: the next start makes a new one.\n"_qs.arg(
+        plist::readFile(path).reason);
+}
+
 } // namespace
 
 void QuillorentAppDelegate::applicationDidFinishLaunching()
@@ -50,6 +60,10 @@ void QuillorentAppDelegate::applicationDidFinishLaunching()
     extractFullList.clear();
     decryptionCombo01.selectIndex(automaticDecryption);
     defaultProfile.set(makeDefaultProfile());
+
+    consoleTextView01.append(describeUnreadable(quillorentLibrary::settingsPath(), configPlist()));
+    consoleTextView01.append(describeUnreadable(quillorentLibrary::profilesPath(), listPlist()));
+    if (!consoleTextView01.text().isEmpty()) consolePanel01.orderFront();
 }
 
 void QuillorentAppDelegate::applicationWillTerminate()

@@ -1,4 +1,5 @@
 #include "TestProgram.h"
+#include "settings/Paths.h"
 
 #include <gtest/gtest.h>
 
@@ -10,6 +11,7 @@ TEST(StartUp, GivesANewUserAProfileAndFiles)
     program.start();
     QuillorentAppDelegate &delegate = program.delegate();
     EXPECT_EQ(delegate.currentProfile(), u"Default profile"_qs);
+    EXPECT_EQ(delegate.consolePanel01.place(), outlets::Panel::Place::Hidden);
     EXPECT_EQ(delegate.decryptionCombo01.selectedIndex(), 4);
     EXPECT_FALSE(delegate.currentProfileTextView.isHidden());
     EXPECT_EQ(delegate.defaultProfile().count(), 20);
@@ -31,6 +33,9 @@ TEST(StartUp, DoesNothingWithDamagedFilesButSay)
     EXPECT_FALSE(delegate.configPlist());
     EXPECT_TRUE(delegate.currentProfile().isEmpty());
     EXPECT_TRUE(delegate.profileCombo01.titles().isEmpty());
+    for (const QString &path : {quillorentLibrary::settingsPath(), quillorentLibrary::profilesPath()})
+        EXPECT_TRUE(delegate.consoleTextView01.text().contains(path)) << qPrintable(path);
+    EXPECT_EQ(delegate.consolePanel01.place(), outlets::Panel::Place::Window);
     EXPECT_FALSE(delegate.checkBox04.isOn());
 
     // Every control still works, and none of it reaches the files.
