@@ -15,6 +15,8 @@ struct Content {
     std::string name;
     std::string bytes;
     double largestRatio; ///< packed to unpacked, headers included
+
+    friend void PrintTo(const Content &content, std::ostream *out) { *out << content.name; }
 };
 
 std::string skewed(std::size_t size)
