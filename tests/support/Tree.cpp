@@ -5,9 +5,8 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
-#include <fstream>
+#include <functional>
 #include <random>
-#include <string_view>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -22,22 +21,6 @@ namespace {
     throw std::system_error(errno, std::generic_category(), path.string());
 }
 
-/// FNV-1a over 64 bits: enough to notice any accidental difference.
-std::uint64_t hashContent(const fs::path &path)
-{
-    std::ifstream file(path, std::ios::binary);
-    if (!file) fail(path);
-    std::uint64_t hash = 0xcbf29ce484222325u;
-    std::vector<char> buffer(1 << 16);
-    while (file) {
-        file.read(buffer.data(), static_cast<std::streamsize>(buffer.size()));
-        const std::string_view read(buffer.data(), static_cast<std::size_t>(file.gcount()));
-        for (const char byte : read)
-            hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001b3u;
-    }
-    return hash;
-}
-
 TreeEntry readEntry(const fs::path &path)
 {
     struct stat status {};
@@ -45,8 +28,6 @@ TreeEntry readEntry(const fs::path &path)
     TreeEntry entry;
     entry.seconds = status.st_mtim.tv_sec;
     entry.nanoseconds = status.st_mtim.tv_nsec;
-    entry.owner = status.st_uid;
-    entry.group = status.st_gid;
     if (S_ISLNK(status.st_mode)) {
         entry.type = 'l';
         entry.target = fs::read_symlink(path).string();
@@ -56,7 +37,7 @@ TreeEntry readEntry(const fs::path &path)
     entry.type = S_ISDIR(status.st_mode) ? 'd' : S_ISREG(status.st_mode) ? 'f' : 'o';
     if (entry.type != 'f') return entry;
     entry.size = static_cast<std::uint64_t>(status.st_size);
-    entry.contentHash = hashContent(path);
+    entry.contentHash = std::hash<std::string>()(readFile(path));
     return entry;
 }
 
@@ -81,13 +62,6 @@ std::string timeText(const TreeEntry &entry)
     return std::to_string(entry.seconds) + " s " + std::to_string(entry.nanoseconds) + " ns";
 }
 
-bool timesMatter(const TreeEntry &entry, const TreeComparison &comparison)
-{
-    if (!comparison.times) return false;
-    if (entry.type == 'l') return comparison.linkTimes;
-    return entry.type != 'd' || comparison.folderTimes;
-}
-
 /// What differs between two entries of the same path, as "kind expected/actual" items.
 std::string entryDifference(const TreeEntry &expected, const TreeEntry &actual,
                             const TreeComparison &comparison)
@@ -106,13 +80,10 @@ std::string entryDifference(const TreeEntry &expected, const TreeEntry &actual,
         return std::string(digits);
     };
     if (comparison.modes) note("mode", octal(expected.mode), octal(actual.mode));
-    if (comparison.ownership) {
-        note("owner", std::to_string(expected.owner), std::to_string(actual.owner));
-        note("group", std::to_string(expected.group), std::to_string(actual.group));
-    }
     const bool sameTime = expected.seconds == actual.seconds &&
                           (!comparison.nanoseconds || expected.nanoseconds == actual.nanoseconds);
-    if (timesMatter(expected, comparison) && !sameTime) note("time", timeText(expected), timeText(actual));
+    const bool timeMatters = expected.type != 'l' || comparison.linkTimes;
+    if (timeMatters && !sameTime) note("time", timeText(expected), timeText(actual));
     return text;
 }
 
@@ -129,39 +100,40 @@ void setMode(const fs::path &path, mode_t mode)
 
 void makeOddNames(const fs::path &folder)
 {
-    const std::vector<std::string> names = {"plain.txt",
-                                            "with space.txt",
-                                            " leading space",
-                                            "trailing space ",
-                                            "line\nbreak",
-                                            "-leading",
-                                            "--",
-                                            "*",
-                                            "*.txt",
-                                            "?",
-                                            "[a-z]",
-                                            "@list",
-                                            "#comment",
-                                            ";semicolon",
-                                            "$HOME",
-                                            "back\\slash",
-                                            "quote'\"",
-                                            "tab\there",
-                                            "~",
-                                            "...",
-                                            ".hidden",
-                                            "stra\xC3\x9F\x65 gr\xC3\xBCn.txt",
-                                            "\xE6\x97\xA5\xE6\x9C\xAC.txt",
-                                            "latin1 caf\xE9",
-                                            "\xFF\xFEraw",
-                                            "cut\xC3",
-                                            "\xEF\xBF\xBE marker",
-                                            "\xEE\x83\xBF private",
-                                            "private \xEE\x83\xA9 and \xE9",
-                                            "surrogate \xED\xA0\x80",
-                                            std::string(255, 'n')};
-    for (const std::string &name : names)
+    // The last ones: characters beyond ASCII, bytes that are no UTF-8, and characters that may stand for
+    // such.
+    for (const std::string name : {"plain.txt",
+                                   "with space.txt",
+                                   " leading space",
+                                   "trailing space ",
+                                   "line\nbreak",
+                                   "-leading",
+                                   "--",
+                                   "*",
+                                   "*.txt",
+                                   "?",
+                                   "[a-z]",
+                                   "@list",
+                                   "#comment",
+                                   ";semicolon",
+                                   "$HOME",
+                                   "back\\slash",
+                                   "quote'\"",
+                                   "tab\there",
+                                   "~",
+                                   "...",
+                                   ".hidden",
+                                   "stra\xC3\x9F\x65 gr\xC3\xBCn.txt",
+                                   "\xE6\x97\xA5\xE6\x9C\xAC.txt",
+                                   "latin1 caf\xE9",
+                                   "\xFF\xFEraw",
+                                   "cut\xC3",
+                                   "\xEF\xBF\xBE marker",
+                                   "\xEE\x83\xBF private",
+                                   "private \xEE\x83\xA9 and \xE9",
+                                   "surrogate \xED\xA0\x80"})
         writeFile(folder / name, "content of " + name);
+    writeFile(folder / std::string(255, 'n'), "the longest name");
 }
 
 } // namespace
@@ -217,24 +189,20 @@ void makeSampleTree(const fs::path &folder)
     fs::create_symlink("nowhere/at all", folder / "dangling link");
     fs::create_symlink("names/latin1 caf\xE9", folder / "link to latin1");
 
-    writeFile(folder / "modes" / "private", "0600");
-    writeFile(folder / "modes" / "program", "0755");
-    writeFile(folder / "modes" / "read only", "0444");
-    writeFile(folder / "modes" / "everyone", "0777");
+    const std::vector<std::pair<std::string, mode_t>> modes = {
+        {"private", 0600}, {"program", 0755}, {"read only", 0444}, {"everyone", 0777}};
+    for (const auto &[name, mode] : modes) {
+        writeFile(folder / "modes" / name, name);
+        setMode(folder / "modes" / name, mode);
+    }
     writeFile(folder / "read only folder" / "inside", "the folder can't be written to");
-    setMode(folder / "modes" / "private", 0600);
-    setMode(folder / "modes" / "program", 0755);
-    setMode(folder / "modes" / "read only", 0444);
-    setMode(folder / "modes" / "everyone", 0777);
     setMode(folder / "read only folder" / "inside", 0400);
 
     setTime(folder / "one byte", 31'536'000, 1);                       // 1971
     setTime(folder / "names" / "plain.txt", 946'684'799, 999'999'999); // the end of 1999
     setTime(folder / "zeros.bin", 4'102'444'800, 500'000'000);         // 2100
     setTime(folder / "dangling link", 1'000'000'000, 123'456'789);
-    setTime(folder / "absolute link", 1'100'000'000, 0);
     setTime(folder / "empty", 1'200'000'000, 42);
-    setTime(folder / "deep" / "er", 1'300'000'000, 43);
     setMode(folder / "empty", 0700);
     setMode(folder / "modes", 01777);
     setMode(folder / "read only folder", 0555);

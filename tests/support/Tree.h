@@ -14,8 +14,6 @@ struct TreeEntry {
     std::uint64_t size = 0;        ///< bytes of a file, 0 for the others
     std::uint64_t contentHash = 0; ///< of a file's bytes
     std::string target;            ///< of a symbolic link
-    unsigned owner = 0;
-    unsigned group = 0;
 };
 
 /// All that is below a folder, by its path relative to it; "." is the folder itself. Paths are bytes, in no
@@ -23,12 +21,9 @@ struct TreeEntry {
 using TreeSnapshot = std::map<std::string, TreeEntry>;
 
 struct TreeComparison {
-    bool times = true;
-    bool nanoseconds = true; ///< only with `times`
-    bool linkTimes = true;   ///< times of symbolic links; only with `times`
-    bool folderTimes = true; ///< times of folders; only with `times`
+    bool nanoseconds = true;
+    bool linkTimes = true; ///< times of symbolic links
     bool modes = true;
-    bool ownership = false;
     bool root = true; ///< compare the entry "." as well
 };
 

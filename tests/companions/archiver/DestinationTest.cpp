@@ -1,126 +1,121 @@
 #include "Rar.h"
-#include "TemporaryFolder.h"
 #include "Tree.h"
 
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 namespace fs = std::filesystem;
+using Kind = archiver::LinkTarget::Kind;
 
 namespace {
 
 /// Archives that want to write outside of the folder they are extracted to.
-class Hostile : public testing::Test {
+class Hostile : public ArchiverTest {
 protected:
     void SetUp() override
     {
-        fs::create_directories(temporary / "outside");
-        writeFile(temporary / "outside/file", "untouched");
-        fs::create_directories(temporary / "out");
+        writeFile(outside / "file", "untouched");
+        fs::create_directories(out);
     }
 
     std::string extract(const std::vector<HandmadeEntry> &entries, const std::string &command = "x")
     {
-        writeFile(temporary / "a.rar", handmadeArchive(entries));
-        const TreeSnapshot before = snapshotTree(temporary / "outside");
-        const CommandResult result = rar({command, "-o+", "-idq", temporary / "a.rar", temporary / "out"});
-        EXPECT_EQ(treeDifference(before, snapshotTree(temporary / "outside")), "");
+        writeFile(archive, handmadeArchive(entries));
+        const TreeSnapshot before = snapshotTree(outside);
+        const CommandResult result = rar({command, "-o+", "-idq", archive, out});
+        EXPECT_EQ(treeDifference(before, snapshotTree(outside)), "");
         EXPECT_EQ(result.errors.empty(), result.status == 0);
         return result.errors;
     }
 
-    TemporaryFolder temporary;
+    const fs::path outside = temporary / "outside";
 };
 
 } // namespace
 
 TEST_F(Hostile, namesThatLeadOut)
 {
-    const std::string outside = temporary / "outside/new";
-    for (const std::string name : {"../outside/new", "a/../../outside/new", "..", "", "/", "a/..", "."}) {
-        EXPECT_NE(extract({storedFile(name, "bad")}).find("leads out of the destination"), std::string::npos)
-            << name;
-        EXPECT_TRUE(fs::is_empty(temporary / "out")) << name;
-    }
+    const auto refuses = [this](const HandmadeEntry &entry) {
+        return extract({entry}).find("leads out of the destination") != std::string::npos &&
+               fs::is_empty(out);
+    };
+    for (const std::string name : {"../outside/new", "a/../../outside/new", "..", "", "/", "a/..", "."})
+        EXPECT_TRUE(refuses(storedFile(name, "bad"))) << name;
+    EXPECT_TRUE(refuses(folderEntry("../outside/folder")));
+    EXPECT_TRUE(refuses(symbolicLink("../outside/link", "x")));
     EXPECT_NE(extract({storedFile(std::string("zero\0byte", 9), "bad")}), "");
-    EXPECT_NE(extract({folderEntry("../outside/folder")}), "");
-    EXPECT_NE(extract({symbolicLink("../outside/link", "x")}), "");
 }
 
 TEST_F(Hostile, absoluteNamesStayBelow)
 {
-    const fs::path name = temporary / "outside/file";
-    EXPECT_EQ(extract({storedFile(name, "inside")}), "");
-    EXPECT_EQ(readFile(temporary / "out" / name.relative_path()), "inside");
-    EXPECT_EQ(extract({storedFile("a\\..\\b", "a plain name")}), "");
-    EXPECT_EQ(readFile(temporary / "out/a\\..\\b"), "a plain name");
+    const fs::path name = outside / "file";
+    EXPECT_EQ(extract({storedFile(name, "inside"), storedFile("a\\..\\b", "a plain name")}), "");
+    EXPECT_EQ(readFile(out / name.relative_path()), "inside");
+    EXPECT_EQ(readFile(out / "a\\..\\b"), "a plain name");
 }
 
 TEST_F(Hostile, linksAreNotFollowed)
 {
-    const std::string outside = temporary / "outside";
-    for (const std::string &target : {outside, std::string("../outside")}) {
-        EXPECT_NE(extract({symbolicLink("door", target), storedFile("door/new", "bad")}), "");
-        EXPECT_NE(extract({symbolicLink("door", target), storedFile("door/file", "bad")}), "");
-        EXPECT_NE(extract({symbolicLink("door", target), folderEntry("door/folder")}), "");
-        EXPECT_NE(extract({symbolicLink("door", target), folderEntry("door", 0700)}), "");
-        EXPECT_NE(extract({symbolicLink("door", target), symbolicLink("door/link", "x")}), "");
-    }
+    for (const std::string &target : {outside.string(), std::string("../outside")})
+        for (const HandmadeEntry &entry :
+             {storedFile("door/new", "bad"), storedFile("door/file", "bad"), folderEntry("door/folder"),
+              folderEntry("door", 0700), symbolicLink("door/link", "x")})
+            EXPECT_NE(extract({symbolicLink("door", target), entry}), "") << entry.header.name;
     // A link where the file itself goes is replaced.
-    EXPECT_EQ(extract({symbolicLink("file", outside + "/file"), storedFile("file", "inside")}), "");
-    EXPECT_EQ(readFile(temporary / "out/file"), "inside");
+    EXPECT_EQ(extract({symbolicLink("file", outside / "file"), storedFile("file", "inside")}), "");
+    EXPECT_EQ(readFile(out / "file"), "inside");
 }
 
 TEST_F(Hostile, copiesTakeNothingFromOutside)
 {
-    const auto copyOf = [](const std::string &target, archiver::LinkTarget::Kind kind) {
-        HandmadeEntry entry = storedFile("copy", "");
-        entry.header.link = archiver::LinkTarget{kind, false, target};
-        return entry;
-    };
-    for (const auto kind : {archiver::LinkTarget::Kind::Hard, archiver::LinkTarget::Kind::Copy}) {
-        EXPECT_NE(extract({copyOf("../outside/file", kind)}), "");
-        EXPECT_NE(extract({symbolicLink("door", temporary / "outside/file"), copyOf("door", kind)}), "");
-        EXPECT_NE(extract({copyOf("missing", kind)}), "");
-        EXPECT_FALSE(fs::exists(temporary / "out/copy"));
-        EXPECT_EQ(extract({storedFile("original", "same"), copyOf("original", kind)}), "");
-        EXPECT_EQ(readFile(temporary / "out/copy"), "same");
-        fs::remove(temporary / "out/copy");
+    for (const Kind kind : {Kind::Hard, Kind::Copy}) {
+        const auto copyOf = [kind](const std::string &target) {
+            HandmadeEntry entry = storedFile("copy", "");
+            entry.header.link = archiver::LinkTarget{kind, false, target};
+            return entry;
+        };
+        EXPECT_NE(extract({copyOf("../outside/file")}), "");
+        EXPECT_NE(extract({symbolicLink("door", outside / "file"), copyOf("door")}), "");
+        EXPECT_NE(extract({copyOf("missing")}), "");
+        EXPECT_FALSE(fs::exists(out / "copy"));
+        EXPECT_EQ(extract({storedFile("original", "same"), copyOf("original")}), "");
+        EXPECT_EQ(readFile(out / "copy"), "same");
+        fs::remove(out / "copy");
     }
 }
 
 TEST_F(Hostile, foldersAreNotReplacedByFiles)
 {
-    writeFile(temporary / "out/folder/kept", "kept");
-    EXPECT_NE(extract({storedFile("folder", "bad")}), "");
-    EXPECT_NE(extract({symbolicLink("folder", "x")}), "");
-    EXPECT_EQ(readFile(temporary / "out/folder/kept"), "kept");
-    EXPECT_NE(extract({storedFile("folder/kept/below", "bad")}), "");
-    EXPECT_EQ(snapshotTree(temporary / "out").size(), 3u); // nothing unfinished is left
+    writeFile(out / "folder/kept", "kept");
+    for (const HandmadeEntry &entry :
+         {storedFile("folder", "bad"), symbolicLink("folder", "x"), storedFile("folder/kept/below", "bad")})
+        EXPECT_NE(extract({entry}), "") << entry.header.name;
+    EXPECT_EQ(readFile(out / "folder/kept"), "kept");
+    EXPECT_EQ(snapshotTree(out).size(), 3u); // nothing unfinished is left
 }
 
 TEST_F(Hostile, withoutPathsAllGoesIntoTheFolder)
 {
     EXPECT_EQ(extract({storedFile("/a/b/c", "1"), folderEntry("a/b"), storedFile("d", "2")}, "e"), "");
-    EXPECT_EQ(readFile(temporary / "out/c"), "1");
-    EXPECT_EQ(readFile(temporary / "out/d"), "2");
-    EXPECT_EQ(snapshotTree(temporary / "out").size(), 3u);
+    EXPECT_EQ(readFile(out / "c"), "1");
+    EXPECT_EQ(readFile(out / "d"), "2");
+    EXPECT_EQ(snapshotTree(out).size(), 3u);
 }
 
-TEST(Attributes, foldersAreClosedOnlyWhenAllIsInThem)
+using Attributes = ArchiverTest;
+
+TEST_F(Attributes, foldersAreClosedOnlyWhenAllIsInThem)
 {
-    TemporaryFolder temporary;
     HandmadeEntry folder = folderEntry("closed", 0555);
     folder.header.modified = archiver::Timestamp{1'000'000'000, 5};
     // This order is not ours; other archivers have it.
-    writeFile(temporary / "a.rar", handmadeArchive({folder, storedFile("closed/implied/file", "in")}));
-    EXPECT_EQ(rar({"x", "-idq", temporary / "a.rar", temporary / "out"}).errors, "");
-    const TreeSnapshot out = snapshotTree(temporary / "out");
-    EXPECT_EQ(out.at("closed").mode, 0555u);
-    EXPECT_EQ(out.at("closed").seconds, 1'000'000'000);
-    EXPECT_EQ(out.at("closed").nanoseconds, 5);
-    EXPECT_EQ(out.at("closed/implied/file").size, 2u);
+    writeFile(archive, handmadeArchive({folder, storedFile("closed/implied/file", "in")}));
+    EXPECT_EQ(rar({"x", "-idq", archive, out}).errors, "");
+    const TreeSnapshot tree = snapshotTree(out);
+    EXPECT_EQ(tree.at("closed").mode, 0555u);
+    EXPECT_EQ(tree.at("closed").seconds, 1'000'000'000);
+    EXPECT_EQ(tree.at("closed").nanoseconds, 5);
+    EXPECT_EQ(tree.at("closed/implied/file").size, 2u);
     const mode_t mask = umask(0);
     umask(mask);
-    EXPECT_EQ(out.at("closed/implied").mode, 0777u & ~mask); // no entry of its own
+    EXPECT_EQ(tree.at("closed/implied").mode, 0777u & ~mask); // no entry of its own
 }

@@ -1,12 +1,8 @@
 #include "ForeignReader.h"
 
-#include "ArchiveProcessor.h"
+#include "ContentSink.h"
 #include "HuffmanEncoder.h"
 #include "Rar.h"
-#include "TemporaryFolder.h"
-#include "Tree.h"
-
-#include <gtest/gtest.h>
 
 namespace fs = std::filesystem;
 using archiver::ForeignReader;
@@ -19,72 +15,72 @@ HandmadeEntry packedFile(const std::string &name, const std::string &content, bo
 {
     archiver::HuffmanEncoder encoder;
     const archiver::Bytes packed = encoder.encode(bytesOf(content), true);
-    HandmadeEntry entry = storedFile(name, {packed.begin(), packed.end()});
+    HandmadeEntry entry = storedFile(name, content);
+    entry.data.assign(packed.begin(), packed.end());
+    entry.header.packedSize = packed.size();
     entry.header.method = archiver::HuffmanEncoder::method;
     entry.header.dictionary = archiver::HuffmanEncoder::dictionary;
     entry.header.solid = sharesDictionary;
-    entry.header.unpackedSize = content.size();
-    entry.header.crc = archiver::crc32(bytesOf(content));
     return entry;
 }
 
+struct Collected final : archiver::ContentSink {
+    std::string content;
+    bool write(archiver::Bytes bytes) override
+    {
+        content.append(bytes.begin(), bytes.end());
+        return true;
+    }
+};
+
+using ForeignReaderTest = ArchiverTest;
+
 } // namespace
 
-TEST(ForeignReader, unpacksWhatTheOwnReaderLeavesToIt)
+TEST_F(ForeignReaderTest, unpacksWhatTheOwnReaderLeavesToIt)
 {
-    TemporaryFolder temporary;
     const std::string content = base64Text(100'000);
     const std::string text = base64Text(5000);
-    writeFile(temporary / "a.rar",
-              handmadeArchive({packedFile("before", text, false), symbolicLink("link", "before"),
-                               packedFile("middle", content, true), storedFile("after", "2")},
-                              true));
-    EXPECT_EQ(rar({"t", "-idq", temporary / "a.rar"}).errors, "");
-    EXPECT_EQ(rar({"x", "-idq", temporary / "a.rar", temporary / "out"}).errors, "");
-    EXPECT_TRUE(readFile(temporary / "out/before") == text);
-    EXPECT_TRUE(readFile(temporary / "out/middle") == content);
-    EXPECT_EQ(readFile(temporary / "out/after"), "2");
+    std::vector<HandmadeEntry> entries = {packedFile("before", text, false), symbolicLink("link", "before"),
+                                          packedFile("middle", content, true), storedFile("after", "2")};
+    writeFile(archive, handmadeArchive(entries, true));
+    EXPECT_EQ(rar({"t", "-idq", archive}).errors, "");
+    EXPECT_EQ(rar({"x", "-idq", archive, out}).errors, "");
+    EXPECT_TRUE(readFile(out / "before") == text);
+    EXPECT_TRUE(readFile(out / "middle") == content);
+    EXPECT_EQ(readFile(out / "after"), "2");
 
-    HandmadeEntry damaged = packedFile("middle", content, true);
-    damaged.data[5000] ^= 4;
-    writeFile(temporary / "a.rar",
-              handmadeArchive({packedFile("before", text, false), damaged, storedFile("after", "2")}, true));
-    const CommandResult result = rar({"x", "-o+", "-idq", temporary / "a.rar", temporary / "second"});
+    entries[2].data[5000] ^= 4;
+    writeFile(archive, handmadeArchive(entries, true));
+    const CommandResult result = rar({"x", "-o+", "-idq", archive, temporary / "second"});
     EXPECT_NE(result.status, 0);
     EXPECT_TRUE(result.errors.starts_with("\nmiddle: ")) << result.errors;
     EXPECT_FALSE(fs::exists(temporary / "second/middle"));
     EXPECT_EQ(readFile(temporary / "second/after"), "2");
 }
 
-TEST(ForeignReader, describesEntriesAndNoticesTheEndOfASet)
+TEST_F(ForeignReaderTest, describesEntriesAndNoticesTheEndOfASet)
 {
-    TemporaryFolder temporary;
     const std::string content = base64Text(60'000);
     writeFile(temporary / "file", content);
-    ASSERT_EQ(packFile(temporary / "a.rar", temporary / "file", "-v10").errors, "");
-    std::vector<std::string> paths;
-    for (const fs::path &volume : volumesOf(temporary / "a.rar"))
-        paths.push_back(volume);
+    ASSERT_EQ(packFile(archive, temporary / "file", "-v10").errors, "");
+    const std::vector<fs::path> volumes = volumesOf(archive);
+    std::vector<std::string> paths(volumes.begin(), volumes.end());
 
-    const auto read = [&paths](std::string &messages, CollectingReceiver &receiver) {
+    const auto read = [&paths](std::string &messages) {
         archiver::Diagnostics diagnostics(messages);
         ForeignReader reader(paths, diagnostics);
         archiver::FileHeader header;
-        if (reader.next(header) != ForeignReader::Step::Entry) return false;
-        EXPECT_EQ(header.name, "file");
-        EXPECT_EQ(header.unpackedSize, 60'000u);
-        if (!reader.unpack(header, *receiver.beginFile(header))) return false;
-        receiver.finishFile(header);
-        return reader.next(header) == ForeignReader::Step::End;
+        Collected collected;
+        const bool whole = reader.next(header) == ForeignReader::Step::Entry &&
+                           reader.unpack(header, collected) &&
+                           header.unpackedSize == collected.content.size() &&
+                           reader.next(header) == ForeignReader::Step::End;
+        return std::pair(whole ? header.name : "", collected.content);
     };
     std::string messages;
-    CollectingReceiver receiver;
-    EXPECT_TRUE(read(messages, receiver)) << messages;
-    EXPECT_TRUE(receiver.files["file"] == content);
-
+    EXPECT_TRUE(read(messages) == std::pair(std::string("file"), content)) << messages;
     paths.pop_back();
-    CollectingReceiver cut;
-    EXPECT_FALSE(read(messages, cut));
+    EXPECT_EQ(read(messages).first, "");
     EXPECT_NE(messages, "");
-    EXPECT_TRUE(cut.files.empty());
 }

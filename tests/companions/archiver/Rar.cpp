@@ -3,7 +3,8 @@
 #include "Tree.h"
 #include "VolumeNames.h"
 
-#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
 
 namespace fs = std::filesystem;
 
@@ -32,6 +33,13 @@ std::string base64Text(std::size_t size)
     return text;
 }
 
+void writeDated(const fs::path &file, std::int64_t seconds, std::int64_t nanoseconds)
+{
+    writeFile(file, "dated");
+    const timespec times[2] = {{seconds, nanoseconds}, {seconds, nanoseconds}};
+    ASSERT_EQ(utimensat(AT_FDCWD, file.c_str(), times, 0), 0);
+}
+
 std::vector<fs::path> volumesOf(const fs::path &archive)
 {
     for (std::size_t digits = 1; digits < 5; ++digits) {
@@ -42,6 +50,25 @@ std::vector<fs::path> volumesOf(const fs::path &archive)
         if (!paths.empty()) return paths;
     }
     return {};
+}
+
+void expectContent(const std::vector<fs::path> &volumes, const std::string &content)
+{
+    TemporaryFolder temporary;
+    std::string joined;
+    for (const fs::path &volume : volumes)
+        joined += readFile(volume);
+    writeFile(temporary / "joined", joined);
+    const fs::path &first = volumes.front();
+    const CommandResult ours = rar({"e", "-idq", first, temporary / "ours"});
+    const CommandResult other = runCommand({"bsdtar", "-xOf", temporary / "joined"});
+    const CommandResult third = runCommand({"unar", "-q", "-D", "-o", temporary / "third", first});
+    EXPECT_EQ(ours.errors + other.errors, "");
+    EXPECT_EQ(third.status, 0) << third.output;
+    // Long texts are compared as a whole: googletest would take minutes over their difference.
+    EXPECT_TRUE(readFile(temporary / "ours/file") == content);
+    EXPECT_TRUE(other.output == content);
+    EXPECT_TRUE(readFile(temporary / "third/file") == content);
 }
 
 archiver::Bytes bytesOf(const std::string &text)
@@ -63,8 +90,7 @@ HandmadeEntry storedFile(const std::string &name, const std::string &content)
 
 HandmadeEntry symbolicLink(const std::string &name, const std::string &target)
 {
-    HandmadeEntry entry;
-    entry.header.name = name;
+    HandmadeEntry entry = storedFile(name, "");
     entry.header.mode = 0120777;
     entry.header.link = archiver::LinkTarget{archiver::LinkTarget::Kind::Symbolic, false, target};
     return entry;
@@ -72,8 +98,7 @@ HandmadeEntry symbolicLink(const std::string &name, const std::string &target)
 
 HandmadeEntry folderEntry(const std::string &name, unsigned mode)
 {
-    HandmadeEntry entry;
-    entry.header.name = name;
+    HandmadeEntry entry = storedFile(name, "");
     entry.header.mode = 040000 | mode;
     entry.header.folder = true;
     return entry;
@@ -95,25 +120,4 @@ std::string handmadeArchive(const std::vector<HandmadeEntry> &entries, bool soli
     }
     archiver::putEndHeader(bytes, false);
     return {bytes.begin(), bytes.end()};
-}
-
-archiver::ContentSink *CollectingReceiver::beginFile(const archiver::FileHeader &)
-{
-    m_content.clear();
-    return this;
-}
-
-void CollectingReceiver::finishFile(const archiver::FileHeader &header) { files[header.name] = m_content; }
-
-bool CollectingReceiver::write(archiver::Bytes bytes)
-{
-    m_content.append(bytes.begin(), bytes.end());
-    return true;
-}
-
-std::unique_ptr<archiver::ByteSource> MemoryVolumes::open(std::size_t index)
-{
-    errno = ENOENT;
-    if (index >= m_volumes.size()) return nullptr;
-    return std::make_unique<archiver::MemorySource>(bytesOf(m_volumes[index]));
 }

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "Command.h"
-#include "ContentSink.h"
 #include "Headers.h"
-#include "VolumeSource.h"
+#include "TemporaryFolder.h"
 
 #include <filesystem>
-#include <map>
+#include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
@@ -21,8 +20,14 @@ CommandResult packFile(const std::filesystem::path &archive, const std::filesyst
 /// Text as `openssl enc -a` writes it: lines of 64 characters of base64, about `size` bytes.
 std::string base64Text(std::size_t size);
 
+/// A file whose last change was at `seconds` since 1970.
+void writeDated(const std::filesystem::path &file, std::int64_t seconds, std::int64_t nanoseconds);
+
 /// The volumes of a set from 1 on, as long as there are any.
 std::vector<std::filesystem::path> volumesOf(const std::filesystem::path &archive);
+
+/// Whether an archive of the one file "file" has this content, by our reader and by those of others.
+void expectContent(const std::vector<std::filesystem::path> &volumes, const std::string &content);
 
 /// An entry with its packed data, to be put into an archive by hand.
 struct HandmadeEntry {
@@ -38,28 +43,13 @@ std::string handmadeArchive(const std::vector<HandmadeEntry> &entries, bool soli
 
 archiver::Bytes bytesOf(const std::string &text);
 
-/// Keeps contents by name.
-class CollectingReceiver final : public archiver::EntryReceiver, private archiver::ContentSink {
-public:
-    std::map<std::string, std::string> files; ///< whole ones only
-    void folder(const archiver::FileHeader &) override {}
-    void link(const archiver::FileHeader &) override {}
-    archiver::ContentSink *beginFile(const archiver::FileHeader &) override;
-    void finishFile(const archiver::FileHeader &header) override;
-    void abandonFile() override {}
-
-private:
-    bool write(archiver::Bytes bytes) override;
-    std::string m_content;
-};
-
-/// Volumes in memory, named 1, 2, 3 …
-class MemoryVolumes final : public archiver::VolumeSource {
-public:
-    explicit MemoryVolumes(std::vector<std::string> volumes) : m_volumes(std::move(volumes)) {}
-    std::unique_ptr<archiver::ByteSource> open(std::size_t index) override;
-    [[nodiscard]] std::string name(std::size_t index) const override { return std::to_string(index + 1); }
-
-private:
-    std::vector<std::string> m_volumes;
+/// Each test has a folder of its own, and usual names for what it puts there.
+class ArchiverTest : public testing::Test {
+protected:
+    TemporaryFolder temporary;
+    const std::filesystem::path archive = temporary / "a.rar";
+    const std::filesystem::path source = temporary / "source";
+    const std::filesystem::path out = temporary / "out";
+    /// Where `source` comes to be when it is extracted to `out`.
+    const std::filesystem::path extracted = out / source.relative_path();
 };
