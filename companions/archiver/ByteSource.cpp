@@ -31,15 +31,6 @@ std::unique_ptr<FileSource> FileSource::openAt(int folder, const std::string &pa
     return source;
 }
 
-ssize_t MemorySource::read(std::uint64_t offset, std::span<std::uint8_t> into)
-{
-    if (offset >= m_bytes.size()) return 0;
-    const Bytes from = m_bytes.subspan(static_cast<std::size_t>(offset));
-    const std::size_t count = std::min(from.size(), into.size());
-    std::copy_n(from.begin(), count, into.begin());
-    return static_cast<ssize_t>(count);
-}
-
 Bytes SourceWindow::peek(std::size_t wanted)
 {
     if (m_end - m_begin < wanted && m_error == 0 && m_source) {

@@ -37,16 +37,6 @@ private:
     std::uint64_t m_size;
 };
 
-class MemorySource final : public ByteSource {
-public:
-    explicit MemorySource(Bytes bytes) : m_bytes(bytes) {}
-    ssize_t read(std::uint64_t offset, std::span<std::uint8_t> into) override;
-    [[nodiscard]] std::uint64_t size() const override { return m_bytes.size(); }
-
-private:
-    Bytes m_bytes;
-};
-
 /// A source read from front to back through a buffer, whose bytes are used in place.
 class SourceWindow {
 public:
