@@ -1,134 +1,110 @@
 #include "Front.h"
 
-#include <sys/stat.h>
+namespace fs = std::filesystem;
 
 namespace {
 
-// What a test that is not about the key derivation asks for, so as not to wait for it.
-const Arguments quick{"-pbkdf2", "-iter", "1"};
+class CipherFront : public testing::Test {
+protected:
+    testing::AssertionResult succeeds(const std::string &program, const std::string &line,
+                                      const Arguments &more)
+    {
+        return isSilentSuccess(runIn(folder, program, line, more));
+    }
 
-TEST(CipherFront, OpensItsOwnFilesAndExchangesThemWithTheSystemsTool)
+    TemporaryFolder folder;
+    // What a test that is not about the key derivation asks for, so as not to wait for it.
+    const Arguments quick = words("-pbkdf2 -iter 1");
+};
+
+TEST_F(CipherFront, ExchangesFilesWithTheSystemsTool)
 {
-    const TemporaryFolder folder;
     const std::string plain = binaryData(100'003);
     writeFile(folder / "F", plain);
     const Arguments pass{"-a", "-salt", "-pass", "pass:p\xc3\xa4ss w\"or'd"};
-    const std::vector<std::pair<std::string, Arguments>> ciphers{
-        {"aes-256-cbc", {}},
-        {"des-ede3-cbc", {}},
-        {"bf-cbc", {"-provider", "legacy", "-provider", "default"}}};
+    const std::vector<std::pair<std::string, std::string>> ciphers{
+        {"aes-256-cbc", ""}, {"des-ede3-cbc", ""}, {"bf-cbc", " -provider legacy -provider default"}};
     for (const auto &[cipher, providers] : ciphers) {
         SCOPED_TRACE(cipher);
-        const Arguments stock =
-            Arguments{"enc", "-" + cipher, "-pbkdf2", "-iter", "600000", "-md", "sha256"} + providers + pass;
-        const auto decryptsWithFront = [&, name = cipher](const std::string &file) {
-            return isSilentSuccess(
-                       runFront(folder, Arguments{name, "-d", "-in", file, "-out", "H"} + pass)) &&
-                   readFile(folder / "H") == plain;
-        };
-        EXPECT_TRUE(isSilentSuccess(runFront(folder, Arguments{cipher, "-in", "F", "-out", "G"} + pass)));
-        EXPECT_TRUE(decryptsWithFront("G"));
-        EXPECT_TRUE(isSilentSuccess(runStock(folder, stock + Arguments{"-d", "-in", "G", "-out", "I"})));
+        const std::string explicitly = "enc -" + cipher + " -pbkdf2 -iter 600000 -md sha256" + providers;
+        EXPECT_TRUE(succeeds(front, cipher + " -in F -out G", pass));
+        EXPECT_TRUE(succeeds(stock, explicitly + " -d -in G -out H", pass));
+        EXPECT_EQ(readFile(folder / "H"), plain);
+        EXPECT_TRUE(succeeds(stock, explicitly + " -in F -out G", pass));
+        EXPECT_TRUE(succeeds(front, cipher + " -d -in G -out I", pass));
         EXPECT_EQ(readFile(folder / "I"), plain);
-        EXPECT_TRUE(isSilentSuccess(runStock(folder, stock + Arguments{"-in", "F", "-out", "J"})));
-        EXPECT_TRUE(decryptsWithFront("J"));
     }
 }
 
-TEST(CipherFront, HandsPasswordsOnByteForByte)
+TEST_F(CipherFront, KeepsEverySizeAndHandsPasswordsOnByteForByte)
 {
-    const TemporaryFolder folder;
-    writeFile(folder / "F", "text");
-    const Arguments passwords{
-        "", " two  words ", "-x", "fd:0", "'\"\\$`", "\xff\xfe\r\t\x01", std::string(1023, 'x')};
-    for (const std::string &password : passwords) {
-        const Arguments pass{"-pass", "pass:" + password};
-        EXPECT_TRUE(
-            isSilentSuccess(runFront(folder, Arguments{"aes256", "-in", "F", "-out", "G"} + quick + pass)));
-        EXPECT_TRUE(isSilentSuccess(
-            runStock(folder, Arguments{"aes256", "-d", "-in", "G", "-out", "H"} + quick + pass)));
-        EXPECT_EQ(readFile(folder / "H"), "text") << password;
-    }
-}
-
-TEST(CipherFront, KeepsEverySize)
-{
-    const TemporaryFolder folder;
-    const Arguments options = quick + Arguments{"-a", "-k", "x"};
-    for (const std::size_t size : {0U, 1U, 15U, 16U, 17U, 4095U, 262144U, 1000001U}) {
+    const std::vector<std::pair<std::string, std::size_t>> passwordsAndSizes{
+        {"", 0},
+        {" two  words ", 1},
+        {"-x", 15},
+        {"fd:0", 16},
+        {"'\"\\$`", 17},
+        {"\xff\xfe\r\t\x01", 262'144},
+        {std::string(1023, 'x'), 1'000'001}};
+    for (const auto &[password, size] : passwordsAndSizes) {
+        const Arguments options = quick + Arguments{"-a", "-pass", "pass:" + password};
         writeFile(folder / "F", binaryData(size));
-        EXPECT_TRUE(
-            isSilentSuccess(runFront(folder, Arguments{"aes256", "-in", "F", "-out", "G"} + options)));
-        EXPECT_TRUE(
-            isSilentSuccess(runFront(folder, Arguments{"aes256", "-d", "-in", "G", "-out", "H"} + options)));
-        EXPECT_EQ(readFile(folder / "H"), binaryData(size)) << size;
+        EXPECT_TRUE(succeeds(front, "aes256 -in F -out G", options));
+        for (const std::string &reader : {front, stock}) {
+            EXPECT_TRUE(succeeds(reader, "aes256 -d -in G -out H", options));
+            EXPECT_EQ(readFile(folder / "H"), binaryData(size)) << reader << " with " << password;
+            fs::remove(folder / "H");
+        }
     }
 }
 
-TEST(CipherFront, TellsAFailureAndLeavesNoResult)
+TEST_F(CipherFront, TellsAFailureAndLeavesNoResult)
 {
-    const TemporaryFolder folder;
     writeFile(folder / "F", binaryData(100'000));
-    std::filesystem::create_directory(folder / "folder");
+    fs::create_directory(folder / "folder");
     // Without salt, so that what a wrong password makes of the padding is the same in every run.
-    const Arguments encrypt{"aes256", "-nosalt", "-in", "F", "-out", "G", "-k", "right"};
-    ASSERT_TRUE(isSilentSuccess(runFront(folder, encrypt + quick)));
-    const std::vector<Arguments> failing{
-        {"aes256", "-d", "-nosalt", "-in", "G", "-out", "H", "-pass", "pass:wrong"},
-        {"aes256", "-d", "-a", "-in", "F", "-out", "H", "-k", "x"},
-        {"aes256", "-in", "missing", "-out", "H", "-k", "x"},
-        {"aes256", "-in", "folder", "-out", "H", "-k", "x"},
-        {"aes256", "-in", "F", "-out", "missing/H", "-k", "x"},
-        {"aes256", "-in", "F", "-out", "H", "-pass", "file:missing"},
-        {"aes256", "-in", "F", "-out", "H", "-pass", "pass:one\ntwo"}};
-    for (const Arguments &arguments : failing) {
-        const CommandResult result = runFront(folder, arguments + quick);
-        EXPECT_NE(result.status, 0);
-        EXPECT_NE(result.output, "");
-        EXPECT_EQ(entriesIn(folder), 3);
+    ASSERT_TRUE(succeeds(front, "aes256 -nosalt -in F -out G -k right", quick));
+    for (const char *const failing :
+         {"-d -nosalt -in G -out H -pass pass:wrong", "-d -a -in F -out H -k x", "-in missing -out H -k x",
+          "-in folder -out H -k x", "-in F -out missing/H -k x", "-in F -out H -pass file:missing"}) {
+        const CommandResult result = runIn(folder, front, std::string("aes256 ") + failing, quick);
+        EXPECT_NE(result.status, 0) << failing;
+        EXPECT_NE(result.output, "") << failing;
+        EXPECT_EQ(entriesIn(folder), 3) << failing;
     }
+    const CommandResult result = runIn(folder, front, "aes256 -in F -out H", {"-pass", "pass:one\ntwo"});
+    EXPECT_TRUE(result.status != 0 && !result.output.empty() && entriesIn(folder) == 3);
 }
 
-TEST(CipherFront, WritesForTheUserAloneAndWhereALinkLeads)
+TEST_F(CipherFront, WritesForTheUserAloneAndWhereALinkLeads)
 {
-    const TemporaryFolder folder;
     writeFile(folder / "F", "text");
     writeFile(folder / "old", "older");
-    std::filesystem::create_symlink("old", folder / "G");
-    EXPECT_TRUE(
-        isSilentSuccess(runFront(folder, Arguments{"aes256", "-in", "F", "-out", "G", "-k", "x"} + quick)));
-    EXPECT_TRUE(std::filesystem::is_symlink(folder / "G"));
+    fs::create_symlink("old", folder / "G");
+    EXPECT_TRUE(succeeds(front, "aes256 -in F -out G -k x", quick));
+    EXPECT_TRUE(fs::is_symlink(folder / "G"));
     EXPECT_TRUE(readFile(folder / "old").starts_with("Salted__"));
-    struct stat status {};
-    ASSERT_EQ(stat((folder / "old").c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 0777U, 0600U);
+    EXPECT_EQ(fs::status(folder / "old").permissions(), fs::perms{0600});
 }
 
-TEST(CipherFront, WritesStraightToWhatIsNoRegularFile)
+TEST_F(CipherFront, WritesStraightToWhatIsNoRegularFile)
 {
-    const TemporaryFolder folder;
     writeFile(folder / "F", "text");
-    const Arguments encrypt = Arguments{"aes256", "-in", "F", "-nosalt", "-k", "x"} + quick;
-    const CommandResult toStream = runFront(folder, encrypt);
-    EXPECT_EQ(toStream.output.size(), 16U);
-    EXPECT_EQ(runFront(folder, encrypt + Arguments{"-out", "/dev/stdout"}).output, toStream.output);
-    EXPECT_TRUE(isSilentSuccess(runFront(folder, encrypt + Arguments{"-out", "/dev/null"})));
+    const std::string encrypt = "aes256 -in F -nosalt -k x";
+    const std::string output = runIn(folder, front, encrypt, quick).output;
+    EXPECT_EQ(output.size(), 16U);
+    EXPECT_EQ(runIn(folder, front, encrypt + " -out /dev/stdout", quick).output, output);
+    EXPECT_TRUE(succeeds(front, encrypt + " -out /dev/null", quick));
     EXPECT_EQ(entriesIn(folder), 1);
 }
 
-TEST(OtherCommands, DoWhatTheSystemsToolDoes)
+TEST_F(CipherFront, DoesOtherwiseWhatTheSystemsToolDoes)
 {
-    const TemporaryFolder folder;
     writeFile(folder / "F", "text");
-    const std::vector<Arguments> commands{{"-h"},
-                                          {"x509", "-help"},
-                                          {"no-such-command", "-x"},
-                                          {"aes-256-cbc", "-help"},
-                                          {"smime", "-encrypt", "-help"},
-                                          {"dgst", "-sha256", "F"}};
-    for (const Arguments &command : commands) {
-        const CommandResult expected = runStock(folder, command);
-        const CommandResult result = runFront(folder, command);
+    for (const char *const command : {"-h", "x509 -help", "no-such-command -x", "aes-256-cbc -help",
+                                      "smime -encrypt -help", "dgst -sha256 F"}) {
+        const CommandResult expected = runIn(folder, stock, command);
+        const CommandResult result = runIn(folder, front, command);
         EXPECT_EQ(result.output, expected.output);
         EXPECT_EQ(result.status, expected.status);
     }

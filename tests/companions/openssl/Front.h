@@ -5,6 +5,8 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <iterator>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -16,25 +18,25 @@ inline Arguments operator+(Arguments first, const Arguments &second)
     return first;
 }
 
+/// The arguments that a line without quotes stands for.
+inline Arguments words(const std::string &line)
+{
+    std::istringstream stream(line);
+    return {std::istream_iterator<std::string>(stream), {}};
+}
+
+inline const std::string front = OPENSSL_FRONT;
+inline const std::string stock = "openssl"; ///< the system's own tool
+
 /// Runs a program in `folder`; what it writes to both streams is in `output`.
-inline CommandResult runIn(const TemporaryFolder &folder, const Arguments &arguments)
+inline CommandResult runIn(const TemporaryFolder &folder, const std::string &program, const std::string &line,
+                           const Arguments &more = {})
 {
     CommandOptions options;
     options.folder = folder.path();
-    CommandResult result = runCommand(arguments, options);
+    CommandResult result = runCommand(Arguments{program} + words(line) + more, options);
     result.output += result.errors;
     return result;
-}
-
-inline CommandResult runFront(const TemporaryFolder &folder, const Arguments &arguments)
-{
-    return runIn(folder, Arguments{OPENSSL_FRONT} + arguments);
-}
-
-/// Runs the system's own tool.
-inline CommandResult runStock(const TemporaryFolder &folder, const Arguments &arguments)
-{
-    return runIn(folder, Arguments{"openssl"} + arguments);
 }
 
 /// Success in the sense of the front's callers: not a word.
