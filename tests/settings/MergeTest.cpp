@@ -16,7 +16,9 @@ Dictionary parsed(const std::string &elements)
 {
     const TemporaryFolder folder;
     writeFile(folder / "list", "<plist version=\"1.0\"><dict>" + elements + "</dict></plist>");
-    return plist::readFile(QString::fromStdString((folder / "list").string())).dictionary;
+    const plist::FileContent content = plist::readFile(QString::fromStdString((folder / "list").string()));
+    EXPECT_EQ(content.reason, QString());
+    return content.dictionary;
 }
 
 std::string text(const std::string &key, const std::string &value)
@@ -45,50 +47,63 @@ struct Merge {
     std::string expected;
 };
 
+void PrintTo(const Merge &merge, std::ostream *stream) { *stream << merge.name; }
+
+class MergeData : public testing::TestWithParam<Merge> {};
+
 const QString config = u"config"_s;
 const QString profile = u"profile"_s;
 const std::string number = "<key>n</key><integer>1</integer>";
 
 } // namespace
 
-TEST(MergeData, AddsWhatIsMissing)
+TEST_P(MergeData, AddsWhatIsMissing)
 {
-    const std::vector<Merge> cases{
-        {"texts", config, text("b", "user"), text("a", "new") + text("b", "new"),
-         text("b", "user") + text("a", "new")},
-        {"missingElements", config, list("l", {"x"}), list("l", {"a", "b"}), list("l", {"x", "l", "l"})},
-        {"elementNamedLikeTheList", config, list("l", {}), list("l", {"a", "l"}), list("l", {"l"})},
-        {"missingEntry", config, table("t", text("a", "user")), table("t", text("a", "1") + text("b", "2")),
-         table("t", text("a", "user") + table("t", text("a", "1") + text("b", "2")))},
-        {"otherKinds", config, "", number + "<key>b</key><true/>", ""},
-        {"otherKindInThePlace", config, text("l", "") + text("t", ""),
-         list("l", {"a"}) + table("t", text("a", "")), text("l", "") + text("t", "")},
-        {"unknownType", u"Config"_s, text("version", "1"), text("version", "2") + text("a", ""),
-         text("version", "1")},
-        {"profileTexts", profile, table("P", text("part", "5")) + table("Q", ""),
-         table("Default profile", text("part", "1") + text("path", "") + number),
-         table("P", text("part", "5") + text("path", "")) + table("Q", text("part", "1") + text("path", ""))},
-        {"profileLists", profile, table("P", list("l", {"a"})) + table("Q", ""),
-         table("Default profile", list("l", {"b"})),
-         table("P", list("l", {"a", "l"})) + table("Q", list("l", {"b"}))},
-        {"profileTable", profile, table("P", table("t", "")) + table("Q", ""),
-         table("Default profile", table("t", text("a", "1"))),
-         table("P", table("t", "")) + table("Q", table("t", text("a", "1")))},
-        {"profileTableAndTopLevelOne", profile, table("P", table("t", "")),
-         table("Default profile", table("t", text("a", "1"))) + table("t", text("b", "2")),
-         table("P", table("t", table("t", text("b", "2"))))},
-        {"profileVersion", profile, text("version", "1"), table("Default profile", text("part", "1")),
-         text("version", "1")}};
-    for (const Merge &test : cases) {
-        SCOPED_TRACE(test.name);
-        const Dictionary user = parsed(test.user);
-        EXPECT_TRUE(
-            quillorentLibrary::mergeData(user, parsed(test.newDict), u"2"_s, test.type).isSameObject(user));
-        ASSERT_TRUE(user && parsed(test.expected));
-        EXPECT_EQ(user, parsed(test.expected));
-        EXPECT_EQ(user.keys(), parsed(test.expected).keys());
-    }
+    const Dictionary user = parsed(GetParam().user);
+    const Dictionary merged =
+        quillorentLibrary::mergeData(user, parsed(GetParam().newDict), u"2"_s, GetParam().type);
+    EXPECT_TRUE(merged.isSameObject(user));
+    const Dictionary expected = parsed(GetParam().expected);
+    EXPECT_EQ(merged, expected);
+    EXPECT_EQ(merged.keys(), expected.keys());
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Rules, MergeData,
+    testing::Values(
+        Merge{"texts", config, text("b", "user"), text("a", "new") + text("b", "new"),
+              text("b", "user") + text("a", "new")},
+        Merge{"version", config, text("version", "1"), text("version", "2"), text("version", "2")},
+        Merge{"noVersion", config, "", text("version", "2") + text("a", ""), text("a", "")},
+        Merge{"missingElement", config, list("mustdo", {"a"}), list("mustdo", {"a", "b"}),
+              list("mustdo", {"a", "mustdo"})},
+        Merge{"missingElements", config, list("l", {"x"}), list("l", {"a", "b"}), list("l", {"x", "l", "l"})},
+        Merge{"elementNamedLikeTheList", config, list("l", {}), list("l", {"a", "l"}), list("l", {"l"})},
+        Merge{"missingEntry", config, table("t", text("a", "user")),
+              table("t", text("a", "1") + text("b", "2")),
+              table("t", text("a", "user") + table("t", text("a", "1") + text("b", "2")))},
+        Merge{"otherKinds", config, "", number + "<key>b</key><true/>", ""},
+        Merge{"otherKindInThePlace", config, text("l", "") + text("t", ""),
+              list("l", {"a"}) + table("t", text("a", "")), text("l", "") + text("t", "")},
+        Merge{"unknownType", u"Config"_s, text("version", "1"), text("version", "2") + text("a", ""),
+              text("version", "1")},
+        Merge{"profileTexts", profile, table("P", text("part", "5")) + table("Q", ""),
+              table("Default profile", text("part", "1") + text("path", "") + number),
+              table("P", text("part", "5") + text("path", "")) +
+                  table("Q", text("part", "1") + text("path", ""))},
+        Merge{"profileLists", profile, table("P", list("l", {"a"})) + table("Q", ""),
+              table("Default profile", list("l", {"b"})),
+              table("P", list("l", {"a", "l"})) + table("Q", list("l", {"b"}))},
+        Merge{"profileTable", profile, table("P", table("t", "")) + table("Q", ""),
+              table("Default profile", table("t", text("a", "1"))),
+              table("P", table("t", "")) + table("Q", table("t", text("a", "1")))},
+        Merge{"profileTableAndTopLevelOne", profile, table("P", table("t", "")),
+              table("Default profile", table("t", text("a", "1"))) + table("t", text("b", "2")),
+              table("P", table("t", table("t", text("b", "2"))))},
+        Merge{"noProfileIsAdded", profile, "", table("Default profile", text("part", "1")), ""},
+        Merge{"profileVersion", profile, text("version", "1"), table("Default profile", text("part", "1")),
+              text("version", "1")}),
+    [](const auto &test) { return std::string(test.param.name); });
 
 TEST(MergeData, StoresTheTemplatesOwnObjects)
 {

@@ -4,7 +4,6 @@
 
 #include "TemporaryFolder.h"
 
-#include <QDir>
 #include <gtest/gtest.h>
 #include <thread>
 #include <unistd.h>
@@ -38,18 +37,23 @@ public:
     explicit OrdinaryUser(const fs::path &folder)
     {
         if (getuid() != 0) return;
-        EXPECT_EQ(lchown(folder.c_str(), nobody, nobody), 0);
         for (const auto &entry : fs::recursive_directory_iterator(folder))
             EXPECT_EQ(lchown(entry.path().c_str(), nobody, nobody), 0);
+        EXPECT_EQ(lchown(folder.c_str(), nobody, nobody), 0);
         EXPECT_EQ(setresuid(nobody, nobody, 0), 0);
+        m_wasRoot = true;
     }
-    ~OrdinaryUser() { EXPECT_EQ(setresuid(m_user, m_user, m_user), 0); }
+    ~OrdinaryUser()
+    {
+        if (!m_wasRoot) return;
+        EXPECT_EQ(setresuid(0, 0, 0), 0);
+    }
     OrdinaryUser(const OrdinaryUser &) = delete;
     OrdinaryUser &operator=(const OrdinaryUser &) = delete;
 
 private:
     static constexpr uid_t nobody = 65534;
-    const uid_t m_user = getuid();
+    bool m_wasRoot = false;
 };
 
 class Store : public testing::Test {
@@ -94,34 +98,44 @@ TEST_F(Store, StartsFromTheTemplates)
     EXPECT_EQ(readProfiles().keys(), (QStringList{u"Default profile"_s}));
     EXPECT_EQ(readFile(settings), readFile(templates / "config.plist"));
     EXPECT_EQ(fs::status(settings).permissions(), fs::perms{0600});
-    for (const fs::path &made : {config, config.parent_path()})
-        EXPECT_EQ(fs::status(made).permissions(), fs::perms{0700});
+    EXPECT_EQ(fs::status(config).permissions(), fs::perms{0700});
+    EXPECT_EQ(fs::status(config.parent_path()).permissions(), fs::perms{0700});
 }
 
 TEST_F(Store, LiesInTheFolderThatTheEnvironmentNames)
 {
-    const QString home = QDir::homePath();
-    for (const auto &[configured, expected] :
-         {std::pair{"/some/where/", u"/some/where"_s}, std::pair{"relative", home + u"/.config"_s},
-          std::pair{"", home + u"/.config"_s}}) {
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", "/home/of/one");
+    const std::vector<std::pair<QByteArray, QString>> cases{{"/some/where/", u"/some/where"_s},
+                                                            {"relative", u"/home/of/one/.config"_s},
+                                                            {"", u"/home/of/one/.config"_s}};
+    for (const auto &[configured, expected] : cases) {
         qputenv("XDG_CONFIG_HOME", configured);
         EXPECT_EQ(settingsPath(), expected + u'/' + QString::fromStdString(settingsName));
         EXPECT_EQ(profilesPath(), expected + u'/' + QString::fromStdString(profilesName));
     }
+    qputenv("HOME", home);
 }
 
 TEST_F(Store, IsBroughtUpToDateWhereTheVersionDiffers)
 {
-    for (const char *const version : {"1", "2", "3", ""}) {
-        SCOPED_TRACE(version);
-        const bool isMerged = *version != '2';
-        const bool hasVersion = *version != '\0';
-        writeFile(settings, document(hasVersion ? versionElement(version) : ""));
+    struct Case {
+        std::string version;
+        bool isMerged;
+        QString versionAfter;
+    };
+    const std::vector<Case> cases{{versionElement("1"), true, u"2"_s}, // older
+                                  {versionElement("3"), true, u"2"_s}, // newer
+                                  {versionElement("2"), false, u"2"_s},
+                                  {"", true, {}}};
+    for (const Case &test : cases) {
+        writeFile(settings, document(test.version));
         writeFile(profiles, document("<key>Mine</key><dict/>"));
-        EXPECT_EQ(readSettings().contains(u"new"_s), isMerged);
-        EXPECT_EQ(readSettings().string(u"version"_s).value_or(u"none"_s), hasVersion ? u"2"_s : u"none"_s);
-        EXPECT_EQ(readProfiles().dictionary(u"Mine"_s).contains(u"new"_s), isMerged);
-        EXPECT_EQ(readProfiles().keys(), (QStringList{u"Mine"_s}));
+        const Dictionary read = readSettings();
+        EXPECT_EQ(read.contains(u"new"_s), test.isMerged) << test.version;
+        EXPECT_EQ(read.string(u"version"_s).value_or(QString()), test.versionAfter) << test.version;
+        EXPECT_EQ(readProfiles().dictionary(u"Mine"_s).contains(u"new"_s), test.isMerged) << test.version;
+        EXPECT_EQ(readProfiles().keys(), (QStringList{u"Mine"_s})) << test.version;
     }
 }
 
@@ -142,18 +156,22 @@ TEST_F(Store, KeepsWhatCannotBeReadWhenItIsSavedOver)
 
     saveSettings(Dictionary{});
     EXPECT_EQ(readSettings(), someSettings());
+}
 
-    fs::remove(settings);
+TEST_F(Store, LeavesWhatStandsInItsPlaceAndIsNoFile)
+{
     writeFile(settings / "precious", "x");
     EXPECT_FALSE(readSettings());
     saveSettings(someSettings());
     EXPECT_EQ(readFile(settings / "precious"), "x");
+    EXPECT_TRUE(readProfiles());
 }
 
 TEST_F(Store, ReplacesAFileThatMayNotBeWrittenAndKeepsIt)
 {
-    for (const char *const version : {"old", "older", "old"}) {
-        writeFile(settings, document(versionElement(version)));
+    for (const std::string &content :
+         {versionElement("old"), versionElement("older"), versionElement("old")}) {
+        writeFile(settings, document(content));
         fs::permissions(settings, fs::perms{0400});
         const OrdinaryUser user(folder.path());
         EXPECT_EQ(readSettings().string(u"version"_s), u"2");
@@ -161,22 +179,28 @@ TEST_F(Store, ReplacesAFileThatMayNotBeWrittenAndKeepsIt)
     EXPECT_EQ(readFile(damaged), document(versionElement("old")));
     EXPECT_EQ(readFile(damaged.string() + ".1"), document(versionElement("older")));
     EXPECT_FALSE(fs::exists(damaged.string() + ".2"));
+    EXPECT_EQ(fs::status(settings).permissions(), fs::perms{0600});
 }
 
 TEST_F(Store, LeavesAFileThatMayNotBeWrittenWhereNothingCanReplaceIt)
 {
-    const std::string old = document(versionElement("old"));
-    for (const bool hasTemplate : {true, false}) {
-        SCOPED_TRACE(hasTemplate);
-        writeFile(settings, old);
+    struct Case {
+        const char *name;
+        fs::perms folder;
+        bool hasTemplate;
+    };
+    for (const Case &test :
+         {Case{"folder", fs::perms{0500}, true}, Case{"template", fs::perms{0700}, false}}) {
+        writeFile(settings, document(versionElement("old")));
+        writeFile(profiles, document(""));
         fs::permissions(settings, fs::perms{0400});
-        fs::permissions(config, fs::perms{hasTemplate ? 0500U : 0700U});
-        if (!hasTemplate) fs::remove(templates / "config.plist");
+        fs::permissions(config, test.folder);
+        if (!test.hasTemplate) fs::remove(templates / "config.plist");
         const OrdinaryUser user(folder.path());
-        EXPECT_EQ(readSettings().string(u"version"_s), u"old");
+        EXPECT_EQ(readSettings().string(u"version"_s), u"old") << test.name;
         saveSettings(someSettings());
-        EXPECT_EQ(readFile(settings), old);
-        EXPECT_FALSE(fs::exists(damaged));
+        EXPECT_EQ(readFile(settings), document(versionElement("old"))) << test.name;
+        EXPECT_FALSE(fs::exists(damaged)) << test.name;
         fs::permissions(config, fs::perms{0700});
         fs::permissions(settings, fs::perms{0600});
     }
@@ -191,19 +215,23 @@ TEST_F(Store, FollowsLinks)
     EXPECT_TRUE(readSettings()); // the template, through a link to what was not there
     EXPECT_FALSE(readProfiles());
     saveSettings(someSettings());
-    EXPECT_TRUE(fs::is_symlink(settings) && fs::is_symlink(profiles));
+    EXPECT_TRUE(fs::is_symlink(settings));
+    EXPECT_TRUE(fs::is_symlink(profiles));
     EXPECT_EQ(plist::readFile(QString::fromStdString(kept.string())).dictionary, someSettings());
 
     fs::permissions(kept, fs::perms{0400});
     const OrdinaryUser user(folder.path());
     EXPECT_TRUE(readSettings().contains(u"new"_s));
     EXPECT_EQ(fs::read_symlink(damaged), "../../kept.plist");
+    EXPECT_EQ(plist::readFile(QString::fromStdString(kept.string())).dictionary, someSettings());
 }
 
 TEST_F(Store, NeedsItsTemplates)
 {
     fs::remove_all(templates);
-    EXPECT_FALSE(readSettings() || fs::exists(settings));
+    EXPECT_FALSE(readSettings());
+    EXPECT_FALSE(fs::exists(settings));
+
     writeFile(templates / "config.plist", document(newKey)); // gives no version
     writeFile(settings, document(versionElement("1")));
     EXPECT_EQ(readSettings().keys(), (QStringList{u"version"_s}));
@@ -213,18 +241,18 @@ TEST_F(Store, NeedsItsTemplates)
 TEST_F(Store, MayBeSavedByManyThreads)
 {
     const Dictionary shared = someSettings();
-    const auto work = [=](const QString &key) {
-        for (int round = 0; round < 20; ++round) {
-            shared.setValue(key, round);
-            saveSettings(shared);
-            EXPECT_TRUE(readSettings().contains(u"version"_s));
-        }
-    };
-    {
-        std::vector<std::jthread> threads;
-        for (const QString &key : {u"a"_s, u"b"_s, u"c"_s})
-            threads.emplace_back(work, key);
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < 3; ++thread) {
+        threads.emplace_back([=] {
+            for (int round = 0; round < 20; ++round) {
+                shared.setValue(u"key"_s + QString::number(thread), round);
+                saveSettings(shared);
+                EXPECT_TRUE(readSettings().contains(u"version"_s));
+            }
+        });
     }
+    for (std::thread &thread : threads)
+        thread.join();
     // The last save wrote the state of its turn, to which all threads had come.
     EXPECT_EQ(readSettings(), shared);
 }
@@ -237,15 +265,16 @@ TEST(Templates, FitTogether)
     setResourceFolder({});
     ASSERT_EQ(settings.reason + profiles.reason, QString());
 
-    const Dictionary paths = settings.dictionary.dictionary(u"external"_s);
-    for (const QString &table : {u"executables"_s, u"verifiers"_s})
-        EXPECT_EQ(settings.dictionary.dictionary(table).keys(), paths.keys());
-    for (const QString &tool : paths.keys())
-        EXPECT_TRUE(paths.string(tool)->startsWith(u'/')) << tool.toStdString();
+    const QStringList tools = settings.dictionary.dictionary(u"external"_s).keys();
+    EXPECT_EQ(settings.dictionary.dictionary(u"executables"_s).keys(), tools);
+    EXPECT_EQ(settings.dictionary.dictionary(u"verifiers"_s).keys(), tools);
+    for (const QString &tool : tools)
+        EXPECT_TRUE(settings.dictionary.dictionary(u"external"_s).string(tool)->startsWith(u'/'))
+            << tool.toStdString();
 
+    const Dictionary record = profiles.dictionary.dictionary(u"Default profile"_s);
     const QStringList methods = settings.dictionary.dictionary(u"encparam"_s).keys();
     EXPECT_EQ(QStringList{u"RAR"_s} + methods, settings.dictionary.dictionary(u"extensions"_s).keys());
-    const Dictionary record = profiles.dictionary.dictionary(u"Default profile"_s);
-    for (const QString &choice : {u"symencryption"_s, u"asymencryption"_s})
-        EXPECT_TRUE(methods.contains(record.string(choice).value_or(QString())));
+    EXPECT_TRUE(methods.contains(record.string(u"symencryption"_s).value_or(QString())));
+    EXPECT_TRUE(methods.contains(record.string(u"asymencryption"_s).value_or(QString())));
 }
