@@ -4,7 +4,7 @@
 #include "backup/BackupArguments.h"
 #include "backup/Decisions.h"
 #include "files/Sizes.h"
-#include "tools/ToolRun.h"
+#include "tools/RegisteredTool.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -30,7 +30,6 @@ private:
     [[nodiscard]] bool isCancelled() const { return m_delegate.cancelFlag(); }
     [[nodiscard]] bool goesOn() const { return !isCancelled() && m_succeeded; }
     void removeIfGoingOn(const QString &path) const;
-    ToolResult runRegisteredTool(const QString &name, const QStringList &arguments) const;
     enum class LogOutput { No, Yes };
     void judge(const QString &stage, const ToolResult &result, LogOutput logOutput = LogOutput::No);
 
@@ -95,11 +94,6 @@ void FolderBackup::removeIfGoingOn(const QString &path) const
     if (goesOn()) QFile::remove(path);
 }
 
-ToolResult FolderBackup::runRegisteredTool(const QString &name, const QStringList &arguments) const
-{
-    return runTool(m_delegate.setting(u"external"_qs, name).value_or(QString()), arguments);
-}
-
 void FolderBackup::judge(const QString &stage, const ToolResult &result, LogOutput logOutput)
 {
     m_succeeded = result.isSilent();
@@ -114,7 +108,8 @@ void FolderBackup::storeFolder()
     m_delegate.setStage(m_source, u"storing"_qs);
     const QString keepDate = quillorentLibrary::decideKeepDate();
     judge(u"RAR 1st"_qs,
-          runRegisteredTool(u"RAR"_qs, backupArguments::firstPass(keepDate, m_storedArchive, m_source)),
+          runRegisteredTool(
+              u"RAR"_qs, backupArguments::firstPass(keepDate, m_storedArchive, m_source)),
           LogOutput::Yes);
 }
 
@@ -148,10 +143,10 @@ void FolderBackup::pack()
 {
     if (!goesOn()) return;
     m_delegate.setStage(m_source, u"packing"_qs);
-    judge(u"RAR 2nd"_qs,
-          runRegisteredTool(u"RAR"_qs, backupArguments::secondPass(quillorentLibrary::decideKeepDate(),
-                                                                   quillorentLibrary::decideSplit(),
-                                                                   m_finalArchive, m_encryptedFile)));
+    judge(u"RAR 2nd"_qs, runRegisteredTool(
+                             u"RAR"_qs, backupArguments::secondPass(quillorentLibrary::decideKeepDate(),
+                                                                    quillorentLibrary::decideSplit(),
+                                                                    m_finalArchive, m_encryptedFile)));
 }
 
 void FolderBackup::succeed()
