@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Guarded.h"
+#include "app/Latest.h"
 #include "app/MainWindow.h"
 #include "app/Messages.h"
 #include "app/RunState.h"
@@ -91,10 +92,17 @@ public:
     void killer();
 
     // Passwords and keys
-    [[nodiscard]] QString passwordSelector() const;
+    [[nodiscard]] QString passwordSelector() const; ///< password, or path of the certificate
+    [[nodiscard]] bool pkeySelector() const;        ///< no certificate is wanted, or one is chosen
     void passCombo01Action();
     void checkBox01Action();
-    void certButton01Action();
+    void certButton01Action(); ///< choose the certificate
+    void certButton01ActionEnd();
+    void pkButton01Action(); ///< choose the private key
+    void pkButton01ActionEnd();
+    void certInfo01();   ///< show the certificate in the console
+    void certInfo02();   ///< show the private key in the console
+    void describeKeys(); ///< tell of the chosen certificate, and of a key that is missing
 
     // Tools
     void selectFile();
@@ -107,6 +115,7 @@ private:
     void applyRecord(const plist::Dictionary &record);
     void showPartSize(const QString &size);
 
+    Latest m_keyDescriptions;
     listTable m_listTable;
     pathTable m_pathTable;
 };

@@ -21,6 +21,12 @@ void QuillorentAppDelegate::passCombo01Action()
     currentRecord().setValue(u"passtype"_qs, source);
     passTabs.selectIndex(std::max(source, 0));
     pkView.setHidden(source != Certificate);
+    if (source == Certificate) describeKeys();
+}
+
+bool QuillorentAppDelegate::pkeySelector() const
+{
+    return passCombo01.selectedIndex() != Certificate || !certFile01.text().isEmpty();
 }
 
 void QuillorentAppDelegate::checkBox01Action()
@@ -31,15 +37,4 @@ void QuillorentAppDelegate::checkBox01Action()
     shown.setText(hidden.text());
     shown.setHidden(false);
     hidden.setHidden(true);
-}
-
-void QuillorentAppDelegate::certButton01Action()
-{
-    const auto chosen = openPanel(
-        {.title = u"Choose a certificate"_qs,
-         .allowedFileTypes = {u"cer"_qs, u"p12"_qs, u"p15"_qs, u"crt"_qs, u"der"_qs, u"pem"_qs, u"pfx"_qs,
-                              u"cert"_qs, u"txt"_qs, u"rtf"_qs, u"pk12"_qs, u"pk15"_qs, u"pkcs12"_qs}});
-    if (!chosen || chosen->isEmpty()) return;
-    certFile01.setText(chosen->first());
-    currentRecord().setValue(u"lastcertfile"_qs, chosen->first());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "outlets/Controls.h"
+#include "outlets/Panel.h"
 
 /// The tab of passwords and keys. Of each pair of password fields one is visible: the first masked, the
 /// second clear.
@@ -21,5 +22,13 @@ struct PasswordTab : virtual outlets::Registry {
 
     outlets::View pkView{*this, u"pkView"_qs};
     outlets::TextField certFile01{*this, u"certFile01"_qs};
+    outlets::TextField certSummary01{*this, u"certSummary01"_qs}; ///< subject and dates
+    outlets::TextField certWarning01{*this, u"certWarning01"_qs}; ///< expired, soon to expire, unreadable
     outlets::TextField pkFile01{*this, u"pkFile01"_qs};
+    outlets::TextField pkWarning01{*this, u"pkWarning01"_qs}; ///< what a missing key means
+
+    outlets::Panel certPanel01{*this, u"certPanel01"_qs};
+    outlets::TextField certPanelText01{*this, u"certPanelText01"_qs}; ///< why the certificate is refused
+    outlets::Panel pkPanel01{*this, u"pkPanel01"_qs};
+    outlets::TextField pkPanelText01{*this, u"pkPanelText01"_qs}; ///< why the private key is refused
 };

@@ -5,10 +5,11 @@
 #include "ui/PanelDialog.h"
 #include "ui/ProgressFigures.h"
 #include "ui_ConsolePanel01.h"
+#include "ui_MessagePanel.h"
 #include "ui_ProgressPanel01.h"
-#include "ui_WarningPanel01.h"
 #include "ui_WarningPanel03.h"
 
+#include <QCoreApplication>
 #include <QFontDatabase>
 
 namespace ui {
@@ -28,20 +29,40 @@ void showIcon(QLabel &label, const QString &name)
     label.setPixmap(themeIcon(name).pixmap(size));
 }
 
+/// A sheet that says something and is closed; its button is named after it.
+PanelDialog *makeMessage(QWidget &window, const QString &panel, const QString &text, const QString &title)
+{
+    Ui::MessagePanel form;
+    PanelDialog *dialog = makePanel(form, window);
+    dialog->setObjectName(panel);
+    dialog->setWindowTitle(title);
+    form.messageText->setObjectName(text);
+    form.messageCloseButton->setObjectName(panel + u"CloseButton"_qs);
+    showIcon(*form.messageIcon, u"dialog-warning"_qs);
+    return dialog;
+}
+
+QString tr(const char *text) { return QCoreApplication::translate("Panels", text); }
+
+QList<QWidget *> makeMessages(QWidget &window)
+{
+    return {makeMessage(window, u"warningPanel01"_qs, u"warningText01"_qs, tr("Can't start")),
+            makeMessage(window, u"certPanel01"_qs, u"certPanelText01"_qs, tr("Certificate not accepted")),
+            makeMessage(window, u"pkPanel01"_qs, u"pkPanelText01"_qs, tr("Private key not accepted"))};
+}
+
 } // namespace
 
 Panels::Panels(QuillorentAppDelegate &controller, QWidget &window)
-    : m_warningForm(std::make_unique<Ui::WarningPanel01>())
-    , m_questionForm(std::make_unique<Ui::WarningPanel03>())
+    : m_questionForm(std::make_unique<Ui::WarningPanel03>())
     , m_progressForm(std::make_unique<Ui::ProgressPanel01>())
     , m_consoleForm(std::make_unique<Ui::ConsolePanel01>())
-    , m_warning(makePanel(*m_warningForm, window))
+    , m_messages(makeMessages(window))
     , m_question(makePanel(*m_questionForm, window))
     , m_progress(makePanel(*m_progressForm, window))
     , m_console(makePanel(*m_consoleForm, window))
     , m_figures(std::make_unique<ProgressFigures>(controller, *m_progressForm))
 {
-    showIcon(*m_warningForm->warningIcon, u"dialog-warning"_qs);
     showIcon(*m_questionForm->questionIcon, u"dialog-question"_qs);
     m_progress->keepWindowClosable();
     m_consoleForm->consoleTextView01->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
@@ -51,6 +72,9 @@ Panels::Panels(QuillorentAppDelegate &controller, QWidget &window)
 
 Panels::~Panels() = default;
 
-QList<QWidget *> Panels::all() const { return {m_warning, m_question, m_progress, m_console}; }
+QList<QWidget *> Panels::all() const
+{
+    return m_messages + QList<QWidget *>{m_question, m_progress, m_console};
+}
 
 } // namespace ui

@@ -9,7 +9,6 @@ class QWidget;
 namespace Ui {
 class ConsolePanel01;
 class ProgressPanel01;
-class WarningPanel01;
 class WarningPanel03;
 } // namespace Ui
 
@@ -28,11 +27,10 @@ public:
     [[nodiscard]] PanelDialog &progress() const { return *m_progress; }
 
 private:
-    std::unique_ptr<Ui::WarningPanel01> m_warningForm;
     std::unique_ptr<Ui::WarningPanel03> m_questionForm;
     std::unique_ptr<Ui::ProgressPanel01> m_progressForm;
     std::unique_ptr<Ui::ConsolePanel01> m_consoleForm;
-    PanelDialog *m_warning;
+    QList<QWidget *> m_messages; ///< sheets that say something and are closed
     PanelDialog *m_question;
     PanelDialog *m_progress;
     PanelDialog *m_console;

@@ -1,4 +1,5 @@
 #include "Command.h"
+#include "Credentials.h"
 #include "Stub.h"
 #include "TestProgram.h"
 #include "Tree.h"
@@ -114,23 +115,18 @@ TEST(BackupRun, EncryptsForACertificate)
     TestProgram program;
     program.start();
     writeFile(program.folder() / "docs/letter", "for your eyes only");
-    const std::string key = (program.folder() / "key.pem").string();
-    const std::string certificate = (program.folder() / "certificate.pem").string();
-    run({"openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-subj", "/CN=test", "-keyout", key,
-         "-out", certificate});
+    const auto [certificate, key] = makeCredentials(program.folder(), "anna");
 
     program.setUpBackup({program.path("docs")});
-    program.delegate().openPanel = [&](const outlets::OpenPanel &) {
-        return QStringList{program.path("certificate.pem")};
-    };
-    program.delegate().certButton01Action();
+    program.delegate().certFile01.setText(toQString(certificate));
     program.delegate().passCombo01.selectIndex(PasswordTab::Certificate);
     program.backUp();
     EXPECT_EQ(program.delegate().consoleTextView01.text(), QString());
 
     const fs::path opened = program.folder() / "opened";
-    openWithStockTools(program.folder() / "archives/docs.rar.smime.rar", opened,
-                       {"smime", "-decrypt", "-binary", "-inkey", key, "-recip", certificate});
+    openWithStockTools(
+        program.folder() / "archives/docs.rar.smime.rar", opened,
+        {"smime", "-decrypt", "-binary", "-inkey", key.string(), "-recip", certificate.string()});
     EXPECT_EQ(readFile(opened / "tree" / (program.folder() / "docs/letter").relative_path()),
               "for your eyes only");
 }

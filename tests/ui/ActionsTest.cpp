@@ -1,3 +1,4 @@
+#include "Credentials.h"
 #include "TestWindow.h"
 
 #include "ui/Actions.h"
@@ -165,9 +166,34 @@ TEST_F(ActionsTest, PasswordSourceShowsItsPageAndWhatIsMissing)
     QTest::keyClick(&widget(u"passCombo01"_qs), Qt::Key_Down);
     settle();
     EXPECT_EQ(kept(u"passtype"_qs), u"2"_qs);
-    delegate.openPanel = [](const outlets::OpenPanel &) { return QStringList{u"/keys/team.pem"_qs}; };
+}
+
+TEST_F(ActionsTest, CertificateIsCheckedAndToldOf)
+{
+    const Credentials keys = makeCredentials(program.folder(), "old", Validity::EndedIn2021);
+    showTab(u"passwordsPage"_qs);
+    delegate.passCombo01.selectIndex(PasswordTab::Certificate);
+    delegate.passCombo01Action();
+    settle();
+    QString chosen = toQString(keys.key);
+    delegate.openPanel = [&](const outlets::OpenPanel &) { return QStringList{chosen}; };
+
+    clickAndAnswer(u"certButton01"_qs, u"certPanel01"_qs, [&] {
+        EXPECT_TRUE(widget<QLabel>(u"certPanelText01"_qs).text().contains(u"holds a private key"));
+        click(u"certPanel01CloseButton"_qs);
+    });
+    clickAndAnswer(u"pkButton01"_qs, u"pkPanel01"_qs,
+                   [&] { QTest::keyClick(&widget(u"pkPanel01"_qs), Qt::Key_Escape); });
+    EXPECT_TRUE(waitUntil([&] { return !widget(u"pkPanel01"_qs).isVisible(); }));
+
+    chosen = toQString(keys.certificate);
     click(u"certButton01"_qs);
-    EXPECT_TRUE(protection.text().endsWith(u"team.pem"));
+    EXPECT_TRUE(waitUntil([&] { return widget(u"certWarning01"_qs).isVisible(); }));
+    EXPECT_TRUE(widget<QLabel>(u"certSummary01"_qs).text().startsWith(u"CN=old"));
+    EXPECT_TRUE(widget<QLabel>(u"protectionText"_qs).text().endsWith(u"old.pem"));
+    click(u"certInfoButton01"_qs);
+    EXPECT_TRUE(waitUntil([&] { return delegate.consoleTextView01.text().startsWith(u"Certificate:"); }));
+    EXPECT_TRUE(widget(u"consolePanel01"_qs).isVisible());
 }
 
 TEST_F(ActionsTest, ChooserTakesFilesAndFoldersTogether)
