@@ -1,6 +1,7 @@
 #include "ui/Window.h"
 
 #include "app/QuillorentAppDelegate.h"
+#include "keys/Strength.h"
 #include "ui/Actions.h"
 #include "ui/Binding.h"
 #include "ui/OpenPanelDialog.h"
@@ -24,6 +25,25 @@ QString volumeHint(const QString &size)
     if (!isNumber || thousands <= 0) return Window::tr("not a size");
     if (thousands > std::numeric_limits<qint64>::max() / 1000) return {};
     return u"= "_qs + QLocale().formattedDataSize(thousands * 1000, 1, QLocale::DataSizeSIFormat);
+}
+
+// Says what to do, and never blocks: whose password it is decides.
+QString strengthHint(const QString &password)
+{
+    switch (estimateStrength(password)) {
+    case Strength::None:
+        return {};
+    case Strength::Weak:
+        return Window::tr(
+            "Easy to guess. Five or six words that have nothing to do with each other are better.");
+    case Strength::Fair:
+        return Window::tr("Hard to guess. One more word makes it strong.");
+    case Strength::Strong:
+        return Window::tr(
+            "Very hard to guess. Is it written down in a safe place? A mistyped or forgotten password is "
+            "a lost backup.");
+    }
+    return {};
 }
 
 } // namespace
@@ -71,6 +91,11 @@ void Window::deriveFromOutlets()
     RefreshQueue &queue = m_binding->queue();
     queue.watch({&all.passCombo01, &all.checkBox01, &all.secureText01a, &all.secureText01b, &all.certFile01},
                 [this] { m_form->protectionText->setText(protectionText(m_controller)); });
+    queue.watch({&all.checkBox01, &all.secureText01a, &all.secureText01b}, [this] {
+        const outlets::TextField &typed =
+            m_controller.checkBox01.isOn() ? m_controller.secureText01a : m_controller.secureText01b;
+        m_form->strengthHint->setText(strengthHint(typed.text()));
+    });
     queue.watch(all.checkBox01, [this] {
         m_form->typedLabel->setBuddy(m_controller.checkBox01.isOn() ? m_form->secureText01a
                                                                     : m_form->secureText01b);

@@ -154,6 +154,7 @@ TEST_F(ActionsTest, PasswordSourceShowsItsPageAndWhatIsMissing)
     QTest::keyClicks(&widget(u"secureText01a"_qs), u"se<cret"_qs);
     settle();
     EXPECT_EQ(delegate.passwordSelector(), u"se<cret"_qs);
+    EXPECT_TRUE(widget<QLabel>(u"strengthHint"_qs).text().startsWith(u"Easy to guess"));
     EXPECT_FALSE(protection.text().contains(u"not entered"));
     EXPECT_FALSE(protection.text().contains(u"se<cret"));
     click(u"checkBox01"_qs);
