@@ -1,4 +1,5 @@
 #include "app/QuillorentAppDelegate.h"
+#include "keychain/Keychain.h"
 #include "plist/File.h"
 #include "settings/Paths.h"
 #include "settings/Store.h"
@@ -84,8 +85,10 @@ void QuillorentAppDelegate::endRuns()
     for (outlets::Outlet *outlet : outlets())
         if (auto *panel = dynamic_cast<outlets::Panel *>(outlet)) panel->endWaiting();
 
-    // A worker between two looks at the flag may start one more tool; so until all threads have ended.
+    // A worker between two looks at the flag may start one more tool, or ask the keychain; so until all
+    // threads have ended.
     do {
         endTools();
+        keychain()->giveUp();
     } while (!waitForThreads(200ms));
 }
