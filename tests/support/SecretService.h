@@ -1,0 +1,43 @@
+#pragma once
+
+#include "TemporaryFolder.h"
+
+#include <map>
+#include <string>
+#include <sys/types.h>
+#include <vector>
+
+/// A D-Bus session with a real Secret Service (gnome-keyring) in a home of its own. While it lives, the
+/// test's own process and what it starts find this session and no other. Nobody can be asked for a password
+/// here. Make and use it on the main thread: its processes end with the thread that made them.
+class SecretService {
+public:
+    enum class Keyring { Unlocked, Locked, None };
+
+    /// The session's bus alone; nothing answers as the Secret Service.
+    SecretService();
+    ~SecretService();
+    SecretService(const SecretService &) = delete;
+    SecretService &operator=(const SecretService &) = delete;
+
+    /// Starts the service, again where it runs. What it kept is still there, but for None: then the service
+    /// runs without a keyring.
+    void start(Keyring keyring = Keyring::Unlocked);
+    void stop();
+
+    void freeze() const; ///< it takes calls and does not answer them
+    void thaw() const;   ///< it answers what has come in the meantime
+
+    /// For processes that shall see this session.
+    [[nodiscard]] const std::map<std::string, std::string> &environment() const { return m_environment; }
+
+private:
+    pid_t spawn(const std::vector<std::string> &arguments, const std::string &input = {});
+    void launch(const std::vector<std::string> &more, const std::string &input);
+
+    TemporaryFolder m_folder;
+    std::map<std::string, std::string> m_environment;
+    std::map<std::string, std::string> m_replaced; ///< of the test's own environment
+    pid_t m_bus = -1;
+    pid_t m_daemon = -1;
+};
