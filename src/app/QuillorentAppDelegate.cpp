@@ -25,7 +25,10 @@ QuillorentAppDelegate::QuillorentAppDelegate()
     prefSelector01.selectIndex(0);
     checkBox01.setOn(true);
     checkBox03.setOn(true);
+    checkBox02.setOn(true);
     secureText01b.setHidden(true);
+    keychainClear.setHidden(true);
+    keychainUnlock01.setHidden(true);
     currentProfileTextView.setHidden(true);
 }
 

@@ -96,6 +96,10 @@ public:
     [[nodiscard]] bool pkeySelector() const;        ///< no certificate is wanted, or one is chosen
     void passCombo01Action();
     void checkBox01Action();
+    void checkBox02Action();
+    void passButton01Action(); ///< fetch the password from the keychain
+    void passButton02Action(); ///< store it there
+    void keychainUnlock01Action();
     void certButton01Action(); ///< choose the certificate
     void certButton01ActionEnd();
     void pkButton01Action(); ///< choose the private key
@@ -115,6 +119,12 @@ private:
     void applyRecord(const plist::Dictionary &record);
     void showPartSize(const QString &size);
 
+    [[nodiscard]] outlets::TextField &shownKeychainField();
+    template <class Ask>
+    void askKeychain(Ask ask);
+    void forgetKeychainAnswers();
+
+    Latest m_keychainRequests;
     Latest m_keyDescriptions;
     listTable m_listTable;
     pathTable m_pathTable;

@@ -19,6 +19,8 @@ QString whatIsMissing(const QuillorentAppDelegate &delegate)
     if (delegate.passwordSelector().isEmpty()) {
         if (delegate.passCombo01.selectedIndex() == PasswordTab::Certificate)
             return u"No certificate is chosen. Choose one on the Passwords tab."_qs;
+        if (delegate.passCombo01.selectedIndex() == PasswordTab::KeychainPassword)
+            return u"No password was fetched from the keychain. See the Passwords tab; without a password nothing is backed up."_qs;
         return u"No password is given. Type one on the Passwords tab; without a password nothing is backed up."_qs;
     }
     if (record.array(u"folders"_qs).count() == 0)

@@ -108,8 +108,7 @@ void FolderBackup::storeFolder()
     m_delegate.setStage(m_source, u"storing"_qs);
     const QString keepDate = quillorentLibrary::decideKeepDate();
     judge(u"RAR 1st"_qs,
-          runRegisteredTool(
-              u"RAR"_qs, backupArguments::firstPass(keepDate, m_storedArchive, m_source)),
+          runRegisteredTool(u"RAR"_qs, backupArguments::firstPass(keepDate, m_storedArchive, m_source)),
           LogOutput::Yes);
 }
 
@@ -143,10 +142,10 @@ void FolderBackup::pack()
 {
     if (!goesOn()) return;
     m_delegate.setStage(m_source, u"packing"_qs);
-    judge(u"RAR 2nd"_qs, runRegisteredTool(
-                             u"RAR"_qs, backupArguments::secondPass(quillorentLibrary::decideKeepDate(),
-                                                                    quillorentLibrary::decideSplit(),
-                                                                    m_finalArchive, m_encryptedFile)));
+    judge(u"RAR 2nd"_qs,
+          runRegisteredTool(u"RAR"_qs, backupArguments::secondPass(quillorentLibrary::decideKeepDate(),
+                                                                   quillorentLibrary::decideSplit(),
+                                                                   m_finalArchive, m_encryptedFile)));
 }
 
 void FolderBackup::succeed()

@@ -64,6 +64,19 @@ private:
     bool m_refused = false;
 };
 
+/// The profile's keychain password was asked for when the profile was opened.
+void waitForKeychain(const QuillorentAppDelegate &delegate)
+{
+    QEventLoop loop;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &loop, [&] {
+        if (!delegate.keychainIndicator01.isAnimating()) loop.quit();
+    });
+    look.start(20ms);
+    loop.exec();
+    if (delegate.passwordSelector().isEmpty()) printError(delegate.keychainText01.text());
+}
+
 /// Whether there is a password, or what stands for one, or the run itself will say that there is none.
 bool supplyPassword(QuillorentAppDelegate &delegate, const QString &file)
 {
@@ -72,6 +85,7 @@ bool supplyPassword(QuillorentAppDelegate &delegate, const QString &file)
         printError(u"The profile encrypts for a certificate; a password does not go with it."_qs);
         return false;
     }
+    if (file.isEmpty() && source == PasswordTab::KeychainPassword) waitForKeychain(delegate);
     if (file.isEmpty() && !delegate.passwordSelector().isEmpty()) return true;
     if (file.isEmpty() && source == PasswordTab::Certificate) return true;
 

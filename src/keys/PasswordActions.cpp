@@ -1,5 +1,19 @@
 #include "app/QuillorentAppDelegate.h"
 
+namespace {
+
+/// Of a pair of fields for one password, shows the masked one or the clear one, with the text of the other.
+void showOneOf(const outlets::CheckBox &maskedWanted, outlets::TextField &masked, outlets::TextField &clear)
+{
+    outlets::TextField &shown = maskedWanted.isOn() ? masked : clear;
+    outlets::TextField &hidden = maskedWanted.isOn() ? clear : masked;
+    shown.setText(hidden.text());
+    shown.setHidden(false);
+    hidden.setHidden(true);
+}
+
+} // namespace
+
 QString QuillorentAppDelegate::passwordSelector() const
 {
     switch (passCombo01.selectedIndex()) {
@@ -21,6 +35,7 @@ void QuillorentAppDelegate::passCombo01Action()
     currentRecord().setValue(u"passtype"_qs, source);
     passTabs.selectIndex(std::max(source, 0));
     pkView.setHidden(source != Certificate);
+    if (source == KeychainPassword && !keychainUser.text().isEmpty()) passButton01Action();
     if (source == Certificate) describeKeys();
 }
 
@@ -29,12 +44,6 @@ bool QuillorentAppDelegate::pkeySelector() const
     return passCombo01.selectedIndex() != Certificate || !certFile01.text().isEmpty();
 }
 
-void QuillorentAppDelegate::checkBox01Action()
-{
-    const bool masked = checkBox01.isOn();
-    outlets::TextField &shown = masked ? secureText01a : secureText01b;
-    outlets::TextField &hidden = masked ? secureText01b : secureText01a;
-    shown.setText(hidden.text());
-    shown.setHidden(false);
-    hidden.setHidden(true);
-}
+void QuillorentAppDelegate::checkBox01Action() { showOneOf(checkBox01, secureText01a, secureText01b); }
+
+void QuillorentAppDelegate::checkBox02Action() { showOneOf(checkBox02, keychainPass, keychainClear); }

@@ -2,6 +2,7 @@
 
 #include "outlets/Controls.h"
 #include "outlets/Panel.h"
+#include "outlets/Progress.h"
 
 /// The tab of passwords and keys. Of each pair of password fields one is visible: the first masked, the
 /// second clear.
@@ -14,11 +15,19 @@ struct PasswordTab : virtual outlets::Registry {
 
     outlets::TextField secureText01a{*this, u"secureText01a"_qs};
     outlets::TextField secureText01b{*this, u"secureText01b"_qs};
-    outlets::CheckBox checkBox01{*this, u"checkBox01"_qs}; ///< on: the masked field counts
+    outlets::CheckBox checkBox01{
+        *this, u"checkBox01"_qs}; ///< on: the masked fields count, here and of the keychain's
 
     outlets::TextField keychainUser{*this, u"keychainUser"_qs};
     outlets::TextField keychainPass{*this, u"keychainPass"_qs};
     outlets::TextField keychainClear{*this, u"keychainClear"_qs};
+    outlets::CheckBox checkBox02{*this,
+                                 u"checkBox02"_qs}; ///< on: the masked field is stored and fetched into
+    outlets::TextField keychainText01{*this,
+                                      u"keychainText01"_qs}; ///< what the keychain said last, and what to do
+    outlets::Button keychainUnlock01{*this, u"keychainUnlock01"_qs};
+    outlets::ProgressIndicator keychainIndicator01{*this,
+                                                   u"keychainIndicator01"_qs}; ///< turns while it is asked
 
     outlets::View pkView{*this, u"pkView"_qs};
     outlets::TextField certFile01{*this, u"certFile01"_qs};

@@ -50,6 +50,7 @@ void QuillorentAppDelegate::setterCurrentProfile(const QString &name)
     updatesCheck01.setOn(configPlist().dictionary(u"updates"_qs).isOn(u"automatic"_qs));
     autosaveCheck01.setOn(configPlist().dictionary(u"resources"_qs).isOn(u"autosave"_qs));
 
+    forgetKeychainAnswers();
     // No password typed for one profile may be seen in the next. The destination, the extraction folder and
     // the volume size stay as they are where the new record has none.
     for (outlets::TextField *field :

@@ -79,6 +79,10 @@ constexpr ActionRow table[] = {
 
     {"passCombo01"_name, send<&Controller::passCombo01Action>},
     {"checkBox01"_name, send<&Controller::checkBox01Action>},
+    {"checkBox02"_name, send<&Controller::checkBox02Action>},
+    {"passButton01"_name, send<&Controller::passButton01Action>},
+    {"passButton02"_name, send<&Controller::passButton02Action>},
+    {"keychainUnlock01"_name, send<&Controller::keychainUnlock01Action>},
     {"certButton01"_name, send<&Controller::certButton01Action>},
     {"certInfoButton01"_name, send<&Controller::certInfo01>},
     {"pkButton01"_name, send<&Controller::pkButton01Action>},

@@ -13,7 +13,6 @@
 #include <QCloseEvent>
 #include <QLocale>
 #include <QShortcut>
-#include <QStandardItemModel>
 
 namespace ui {
 namespace {
@@ -74,11 +73,6 @@ void Window::finishForm()
     m_form->prefStepper01->setRange(1, 10'000'000, 1000);
     m_form->prefStepper01->listenTo(*m_form->prefText01);
 
-    // The source is kept in profiles and so has its place among the choices; this version can't fetch from
-    // it.
-    auto *sources = qobject_cast<QStandardItemModel *>(m_form->passCombo01->model());
-    sources->item(PasswordTab::KeychainPassword)->setEnabled(false);
-
     QFont bold = m_form->currentProfileTextView->font();
     bold.setBold(true);
     m_form->currentProfileTextView->setFont(bold);
@@ -89,8 +83,19 @@ void Window::deriveFromOutlets()
 {
     QuillorentAppDelegate &all = m_controller;
     RefreshQueue &queue = m_binding->queue();
-    queue.watch({&all.passCombo01, &all.checkBox01, &all.secureText01a, &all.secureText01b, &all.certFile01},
+    queue.watch({&all.passCombo01, &all.checkBox01, &all.secureText01a, &all.secureText01b, &all.keychainUser,
+                 &all.keychainPass, &all.keychainClear, &all.certFile01},
                 [this] { m_form->protectionText->setText(protectionText(m_controller)); });
+    queue.watch({&all.checkBox01, &all.checkBox02, &all.keychainPass, &all.keychainClear},
+                [this] { m_form->keychainConflict->setVisible(isKeychainFieldAmbiguous(m_controller)); });
+    queue.watch(all.checkBox02, [this] {
+        m_form->keychainLabel->setBuddy(m_controller.checkBox02.isOn() ? m_form->keychainPass
+                                                                       : m_form->keychainClear);
+    });
+    queue.watch(all.keychainUser, [this] {
+        for (QWidget *button : {m_form->passButton01, m_form->passButton02})
+            button->setEnabled(!m_controller.keychainUser.text().isEmpty());
+    });
     queue.watch({&all.checkBox01, &all.secureText01a, &all.secureText01b}, [this] {
         const outlets::TextField &typed =
             m_controller.checkBox01.isOn() ? m_controller.secureText01a : m_controller.secureText01b;

@@ -123,35 +123,3 @@ TEST(Options, WriteTheirKeysAtOnce)
     delegate.autosaveCheck01Action();
     EXPECT_EQ(delegate.setting(u"resources"_qs, u"autosave"_qs), u"0"_qs);
 }
-
-TEST(PasswordSelector, FollowsTheSource)
-{
-    TestProgram program;
-    program.start();
-    QuillorentAppDelegate &delegate = program.delegate();
-    delegate.secureText01a.setText(u"masked"_qs);
-    delegate.secureText01b.setText(u"clear"_qs);
-    delegate.keychainPass.setText(u"kept masked"_qs);
-    delegate.keychainClear.setText(u"kept clear"_qs);
-    delegate.certFile01.setText(u"/me.pem"_qs);
-
-    struct Case {
-        int source;
-        bool masked;
-        QString password;
-    };
-    for (const Case &c :
-         {Case{-1, true, u"masked"_qs}, Case{0, true, u"masked"_qs}, Case{0, false, u"clear"_qs},
-          Case{1, true, u"kept masked"_qs}, Case{1, false, u"kept clear"_qs}, Case{2, true, u"/me.pem"_qs},
-          Case{3, true, QString()}}) {
-        delegate.passCombo01.selectIndex(c.source);
-        delegate.checkBox01.setOn(c.masked);
-        EXPECT_EQ(delegate.passwordSelector(), c.password) << c.source << c.masked;
-    }
-
-    delegate.passCombo01.selectIndex(PasswordTab::Certificate);
-    delegate.passCombo01Action();
-    EXPECT_EQ(delegate.currentRecord().integer(u"passtype"_qs), 2);
-    EXPECT_EQ(delegate.passTabs.selectedIndex(), 2);
-    EXPECT_FALSE(delegate.pkView.isHidden());
-}

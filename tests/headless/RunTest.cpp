@@ -1,4 +1,6 @@
 #include "Command.h"
+#include "Credentials.h"
+#include "SecretService.h"
 #include "Stub.h"
 #include "TemporaryFolder.h"
 
@@ -22,16 +24,24 @@ public:
         writeFile(m_folder / "docs/file", "content");
         writeFile(m_folder / "password", "from a file\nsecond line");
         EXPECT_EQ(run({"profiles"}).status, 0);
+        writeProfile(0);
+    }
+
+    /// The source of the password: 0 typed, 1 keychain, 2 certificate; with what the record keeps for it.
+    void writeProfile(int source, const std::string &key = "lastcertfile",
+                      const std::string &value = {}) const
+    {
+        const auto entry = [](const std::string &name, const std::string &text) {
+            return "<key>" + name + "</key><string>" + text + "</string>";
+        };
         writeFile(profiles(),
                   "<plist version=\"1.0\"><dict><key>Default profile</key><dict/><key>Mine</key><dict>"
                   "<key>folders</key><array><string>" +
-                      (m_folder / "docs").string() +
-                      "</string></array>"
-                      "<key>path</key><string>" +
-                      (m_folder / "archives").string() +
-                      "</string>"
-                      "<key>passtype</key><integer>0</integer><key>emptydir</key><string>0</string>"
-                      "<key>symencryption</key><string>OpenSSL-AES</string></dict></dict></plist>");
+                      (m_folder / "docs").string() + "</string></array><key>passtype</key><integer>" +
+                      std::to_string(source) + "</integer>" +
+                      entry("path", (m_folder / "archives").string()) + entry("emptydir", "0") +
+                      entry("symencryption", "OpenSSL-AES") + entry("asymencryption", "OpenSSL-SMIME") +
+                      entry(key, value) + "</dict></dict></plist>");
     }
 
     [[nodiscard]] CommandResult run(std::vector<std::string> arguments, const std::string &input = {}) const
@@ -71,6 +81,19 @@ private:
 bool contains(const std::string &text, const std::string &part)
 {
     return text.find(part) != std::string::npos;
+}
+
+/// Whether the archive opens with this password, by the stock tool.
+bool opensWith(const Home &home, const std::string &password)
+{
+    const fs::path opened = home.folder() / "opened";
+    fs::create_directories(opened);
+    const std::string rar = std::string(QUILLORENT_LIBEXEC) + "/rar";
+    EXPECT_EQ(runCommand({rar, "e", "-o+", "-idq", home.archive().string(), opened.string()}).errors, "");
+    return runCommand({"openssl", "aes-256-cbc", "-d", "-a", "-pbkdf2", "-iter", "600000", "-md", "sha256",
+                       "-in", (opened / "docs.rar.aes").string(), "-out", "/dev/null", "-pass",
+                       "pass:" + password})
+               .status == 0;
 }
 
 } // namespace
@@ -126,15 +149,35 @@ TEST(Run, BacksUpWithAPasswordFromAFileOrStandardInput)
     EXPECT_EQ(home.run({"backup", "Mine", "--password-file", "-", "--progress"}, "from a file\n").status, 0);
 
     // Either way the password is the first line alone.
-    const fs::path opened = home.folder() / "opened";
-    fs::create_directories(opened);
-    const std::string rar = std::string(QUILLORENT_LIBEXEC) + "/rar";
-    EXPECT_EQ(runCommand({rar, "e", "-o+", "-idq", home.archive().string(), opened.string()}).errors, "");
-    EXPECT_EQ(runCommand({"openssl", "aes-256-cbc", "-d", "-a", "-pbkdf2", "-iter", "600000", "-md", "sha256",
-                          "-in", (opened / "docs.rar.aes").string(), "-out", "/dev/null", "-pass",
-                          "pass:from a file"})
-                  .status,
-              0);
+    EXPECT_TRUE(opensWith(home, "from a file"));
+}
+
+TEST(Run, TakesThePasswordFromTheProfilesSource)
+{
+    const Home home;
+    SecretService session;
+    home.writeProfile(1, "lastkeychainuser", "holiday");
+    const CommandResult without = home.run({"backup", "Mine"});
+    EXPECT_EQ(without.status, 2);
+    EXPECT_TRUE(contains(without.errors, "No keychain service runs")) << without.errors;
+    EXPECT_TRUE(contains(without.errors, "No password was fetched")) << without.errors;
+
+    session.start();
+    ASSERT_EQ(runCommand({"secret-tool", "store", "--label=test", "service",
+                          "com.brolvanek.Quillorent.encrypt", "account", "holiday"},
+                         {.input = "fjord ¤ 7"})
+                  .errors,
+              "");
+    const CommandResult kept = home.run({"backup", "Mine"});
+    EXPECT_EQ(kept.status, 0) << kept.errors;
+    EXPECT_TRUE(opensWith(home, "fjord ¤ 7"));
+    EXPECT_FALSE(contains(kept.errors, "fjord"));
+
+    const Credentials keys = makeCredentials(home.folder(), "anna");
+    home.writeProfile(2, "lastcertfile", keys.certificate.string());
+    const CommandResult certified = home.run({"backup", "Mine", "--yes"});
+    EXPECT_EQ(certified.status, 0) << certified.errors;
+    EXPECT_TRUE(fs::exists(home.folder() / "archives/docs.rar.smime.rar"));
 }
 
 TEST(Run, SaysWhyItCanNotStart)

@@ -1,5 +1,7 @@
 #include "TestProgram.h"
 
+#include "InMemoryKeychain.h"
+
 #include "app/Pauses.h"
 #include "settings/Paths.h"
 #include "tools/Threads.h"
@@ -21,6 +23,7 @@ TestProgram::TestProgram()
     qputenv("XDG_CONFIG_HOME", (m_folder / "config").string().c_str());
     quillorentLibrary::setResourceFolder(QStringLiteral(QUILLORENT_TEMPLATES));
     pauses() = {.beforeMeasuring = 20ms, .settingsSaved = 20ms, .profilesSaved = 20ms, .profileLoaded = 20ms};
+    setKeychain(std::make_shared<InMemoryKeychain>()); // never that of whoever runs the tests
     m_delegate = std::make_unique<QuillorentAppDelegate>();
     m_delegate->warningPanel01.observe([this] {
         if (!closesWarnings || m_delegate->warningPanel01.place() == outlets::Panel::Place::Hidden) return;

@@ -162,11 +162,12 @@ TEST_F(ActionsTest, PasswordSourceShowsItsPageAndWhatIsMissing)
     EXPECT_TRUE(widget(u"secureText01b"_qs).isVisible());
     EXPECT_EQ(widget<QLineEdit>(u"secureText01b"_qs).text(), u"se<cret"_qs);
 
-    // The keychain can't be chosen, so one step leads from the password to the certificate.
     widget(u"passCombo01"_qs).setFocus();
-    QTest::keyClick(&widget(u"passCombo01"_qs), Qt::Key_Down);
-    settle();
-    EXPECT_EQ(kept(u"passtype"_qs), u"2"_qs);
+    for (const int source : {PasswordTab::KeychainPassword, PasswordTab::Certificate}) {
+        QTest::keyClick(&widget(u"passCombo01"_qs), Qt::Key_Down);
+        settle();
+        EXPECT_EQ(kept(u"passtype"_qs), QString::number(source));
+    }
 }
 
 TEST_F(ActionsTest, CertificateIsCheckedAndToldOf)
