@@ -1,0 +1,41 @@
+#pragma once
+
+#include "ByteReader.h"
+#include "ByteStreams.h"
+
+#include <vector>
+
+class Fault;
+
+/// What a base64 text (RFC 2045, section 6.8) stands for. Lines may have any length and end with LF or CRLF;
+/// every other character that is none of base64's is a fault, and so are bits that stand for nothing.
+class Base64Source final : public ByteSource {
+public:
+    Base64Source(ByteReader &text, Fault &fault);
+
+    /// A fault in the text is reported once all that stands before it was read.
+    [[nodiscard]] Bytes read() override;
+
+    /// From now on whatever is not white space goes beyond the end of the message.
+    void expectEnd() { m_expectsEnd = true; }
+
+private:
+    [[nodiscard]] bool isFull() const;
+    std::size_t decodeWhole(Bytes text);
+    bool decodeOne(std::uint8_t character);
+    bool addSixBits(std::uint32_t bits);
+    bool takePadding();
+    void put(unsigned count);
+    bool finish();
+    bool reportCharacter();
+
+    ByteReader &m_text;
+    Fault &m_fault;
+    std::vector<std::uint8_t> m_decoded;
+    std::size_t m_size = 0;     ///< of what is decoded
+    std::uint32_t m_group = 0;  ///< the bits of the characters of an unfinished group of four
+    unsigned m_groupSize = 0;   ///< how many characters it has
+    unsigned m_paddingLeft = 0; ///< how many more `=` the last group needs
+    bool m_isPadded = false;    ///< the last group came
+    bool m_expectsEnd = false;
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <memory>
+#include <openssl/bio.h>
+#include <openssl/evp.h>
+#include <openssl/pkcs7.h>
+#include <openssl/x509.h>
+
+/// Frees what libcrypto gave away.
+struct CryptoDeleter {
+    void operator()(BIO *bio) const { BIO_free(bio); }
+    void operator()(EVP_CIPHER *cipher) const { EVP_CIPHER_free(cipher); }
+    void operator()(EVP_CIPHER_CTX *context) const { EVP_CIPHER_CTX_free(context); }
+    void operator()(EVP_PKEY *key) const { EVP_PKEY_free(key); }
+    void operator()(EVP_PKEY_CTX *context) const { EVP_PKEY_CTX_free(context); }
+    void operator()(PKCS7_ISSUER_AND_SERIAL *name) const { PKCS7_ISSUER_AND_SERIAL_free(name); }
+    void operator()(X509 *certificate) const { X509_free(certificate); }
+    void operator()(X509_ALGOR *algorithm) const { X509_ALGOR_free(algorithm); }
+};
+
+template <typename Type>
+using CryptoHandle = std::unique_ptr<Type, CryptoDeleter>;
