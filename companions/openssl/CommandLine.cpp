@@ -4,12 +4,16 @@
 #include <cstring>
 
 CommandLine::CommandLine(std::span<char *const> arguments, std::span<const std::string_view> withValue)
-    : m_arguments(arguments)
+    : m_arguments(arguments), m_operands(arguments.size())
 {
     std::size_t next = 1;
     while (next < arguments.size()) {
         char *const argument = arguments[next];
-        if (*argument != '-' || std::strcmp(argument, "--") == 0) return;
+        const bool isSeparator = std::strcmp(argument, "--") == 0;
+        if (*argument != '-' || isSeparator) {
+            m_operands = next + (isSeparator ? 1 : 0);
+            return;
+        }
 
         Option option;
         option.first = next++;

@@ -30,6 +30,9 @@ public:
         return last(names) != nullptr;
     }
 
+    /// What follows the options.
+    [[nodiscard]] std::span<char *const> operands() const { return m_arguments.subspan(m_operands); }
+
     /// The option that counts where several of these were given: the last one. None: null.
     [[nodiscard]] const Option *last(std::initializer_list<std::string_view> names) const;
 
@@ -53,4 +56,5 @@ public:
 private:
     std::span<char *const> m_arguments;
     std::vector<Option> m_options;
+    std::size_t m_operands; ///< index of the first argument behind the options
 };

@@ -7,6 +7,6 @@ CommandPlan planCommand(std::span<char *const> arguments, Secret &password)
 {
     if (arguments.empty()) return PassThrough{};
     if (isCipherCommand(arguments)) return planCipherCommand(arguments, password);
-    if (isSmimeCommand(arguments)) return planSmimeCommand(arguments);
+    if (isSmimeCommand(arguments)) return planSmimeCommand(arguments, password);
     return PassThrough{};
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "SmimeDecryption.h"
+
 #include <optional>
 #include <span>
 #include <string>
@@ -32,7 +34,7 @@ struct ToolRun {
     bool mayPrint = false;
 };
 
-using CommandPlan = std::variant<PassThrough, Refusal, ToolRun>;
+using CommandPlan = std::variant<PassThrough, Refusal, ToolRun, SmimeDecryption>;
 
 /// What to do for this command line (without the program's name). A password in it moves to `password` and is
 /// overwritten in the memory of the arguments, so that the system's list of processes shows it no longer.

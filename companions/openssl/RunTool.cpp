@@ -158,11 +158,6 @@ private:
         return error ? failure : 0;
     }
 
-    static std::string signalName(int signal)
-    {
-        return "signal " + std::to_string(signal) + " (" + strsignal(signal) + ")";
-    }
-
     const std::string &m_tool;
     const ToolRun &m_run;
     // First of all: from here on no signal ends the program while a staged file is there.

@@ -1,8 +1,14 @@
 #include "SmimeCommand.h"
 
+#include "CipherName.h"
 #include "CommandLine.h"
+#include "PassPhrase.h"
+#include "Secret.h"
 
+#include <algorithm>
 #include <array>
+#include <cstring>
+#include <strings.h>
 #include <sys/stat.h>
 
 namespace {
@@ -15,6 +21,10 @@ constexpr auto optionsWithValue = std::to_array<std::string_view>(
      "writerand", "policy",        "purpose",  "attime",    "verify_name",     "verify_depth", "auth_level",
      "verify_ip", "provider-path", "provider", "propquery", "verify_hostname", "verify_email"});
 
+constexpr std::string_view inlinePassPhrase = "pass:";
+
+bool isInlinePassPhrase(std::string_view source) { return source.starts_with(inlinePassPhrase); }
+
 CommandLine readCommandLine(std::span<char *const> arguments) { return {arguments, optionsWithValue}; }
 
 /// The option of the operation that counts, the last one; null where there is none.
@@ -23,37 +33,27 @@ const Option *operationOf(const CommandLine &line)
     return line.last({"encrypt", "decrypt", "sign", "resign", "verify", "pk7out"});
 }
 
-Refusal tooLarge(const std::string &path, std::int64_t size, std::int64_t limit)
-{
-    return {path + " has " + std::to_string(size) +
-            " bytes, and what is encrypted with a certificate can be decrypted up to " +
-            std::to_string(limit) +
-            " bytes only: encrypt it with a password, or make several smaller files of it"};
-}
-
 CommandPlan planEncryption(const CommandLine &line)
 {
-    const bool isStreamed = !line.has({"noindef"});
-    const std::int64_t limit = isStreamed ? maximumSmimeSize : maximumUnstreamedSmimeSize;
     const char *const input = line.value("in");
     struct stat status {};
     const bool isFound = input && stat(input, &status) == 0;
-    if (isFound && S_ISREG(status.st_mode) && status.st_size > limit)
-        return tooLarge(input, status.st_size, limit);
 
     ToolRun run;
     run.arguments.emplace_back(line.command());
-    if (!line.has({"stream", "indef", "noindef"})) run.arguments.emplace_back("-stream");
+    // A message in one piece (-noindef) can't be decrypted from 1.6 GB on, and the tool says nothing of it.
+    if (!line.has({"stream", "indef"})) run.arguments.emplace_back("-stream");
     // The tool takes an error while it reads for the end of the file, and says nothing.
     const bool isFed = isFound && (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode));
     if (isFed) run.input = input;
-    const std::vector<std::string> given = line.without(
-        [isFed](const Option &option) { return option.name == "out" || (isFed && option.name == "in"); });
+    const std::vector<std::string> given = line.without([isFed](const Option &option) {
+        return option.name == "out" || option.name == "noindef" || (isFed && option.name == "in");
+    });
     run.arguments.insert(run.arguments.end(), given.begin(), given.end());
     return run;
 }
 
-CommandPlan planDecryption(const CommandLine &line)
+CommandPlan planToolDecryption(const CommandLine &line)
 {
     ToolRun run;
     run.arguments.emplace_back(line.command());
@@ -63,6 +63,70 @@ CommandPlan planDecryption(const CommandLine &line)
     // The tool does not notice when the disk is too full for the last few kilobytes.
     run.collectsOutput = true;
     return run;
+}
+
+bool isOneOf(const char *text, std::initializer_list<const char *> words)
+{
+    return std::ranges::any_of(words, [text](const char *word) { return strcasecmp(text, word) == 0; });
+}
+
+/// Whether the front can do itself what the option asks for.
+bool isOwnAffair(const Option &option)
+{
+    const std::string_view name = option.name;
+    if (name == "decrypt" || name == "binary") return true;
+    // The message tells its cipher itself; the tool takes the option and does nothing with it.
+    if (!option.value) return isCipher(name);
+    if (name == "inform") return isOneOf(option.value, {"SMIME", "DER"});
+    if (name == "keyform") return isOneOf(option.value, {"PEM", "DER"});
+    if (name == "passin") return isInlinePassPhrase(option.value) || isPassPhraseSource(option.value);
+    return name == "in" || name == "out" || name == "inkey" || name == "recip";
+}
+
+std::optional<std::string> valueOf(const CommandLine &line, std::string_view name)
+{
+    const char *const value = line.value(name);
+    return value ? std::optional<std::string>(value) : std::nullopt;
+}
+
+/// Moves a pass phrase that is spelled out to `passPhrase`. False: it is too long for that.
+bool takePassPhrase(const CommandLine &line, SmimeDecryption &decryption, Secret &passPhrase)
+{
+    const Option *const option = line.last({"passin"});
+    if (!option) return true;
+    if (!isInlinePassPhrase(option->value)) {
+        decryption.passPhraseSource = option->value;
+        return true;
+    }
+    char *const text = option->value + inlinePassPhrase.size();
+    decryption.hasPassPhrase = passPhrase.assign(text);
+    wipeMemory(text, std::strlen(text));
+    return decryption.hasPassPhrase;
+}
+
+CommandPlan planOwnDecryption(const CommandLine &line, Secret &passPhrase)
+{
+    SmimeDecryption decryption;
+    decryption.input = valueOf(line, "in");
+    decryption.output = valueOf(line, "out");
+    decryption.recipient = valueOf(line, "recip");
+    // The tool looks for the key beside the certificate, too.
+    decryption.keyFile = valueOf(line, "inkey").value_or(decryption.recipient.value_or(""));
+    const char *const form = line.value("inform");
+    if (form && isOneOf(form, {"DER"})) decryption.form = MessageForm::Der;
+    const std::span<char *const> operands = line.operands();
+    if (!operands.empty()) decryption.mentionedCertificate = operands.front();
+    if (!takePassPhrase(line, decryption, passPhrase))
+        return Refusal{"the pass phrase of the private key is longer than " +
+                       std::to_string(Secret::maximumSize) + " bytes: use a copy of the key that has none"};
+    return decryption;
+}
+
+CommandPlan planDecryption(const CommandLine &line, Secret &passPhrase)
+{
+    const bool hasKey = line.has({"inkey", "recip"});
+    const bool isOurs = hasKey && std::ranges::all_of(line.options(), isOwnAffair);
+    return isOurs ? planOwnDecryption(line, passPhrase) : planToolDecryption(line);
 }
 
 } // namespace
@@ -75,10 +139,11 @@ bool isSmimeCommand(std::span<char *const> arguments)
     return operation && (operation->name == "encrypt" || operation->name == "decrypt");
 }
 
-CommandPlan planSmimeCommand(std::span<char *const> arguments)
+CommandPlan planSmimeCommand(std::span<char *const> arguments, Secret &passPhrase)
 {
     const CommandLine line = readCommandLine(arguments);
-    CommandPlan plan = operationOf(line)->name == "encrypt" ? planEncryption(line) : planDecryption(line);
+    const bool isEncryption = operationOf(line)->name == "encrypt";
+    CommandPlan plan = isEncryption ? planEncryption(line) : planDecryption(line, passPhrase);
     if (ToolRun *const run = std::get_if<ToolRun>(&plan)) {
         if (const char *const output = line.value("out")) run->output = output;
         run->mayPrint = line.has({"help"});

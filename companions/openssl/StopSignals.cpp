@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cerrno>
 #include <cstdlib>
+#include <cstring>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -96,6 +97,11 @@ int StopSignals::waitForChild()
 }
 
 int StopSignals::received() { return receivedSignal; }
+
+std::string signalName(int signal)
+{
+    return "signal " + std::to_string(signal) + " (" + strsignal(signal) + ")";
+}
 
 void endBySignal(int signal)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <csignal>
+#include <string>
 #include <sys/types.h>
 
 /// Passes on to a child process the signals that ask the program to stop (SIGTERM, SIGINT, SIGHUP), so that
@@ -15,7 +16,8 @@ public:
 
     /// In the child between fork and exec: everything about signals as the program found it.
     void restoreInChild() const;
-    /// From now on signals go to this child; one that came in the meantime goes there at once.
+    /// From now on signals go to this child; one that came in the meantime goes there at once. 0: there is no
+    /// child, and received() tells.
     void watch(pid_t child);
     /// Waits for the end of the watched child and returns its status, as waitpid() gives it.
     [[nodiscard]] int waitForChild();
@@ -26,6 +28,9 @@ private:
     sigset_t m_formerMask;
     struct sigaction m_formerPipe {};
 };
+
+/// The signal by number and name, as in "signal 15 (Terminated)".
+[[nodiscard]] std::string signalName(int signal);
 
 /// Ends the program the way the signal would have done.
 [[noreturn]] void endBySignal(int signal);

@@ -1,6 +1,6 @@
 // Takes the arguments of the system's `openssl` program and runs it with them, adding what its users expect
-// of files that are to be kept: today's key derivation, ciphers that it hides, results that are whole or not
-// there at all.
+// of files that are to be kept: today's key derivation, ciphers that it hides, messages of any size, results
+// that are whole or not there at all.
 
 #include "CommandPlan.h"
 #include "RunTool.h"
@@ -36,6 +36,8 @@ int main(int argc, char **argv)
         complain(refusal->message);
         return failure;
     }
+    if (const SmimeDecryption *const decryption = std::get_if<SmimeDecryption>(&plan))
+        return decryptSmime(*decryption, password);
     const auto tool = findTool(toolCandidates(std::getenv("PATH")), ownIdentity(argv[0]));
     if (!tool) {
         complain("the system has no openssl program: install its package");

@@ -6,8 +6,10 @@ class SmimeFront : public testing::Test {
 protected:
     void SetUp() override
     {
-        const std::string request = "req -x509 -newkey rsa:2048 -nodes -keyout key -out cert -days 2";
-        ASSERT_EQ(runIn(folder, stock, request + " -subj /CN=test").status, 0);
+        for (const char *const files :
+             {"-subj /CN=test -keyout key -out cert", "-subj /CN=test2 -keyout key2 -out cert2"})
+            ASSERT_EQ(runIn(folder, stock, "req -x509 -newkey rsa:2048 -nodes -days 2", words(files)).status,
+                      0);
     }
 
     CommandResult encrypt(const std::string &tool) const
@@ -35,6 +37,32 @@ TEST_F(SmimeFront, ExchangesFilesWithTheSystemsTool)
     }
 }
 
+TEST_F(SmimeFront, DecryptsWhateverFormTheSystemsToolWrites)
+{
+    const std::string plain = binaryData(20'001);
+    writeFile(folder / "F", plain);
+    const std::vector<std::pair<std::string, std::string>> writingsAndReadings{
+        {"smime -stream", "-inkey key cert"},
+        {"smime -crlfeol", "-inkey key"},
+        {"smime -aes256 -outform DER", "-inform DER -inkey key -keyform PEM"},
+        {"smime -aes-128-cfb -outform DER -stream", "-inform der -inkey key -recip cert"},
+        {"smime -camellia192 -outform PEM", "-inform PEM -inkey key"},
+        {"smime -to a@b -subject two_recipients cert2", "-inkey key"},
+        {"smime cert2", "-inkey key -recip cert"},
+        {"cms -keyid", "-inkey key -recip cert"},
+        {"cms -secretkey 000102030405060708090a0b0c0d0e0f -secretkeyid 01", "-inkey key"}};
+    for (const auto &[writing, reading] : writingsAndReadings) {
+        SCOPED_TRACE(writing);
+        Arguments options = words(writing);
+        const std::string command = options.front() + " -encrypt -binary -in F -out G";
+        options.erase(options.begin());
+        EXPECT_TRUE(isSilentSuccess(runIn(folder, stock, command, options + Arguments{"cert"})));
+        EXPECT_TRUE(isSilentSuccess(runIn(folder, front, "smime -decrypt -in G -out H", words(reading))));
+        EXPECT_TRUE(readFile(folder / "H") == plain);
+        std::filesystem::remove(folder / "H");
+    }
+}
+
 // The tool alone takes what it can't read for an empty file, and encrypts that without a word.
 TEST_F(SmimeFront, TellsWhatCannotBeRead)
 {
@@ -43,6 +71,55 @@ TEST_F(SmimeFront, TellsWhatCannotBeRead)
     EXPECT_NE(result.status, 0);
     EXPECT_NE(result.output.find("cannot read F"), std::string::npos) << result.output;
     EXPECT_FALSE(std::filesystem::exists(folder / "G"));
+}
+
+TEST_F(SmimeFront, TellsInOneLineWhyItDoesNotDecrypt)
+{
+    writeFile(folder / "F", binaryData(3'000));
+    ASSERT_TRUE(isSilentSuccess(encrypt(front)));
+    ASSERT_EQ(runIn(folder, stock, "pkey -aes128 -passout pass:right -in key -out locked").status, 0);
+    const std::string message = readFile(folder / "G");
+    writeFile(folder / "half", message.substr(0, message.size() / 2));
+    writeFile(folder / "more", message + "more");
+    writeFile(folder / "twice", message + message);
+    writeFile(folder / "spoilt", message.substr(0, 900) + "!" + message.substr(901));
+    writeFile(folder / "none", "");
+    ASSERT_EQ(runIn(folder, stock, "smime -sign -in F -out signed -nodetach -signer cert -inkey key").status,
+              0);
+    const std::vector<std::pair<std::string, std::string>> argumentsAndReasons{
+        {"-in G -inkey key2 cert",
+         "G was not opened: the private key key2 does not belong to the certificate cert"},
+        {"-in G -inkey key2 cert2", "G is not for the certificate cert2"},
+        {"-in G -inkey key -recip cert2", "G is not for the certificate cert2"},
+        {"-in G -inkey key2", "G cannot be opened with the private key key2"},
+        {"-in half -inkey key cert", "half ends too early: the message was cut short"},
+        {"-in more -inkey key cert", "more goes on after the end of the message"},
+        {"-in twice -inkey key cert", "twice goes on after the end of the message"},
+        {"-in spoilt -inkey key cert", "spoilt is damaged: its byte 901 is none of a base64 text"},
+        {"-in none -inkey key cert", "none is empty"},
+        {"-in signed -inkey key cert", "signed is a message, but not an encrypted one"},
+        {"-in F -inkey key cert", "F is no S/MIME message"},
+        {"-in G -inkey cert", "cert holds no private key"},
+        {"-in G -inkey key -recip key", "key holds no certificate"},
+        {"-in G -inkey missing", "cannot open missing: No such file or directory"},
+        {"-in missing -inkey key", "cannot open missing: No such file or directory"},
+        {"-in G -inkey locked",
+         "the private key locked is protected by a pass phrase: use a copy of the key that "
+         "has none, or -passin"},
+        {"-in G -inkey locked -passin pass:wrong", "the pass phrase does not open the private key locked"},
+        {"-in G -inkey locked -passin file:missing",
+         "cannot take the pass phrase from file:missing: No such file or directory"}};
+    const auto entries = entriesIn(folder);
+    for (const auto &[arguments, reason] : argumentsAndReasons) {
+        const CommandResult result = runIn(folder, front, "smime -decrypt -out H " + arguments);
+        EXPECT_EQ(result.status, 1) << arguments;
+        EXPECT_EQ(result.output, "openssl: " + reason + "\n");
+        EXPECT_EQ(entriesIn(folder), entries) << arguments;
+    }
+    writeFile(folder / "phrase", "right\nrest");
+    for (const char *const source : {"pass:right", "file:phrase"})
+        EXPECT_TRUE(isSilentSuccess(
+            runIn(folder, front, "smime -decrypt -in G -out H -inkey locked -passin", {source})));
 }
 
 // A full disk, which the tool alone does not notice while it writes the last bytes of what it decrypted.

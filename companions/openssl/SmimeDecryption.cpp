@@ -1,0 +1,102 @@
+#include "SmimeDecryption.h"
+
+#include "FileDescriptor.h"
+#include "FileSource.h"
+#include "PassPhrase.h"
+#include "ResultFile.h"
+#include "RunTool.h"
+#include "Secret.h"
+#include "StopSignals.h"
+#include "smime/Fault.h"
+#include "smime/KeyFile.h"
+#include "smime/KeyOpener.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace {
+
+class Decryption {
+public:
+    explicit Decryption(const SmimeDecryption &plan) : m_plan(plan), m_output(plan.output)
+    {
+        m_signals.watch(0); // no child: a signal makes the reading end
+    }
+
+    bool execute(Secret &passPhrase)
+    {
+        const bool isDone = readKey(passPhrase) && readRecipient() && openInput() && decrypt();
+        if (isDone) return true;
+        if (const int signal = StopSignals::received()) m_problem = "stopped by " + signalName(signal);
+        complain(m_problem);
+        return false;
+    }
+
+private:
+    bool readKey(Secret &passPhrase)
+    {
+        const auto &source = m_plan.passPhraseSource;
+        if (source && !fetchPassPhrase(*source, passPhrase, m_problem)) return false;
+        std::optional<std::string_view> text;
+        if (source || m_plan.hasPassPhrase) text = passPhrase.text();
+        m_key = readPrivateKey(m_plan.keyFile, text, m_problem);
+        passPhrase.wipe();
+        return m_key.handle != nullptr;
+    }
+
+    bool readRecipient()
+    {
+        if (m_plan.recipient) {
+            m_certificate = readCertificate(*m_plan.recipient, m_problem);
+            return m_certificate.handle != nullptr;
+        }
+        std::string ignored;
+        if (m_plan.mentionedCertificate)
+            m_certificate = readCertificate(*m_plan.mentionedCertificate, ignored);
+        return true;
+    }
+
+    bool openInput()
+    {
+        if (!m_plan.input) return true;
+        m_input = FileDescriptor(open(m_plan.input->c_str(), O_RDONLY | O_CLOEXEC));
+        if (!m_input.isOpen())
+            m_problem = "cannot open " + *m_plan.input + ": " + std::generic_category().message(errno);
+        return m_input.isOpen();
+    }
+
+    bool decrypt()
+    {
+        Fault fault;
+        FileSource source(m_plan.input ? m_input.get() : STDIN_FILENO, fault);
+        KeyOpener keys(m_key, m_certificate.handle ? &m_certificate : nullptr,
+                       m_plan.recipient ? KeyOpener::Scope::Certificate : KeyOpener::Scope::All);
+        const bool isWhole = m_output.open() && decryptMessage(source, m_plan.form, keys, m_output, fault);
+        // Whoever asked to stop in the last moment expects no result.
+        if (isWhole && StopSignals::received() == 0 && m_output.commit()) return true;
+        m_problem = m_output.problem();
+        if (m_problem.empty())
+            m_problem = m_plan.input.value_or("the standard input") + " " + fault.predicate();
+        return false;
+    }
+
+    const SmimeDecryption &m_plan;
+    // First of all: from here on no signal ends the program while a staged file is there.
+    StopSignals m_signals;
+    ResultFile m_output;
+    FileDescriptor m_input;
+    PrivateKey m_key;
+    Certificate m_certificate;
+    std::string m_problem;
+};
+
+} // namespace
+
+int decryptSmime(const SmimeDecryption &decryption, Secret &passPhrase)
+{
+    const bool isDone = Decryption(decryption).execute(passPhrase);
+    if (const int signal = StopSignals::received()) endBySignal(signal);
+    return isDone ? 0 : 1;
+}
