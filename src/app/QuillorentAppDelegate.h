@@ -12,6 +12,7 @@
 #include "keys/PasswordTab.h"
 #include "plist/Value.h"
 #include "settings/OptionsPanel.h"
+#include "settings/ProfileSheets.h"
 #include "sync/SyncTab.h"
 #include "tools/PathTable.h"
 #include "tools/ToolsTab.h"
@@ -26,6 +27,7 @@ class QuillorentAppDelegate : public RunState,
                               public ExtractTab,
                               public SyncTab,
                               public OptionsPanel,
+                              public ProfileSheets,
                               public ToolsTab,
                               public Messages {
 public:
@@ -71,9 +73,29 @@ public:
     void profileCombo01Action();
     void profileButton01Action(); ///< save the profiles
     void profileButton02Action(); ///< load the chosen profile
-    void setterDefaultProfile();  ///< open this profile at start-up
+    void profileButton03Action(); ///< rename
+    void profileButton03ActionEnd();
+    void panel01ok();
+    void profileButton04Action(); ///< make a new one
+    void profileButton04ActionEnd();
+    void panel02ok();
+    void profileButton05Action(); ///< show its processing options
+    void profileButton05ActionEnd();
+    void profileButton06Action(); ///< duplicate
+    void profileButton06ActionEnd();
+    void panel03ok();
+    void profileButton07Action(); ///< delete
+    void profileButton07ActionEnd();
+    void panel04ok();
+    void panelNoname(); ///< close the sheet that refuses a name
+    [[nodiscard]] bool noRepeatedProfileName(const QString &name) const; ///< no profile has it yet
+    void setterDefaultProfile();                                         ///< open this profile at start-up
     void saveSettings1Action();
     void autosaveCheck01Action();
+    void updatesCheck01Action();
+    void prefSelector01Action();
+    void prefSelector02Action();
+    void prefCheck02Action();
     void prefStepper01Action(const QString &senderText); ///< sent by `prefStepper01` and by `prefText01`
     void prefCheck01Action();                            ///< `checkBox04`
     void checkBox05Action();
@@ -118,6 +140,10 @@ public:
 private:
     void applyRecord(const plist::Dictionary &record);
     void showPartSize(const QString &size);
+    void closeSheet(outlets::Panel &sheet);
+    [[nodiscard]] bool acceptName(const QString &name,
+                                  outlets::Panel &sheet); ///< or says why not, in its place
+    void showProfile(const QString &name);
 
     [[nodiscard]] outlets::TextField &shownKeychainField();
     template <class Ask>

@@ -1,14 +1,8 @@
 #include "app/QuillorentAppDelegate.h"
+#include "settings/Methods.h"
 #include "settings/Store.h"
 
 namespace {
-
-/// The row of a method in the chooser of symmetric methods; -1 of one that is not among them.
-int rowOfMethod(const QString &method)
-{
-    static const QStringList methods{u"OpenSSL-AES"_qs, u"OpenSSL-BF"_qs, u"OpenSSL-3D"_qs};
-    return int(methods.indexOf(method));
-}
 
 void show(outlets::TextField &field, const std::optional<QString> &text)
 {
@@ -73,8 +67,9 @@ void QuillorentAppDelegate::applyRecord(const plist::Dictionary &record)
     if (const auto source = record.integer(u"passtype"_qs)) passCombo01.selectIndex(int(*source));
     show(pkFile01, record.string(u"lastpkfile"_qs));
     show(extractPath, record.string(u"extractpath"_qs));
-    if (const int row = rowOfMethod(record.string(u"symencryption"_qs).value_or(QString())); row >= 0)
-        prefSelector01.selectIndex(row);
+    const auto method =
+        quillorentLibrary::symmetricMethods().indexOf(record.string(u"symencryption"_qs).value_or(QString()));
+    if (method >= 0) prefSelector01.selectIndex(int(method));
     if (const auto part = record.string(u"part"_qs)) showPartSize(*part);
     checkBox04.setOn(record.isOn(u"split"_qs));
     checkBox05.setOn(record.isOn(u"keepdate"_qs));

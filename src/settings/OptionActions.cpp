@@ -1,4 +1,27 @@
 #include "app/QuillorentAppDelegate.h"
+#include "settings/Methods.h"
+
+void QuillorentAppDelegate::profileButton05Action() { preferencesPanel01.runModal(); }
+
+void QuillorentAppDelegate::profileButton05ActionEnd() { closeSheet(preferencesPanel01); }
+
+void QuillorentAppDelegate::prefSelector01Action()
+{
+    const QString method = quillorentLibrary::symmetricMethods().value(prefSelector01.selectedIndex());
+    if (!method.isEmpty()) currentRecord().setValue(u"symencryption"_qs, method);
+}
+
+void QuillorentAppDelegate::prefSelector02Action() {} // one method: there is nothing to keep
+
+void QuillorentAppDelegate::prefCheck02Action()
+{
+    currentRecord().setSwitch(u"emptydir"_qs, prefCheck02.isOn());
+}
+
+void QuillorentAppDelegate::updatesCheck01Action()
+{
+    configPlist().dictionary(u"updates"_qs).setSwitch(u"automatic"_qs, updatesCheck01.isOn());
+}
 
 void QuillorentAppDelegate::showPartSize(const QString &size)
 {

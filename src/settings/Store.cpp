@@ -17,9 +17,13 @@ plist::Dictionary readProfiles()
     return profilesFile().read();
 }
 
-void saveSettings(const plist::Dictionary &settings) { settingsFile().save(settings); }
+QString saveSettings(const plist::Dictionary &settings) { return settingsFile().save(settings); }
 
-void saveProfiles(const plist::Dictionary &profiles) { profilesFile().save(profiles); }
+QString saveProfiles(const plist::Dictionary &profiles) { return profilesFile().save(profiles); }
+
+bool areSettingsSaved(const plist::Dictionary &settings) { return settingsFile().holds(settings); }
+
+bool areProfilesSaved(const plist::Dictionary &profiles) { return profilesFile().holds(profiles); }
 
 plist::Dictionary dictionaryByDeepCopy(const plist::Dictionary &dictionary) { return dictionary.deepCopy(); }
 

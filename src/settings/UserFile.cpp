@@ -24,12 +24,16 @@ bool makeFolder(const QString &folder)
            QDir().mkdir(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-bool makeFolderFor(const QString &path)
+/// Gives the reason where it can't be made, else an empty text.
+QString makeFolderFor(const QString &path)
 {
     const QString folder = QFileInfo(path).path();
-    if (makeFolder(folder)) return true;
-    qCWarning(logSettings).noquote() << "The folder can't be made:" << folder;
-    return false;
+    return makeFolder(folder) ? QString() : u"The folder can't be made: "_qs + folder;
+}
+
+void logReason(const QString &reason)
+{
+    if (!reason.isEmpty()) qCWarning(logSettings).noquote() << reason;
 }
 
 } // namespace
@@ -54,9 +58,8 @@ void UserFile::makeUsable()
         qCWarning(logSettings).noquote() << path << "may not be written, nor moved out of the way";
         return;
     }
-    if (!makeFolderFor(path)) return;
-    const QString reason = plist::replacePrivateFile(path, content);
-    if (!reason.isEmpty()) qCWarning(logSettings).noquote() << reason;
+    const QString reason = makeFolderFor(path);
+    logReason(reason.isEmpty() ? plist::replacePrivateFile(path, content) : reason);
 }
 
 plist::Dictionary UserFile::read()
@@ -68,14 +71,20 @@ plist::Dictionary UserFile::read()
 plist::Dictionary UserFile::readTemplate() const
 {
     const plist::FileContent content = plist::readFile(m_templatePath());
-    if (!content.reason.isEmpty()) qCWarning(logSettings).noquote() << content.reason;
+    logReason(content.reason);
     return content.dictionary;
 }
 
-void UserFile::save(const plist::Dictionary &dictionary)
+QString UserFile::save(const plist::Dictionary &dictionary)
 {
     const std::lock_guard lock(m_mutex);
-    saveLocked(dictionary);
+    return saveLocked(dictionary);
+}
+
+bool UserFile::holds(const plist::Dictionary &dictionary)
+{
+    const std::lock_guard lock(m_mutex);
+    return m_content == dictionary;
 }
 
 void UserFile::change(const std::function<void(const plist::Dictionary &)> &work)
@@ -84,7 +93,7 @@ void UserFile::change(const std::function<void(const plist::Dictionary &)> &work
     const plist::Dictionary dictionary = readLocked();
     if (!dictionary) return;
     work(dictionary);
-    saveLocked(dictionary);
+    static_cast<void>(saveLocked(dictionary)); // logged; the next start tries again
 }
 
 plist::Dictionary UserFile::readLocked()
@@ -94,23 +103,31 @@ plist::Dictionary UserFile::readLocked()
     if (!content.reason.isEmpty() && content.reason != m_reported)
         qCWarning(logSettings).noquote() << content.reason;
     m_reported = content.reason;
+    m_content = content.dictionary.deepCopy();
     return content.dictionary;
 }
 
-void UserFile::saveLocked(const plist::Dictionary &dictionary) const
+QString UserFile::saveLocked(const plist::Dictionary &dictionary)
 {
-    if (!dictionary) return;
+    if (!dictionary) return {};
+    // A copy: the window may change the dictionary while it is written.
+    const plist::Dictionary content = dictionary.deepCopy();
+    const QString reason = write(content);
+    logReason(reason);
+    if (reason.isEmpty()) m_content = content;
+    return reason;
+}
+
+QString UserFile::write(const plist::Dictionary &dictionary) const
+{
     const QString path = m_path();
-    if (!makeFolderFor(path)) return;
+    const QString noFolder = makeFolderFor(path);
+    if (!noFolder.isEmpty()) return noFolder;
 
     const bool isThere = QFileInfo::exists(path);
-    if (isThere && !plist::readFile(path).dictionary && !keepCopy(path)) {
-        qCWarning(logSettings).noquote()
-            << path << "can't be read, nor kept beside a new one: it is not saved over";
-        return;
-    }
-    const QString reason = plist::writeFile(path, dictionary);
-    if (!reason.isEmpty()) qCWarning(logSettings).noquote() << reason;
+    if (isThere && !plist::readFile(path).dictionary && !keepCopy(path))
+        return path + u" can't be read, nor kept beside a new one: it is not saved over"_qs;
+    return plist::writeFile(path, dictionary);
 }
 
 UserFile &settingsFile()

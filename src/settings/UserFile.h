@@ -27,20 +27,26 @@ public:
     [[nodiscard]] plist::Dictionary read();
     [[nodiscard]] plist::Dictionary readTemplate() const;
 
-    /// None writes nothing. A file that is there but can't be read is kept beside the new one.
-    void save(const plist::Dictionary &dictionary);
+    /// None writes nothing. A file that is there but can't be read is kept beside the new one. Gives the
+    /// reason where it could not be saved, and an empty text where it was.
+    QString save(const plist::Dictionary &dictionary);
+
+    /// Whether the file was last read or saved with just this content. None is what was never read.
+    [[nodiscard]] bool holds(const plist::Dictionary &dictionary);
 
     /// Reads, changes and saves with no other save in between. Does nothing where the file can't be read.
     void change(const std::function<void(const plist::Dictionary &)> &work);
 
 private:
     plist::Dictionary readLocked();
-    void saveLocked(const plist::Dictionary &dictionary) const;
+    [[nodiscard]] QString saveLocked(const plist::Dictionary &dictionary);
+    [[nodiscard]] QString write(const plist::Dictionary &dictionary) const;
 
     const Path m_path;
     const Path m_templatePath;
     std::mutex m_mutex;
-    QString m_reported; // why the file could not be read the last time; guarded by m_mutex
+    plist::Dictionary m_content; // as last read or saved, a copy of its own; guarded by m_mutex
+    QString m_reported;          // why the file could not be read the last time; guarded by m_mutex
 };
 
 [[nodiscard]] UserFile &settingsFile();

@@ -30,7 +30,7 @@ private:
     std::unique_ptr<Ui::WarningPanel03> m_questionForm;
     std::unique_ptr<Ui::ProgressPanel01> m_progressForm;
     std::unique_ptr<Ui::ConsolePanel01> m_consoleForm;
-    QList<QWidget *> m_messages; ///< sheets that say something and are closed
+    QList<QWidget *> m_simple; ///< sheets that nothing but their outlets and buttons belongs to
     PanelDialog *m_question;
     PanelDialog *m_progress;
     PanelDialog *m_console;

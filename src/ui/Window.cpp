@@ -8,6 +8,7 @@
 #include "ui/PanelDialog.h"
 #include "ui/Panels.h"
 #include "ui/Protection.h"
+#include "ui/UnsavedChanges.h"
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
@@ -55,6 +56,7 @@ Window::Window(QuillorentAppDelegate &controller)
     m_panels = std::make_unique<Panels>(controller, *this);
     m_binding = std::make_unique<Binding>(controller.outlets(), roots());
     connectActions(controller, *this, roots());
+    m_unsaved = std::make_unique<UnsavedChanges>(controller, *this, *m_form->unsavedText);
     deriveFromOutlets();
     addShortcuts();
     controller.openPanel = [this](const outlets::OpenPanel &panel) { return askForPaths(panel, this); };
@@ -105,6 +107,9 @@ void Window::deriveFromOutlets()
         m_form->typedLabel->setBuddy(m_controller.checkBox01.isOn() ? m_form->secureText01a
                                                                     : m_form->secureText01b);
     });
+    queue.watch(all.profileCombo01, [this] {
+        m_form->profileButton07->setEnabled(m_controller.profileCombo01.titles().size() > 1);
+    });
     queue.watch(all.listTableView, [this] {
         m_form->folderButton02->setEnabled(!m_controller.listTableView.selectedRows().isEmpty());
     });
@@ -130,6 +135,10 @@ void Window::closeEvent(QCloseEvent *event)
     if (m_controller.isRunActive() && !m_mayStop) {
         event->ignore();
         askToStop();
+        return;
+    }
+    if (!m_unsaved->mayClose()) {
+        event->ignore();
         return;
     }
     event->accept();

@@ -15,6 +15,7 @@ namespace ui {
 
 class Binding;
 class Panels;
+class UnsavedChanges;
 
 /// The main window with its panels: shows a controller's outlets and sends its actions. The controller must
 /// live longer, and is asked through the window's file chooser as long as the window lives.
@@ -44,6 +45,7 @@ private:
     std::unique_ptr<Ui::MainWindow> m_form;
     std::unique_ptr<Panels> m_panels;
     std::unique_ptr<Binding> m_binding;
+    std::unique_ptr<UnsavedChanges> m_unsaved;
     QPointer<QMessageBox> m_question; ///< while it is asked
     bool m_mayStop = false;           ///< the user agreed to end what runs
 };
