@@ -5,10 +5,15 @@
 #include "outlets/Panel.h"
 #include "outlets/Progress.h"
 
+#include <functional>
+
 /// The main window itself and the row of the profile.
 struct MainWindowOutlets : virtual outlets::Registry {
     outlets::Panel window{*this, u"window"_qs};
-    outlets::OpenPanelAnswer openPanel; ///< set by the front end before the program starts up
+    // Set by the front end before the program starts up.
+    outlets::OpenPanelAnswer openPanel;
+    std::function<void(const QString &)> openAddress; ///< in the user's browser
+    bool showsUpdates = false;                        ///< off: nobody would see that there is a newer version
 
     outlets::Chooser profileCombo01{*this, u"profileCombo01"_qs};
     outlets::TextField currentProfileTextView{*this, u"currentProfileTextView"_qs};

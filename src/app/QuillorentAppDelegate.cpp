@@ -20,6 +20,7 @@ QuillorentAppDelegate::QuillorentAppDelegate()
 
     // A program without a front end has nobody who could choose.
     openPanel = [](const outlets::OpenPanel &) { return std::nullopt; };
+    openAddress = [](const QString &) {};
 
     passCombo01.selectIndex(TypedPassword);
     prefSelector01.selectIndex(0);

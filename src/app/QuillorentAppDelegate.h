@@ -16,6 +16,9 @@
 #include "sync/SyncTab.h"
 #include "tools/PathTable.h"
 #include "tools/ToolsTab.h"
+#include "updates/UpdateNote.h"
+
+#include <atomic>
 
 /// The controller: all state of the program, what every control holds, and what every control does. It knows
 /// no toolkit; a front end shows its outlets and calls its actions, on the main thread.
@@ -29,6 +32,7 @@ class QuillorentAppDelegate : public RunState,
                               public OptionsPanel,
                               public ProfileSheets,
                               public ToolsTab,
+                              public UpdateNote,
                               public Messages {
 public:
     QuillorentAppDelegate();
@@ -46,6 +50,7 @@ public:
     Guarded<bool> compliance;                            ///< every registered tool is the right one
     Guarded<int> compliant;                              ///< how many are
     Guarded<int> compliantBase;                          ///< how many are registered
+    std::atomic<int> verifications = 0; ///< that run: until they end, the three above say nothing
 
     /// The record of the current profile; none where there is no such profile.
     [[nodiscard]] plist::Dictionary currentRecord() const { return listPlist().dictionary(currentProfile()); }
@@ -132,6 +137,14 @@ public:
 
     // Tools
     void selectFile();
+
+    void tabViewDidSelectTabViewItem(); ///< tells of tools that are missing
+    void noPathPanel01Close();
+
+    // Updates
+    void checkForUpdatesAtStart();
+    void updatePanel01Close();
+    void openBrowserAt(const outlets::Button &sender); ///< the address that the button carries
 
     // Messages
     void warningPanel01Close();

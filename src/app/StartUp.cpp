@@ -62,6 +62,7 @@ void QuillorentAppDelegate::applicationDidFinishLaunching()
     extractFullList.clear();
     decryptionCombo01.selectIndex(automaticDecryption);
     defaultProfile.set(makeDefaultProfile());
+    checkForUpdatesAtStart();
 
     consoleTextView01.append(describeUnreadable(quillorentLibrary::settingsPath(), configPlist()));
     consoleTextView01.append(describeUnreadable(quillorentLibrary::profilesPath(), listPlist()));

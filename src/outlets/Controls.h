@@ -42,8 +42,13 @@ public:
     [[nodiscard]] QString title() const { return read(m_title); }
     void setTitle(const QString &title) { write(m_title, title); }
 
+    /// What the button carries besides: the address that it leads to.
+    [[nodiscard]] QString alternateTitle() const { return read(m_alternateTitle); }
+    void setAlternateTitle(const QString &title) { write(m_alternateTitle, title); }
+
 private:
     QString m_title;
+    QString m_alternateTitle;
 };
 
 /// A field's arrows: an integer.

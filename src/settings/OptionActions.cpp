@@ -18,11 +18,6 @@ void QuillorentAppDelegate::prefCheck02Action()
     currentRecord().setSwitch(u"emptydir"_qs, prefCheck02.isOn());
 }
 
-void QuillorentAppDelegate::updatesCheck01Action()
-{
-    configPlist().dictionary(u"updates"_qs).setSwitch(u"automatic"_qs, updatesCheck01.isOn());
-}
-
 void QuillorentAppDelegate::showPartSize(const QString &size)
 {
     partSize.set(size);

@@ -55,6 +55,11 @@ void showPasswords(const ActionCall &call)
     tabs.setCurrentWidget(tabs.findChild<QWidget *>(u"passwordsPage"_qs));
 }
 
+void openDownloadPage(const ActionCall &call)
+{
+    call.controller.openBrowserAt(call.controller.downloadButton01);
+}
+
 constexpr QLatin1StringView operator""_name(const char *text, size_t size)
 {
     return QLatin1StringView(text, qsizetype(size));
@@ -71,6 +76,8 @@ constexpr ActionRow table[] = {
     {"profileButton07"_name, send<&Controller::profileButton07Action>},
     {"defaultProfileButton"_name, send<&Controller::setterDefaultProfile>},
     {"autosaveCheck01"_name, send<&Controller::autosaveCheck01Action>},
+
+    {"mainTabs"_name, send<&Controller::tabViewDidSelectTabViewItem>},
 
     {"folderButton01"_name, send<&Controller::folderButton01Action>},
     {"folderButton02"_name, removeFolders},
@@ -129,6 +136,11 @@ constexpr ActionRow table[] = {
     {"warningPanel03"_name, send<&Controller::buttonLaunch01Stop>},
     {"buttonLaunch01Stop"_name, send<&Controller::buttonLaunch01Stop>},
     {"buttonLaunch01b"_name, send<&Controller::buttonLaunch01b>},
+    {"noPathPanel01"_name, send<&Controller::noPathPanel01Close>},
+    {"noPathPanel01CloseButton"_name, send<&Controller::noPathPanel01Close>},
+    {"updatePanel01"_name, send<&Controller::updatePanel01Close>},
+    {"updateCloseButton"_name, send<&Controller::updatePanel01Close>},
+    {"downloadButton01"_name, openDownloadPage},
     {"consolePanel01"_name, closeConsole},
     {"consoleCloseButton"_name, closeConsole},
     {"consoleCopyButton"_name, copyConsole},
@@ -149,6 +161,8 @@ bool connectControl(QWidget &widget, Perform perform)
     if (auto *stepper = qobject_cast<StepperButtons *>(&widget))
         return bool(QObject::connect(stepper, &StepperButtons::stepped, &widget,
                                      [perform](int value) { perform(QString::number(value)); }));
+    if (auto *tabs = qobject_cast<QTabWidget *>(&widget))
+        return bool(QObject::connect(tabs, &QTabWidget::currentChanged, &widget, performPlain));
     if (auto *panel = qobject_cast<PanelDialog *>(&widget))
         return bool(QObject::connect(panel, &PanelDialog::closeRequested, &widget, performPlain));
     return false;

@@ -10,6 +10,7 @@
 #include "ui_PreferencesPanel01.h"
 #include "ui_ProfilePanel04.h"
 #include "ui_ProgressPanel01.h"
+#include "ui_UpdatePanel01.h"
 #include "ui_WarningPanel03.h"
 
 #include <QCoreApplication>
@@ -84,13 +85,15 @@ QList<QWidget *> makeMessages(QWidget &window)
     return {makeMessage(window, u"warningPanel01"_qs, u"warningText01"_qs, tr("Can't start")),
             makeMessage(window, u"warningPanel04"_qs, u"warningText04"_qs, tr("No such name")),
             makeMessage(window, u"certPanel01"_qs, u"certPanelText01"_qs, tr("Certificate not accepted")),
+            makeMessage(window, u"noPathPanel01"_qs, u"noPathText01"_qs, tr("Programs are missing")),
             makeMessage(window, u"pkPanel01"_qs, u"pkPanelText01"_qs, tr("Private key not accepted"))};
 }
 
-QList<QWidget *> makeProfileSheets(QWidget &window)
+QList<QWidget *> makeSimplePanels(QWidget &window)
 {
     Ui::ProfilePanel04 deletion;
     Ui::PreferencesPanel01 options;
+    Ui::UpdatePanel01 update;
     return {
         makeNameSheet(window, {.panel = u"profilePanel01"_qs,
                                .profileText = u"panel01text01"_qs,
@@ -113,7 +116,9 @@ QList<QWidget *> makeProfileSheets(QWidget &window)
                      .advice = tr("The two are independent of each other once the profiles are saved and the "
                                   "program is started again. Until then a change in one is a change in "
                                   "both.")}),
-        makePanel(deletion, window), makePanel(options, window)};
+        makePanel(deletion, window),
+        makePanel(options, window),
+        makePanel(update, window)};
 }
 
 } // namespace
@@ -122,7 +127,7 @@ Panels::Panels(QuillorentAppDelegate &controller, QWidget &window)
     : m_questionForm(std::make_unique<Ui::WarningPanel03>())
     , m_progressForm(std::make_unique<Ui::ProgressPanel01>())
     , m_consoleForm(std::make_unique<Ui::ConsolePanel01>())
-    , m_simple(makeMessages(window) + makeProfileSheets(window))
+    , m_simple(makeMessages(window) + makeSimplePanels(window))
     , m_question(makePanel(*m_questionForm, window))
     , m_progress(makePanel(*m_progressForm, window))
     , m_console(makePanel(*m_consoleForm, window))

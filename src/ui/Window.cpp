@@ -12,6 +12,7 @@
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QLocale>
 #include <QShortcut>
 
@@ -60,11 +61,15 @@ Window::Window(QuillorentAppDelegate &controller)
     deriveFromOutlets();
     addShortcuts();
     controller.openPanel = [this](const outlets::OpenPanel &panel) { return askForPaths(panel, this); };
+    controller.openAddress = [](const QString &address) { QDesktopServices::openUrl(QUrl(address)); };
+    controller.showsUpdates = true;
 }
 
 Window::~Window()
 {
     m_controller.openPanel = [](const outlets::OpenPanel &) { return std::nullopt; };
+    m_controller.openAddress = [](const QString &) {};
+    m_controller.showsUpdates = false;
 }
 
 QList<QWidget *> Window::roots() { return QList<QWidget *>{this} + m_panels->all(); }

@@ -1,0 +1,119 @@
+#include "updates/Appcast.h"
+
+#include <QRegularExpression>
+#include <QVersionNumber>
+#include <QXmlStreamReader>
+
+namespace {
+
+/// What of an item's markup is text, a line for each of its paragraphs and list items.
+QString plainText(QString html)
+{
+    static const QRegularExpression lineBreaks(u"<\\s*(br|p|li|h[1-6]|div|tr)\\b[^>]*>"_qs,
+                                               QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression tags(u"<[^<>]*>"_qs);
+    static const QRegularExpression emptyLines(u"\\s*\\n\\s*"_qs);
+    html.replace(lineBreaks, u"\n"_qs).remove(tags);
+    html.replace(u"&nbsp;"_qs, u" "_qs).replace(u"&lt;"_qs, u"<"_qs).replace(u"&gt;"_qs, u">"_qs);
+    html.replace(u"&quot;"_qs, u"\""_qs).replace(u"&#39;"_qs, u"'"_qs).replace(u"&amp;"_qs, u"&"_qs);
+    return html.replace(emptyLines, u"\n"_qs).trimmed();
+}
+
+/// Reads one item, and leaves the reader at its end.
+class ItemReader {
+public:
+    Release read(QXmlStreamReader &xml)
+    {
+        while (xml.readNextStartElement())
+            readElement(xml);
+        static const QRegularExpression atEnd(u"\\d[\\w.-]*$"_qs);
+        m_release.version = firstFilled({m_versionForPeople, m_version, atEnd.match(m_title).captured()});
+        const QUrl page(firstFilled({m_link, m_download}), QUrl::StrictMode);
+        // Whatever else a feed might name, such as a file, is nothing to be opened.
+        if (page.scheme() == u"https" || page.scheme() == u"http") m_release.page = page;
+        return m_release;
+    }
+
+private:
+    static QString firstFilled(const QStringList &texts)
+    {
+        for (const QString &text : texts)
+            if (!text.isEmpty()) return text;
+        return {};
+    }
+
+    void readElement(QXmlStreamReader &xml)
+    {
+        const QString name = xml.name().toString();
+        if (name == u"enclosure") {
+            readEnclosure(xml.attributes());
+            xml.skipCurrentElement();
+            return;
+        }
+        const QString text = xml.readElementText(QXmlStreamReader::SkipChildElements).trimmed();
+        if (name == u"title") m_title = text;
+        if (name == u"link") m_link = text;
+        if (name == u"version") m_version = text;
+        if (name == u"shortVersionString") m_versionForPeople = text;
+        if (name == u"description") m_release.notes = plainText(text);
+    }
+
+    void readEnclosure(const QXmlStreamAttributes &attributes)
+    {
+        for (const QXmlStreamAttribute &attribute : attributes) {
+            if (attribute.name() == u"version") m_version = attribute.value().toString();
+            if (attribute.name() == u"shortVersionString") m_versionForPeople = attribute.value().toString();
+            if (attribute.name() == u"url") m_download = attribute.value().toString();
+        }
+    }
+
+    Release m_release;
+    QString m_title;
+    QString m_link;
+    QString m_download;
+    QString m_version;
+    QString m_versionForPeople;
+};
+
+bool isRss(QXmlStreamReader &xml)
+{
+    return xml.readNextStartElement() && xml.name() == u"rss" && xml.readNextStartElement() &&
+           xml.name() == u"channel";
+}
+
+} // namespace
+
+AppcastContent readAppcast(const QByteArray &feed)
+{
+    QXmlStreamReader xml(feed);
+    if (!isRss(xml)) return {std::nullopt, u"it is no RSS feed"_qs};
+    AppcastContent content;
+    while (xml.readNextStartElement()) {
+        if (xml.name() != u"item") {
+            xml.skipCurrentElement();
+            continue;
+        }
+        const Release release = ItemReader().read(xml);
+        if (release.version.isEmpty() || release.page.isEmpty()) continue;
+        if (!content.newest || compareVersions(release.version, content.newest->version) > 0)
+            content.newest = release;
+    }
+    if (xml.hasError())
+        return {std::nullopt, u"line %1: %2"_qs.arg(QString::number(xml.lineNumber()), xml.errorString())};
+    return content;
+}
+
+std::strong_ordering compareVersions(const QString &left, const QString &right)
+{
+    const auto parse = [](const QString &text) {
+        qsizetype end = 0;
+        const auto numbers = QVersionNumber::fromString(text, &end).normalized();
+        return std::pair(numbers, text.mid(end));
+    };
+    const auto [leftNumbers, leftRest] = parse(left);
+    const auto [rightNumbers, rightRest] = parse(right);
+    const int byNumbers = QVersionNumber::compare(leftNumbers, rightNumbers);
+    if (byNumbers != 0) return byNumbers <=> 0;
+    if (leftRest.isEmpty() || rightRest.isEmpty()) return leftRest.isEmpty() <=> rightRest.isEmpty();
+    return QString::compare(leftRest, rightRest) <=> 0;
+}

@@ -1,0 +1,103 @@
+#include "updates/SUUpdater.h"
+
+#include "app/QuillorentAppDelegate.h"
+#include "updates/Appcast.h"
+
+#include <QCoreApplication>
+#include <QHostAddress>
+#include <QLoggingCategory>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QPointer>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+Q_LOGGING_CATEGORY(logUpdates, "quillorent.updates")
+
+constexpr qint64 maximumFeedSize = 1024 * 1024;
+constexpr std::chrono::milliseconds patience = 30s;
+
+const QString ownVersion = QStringLiteral(QUILLORENT_VERSION);
+
+/// Who can change the feed on its way can offer what they like; on this very machine, nobody stands in
+/// between.
+bool isTrustworthy(const QUrl &feed)
+{
+    return feed.scheme() == u"https" || (feed.scheme() == u"http" && QHostAddress(feed.host()).isLoopback());
+}
+
+void show(const Release &release)
+{
+    QuillorentAppDelegate &delegate = theDelegate();
+    delegate.updateText01.setText(
+        u"Version %1 is there. You have version %2."_qs.arg(release.version, ownVersion));
+    delegate.updateNotes01.setText(release.notes);
+    delegate.downloadButton01.setAlternateTitle(release.page.toString());
+    delegate.updatePanel01.orderFront();
+}
+
+} // namespace
+
+SUUpdater::SUUpdater(QObject *parent) : QObject(parent)
+{
+    m_daily.setInterval(24h);
+    connect(&m_daily, &QTimer::timeout, this, &SUUpdater::checkForUpdatesInBackground);
+}
+
+SUUpdater &SUUpdater::sharedUpdater()
+{
+    static QPointer<SUUpdater> shared;
+    if (!shared) shared = new SUUpdater(QCoreApplication::instance());
+    return *shared;
+}
+
+void SUUpdater::setAutomaticallyChecksForUpdates(bool automatically)
+{
+    if (automatically)
+        m_daily.start();
+    else
+        m_daily.stop();
+}
+
+void SUUpdater::checkForUpdatesInBackground()
+{
+    const QString address = theDelegate().setting(u"updates"_qs, u"feed"_qs).value_or(QString());
+    if (address.isEmpty()) return;
+    const QUrl feed(address, QUrl::StrictMode);
+    if (!isTrustworthy(feed)) {
+        qCWarning(logUpdates).noquote()
+            << address << "is not asked for updates: its address must begin with https://";
+        return;
+    }
+    auto *manager = new QNetworkAccessManager(this);
+    QNetworkRequest request(feed);
+    request.setTransferTimeout(int(patience.count()));
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
+    QNetworkReply *reply = manager->get(request);
+    connect(reply, &QNetworkReply::downloadProgress, reply, [reply](qint64 received, qint64) {
+        if (received > maximumFeedSize) reply->abort();
+    });
+    connect(reply, &QNetworkReply::finished, this, [this, manager, reply] {
+        readFeed(*reply);
+        manager->deleteLater(); // with the reply, its child
+    });
+}
+
+void SUUpdater::readFeed(QNetworkReply &reply)
+{
+    if (reply.error() != QNetworkReply::NoError) {
+        qCInfo(logUpdates).noquote() << "No answer to the question for updates:" << reply.errorString();
+        return;
+    }
+    judge(reply.readAll());
+}
+
+void SUUpdater::judge(const QByteArray &feed)
+{
+    const AppcastContent content = readAppcast(feed);
+    if (!content.reason.isEmpty())
+        qCInfo(logUpdates).noquote() << "The feed of updates can't be read:" << content.reason;
+    if (content.newest && compareVersions(content.newest->version, ownVersion) > 0) show(*content.newest);
+}
