@@ -7,7 +7,9 @@
 #include "backup/FolderTab.h"
 #include "backup/ListTable.h"
 #include "backup/ProgressSheet.h"
+#include "extract/ExtractSheet.h"
 #include "extract/ExtractTab.h"
+#include "extract/ExtractTable.h"
 #include "keys/PasswordTab.h"
 #include "plist/Value.h"
 #include "settings/OptionsPanel.h"
@@ -23,6 +25,7 @@ class QuillorentAppDelegate : public RunState,
                               public BackupProgressSheet,
                               public PasswordTab,
                               public ExtractTab,
+                              public ExtractSheet,
                               public SyncTab,
                               public OptionsPanel,
                               public ToolsTab,
@@ -40,9 +43,10 @@ public:
     Guarded<QString> partSize;                 ///< volume size, thousands of bytes, as text
     plist::Array extractList = plist::Array::make();     ///< archives to extract
     plist::Array extractFullList = plist::Array::make(); ///< archives shown
-    Guarded<bool> compliance;                            ///< every registered tool is the right one
-    Guarded<int> compliant;                              ///< how many are
-    Guarded<int> compliantBase;                          ///< how many are registered
+    Guarded<QString> extractedFolder; ///< where the last extraction went; empty unless all of it succeeded
+    Guarded<bool> compliance;         ///< every registered tool is the right one
+    Guarded<int> compliant;           ///< how many are
+    Guarded<int> compliantBase;       ///< how many are registered
 
     /// The record of the current profile; none where there is no such profile.
     [[nodiscard]] plist::Dictionary currentRecord() const { return listPlist().dictionary(currentProfile()); }
@@ -90,8 +94,24 @@ public:
     void buttonKill01(outlets::Button &sender);
     void killer();
 
+    // Extraction
+    /// The paths that are not those of later volumes, in their order.
+    [[nodiscard]] QStringList filterForExtraction(const QStringList &paths) const;
+    void extractButton01Action();               ///< add
+    void extractButton02Action();               ///< remove
+    void extractButton03Action();               ///< clear
+    void addArchives(const QStringList &paths); ///< chosen in a panel, or dropped onto the list
+    void extractPathButtonAction();
+    void buttonLaunch02();
+    void buttonLaunch02b();
+    void buttonLaunch02Stop();
+    void buttonLaunch02c(); ///< go on in spite of `concernsPanel01`
+    void concernsPanel01Stop();
+    void stopProcess02b();
+
     // Passwords and keys
     [[nodiscard]] QString passwordSelector() const;
+    [[nodiscard]] bool pkeySelector() const; ///< false where a certificate is to protect and none is chosen
     void passCombo01Action();
     void checkBox01Action();
     void certButton01Action();
@@ -108,6 +128,7 @@ private:
     void showPartSize(const QString &size);
 
     listTable m_listTable;
+    extractTable m_extractTable;
     pathTable m_pathTable;
 };
 

@@ -15,6 +15,11 @@ QString QuillorentAppDelegate::passwordSelector() const
     return checkBox01.isOn() ? secureText01a.text() : secureText01b.text();
 }
 
+bool QuillorentAppDelegate::pkeySelector() const
+{
+    return passCombo01.selectedIndex() != Certificate || !certFile01.text().isEmpty();
+}
+
 void QuillorentAppDelegate::passCombo01Action()
 {
     const int source = passCombo01.selectedIndex();
