@@ -40,6 +40,14 @@ QString folderMissing(const QString &folder)
         .arg(folder);
 }
 
+/// A panel's text: as many lines as a person reads.
+QString firstOf(const QStringList &concerns)
+{
+    constexpr qsizetype most = 8;
+    if (concerns.size() <= most) return concerns.join(u'\n');
+    return concerns.first(most).join(u'\n') + u"\n… and %1 more."_qs.arg(concerns.size() - most);
+}
+
 } // namespace
 
 void QuillorentAppDelegate::buttonLaunch02()
@@ -70,7 +78,7 @@ void QuillorentAppDelegate::buttonLaunch02b()
         buttonLaunch02c();
         return;
     }
-    concernsText01.setText(concerns.join(u'\n'));
+    concernsText01.setText(firstOf(concerns));
     concernsPanel01.runModal();
 }
 

@@ -4,9 +4,13 @@
 #include "ui/Appearance.h"
 #include "ui/PanelDialog.h"
 #include "ui/ProgressFigures.h"
+#include "ui_ConcernsPanel01.h"
 #include "ui_ConsolePanel01.h"
+#include "ui_ExtractPanel01.h"
 #include "ui_ProgressPanel01.h"
+#include "ui_ProgressPanel02.h"
 #include "ui_WarningPanel01.h"
+#include "ui_WarningPanel02.h"
 #include "ui_WarningPanel03.h"
 
 #include <QFontDatabase>
@@ -14,43 +18,61 @@
 namespace ui {
 namespace {
 
-template <class Form>
-PanelDialog *makePanel(Form &form, QWidget &window)
-{
-    auto *panel = new PanelDialog(&window);
-    form.setupUi(panel);
-    return panel;
-}
-
 void showIcon(QLabel &label, const QString &name)
 {
     const int size = label.style()->pixelMetric(QStyle::PM_MessageBoxIconSize);
     label.setPixmap(themeIcon(name).pixmap(size));
 }
 
+template <class Form>
+std::unique_ptr<ProgressFigures> makeFigures(const RunState &run, const Form &form, PanelDialog &sheet)
+{
+    sheet.keepWindowClosable();
+    auto figures = std::make_unique<ProgressFigures>(
+        run, ProgressFigures::Widgets{*form.itemsDone, *form.bytesDone, *form.elapsed, *form.itemsRunning});
+    QObject::connect(&sheet, &PanelDialog::visibilityChanged, figures.get(), &ProgressFigures::setRunning);
+    return figures;
+}
+
 } // namespace
 
-Panels::Panels(QuillorentAppDelegate &controller, QWidget &window)
-    : m_warningForm(std::make_unique<Ui::WarningPanel01>())
-    , m_questionForm(std::make_unique<Ui::WarningPanel03>())
-    , m_progressForm(std::make_unique<Ui::ProgressPanel01>())
-    , m_consoleForm(std::make_unique<Ui::ConsolePanel01>())
-    , m_warning(makePanel(*m_warningForm, window))
-    , m_question(makePanel(*m_questionForm, window))
-    , m_progress(makePanel(*m_progressForm, window))
-    , m_console(makePanel(*m_consoleForm, window))
-    , m_figures(std::make_unique<ProgressFigures>(controller, *m_progressForm))
+template <class Form>
+Panels::Panel<Form>::Panel(QWidget &window) : form(std::make_unique<Form>()), dialog(new PanelDialog(&window))
 {
-    showIcon(*m_warningForm->warningIcon, u"dialog-warning"_qs);
-    showIcon(*m_questionForm->questionIcon, u"dialog-question"_qs);
-    m_progress->keepWindowClosable();
-    m_consoleForm->consoleTextView01->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    QObject::connect(m_progress, &PanelDialog::visibilityChanged, m_figures.get(),
-                     &ProgressFigures::setRunning);
+    form->setupUi(dialog);
+}
+
+template <class Form>
+Panels::Panel<Form>::~Panel() = default;
+
+Panels::Panels(QuillorentAppDelegate &controller, QWidget &window)
+    : m_warning(window)
+    , m_extractQuestion(window)
+    , m_backupQuestion(window)
+    , m_concerns(window)
+    , m_damage(window)
+    , m_backup(window)
+    , m_extraction(window)
+    , m_console(window)
+    , m_backupFigures(makeFigures(controller, *m_backup.form, *m_backup.dialog))
+    , m_extractionFigures(makeFigures(controller, *m_extraction.form, *m_extraction.dialog))
+{
+    showIcon(*m_warning.form->warningIcon, u"dialog-warning"_qs);
+    showIcon(*m_damage.form->damageIcon, u"dialog-warning"_qs);
+    showIcon(*m_concerns.form->concernsIcon, u"dialog-question"_qs);
+    showIcon(*m_extractQuestion.form->questionIcon, u"dialog-question"_qs);
+    showIcon(*m_backupQuestion.form->questionIcon, u"dialog-question"_qs);
+    m_console.form->consoleTextView01->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
 }
 
 Panels::~Panels() = default;
 
-QList<QWidget *> Panels::all() const { return {m_warning, m_question, m_progress, m_console}; }
+QList<QWidget *> Panels::all() const
+{
+    return {m_warning.dialog, m_extractQuestion.dialog, m_backupQuestion.dialog, m_concerns.dialog,
+            m_damage.dialog,  m_backup.dialog,          m_extraction.dialog,     m_console.dialog};
+}
+
+QList<PanelDialog *> Panels::progressSheets() const { return {m_backup.dialog, m_extraction.dialog}; }
 
 } // namespace ui

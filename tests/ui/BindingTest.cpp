@@ -17,40 +17,12 @@ namespace {
 class BindingTest : public WindowTest {};
 
 /// Outlets of features that the window does not show yet. One that gains a widget leaves this list.
-const QSet<QString> outletsOfLater{u"updatesCheck01"_qs,
-                                   u"extractTableView"_qs,
-                                   u"extractPath"_qs,
-                                   u"decryptionCombo01"_qs,
-                                   u"syncTableView"_qs,
-                                   u"syncSelector01"_qs,
-                                   u"syncTextSourcePath"_qs,
-                                   u"syncTextDestPath"_qs,
-                                   u"checkBoxSync1"_qs,
-                                   u"checkBoxSync2"_qs,
-                                   u"syncCheck01"_qs,
-                                   u"syncView"_qs,
-                                   u"syncUser"_qs,
-                                   u"syncServer"_qs,
-                                   u"syncPort"_qs,
-                                   u"keychainUser"_qs,
-                                   u"keychainPass"_qs,
-                                   u"keychainClear"_qs,
-                                   u"pkFile01"_qs,
-                                   u"prefSelector01"_qs,
-                                   u"prefCheck02"_qs,
-                                   u"outputText02"_qs,
-                                   u"progressPanel02"_qs,
-                                   u"progress02progressIndicator01"_qs,
-                                   u"progress02progressLabel01"_qs,
-                                   u"progress02progressLabel02"_qs,
-                                   u"buttonCancel02"_qs,
-                                   u"warningPanel02"_qs,
-                                   u"folderNotEmptyText01"_qs,
-                                   u"concernsPanel01"_qs,
-                                   u"concernsText01"_qs,
-                                   u"extractPanel01"_qs,
-                                   u"extractPanelText01"_qs,
-                                   u"extractReasonText01"_qs};
+const QSet<QString> outletsOfLater{u"updatesCheck01"_qs,     u"syncTableView"_qs,    u"syncSelector01"_qs,
+                                   u"syncTextSourcePath"_qs, u"syncTextDestPath"_qs, u"checkBoxSync1"_qs,
+                                   u"checkBoxSync2"_qs,      u"syncCheck01"_qs,      u"syncView"_qs,
+                                   u"syncUser"_qs,           u"syncServer"_qs,       u"syncPort"_qs,
+                                   u"keychainUser"_qs,       u"keychainPass"_qs,     u"keychainClear"_qs,
+                                   u"pkFile01"_qs,           u"prefSelector01"_qs,   u"prefCheck02"_qs};
 
 template <class Work>
 void onAnotherThread(Work work)
@@ -140,7 +112,8 @@ TEST_F(BindingTest, EscapeAsksThePanelsClosingAction)
     };
     for (const auto &[panel, asSheet] :
          {Case{delegate.warningPanel01, true}, Case{delegate.warningPanel03, true},
-          Case{delegate.consolePanel01, false}}) {
+          Case{delegate.warningPanel02, true}, Case{delegate.concernsPanel01, true},
+          Case{delegate.extractPanel01, true}, Case{delegate.consolePanel01, false}}) {
         SCOPED_TRACE(panel.name().toStdString());
         asSheet ? panel.beginSheet() : panel.orderFront();
         settle();
