@@ -3,7 +3,6 @@
 #include "ExtractionTest.h"
 
 #include "extract/Room.h"
-#include "extract/VolumeSet.h"
 
 #include <QDir>
 
@@ -21,23 +20,6 @@ TEST(Room, IsEstimatedForThoseThatAreWorkedOnTogether)
     EXPECT_EQ(roomNeeded({300}, 2), 700);
     EXPECT_EQ(roomNeeded({300, 300}, 2), 1400);
     EXPECT_EQ(roomNeeded({30, 300, 300}, 1), 630 + 400);
-    EXPECT_EQ(roomNeeded({}, 2), 0);
-    EXPECT_GT(roomFree(u"/"_qs).value_or(0), 0);
-}
-
-TEST(VolumeSet, SaysWhatSeemsToBeMissing)
-{
-    for (const auto &[volumes, expected] : {
-             std::pair{QList<Volume>{{1, 10}, {2, 10}, {3, 4}}, u""_qs},
-             std::pair{QList<Volume>{{1, 10}, {3, 4}}, u"volume 2 is missing"_qs},
-             std::pair{QList<Volume>{{2, 10}, {3, 4}}, u"volume 1 is missing"_qs},
-             std::pair{QList<Volume>{{1, 10}}, u"all volumes but the first"_qs},
-             std::pair{QList<Volume>{{1, 10}, {2, 9}, {3, 4}}, u"volume 2 is shorter"_qs},
-             std::pair{QList<Volume>{{1, 10}, {2, 10}}, u"volume 2 is as large"_qs},
-         }) {
-        const QString text = whatIsMissing(volumes);
-        EXPECT_TRUE(expected.isEmpty() ? text.isEmpty() : text.startsWith(expected)) << qPrintable(text);
-    }
 }
 
 TEST_F(Start, SaysWhatIsMissing)

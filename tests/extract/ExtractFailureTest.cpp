@@ -254,18 +254,3 @@ TEST_F(ExtractFailure, CancellingBeforeTheFirstStageExtractsNothing)
     program.waitForEnd();
     EXPECT_TRUE(fs::is_empty(out));
 }
-
-TEST_F(ExtractFailure, StopsTheOtherArchives)
-{
-    QStringList folders;
-    for (int i = 0; i < 8; ++i) {
-        writeFile(program.folder() / ("f" + std::to_string(i)) / "file", "x");
-        folders.append(program.path("f" + std::to_string(i)));
-    }
-    backUp(folders);
-    const Stub openssl(program.folder() / "tools", "openssl", "print no");
-    program.useTool(u"OpenSSL"_qs, openssl.path());
-    extract({program.path("archives")});
-    EXPECT_EQ(delegate.foldersDone(), 0);
-    EXPECT_LT(console().count(u"*** ERROR"_qs), 8);
-}

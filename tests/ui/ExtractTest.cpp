@@ -3,12 +3,9 @@
 #include "ui/ArchiveList.h"
 #include "ui/PanelDialog.h"
 
-#include <QDropEvent>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMimeData>
-#include <QPushButton>
 
 namespace {
 
@@ -29,16 +26,7 @@ protected:
 
     ui::ArchiveListView &list() { return widget<ui::ArchiveListView>(u"extractTableView"_qs); }
 
-    void drop(const QString &path)
-    {
-        QMimeData dropped;
-        dropped.setUrls({QUrl::fromLocalFile(path)});
-        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(list().viewport(), &enter);
-        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(list().viewport(), &drop);
-        settle();
-    }
+    void dropOnList(const QString &path) { drop(list(), {QUrl::fromLocalFile(path)}); }
 
     bool isGrey(int row)
     {
@@ -54,13 +42,13 @@ protected:
 
 TEST_F(ExtractTest, AWholeExtractionByHand)
 {
-    drop(program.path(second));
+    dropOnList(program.path(second));
     EXPECT_TRUE(widget<QLabel>(u"outputText02"_qs).text().contains(u"first volume is missing"));
     EXPECT_FALSE(widget(u"openFolderButton"_qs).isEnabled());
     click(u"extractButton03"_qs);
     EXPECT_EQ(list().outletModel().rowCount(), 0);
 
-    drop(program.path("archives"));
+    dropOnList(program.path("archives"));
     ASSERT_GE(list().outletModel().rowCount(), 2);
     EXPECT_TRUE(waitUntil([&] { return isGrey(1); }));
     EXPECT_FALSE(isGrey(0));
@@ -82,7 +70,7 @@ TEST_F(ExtractTest, AWholeExtractionByHand)
 TEST_F(ExtractTest, ADamagedSetIsToldOverTheSheet)
 {
     std::filesystem::resize_file(program.folder() / second, 10);
-    drop(program.path("archives"));
+    dropOnList(program.path("archives"));
     clickAndAnswer(u"buttonLaunch02"_qs, u"concernsPanel01"_qs, [this] {
         EXPECT_TRUE(widget<QLabel>(u"concernsText01"_qs).text().contains(u"volume 2 is shorter"));
         click(u"buttonLaunch02c"_qs);
