@@ -43,12 +43,11 @@ QString describe(const QString &leftOut, const QStringList &all)
     const QString name = quillorentLibrary::lastPathComponent(leftOut);
     const std::optional<VolumeName> volume = volumeName(leftOut);
     if (!volume || !volume->isLater())
-        return u"\"%1\" is not extracted: its path has \"part\" and, after that, a number as later volumes "
-               "have it. Move or rename it, and add it again."_qs.arg(leftOut);
+        return u"\"%1\" is not extracted: its path has \"part\" and, after that, a number as later "
+               "volumes have it. Move or rename it, and add it again."_qs.arg(leftOut);
     if (holdsFirstVolume(all, volume->set)) return {};
     return u"The first volume is missing: \"%1\" is volume %2 of its set. Add the first one, "
-           u"\"%3.part1.rar\" or "
-           "\"…part01.rar\"."_qs.arg(name)
+           "\"%3.part1.rar\" or \"…part01.rar\"."_qs.arg(name)
                .arg(volume->number)
                .arg(quillorentLibrary::lastPathComponent(volume->set));
 }

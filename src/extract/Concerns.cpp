@@ -74,15 +74,13 @@ void Concerns::lookAtProtection(const QString &archive)
 {
     const QString command = quillorentLibrary::decideDecryption(archive).value_or(QString());
     if (command.isEmpty())
-        add(u"The name of \"%1\" does not tell how it was encrypted. Choose the method, unless the name of "
-            u"what "
-            "is in it tells."_qs.arg(nameOf(archive)));
+        add(u"The name of \"%1\" does not tell how it was encrypted. Choose the method, unless the "
+            "name of what is in it tells."_qs.arg(nameOf(archive)));
     else if (command == u"smime")
         lookAtKey();
     else if (m_delegate.passCombo01.selectedIndex() == PasswordTab::Certificate)
-        add(u"\"%1\" was encrypted by a password, and a certificate is chosen. Choose a password on the "
-            u"Passwords "
-            "tab."_qs.arg(nameOf(archive)));
+        add(u"\"%1\" was encrypted by a password, and a certificate is chosen. Choose a password on "
+            "the Passwords tab."_qs.arg(nameOf(archive)));
 }
 
 void Concerns::lookAtKey()
@@ -90,8 +88,8 @@ void Concerns::lookAtKey()
     const QString key = m_delegate.pkFile01.text();
     const QString certificate = m_delegate.certFile01.text();
     if (key.isEmpty())
-        add(u"No private key is chosen. Without it nothing that was encrypted for a certificate can be "
-            "decrypted."_qs);
+        add(u"No private key is chosen. Without it nothing that was encrypted for a certificate can "
+            "be decrypted."_qs);
     else if (!isReadableFile(key))
         add(u"The private key \"%1\" can't be read."_qs.arg(key));
     if (certificate.isEmpty())
@@ -114,8 +112,8 @@ void Concerns::lookAtPlaces(const QString &archive)
             add(u"\"%1\" is there already and will be replaced, then removed."_qs.arg(path));
     }
     if (m_taken.contains(paths.encrypted))
-        add(u"Two archives are called \"%1\" and would get in each other's way. Extract them one after the "
-            "other."_qs.arg(nameOf(archive)));
+        add(u"Two archives are called \"%1\" and would get in each other's way. Extract them one "
+            "after the other."_qs.arg(nameOf(archive)));
     m_taken.insert(paths.encrypted);
 }
 

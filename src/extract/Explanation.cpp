@@ -35,8 +35,8 @@ QString explainByFolder(const FailedStage &stage)
     if (stage.kind == Kind::Test) return {};
     const bool isFull = stage.bytesFree && *stage.bytesFree < nextToNothing;
     if (isFull || says(stage, {u"No space left", u"Disk quota exceeded", u"no space left for"}))
-        return u"The disk of \"%1\" is full. Make room, or choose a folder on another disk, and extract again."_qs
-            .arg(stage.folder);
+        return u"The disk of \"%1\" is full. Make room, or choose a folder on another disk, and "
+               "extract again."_qs.arg(stage.folder);
     if (!stage.folderIsWritable || says(stage, {u"Read-only file system"}))
         return u"Nothing may be written into \"%1\". Choose another folder, or change its permissions."_qs
             .arg(stage.folder);
@@ -45,9 +45,8 @@ QString explainByFolder(const FailedStage &stage)
 
 QString taken(const QString &path)
 {
-    return u"\"%1\" is a folder, and a file of that name is needed for a while. Rename it, or extract into "
-           u"another "
-           "folder."_qs.arg(path);
+    return u"\"%1\" is a folder, and a file of that name is needed for a while. Rename it, or extract "
+           "into another folder."_qs.arg(path);
 }
 
 QString explainArchive(const FailedStage &stage)
@@ -63,9 +62,8 @@ QString explainArchive(const FailedStage &stage)
         return u"The volumes of \"%1\" do not belong together: %2. Put those of one set into one folder."_qs
             .arg(name, stage.tool.firstLine());
     if (says(stage, {u"Unexpected end"}))
-        return u"\"%1\" is cut short: a part of it was lost when it was copied, or the copy is not finished. "
-               u"Copy it "
-               "again: %2."_qs.arg(name, stage.tool.firstLine());
+        return u"\"%1\" is cut short: a part of it was lost when it was copied, or the copy is not "
+               "finished. Copy it again: %2."_qs.arg(name, stage.tool.firstLine());
     if (says(stage, {u"checksum", u"Corrupt", u"damaged", u"CRC"}))
         return u"\"%1\" is damaged: %2. Fetch another copy of it."_qs.arg(name, stage.tool.firstLine());
     if (says(stage, {u"is not a RAR archive"}))
@@ -81,19 +79,16 @@ QString explainOuter(const FailedStage &stage)
 QString explainWrongKey(const FailedStage &stage)
 {
     if (!stage.keyIsReadable)
-        return u"The private key can't be read. Choose the one that belongs to the certificate, on the "
-               u"Passwords "
-               "tab."_qs;
+        return u"The private key can't be read. Choose the one that belongs to the certificate, on "
+               "the Passwords tab."_qs;
     if (!stage.certificateIsReadable)
-        return u"The certificate can't be read. Choose the one that the archive was encrypted for, on the "
-               u"Passwords "
-               "tab."_qs;
+        return u"The certificate can't be read. Choose the one that the archive was encrypted for, on "
+               "the Passwords tab."_qs;
     if (says(stage, {u"Could not read", u"unable to load", u"Could not find"}))
-        return u"The private key or the certificate is not usable: %1. A key with a pass phrase can't be used."_qs
-            .arg(stage.tool.firstLine());
-    return u"\"%1\" can't be decrypted with this private key and certificate. Choose the pair that it was "
-           u"encrypted "
-           "for, on the Passwords tab."_qs.arg(nameOf(stage.archive));
+        return u"The private key or the certificate is not usable: %1. A key with a pass phrase can't "
+               "be used."_qs.arg(stage.tool.firstLine());
+    return u"\"%1\" can't be decrypted with this private key and certificate. Choose the pair that it "
+           "was encrypted for, on the Passwords tab."_qs.arg(nameOf(stage.archive));
 }
 
 QString explainDecryption(const FailedStage &stage)
@@ -102,30 +97,24 @@ QString explainDecryption(const FailedStage &stage)
     if (stage.atInner == Place::Folder) return taken(stage.inner);
     if (stage.atEncrypted == Place::Folder) return taken(stage.encrypted);
     if (stage.atEncrypted == Place::Link)
-        return u"\"%1\" holds a link where the encrypted file should be. It was not made by a backup: don't "
-               u"trust "
-               "it."_qs.arg(name);
+        return u"\"%1\" holds a link where the encrypted file should be. It was not made by a backup: "
+               "don't trust it."_qs.arg(name);
     if (stage.atEncrypted == Place::Nothing)
-        return u"\"%1\" does not hold the file \"%2\" that its name promises. Give the archive back the name "
-               u"that it "
-               "had, or it is none of a backup's."_qs.arg(name, nameOf(stage.encrypted));
+        return u"\"%1\" does not hold the file \"%2\" that its name promises. Give the archive back "
+               "the name that it had, or it is none of a backup's."_qs.arg(name, nameOf(stage.encrypted));
     if (stage.decoderCommand.isEmpty())
-        return u"The name of \"%1\" does not tell how it was encrypted. Choose the decryption method, and "
-               u"extract "
-               "again."_qs.arg(name);
+        return u"The name of \"%1\" does not tell how it was encrypted. Choose the decryption method, "
+               "and extract again."_qs.arg(name);
     if (stage.decoderCommand == u"smime") return explainWrongKey(stage);
     if (!stage.commandByName.isEmpty() && stage.commandByName != stage.decoderCommand)
-        return u"\"%1\" can't be decrypted with the method that is chosen; its name tells another one. "
-               u"Choose the "
-               "automatic method."_qs.arg(name);
+        return u"\"%1\" can't be decrypted with the method that is chosen; its name tells another "
+               "one. Choose the automatic method."_qs.arg(name);
     if (says(stage, {u"bad decrypt", u"wrong final block"}))
-        return u"The password is wrong: \"%1\" can't be decrypted with it. Type the one that the archive was "
-               u"made "
-               "with."_qs.arg(name);
+        return u"The password is wrong: \"%1\" can't be decrypted with it. Type the one that the "
+               "archive was made with."_qs.arg(name);
     if (says(stage, {u"bad magic number", u"error reading input file", u"wrong tag", u"bad base64"}))
         return u"What is in \"%1\" was not encrypted by a password, or it is damaged. Choose another "
-               u"decryption method, "
-               "or fetch another copy."_qs.arg(name);
+               "decryption method, or fetch another copy."_qs.arg(name);
     return u"\"%1\" can't be decrypted: %2."_qs.arg(name, stage.tool.firstLine());
 }
 
@@ -133,21 +122,18 @@ QString explainInner(const FailedStage &stage)
 {
     const QString name = nameOf(stage.archive);
     if (!stage.innerIsArchive && stage.decoderCommand == u"smime")
-        return u"What \"%1\" was decrypted to is no archive. The private key is wrong, or the archive is "
-               u"none of a "
-               "backup's."_qs.arg(name);
+        return u"What \"%1\" was decrypted to is no archive. The private key is wrong, or the archive "
+               "is none of a backup's."_qs.arg(name);
     if (!stage.innerIsArchive)
-        return u"The password is probably wrong: what \"%1\" was decrypted to is no archive. Type the one "
-               u"that the "
-               "archive was made with."_qs.arg(name);
+        return u"The password is probably wrong: what \"%1\" was decrypted to is no archive. Type the "
+               "one that the archive was made with."_qs.arg(name);
     if (says(stage, {u"leads out of"}))
-        return u"\"%1\" holds names that lead out of \"%2\": %3. They were left out; don't trust the archive."_qs
-            .arg(name, stage.folder, stage.tool.firstLine());
+        return u"\"%1\" holds names that lead out of \"%2\": %3. They were left out; don't trust the "
+               "archive."_qs.arg(name, stage.folder, stage.tool.firstLine());
     if (says(stage, {u"is a link or a file in the destination", u"Is a directory", u"Not a directory",
                      u"File exists", u"Directory not empty"}))
-        return u"A name in \"%1\" is taken by something else in \"%2\": %3. Rename that, or extract into an "
-               u"empty "
-               "folder."_qs.arg(name, stage.folder, stage.tool.firstLine());
+        return u"A name in \"%1\" is taken by something else in \"%2\": %3. Rename that, or extract "
+               "into an empty folder."_qs.arg(name, stage.folder, stage.tool.firstLine());
     return explainArchive(stage);
 }
 

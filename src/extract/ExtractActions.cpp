@@ -27,7 +27,8 @@ QString whatIsMissing(const QuillorentAppDelegate &delegate)
     if (delegate.passCombo01.selectedIndex() == PasswordTab::Certificate && !delegate.pkeySelector())
         return u"No certificate is chosen. Choose one on the Passwords tab."_qs;
     if (delegate.passwordSelector().isEmpty())
-        return u"No password is given. Type one on the Passwords tab; without a password nothing is extracted."_qs;
+        return u"No password is given. Type one on the Passwords tab; without a password nothing is "
+               "extracted."_qs;
     if (delegate.isRunActive()) return u"The last run is still ending its tools. Try again in a moment."_qs;
     return {};
 }
@@ -36,8 +37,8 @@ QString folderMissing(const QString &folder)
 {
     if (folder.isEmpty())
         return u"No extraction folder is chosen. Choose the folder that the contents go to."_qs;
-    return u"The extraction folder \"%1\" does not exist or is no folder. Connect its disk, or choose another one."_qs
-        .arg(folder);
+    return u"The extraction folder \"%1\" does not exist or is no folder. Connect its disk, or choose "
+           "another one."_qs.arg(folder);
 }
 
 /// A panel's text: as many lines as a person reads.

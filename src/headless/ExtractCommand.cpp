@@ -40,8 +40,8 @@ void answerPanels(QuillorentAppDelegate &delegate, PanelAnswers &answers)
     answers.answerQuestion(
         delegate.warningPanel02,
         [&] {
-            return u"The extraction folder \"%1\" is not empty. Files of the same name would be replaced; say --yes to go on."_qs
-                .arg(delegate.folderNotEmptyText01.text());
+            return u"The extraction folder \"%1\" is not empty. Files of the same name would be "
+                   "replaced; say --yes to go on."_qs.arg(delegate.folderNotEmptyText01.text());
         },
         [&] { delegate.buttonLaunch02b(); }, [&] { delegate.buttonLaunch02Stop(); });
     answers.answerQuestion(
