@@ -16,6 +16,7 @@ QuillorentAppDelegate::QuillorentAppDelegate()
     controller = this;
 
     listTableView.setDataSource(&m_listTable);
+    extractTableView.setDataSource(&m_extractTable);
     pathTableView.setDataSource(&m_pathTable);
 
     // A program without a front end has nobody who could choose.

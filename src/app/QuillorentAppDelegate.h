@@ -8,7 +8,9 @@
 #include "backup/FolderTab.h"
 #include "backup/ListTable.h"
 #include "backup/ProgressSheet.h"
+#include "extract/ExtractSheet.h"
 #include "extract/ExtractTab.h"
+#include "extract/ExtractTable.h"
 #include "keys/PasswordTab.h"
 #include "plist/Value.h"
 #include "settings/OptionsPanel.h"
@@ -28,6 +30,7 @@ class QuillorentAppDelegate : public RunState,
                               public BackupProgressSheet,
                               public PasswordTab,
                               public ExtractTab,
+                              public ExtractSheet,
                               public SyncTab,
                               public OptionsPanel,
                               public ProfileSheets,
@@ -47,9 +50,10 @@ public:
     Guarded<QString> partSize;                 ///< volume size, thousands of bytes, as text
     plist::Array extractList = plist::Array::make();     ///< archives to extract
     plist::Array extractFullList = plist::Array::make(); ///< archives shown
-    Guarded<bool> compliance;                            ///< every registered tool is the right one
-    Guarded<int> compliant;                              ///< how many are
-    Guarded<int> compliantBase;                          ///< how many are registered
+    Guarded<QString> extractedFolder;   ///< where the last extraction went; empty unless all of it succeeded
+    Guarded<bool> compliance;           ///< every registered tool is the right one
+    Guarded<int> compliant;             ///< how many are
+    Guarded<int> compliantBase;         ///< how many are registered
     std::atomic<int> verifications = 0; ///< that run: until they end, the three above say nothing
 
     /// The record of the current profile; none where there is no such profile.
@@ -118,6 +122,21 @@ public:
     void buttonKill01(outlets::Button &sender);
     void killer();
 
+    // Extraction
+    /// The paths that are not those of later volumes, in their order.
+    [[nodiscard]] QStringList filterForExtraction(const QStringList &paths) const;
+    void extractButton01Action();               ///< add
+    void extractButton02Action();               ///< remove
+    void extractButton03Action();               ///< clear
+    void addArchives(const QStringList &paths); ///< chosen in a panel, or dropped onto the list
+    void extractPathButtonAction();
+    void buttonLaunch02();
+    void buttonLaunch02b();
+    void buttonLaunch02Stop();
+    void buttonLaunch02c(); ///< go on in spite of `concernsPanel01`
+    void concernsPanel01Stop();
+    void stopProcess02b();
+
     // Passwords and keys
     [[nodiscard]] QString passwordSelector() const; ///< password, or path of the certificate
     [[nodiscard]] bool pkeySelector() const;        ///< no certificate is wanted, or one is chosen
@@ -166,6 +185,7 @@ private:
     Latest m_keychainRequests;
     Latest m_keyDescriptions;
     listTable m_listTable;
+    extractTable m_extractTable;
     pathTable m_pathTable;
 };
 

@@ -2,22 +2,17 @@
 
 #include "app/Pauses.h"
 #include "app/QuillorentAppDelegate.h"
+#include "app/Workers.h"
 #include "backup/FolderBackup.h"
 #include "files/Names.h"
 #include "files/Paths.h"
 #include "files/Sizes.h"
-#include "tools/Threads.h"
-#include "tools/ToolRun.h"
 
 #include <QFileInfo>
 #include <QLocale>
-#include <algorithm>
 #include <thread>
-#include <unistd.h>
 
 namespace {
-
-void poll() { std::this_thread::sleep_for(pauses().poll); }
 
 /// One run, step by step, on its own thread.
 class BackupRun {
@@ -29,17 +24,13 @@ private:
     void begin();
     void measure();
     void launchWorkers();
-    void launchWorker(const QString &folder);
-    void waitForWorkers();
+    [[nodiscard]] bool launchWorkerFor(const QString &folder) const;
     void end();
-    void endCancelledTools();
     [[nodiscard]] QString summary() const;
 
     QuillorentAppDelegate &m_delegate = theDelegate();
     const plist::Dictionary m_record;
     const QStringList m_folders = m_record.array(u"folders"_qs).strings();
-    // Of all processors of the machine, whether they are busy or not.
-    const qsizetype m_workerLimit = std::max(1L, sysconf(_SC_NPROCESSORS_CONF));
     QStringList m_missing;
 };
 
@@ -93,28 +84,16 @@ void BackupRun::launchWorkers()
             m_missing.append(folder);
             continue;
         }
-        while (m_delegate.threadsRunning().size() >= m_workerLimit && !m_delegate.cancelFlag())
-            poll();
-        if (m_delegate.cancelFlag()) return;
-        launchWorker(folder);
+        if (!launchWorkerFor(folder)) return;
     }
 }
 
-void BackupRun::launchWorker(const QString &folder)
+bool BackupRun::launchWorkerFor(const QString &folder) const
 {
     const BackupJob job{.source = folder,
                         .destination = m_record.string(u"path"_qs).value_or(QString()),
                         .baseName = quillorentLibrary::nameRepeated(folder, m_folders)};
-    m_delegate.beginItem(folder);
-    detachThread(u"backup"_qs, [job] { quillorentLibrary::runProcess1(job); });
-}
-
-void BackupRun::waitForWorkers()
-{
-    // A raised flag ends the waiting at once, even while tools still run: nobody who cancels wants to wait
-    // for them.
-    while (!m_delegate.threadsRunning().isEmpty() && !m_delegate.cancelFlag())
-        poll();
+    return launchWorker(u"backup"_qs, folder, [job] { quillorentLibrary::runProcess1(job); });
 }
 
 void BackupRun::end()
@@ -123,18 +102,8 @@ void BackupRun::end()
     m_delegate.outputText01.setText(summary());
     m_delegate.progressPanel01.close();
     if (!m_delegate.consoleTextView01.text().isEmpty()) m_delegate.consolePanel01.orderFront();
-    endCancelledTools();
+    endWorkers();
     m_delegate.endRun();
-}
-
-/// The run is over only when its workers are: a next one would write the same files. A worker between two
-/// looks at the flag may start one more tool, hence the loop.
-void BackupRun::endCancelledTools()
-{
-    while (!m_delegate.threadsRunning().isEmpty()) {
-        if (m_delegate.isCancelledByUser()) endTools();
-        poll();
-    }
 }
 
 QString BackupRun::summary() const
@@ -157,7 +126,3 @@ QString BackupRun::summary() const
 } // namespace
 
 void quillorentLibrary::launchBackup(const QString &profile) { BackupRun(profile).run(); }
-
-void quillorentLibrary::stopProcess01() {}
-void quillorentLibrary::stopProcess02() {}
-void quillorentLibrary::stopProcess03() {}

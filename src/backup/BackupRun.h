@@ -8,10 +8,4 @@ namespace quillorentLibrary {
 /// thread.
 void launchBackup(const QString &profile);
 
-/// Do nothing: a run is ended by its cancel flag alone. Kept as the places where another way to end one would
-/// go.
-void stopProcess01();
-void stopProcess02();
-void stopProcess03();
-
 } // namespace quillorentLibrary

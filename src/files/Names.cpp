@@ -11,6 +11,11 @@ QString quillorentLibrary::lastPathComponent(const QString &path)
     return path.startsWith(u'/') ? u"/"_qs : QString();
 }
 
+QString quillorentLibrary::joined(const QString &folder, const QString &name)
+{
+    return folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
+}
+
 QString quillorentLibrary::nameRepeated(const QString &path, const QStringList &paths)
 {
     const QString name = lastPathComponent(path);

@@ -3,20 +3,70 @@
 #include "headless/ExitStatus.h"
 
 #include <QCommandLineParser>
-#include <QHash>
 
 namespace {
+
+using Command = Options::Command;
+
+struct CommandRow {
+    Command command;
+    QString name;
+    qsizetype words; ///< at most, its own name included
+    QStringList options;
+};
+
+const QList<CommandRow> &commands()
+{
+    static const QList<CommandRow> rows{
+        {Command::Backup, u"backup"_qs, 2, {u"password-file"_qs, u"yes"_qs, u"progress"_qs}},
+        {Command::Extract,
+         u"extract"_qs,
+         2,
+         {u"to"_qs, u"method"_qs, u"password-file"_qs, u"yes"_qs, u"progress"_qs}},
+        {Command::Tools, u"tools"_qs, 1, {}},
+        {Command::Profiles, u"profiles"_qs, 1, {}}};
+    return rows;
+}
+
+const QStringList methods{u"aes"_qs, u"bf"_qs, u"3d"_qs, u"smime"_qs, u"auto"_qs};
 
 ParsedArguments wrongUsage(const QString &message)
 {
     return {std::nullopt, message + u"\nTry \"quillorent-run --help\".\n"_qs, WrongUsage};
 }
 
-/// The first option among `used` that `command` has no use for; empty where there is none.
-QString firstUseless(const QCommandLineParser &parser, Options::Command command)
+/// The first option that was given and that the command has no use for; empty where there is none.
+QString firstUseless(const QCommandLineParser &parser, const CommandRow &command)
 {
-    if (command == Options::Command::Backup) return {};
-    return parser.optionNames().value(0);
+    for (const QString &name : parser.optionNames())
+        if (!command.options.contains(name)) return name;
+    return {};
+}
+
+void describe(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(
+        u"Runs what Quillorent's window runs, without a window.\n\n"
+        "Commands:\n"
+        "  backup [PROFILE]                  back up the folders of a profile\n"
+        "  extract [PROFILE] -- ARCHIVE...   turn archives back into folders; of a set the first volume,\n"
+        "                                    or a folder of archives\n"
+        "  tools                             list the external tools: name, path, ok or not\n"
+        "  profiles                          list the profiles; * marks the one opened at start-up\n\n"
+        "Exit status: 0 done, 1 failed or cancelled, 2 could not start, 64 wrong usage."_qs);
+    parser.addOptions(
+        {{{u"h"_qs, u"help"_qs}, u"Show this text."_qs},
+         {u"password-file"_qs, u"Take the password from the first line of FILE; - is standard input."_qs,
+          u"FILE"_qs},
+         {u"to"_qs, u"Extract into FOLDER instead of the profile's extraction folder."_qs, u"FOLDER"_qs},
+         {u"method"_qs, u"Decrypt by METHOD: aes, bf, 3d, smime, or auto, by the archive's name."_qs,
+          u"METHOD"_qs},
+         {u"yes"_qs,
+          u"Write into a folder that is not empty, and extract in spite of what seems to be missing."_qs},
+         {u"progress"_qs, u"Show progress even where no terminal is."_qs}});
+    parser.addPositionalArgument(u"command"_qs, u"backup, extract, tools or profiles."_qs);
+    parser.addPositionalArgument(u"PROFILE"_qs,
+                                 u"The profile; without it the one that the window would open."_qs);
 }
 
 } // namespace
@@ -24,47 +74,43 @@ QString firstUseless(const QCommandLineParser &parser, Options::Command command)
 ParsedArguments parseArguments(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        u"Runs what Quillorent's window runs, without a window.\n\n"
-        "Commands:\n"
-        "  backup [PROFILE]   back up the folders of a profile\n"
-        "  tools              list the external tools: name, path, ok or not\n"
-        "  profiles           list the profiles; * marks the one opened at start-up\n\n"
-        "Exit status: 0 done, 1 failed or cancelled, 2 could not start, 64 wrong usage."_qs);
-    const QCommandLineOption help({u"h"_qs, u"help"_qs}, u"Show this text."_qs);
-    const QCommandLineOption passwordFile(
-        u"password-file"_qs, u"Take the password from the first line of FILE; - is standard input."_qs,
-        u"FILE"_qs);
-    const QCommandLineOption yes(u"yes"_qs, u"Write into a destination that is not empty."_qs);
-    const QCommandLineOption progress(u"progress"_qs, u"Show progress even where no terminal is."_qs);
-    parser.addOptions({help, passwordFile, yes, progress});
-    parser.addPositionalArgument(u"command"_qs, u"backup, tools or profiles."_qs);
-    parser.addPositionalArgument(u"PROFILE"_qs,
-                                 u"The profile; without it the one that the window would open."_qs);
+    describe(parser);
+    // Behind "--" stand archives alone, so that none is taken for the profile.
+    const qsizetype end = arguments.indexOf(u"--"_qs);
+    const QStringList archives = end < 0 ? QStringList() : arguments.mid(end + 1);
+    if (!parser.parse(QStringList(u"quillorent-run"_qs) + arguments.mid(0, end)))
+        return wrongUsage(parser.errorText());
+    if (parser.isSet(u"help"_qs)) return {std::nullopt, parser.helpText(), Done};
 
-    if (!parser.parse(QStringList(u"quillorent-run"_qs) + arguments)) return wrongUsage(parser.errorText());
-    if (parser.isSet(help)) return {std::nullopt, parser.helpText(), Done};
-
-    static const QHash<QString, Options::Command> commands{{u"backup"_qs, Options::Command::Backup},
-                                                           {u"tools"_qs, Options::Command::Tools},
-                                                           {u"profiles"_qs, Options::Command::Profiles}};
     const QStringList words = parser.positionalArguments();
-    if (words.isEmpty()) return wrongUsage(u"A command is missing: backup, tools or profiles."_qs);
-    const auto command = commands.constFind(words.first());
-    if (command == commands.cend())
+    if (words.isEmpty()) return wrongUsage(u"A command is missing: backup, extract, tools or profiles."_qs);
+    const auto command = std::find_if(commands().begin(), commands().end(),
+                                      [&](const CommandRow &row) { return row.name == words.first(); });
+    if (command == commands().end())
         return wrongUsage(
-            u"\"%1\" is no command; there are backup, tools and profiles."_qs.arg(words.first()));
+            u"\"%1\" is no command; there are backup, extract, tools and profiles."_qs.arg(words.first()));
 
-    const qsizetype atMost = *command == Options::Command::Backup ? 2 : 1;
-    if (words.size() > atMost) return wrongUsage(u"\"%1\" is one word too many."_qs.arg(words.at(atMost)));
+    const bool extracts = command->command == Command::Extract;
+    if (extracts && archives.isEmpty())
+        return wrongUsage(u"Archives are missing: name them behind \"--\"."_qs);
+    const QStringList tooMany = words.mid(command->words) + (extracts ? QStringList() : archives);
+    if (!tooMany.isEmpty()) return wrongUsage(u"\"%1\" is one word too many."_qs.arg(tooMany.first()));
     if (const QString useless = firstUseless(parser, *command); !useless.isEmpty())
         return wrongUsage(u"\"%1\" does not go with \"%2\"."_qs.arg(useless, words.first()));
 
-    return {Options{.command = *command,
+    const QString method = parser.value(u"method"_qs);
+    if (parser.isSet(u"method"_qs) && !methods.contains(method))
+        return wrongUsage(u"\"%1\" is no method; there are %2."_qs.arg(method, methods.join(u", "_qs)));
+
+    return {Options{.command = command->command,
                     .profile = words.value(1),
-                    .passwordFile = parser.value(passwordFile),
-                    .yes = parser.isSet(yes),
-                    .progress = parser.isSet(progress)},
+                    .passwordFile = parser.value(u"password-file"_qs),
+                    .folder = parser.value(u"to"_qs),
+                    .method = parser.isSet(u"method"_qs) ? std::optional(int(methods.indexOf(method)))
+                                                         : std::nullopt,
+                    .archives = archives,
+                    .yes = parser.isSet(u"yes"_qs),
+                    .progress = parser.isSet(u"progress"_qs)},
             {},
             Done};
 }

@@ -6,12 +6,15 @@
 
 /// What `quillorent-run` was asked to do.
 struct Options {
-    enum class Command { Backup, Tools, Profiles };
+    enum class Command { Backup, Extract, Tools, Profiles };
 
     Command command = Command::Profiles;
-    QString profile;      ///< empty: the one that the window would open
-    QString passwordFile; ///< "-": standard input; empty: the profile's own source
-    bool yes = false;     ///< write into a destination that is not empty
+    QString profile;           ///< empty: the one that the window would open
+    QString passwordFile;      ///< "-": standard input; empty: the profile's own source
+    QString folder;            ///< to extract into; empty: the profile's
+    std::optional<int> method; ///< of decryption, by its place among the window's choices; none: by the name
+    QStringList archives;      ///< to extract
+    bool yes = false;          ///< write into a folder that is not empty, and in spite of what seems missing
     bool progress = false;
 };
 

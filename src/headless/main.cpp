@@ -1,6 +1,7 @@
 #include "app/Process.h"
 #include "app/QuillorentAppDelegate.h"
 #include "headless/BackupCommand.h"
+#include "headless/ExtractCommand.h"
 #include "headless/Print.h"
 #include "tools/Verification.h"
 
@@ -53,6 +54,8 @@ ExitStatus runCommand(QuillorentAppDelegate &delegate, const Options &options)
         return listTools(delegate);
     case Options::Command::Profiles:
         return listProfiles(delegate);
+    case Options::Command::Extract:
+        return openProfile(delegate, options.profile) ? runExtraction(delegate, options) : NotStarted;
     case Options::Command::Backup:
         break;
     }

@@ -29,6 +29,11 @@ QString QuillorentAppDelegate::passwordSelector() const
     return checkBox01.isOn() ? secureText01a.text() : secureText01b.text();
 }
 
+bool QuillorentAppDelegate::pkeySelector() const
+{
+    return passCombo01.selectedIndex() != Certificate || !certFile01.text().isEmpty();
+}
+
 void QuillorentAppDelegate::passCombo01Action()
 {
     const int source = passCombo01.selectedIndex();
@@ -37,11 +42,6 @@ void QuillorentAppDelegate::passCombo01Action()
     pkView.setHidden(source != Certificate);
     if (source == KeychainPassword && !keychainUser.text().isEmpty()) passButton01Action();
     if (source == Certificate) describeKeys();
-}
-
-bool QuillorentAppDelegate::pkeySelector() const
-{
-    return passCombo01.selectedIndex() != Certificate || !certFile01.text().isEmpty();
 }
 
 void QuillorentAppDelegate::checkBox01Action() { showOneOf(checkBox01, secureText01a, secureText01b); }

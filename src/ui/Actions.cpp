@@ -1,6 +1,7 @@
 #include "ui/Actions.h"
 
 #include "app/QuillorentAppDelegate.h"
+#include "ui/ArchiveList.h"
 #include "ui/Binding.h"
 #include "ui/FolderList.h"
 #include "ui/PanelDialog.h"
@@ -10,10 +11,12 @@
 #include <QAbstractButton>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDesktopServices>
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QTabWidget>
+#include <QUrl>
 
 namespace ui {
 namespace {
@@ -31,14 +34,25 @@ void send(const ActionCall &call)
 
 // The entry that comes to stand in the place of the first removed one is selected: it can be removed next,
 // and never more than it by accident.
-void removeFolders(const ActionCall &call)
+template <auto list, auto action>
+void removeSelected(const ActionCall &call)
 {
-    const int first = call.controller.listTableView.selectedRow();
-    call.controller.folderButton02Action();
-    call.controller.listTableView.setSelectedRows(first < 0 ? QList<int>() : QList<int>{first});
+    outlets::TableView &table = call.controller.*list;
+    const int first = table.selectedRow();
+    (call.controller.*action)();
+    table.setSelectedRows(first < 0 ? QList<int>() : QList<int>{first});
 }
 
-void cancelBackup(const ActionCall &call) { call.controller.buttonKill01(call.controller.buttonCancel01); }
+template <auto button>
+void cancelRun(const ActionCall &call)
+{
+    call.controller.buttonKill01(call.controller.*button);
+}
+
+void openExtractedFolder(const ActionCall &call)
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(call.controller.extractedFolder()));
+}
 
 void showConsole(const ActionCall &call) { call.controller.consolePanel01.orderFront(); }
 
@@ -80,7 +94,7 @@ constexpr ActionRow table[] = {
     {"mainTabs"_name, send<&Controller::tabViewDidSelectTabViewItem>},
 
     {"folderButton01"_name, send<&Controller::folderButton01Action>},
-    {"folderButton02"_name, removeFolders},
+    {"folderButton02"_name, removeSelected<&Controller::listTableView, &Controller::folderButton02Action>},
     {"fileButton01"_name, send<&Controller::fileButton01Action>},
     {"checkBox04"_name, send<&Controller::prefCheck01Action>},
     {"prefText01"_name, send<&Controller::prefStepper01Action>},
@@ -88,6 +102,14 @@ constexpr ActionRow table[] = {
     {"checkBox05"_name, send<&Controller::checkBox05Action>},
     {"protectionButton"_name, showPasswords},
     {"buttonLaunch01"_name, send<&Controller::buttonLaunch01>},
+
+    {"extractButton01"_name, send<&Controller::extractButton01Action>},
+    {"extractButton02"_name,
+     removeSelected<&Controller::extractTableView, &Controller::extractButton02Action>},
+    {"extractButton03"_name, send<&Controller::extractButton03Action>},
+    {"extractPathButton"_name, send<&Controller::extractPathButtonAction>},
+    {"openFolderButton"_name, openExtractedFolder},
+    {"buttonLaunch02"_name, send<&Controller::buttonLaunch02>},
 
     {"passCombo01"_name, send<&Controller::passCombo01Action>},
     {"checkBox01"_name, send<&Controller::checkBox01Action>},
@@ -125,8 +147,10 @@ constexpr ActionRow table[] = {
     {"prefCheck02"_name, send<&Controller::prefCheck02Action>},
     {"updatesCheck01"_name, send<&Controller::updatesCheck01Action>},
 
-    {"progressPanel01"_name, cancelBackup},
-    {"buttonCancel01"_name, cancelBackup},
+    {"progressPanel01"_name, cancelRun<&Controller::buttonCancel01>},
+    {"buttonCancel01"_name, cancelRun<&Controller::buttonCancel01>},
+    {"progressPanel02"_name, cancelRun<&Controller::buttonCancel02>},
+    {"buttonCancel02"_name, cancelRun<&Controller::buttonCancel02>},
     {"warningPanel01"_name, send<&Controller::warningPanel01Close>},
     {"warningPanel01CloseButton"_name, send<&Controller::warningPanel01Close>},
     {"certPanel01"_name, send<&Controller::certButton01ActionEnd>},
@@ -141,6 +165,14 @@ constexpr ActionRow table[] = {
     {"updatePanel01"_name, send<&Controller::updatePanel01Close>},
     {"updateCloseButton"_name, send<&Controller::updatePanel01Close>},
     {"downloadButton01"_name, openDownloadPage},
+    {"warningPanel02"_name, send<&Controller::buttonLaunch02Stop>},
+    {"buttonLaunch02Stop"_name, send<&Controller::buttonLaunch02Stop>},
+    {"buttonLaunch02b"_name, send<&Controller::buttonLaunch02b>},
+    {"concernsPanel01"_name, send<&Controller::concernsPanel01Stop>},
+    {"concernsPanel01Stop"_name, send<&Controller::concernsPanel01Stop>},
+    {"buttonLaunch02c"_name, send<&Controller::buttonLaunch02c>},
+    {"extractPanel01"_name, send<&Controller::stopProcess02b>},
+    {"stopProcess02b"_name, send<&Controller::stopProcess02b>},
     {"consolePanel01"_name, closeConsole},
     {"consoleCloseButton"_name, closeConsole},
     {"consoleCopyButton"_name, copyConsole},
@@ -168,15 +200,23 @@ bool connectControl(QWidget &widget, Perform perform)
     return false;
 }
 
+template <class List>
+void connectPathList(Controller &controller, QMainWindow &window,
+                     void (Controller::*add)(const QStringList &), const QString &removeButton)
+{
+    for (auto *list : window.findChildren<List *>()) {
+        QObject::connect(list, &PathListView::pathsDropped, list,
+                         [&controller, add](const QStringList &paths) { (controller.*add)(paths); });
+        QObject::connect(list, &PathListView::deletePressed,
+                         window.findChild<QAbstractButton *>(removeButton), &QAbstractButton::click);
+    }
+}
+
 // What the lists do beyond showing their outlets.
 void connectLists(Controller &controller, QMainWindow &window)
 {
-    for (auto *folders : window.findChildren<FolderListView *>()) {
-        QObject::connect(folders, &FolderListView::pathsDropped, folders,
-                         [&controller](const QStringList &paths) { controller.addFolders(paths); });
-        QObject::connect(folders, &FolderListView::deletePressed,
-                         window.findChild<QAbstractButton *>(u"folderButton02"_qs), &QAbstractButton::click);
-    }
+    connectPathList<FolderListView>(controller, window, &Controller::addFolders, u"folderButton02"_qs);
+    connectPathList<ArchiveListView>(controller, window, &Controller::addArchives, u"extractButton02"_qs);
     for (auto *tools : window.findChildren<ToolTableView *>())
         QObject::connect(tools, &ToolTableView::chooseRequested, tools,
                          [&controller] { controller.selectFile(); });

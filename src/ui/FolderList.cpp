@@ -2,14 +2,8 @@
 
 #include "ui/Appearance.h"
 
-#include <QDropEvent>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QHeaderView>
-#include <QKeyEvent>
-#include <QMimeData>
-#include <QPainter>
-#include <QUrl>
 
 namespace ui {
 namespace {
@@ -27,24 +21,6 @@ QVariant kindOfEntry(const outlets::TableDataSource &source, const QString &, in
     if (entry.isSymLink() && !entry.exists()) return int(File);
     if (!entry.exists()) return int(Missing);
     return int(entry.isDir() ? Folder : File);
-}
-
-QStringList localPaths(const QMimeData &data)
-{
-    QStringList paths;
-    for (const QUrl &url : data.urls())
-        if (url.isLocalFile()) paths.append(url.toLocalFile());
-    return paths;
-}
-
-void acceptPaths(QDropEvent &event)
-{
-    if (localPaths(*event.mimeData()).isEmpty()) {
-        event.ignore();
-        return;
-    }
-    event.setDropAction(Qt::CopyAction);
-    event.accept();
 }
 
 } // namespace
@@ -75,41 +51,9 @@ QVariant FolderListModel::data(const QModelIndex &index, int role) const
     }
 }
 
-FolderListView::FolderListView(QWidget *parent) : OutletTableView(parent)
+FolderListView::FolderListView(QWidget *parent) : PathListView(tr("Drop folders here, or press Add"), parent)
 {
     setOutletModel(new FolderListModel(this));
-    setSelectionMode(ExtendedSelection);
-    setAcceptDrops(true);
-    horizontalHeader()->hide();
-    horizontalHeader()->setStretchLastSection(true);
-}
-
-void FolderListView::dragEnterEvent(QDragEnterEvent *event) { acceptPaths(*event); }
-
-void FolderListView::dragMoveEvent(QDragMoveEvent *event) { acceptPaths(*event); }
-
-void FolderListView::dropEvent(QDropEvent *event)
-{
-    acceptPaths(*event);
-    if (event->isAccepted()) Q_EMIT pathsDropped(localPaths(*event->mimeData()));
-}
-
-void FolderListView::keyPressEvent(QKeyEvent *event)
-{
-    if (event->matches(QKeySequence::Delete))
-        Q_EMIT deletePressed();
-    else
-        OutletTableView::keyPressEvent(event);
-}
-
-void FolderListView::paintEvent(QPaintEvent *event)
-{
-    OutletTableView::paintEvent(event);
-    if (outletModel().rowCount() > 0) return;
-    QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
-    painter.drawText(viewport()->rect().adjusted(12, 12, -12, -12),
-                     int(Qt::AlignCenter) | int(Qt::TextWordWrap), tr("Drop folders here, or press Add"));
 }
 
 } // namespace ui

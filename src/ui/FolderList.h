@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/OutletTableView.h"
+#include "ui/PathList.h"
 
 namespace ui {
 
@@ -14,24 +14,12 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
 };
 
-/// Shows the folder list, takes files and folders that are dropped onto it, and says what to do while it is
-/// empty.
-class FolderListView : public OutletTableView {
+/// Shows the folder list.
+class FolderListView : public PathListView {
     Q_OBJECT
 
 public:
     explicit FolderListView(QWidget *parent = nullptr);
-
-Q_SIGNALS:
-    void pathsDropped(const QStringList &paths);
-    void deletePressed();
-
-protected:
-    void dragEnterEvent(QDragEnterEvent *event) override;
-    void dragMoveEvent(QDragMoveEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
 };
 
 } // namespace ui

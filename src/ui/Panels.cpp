@@ -4,13 +4,17 @@
 #include "ui/Appearance.h"
 #include "ui/PanelDialog.h"
 #include "ui/ProgressFigures.h"
+#include "ui_ConcernsPanel01.h"
 #include "ui_ConsolePanel01.h"
+#include "ui_ExtractPanel01.h"
 #include "ui_MessagePanel.h"
 #include "ui_NamePanel.h"
 #include "ui_PreferencesPanel01.h"
 #include "ui_ProfilePanel04.h"
 #include "ui_ProgressPanel01.h"
+#include "ui_ProgressPanel02.h"
 #include "ui_UpdatePanel01.h"
+#include "ui_WarningPanel02.h"
 #include "ui_WarningPanel03.h"
 
 #include <QCoreApplication>
@@ -18,6 +22,8 @@
 
 namespace ui {
 namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("Panels", text); }
 
 template <class Form>
 PanelDialog *makePanel(Form &form, QWidget &window)
@@ -27,10 +33,35 @@ PanelDialog *makePanel(Form &form, QWidget &window)
     return panel;
 }
 
+/// A panel that nothing but its outlets and buttons belongs to.
+template <class Form>
+PanelDialog *makePlain(QWidget &window)
+{
+    Form form;
+    return makePanel(form, window);
+}
+
 void showIcon(QLabel &label, const QString &name)
 {
     const int size = label.style()->pixelMetric(QStyle::PM_MessageBoxIconSize);
     label.setPixmap(themeIcon(name).pixmap(size));
+}
+
+template <class Form, auto icon>
+PanelDialog *makeWithIcon(QWidget &window, const QString &iconName)
+{
+    Form form;
+    PanelDialog *panel = makePanel(form, window);
+    showIcon(*(form.*icon), iconName);
+    return panel;
+}
+
+PanelDialog *makeConsole(QWidget &window)
+{
+    Ui::ConsolePanel01 form;
+    PanelDialog *panel = makePanel(form, window);
+    form.consoleTextView01->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    return panel;
 }
 
 /// A sheet that says something and is closed; its button is named after it.
@@ -53,7 +84,7 @@ struct NameSheet {
     QString nameEdit;
     QString title;
     QString okTitle;
-    QString advice;
+    QString advice{};
 };
 
 PanelDialog *makeNameSheet(QWidget &window, const NameSheet &sheet)
@@ -73,78 +104,79 @@ PanelDialog *makeNameSheet(QWidget &window, const NameSheet &sheet)
     form.profileLabel->setHidden(isNew);
     form.profileText->setHidden(isNew);
     if (!isNew) delete form.mustDos01;
-    // Where the cursor is when the sheet opens.
-    form.nameEdit->setFocus();
     return dialog;
 }
-
-QString tr(const char *text) { return QCoreApplication::translate("Panels", text); }
 
 QList<QWidget *> makeMessages(QWidget &window)
 {
     return {makeMessage(window, u"warningPanel01"_qs, u"warningText01"_qs, tr("Can't start")),
             makeMessage(window, u"warningPanel04"_qs, u"warningText04"_qs, tr("No such name")),
             makeMessage(window, u"certPanel01"_qs, u"certPanelText01"_qs, tr("Certificate not accepted")),
-            makeMessage(window, u"noPathPanel01"_qs, u"noPathText01"_qs, tr("Programs are missing")),
-            makeMessage(window, u"pkPanel01"_qs, u"pkPanelText01"_qs, tr("Private key not accepted"))};
+            makeMessage(window, u"pkPanel01"_qs, u"pkPanelText01"_qs, tr("Private key not accepted")),
+            makeMessage(window, u"noPathPanel01"_qs, u"noPathText01"_qs, tr("Programs are missing"))};
 }
 
-QList<QWidget *> makeSimplePanels(QWidget &window)
+QList<QWidget *> makeQuestions(QWidget &window)
 {
-    Ui::ProfilePanel04 deletion;
-    Ui::PreferencesPanel01 options;
-    Ui::UpdatePanel01 update;
+    using namespace Ui;
     return {
-        makeNameSheet(window, {.panel = u"profilePanel01"_qs,
-                               .profileText = u"panel01text01"_qs,
-                               .nameEdit = u"panel01text02"_qs,
-                               .title = tr("Rename a profile"),
-                               .okTitle = tr("&Rename"),
-                               .advice = {}}),
-        makeNameSheet(window, {.panel = u"profilePanel02"_qs,
-                               .profileText = {},
-                               .nameEdit = u"panel02text01"_qs,
-                               .title = tr("New profile"),
-                               .okTitle = tr("C&reate"),
-                               .advice = {}}),
-        makeNameSheet(
-            window, {.panel = u"profilePanel03"_qs,
-                     .profileText = u"panel03text01"_qs,
-                     .nameEdit = u"panel03text02"_qs,
-                     .title = tr("Duplicate a profile"),
-                     .okTitle = tr("D&uplicate"),
-                     .advice = tr("The two are independent of each other once the profiles are saved and the "
-                                  "program is started again. Until then a change in one is a change in "
-                                  "both.")}),
-        makePanel(deletion, window),
-        makePanel(options, window),
-        makePanel(update, window)};
+        makeWithIcon<WarningPanel02, &WarningPanel02::questionIcon>(window, u"dialog-question"_qs),
+        makeWithIcon<WarningPanel03, &WarningPanel03::questionIcon>(window, u"dialog-question"_qs),
+        makeWithIcon<ConcernsPanel01, &ConcernsPanel01::concernsIcon>(window, u"dialog-question"_qs),
+        makeWithIcon<ExtractPanel01, &ExtractPanel01::damageIcon>(window, u"dialog-warning"_qs),
+    };
+}
+
+QList<QWidget *> makeProfileSheets(QWidget &window)
+{
+    return {makeNameSheet(window, {.panel = u"profilePanel01"_qs,
+                                   .profileText = u"panel01text01"_qs,
+                                   .nameEdit = u"panel01text02"_qs,
+                                   .title = tr("Rename a profile"),
+                                   .okTitle = tr("&Rename")}),
+            makeNameSheet(window, {.panel = u"profilePanel02"_qs,
+                                   .profileText = {},
+                                   .nameEdit = u"panel02text01"_qs,
+                                   .title = tr("New profile"),
+                                   .okTitle = tr("C&reate")}),
+            makeNameSheet(
+                window,
+                {.panel = u"profilePanel03"_qs,
+                 .profileText = u"panel03text01"_qs,
+                 .nameEdit = u"panel03text02"_qs,
+                 .title = tr("Duplicate a profile"),
+                 .okTitle = tr("D&uplicate"),
+                 .advice = tr(
+                     "The two are independent of each other once the profiles are saved and the program is "
+                     "started again. Until then a change in one is a change in both.")}),
+            makePlain<Ui::ProfilePanel04>(window), makePlain<Ui::PreferencesPanel01>(window)};
 }
 
 } // namespace
 
 Panels::Panels(QuillorentAppDelegate &controller, QWidget &window)
-    : m_questionForm(std::make_unique<Ui::WarningPanel03>())
-    , m_progressForm(std::make_unique<Ui::ProgressPanel01>())
-    , m_consoleForm(std::make_unique<Ui::ConsolePanel01>())
-    , m_simple(makeMessages(window) + makeSimplePanels(window))
-    , m_question(makePanel(*m_questionForm, window))
-    , m_progress(makePanel(*m_progressForm, window))
-    , m_console(makePanel(*m_consoleForm, window))
-    , m_figures(std::make_unique<ProgressFigures>(controller, *m_progressForm))
+    : m_all(makeMessages(window) + makeQuestions(window) + makeProfileSheets(window))
 {
-    showIcon(*m_questionForm->questionIcon, u"dialog-question"_qs);
-    m_progress->keepWindowClosable();
-    m_consoleForm->consoleTextView01->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    QObject::connect(m_progress, &PanelDialog::visibilityChanged, m_figures.get(),
-                     &ProgressFigures::setRunning);
+    m_all += {makeConsole(window), makePlain<Ui::UpdatePanel01>(window)};
+    addProgressSheet<Ui::ProgressPanel01>(controller, window);
+    addProgressSheet<Ui::ProgressPanel02>(controller, window);
 }
 
 Panels::~Panels() = default;
 
-QList<QWidget *> Panels::all() const
+template <class Form>
+void Panels::addProgressSheet(const QuillorentAppDelegate &controller, QWidget &window)
 {
-    return m_simple + QList<QWidget *>{m_question, m_progress, m_console};
+    Form form;
+    PanelDialog *sheet = makePanel(form, window);
+    sheet->keepWindowClosable();
+    auto figures = std::make_unique<ProgressFigures>(
+        controller,
+        ProgressFigures::Widgets{*form.itemsDone, *form.bytesDone, *form.elapsed, *form.itemsRunning});
+    QObject::connect(sheet, &PanelDialog::visibilityChanged, figures.get(), &ProgressFigures::setRunning);
+    m_figures.push_back(std::move(figures));
+    m_progressSheets += sheet;
+    m_all += sheet;
 }
 
 } // namespace ui

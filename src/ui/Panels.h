@@ -2,15 +2,10 @@
 
 #include <QList>
 #include <memory>
+#include <vector>
 
 class QuillorentAppDelegate;
 class QWidget;
-
-namespace Ui {
-class ConsolePanel01;
-class ProgressPanel01;
-class WarningPanel03;
-} // namespace Ui
 
 namespace ui {
 
@@ -23,18 +18,17 @@ public:
     Panels(QuillorentAppDelegate &controller, QWidget &window);
     ~Panels();
 
-    [[nodiscard]] QList<QWidget *> all() const;
-    [[nodiscard]] PanelDialog &progress() const { return *m_progress; }
+    [[nodiscard]] const QList<QWidget *> &all() const { return m_all; }
+    /// The sheets that stand while something runs; at most one is visible.
+    [[nodiscard]] const QList<PanelDialog *> &progressSheets() const { return m_progressSheets; }
 
 private:
-    std::unique_ptr<Ui::WarningPanel03> m_questionForm;
-    std::unique_ptr<Ui::ProgressPanel01> m_progressForm;
-    std::unique_ptr<Ui::ConsolePanel01> m_consoleForm;
-    QList<QWidget *> m_simple; ///< sheets that nothing but their outlets and buttons belongs to
-    PanelDialog *m_question;
-    PanelDialog *m_progress;
-    PanelDialog *m_console;
-    std::unique_ptr<ProgressFigures> m_figures;
+    template <class Form>
+    void addProgressSheet(const QuillorentAppDelegate &controller, QWidget &window);
+
+    QList<QWidget *> m_all;
+    QList<PanelDialog *> m_progressSheets;
+    std::vector<std::unique_ptr<ProgressFigures>> m_figures; // one a progress sheet
 };
 
 } // namespace ui

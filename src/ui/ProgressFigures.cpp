@@ -2,11 +2,11 @@
 
 #include "app/RunState.h"
 #include "ui/Appearance.h"
-#include "ui_ProgressPanel01.h"
 
 #include <QHeaderView>
+#include <QLabel>
 #include <QLocale>
-#include <QTime>
+#include <QTreeWidget>
 
 using namespace std::chrono_literals;
 
@@ -36,10 +36,10 @@ void setCell(QTreeWidgetItem &row, int column, const QString &text)
 
 } // namespace
 
-ProgressFigures::ProgressFigures(const RunState &run, Ui::ProgressPanel01 &form) : m_run(run), m_form(form)
+ProgressFigures::ProgressFigures(const RunState &run, const Widgets &widgets) : m_run(run), m_widgets(widgets)
 {
-    form.itemsRunning->setHeaderLabels({tr("Being worked on"), tr("Stage")});
-    QHeaderView &header = *form.itemsRunning->header();
+    widgets.itemsRunning.setHeaderLabels({tr("Being worked on"), tr("Stage")});
+    QHeaderView &header = *widgets.itemsRunning.header();
     header.setStretchLastSection(false);
     header.setSectionResizeMode(0, QHeaderView::Stretch);
     header.setSectionResizeMode(1, QHeaderView::ResizeToContents);
@@ -59,16 +59,16 @@ void ProgressFigures::setRunning(bool running)
 
 void ProgressFigures::update()
 {
-    m_form.itemsDone->setText(tr("%1 of %2 items").arg(m_run.foldersDone()).arg(m_run.foldersToDo()));
-    m_form.bytesDone->setText(tr("%1 of %2").arg(dataSize(m_run.sizeDone()), dataSize(m_run.sizeToDo())));
-    m_form.elapsed->setText(tr("Time: %1").arg(clock(m_run.elapsed())));
+    m_widgets.itemsDone.setText(tr("%1 of %2 items").arg(m_run.foldersDone()).arg(m_run.foldersToDo()));
+    m_widgets.bytesDone.setText(tr("%1 of %2").arg(dataSize(m_run.sizeDone()), dataSize(m_run.sizeToDo())));
+    m_widgets.elapsed.setText(tr("Time: %1").arg(clock(m_run.elapsed())));
     updateItems();
 }
 
 // Rows are changed in place: a list that is made anew five times a second could not be scrolled.
 void ProgressFigures::updateItems()
 {
-    QTreeWidget &list = *m_form.itemsRunning;
+    QTreeWidget &list = m_widgets.itemsRunning;
     const std::vector<RunState::Item> items = m_run.itemsRunning();
     const int count = int(items.size());
     while (list.topLevelItemCount() > count)

@@ -3,11 +3,9 @@
 #include <QObject>
 #include <QTimer>
 
+class QLabel;
+class QTreeWidget;
 class RunState;
-
-namespace Ui {
-class ProgressPanel01;
-} // namespace Ui
 
 namespace ui {
 
@@ -17,7 +15,15 @@ class ProgressFigures : public QObject {
     Q_OBJECT
 
 public:
-    ProgressFigures(const RunState &run, Ui::ProgressPanel01 &form);
+    /// The widgets of one sheet that it fills.
+    struct Widgets {
+        QLabel &itemsDone;
+        QLabel &bytesDone;
+        QLabel &elapsed;
+        QTreeWidget &itemsRunning;
+    };
+
+    ProgressFigures(const RunState &run, const Widgets &widgets);
 
     void setRunning(bool running);
 
@@ -26,7 +32,7 @@ private:
     void updateItems();
 
     const RunState &m_run;
-    Ui::ProgressPanel01 &m_form;
+    const Widgets m_widgets;
     QTimer m_timer;
 };
 

@@ -83,7 +83,8 @@ void Window::finishForm()
     QFont bold = m_form->currentProfileTextView->font();
     bold.setBold(true);
     m_form->currentProfileTextView->setFont(bold);
-    m_form->outputText01->setMinimumHeight(m_form->outputText01->fontMetrics().height());
+    for (QLabel *output : {m_form->outputText01, m_form->outputText02})
+        output->setMinimumHeight(output->fontMetrics().height());
 }
 
 void Window::deriveFromOutlets()
@@ -118,6 +119,12 @@ void Window::deriveFromOutlets()
     queue.watch(all.listTableView, [this] {
         m_form->folderButton02->setEnabled(!m_controller.listTableView.selectedRows().isEmpty());
     });
+    queue.watch(all.extractTableView, [this] {
+        m_form->extractButton02->setEnabled(!m_controller.extractTableView.selectedRows().isEmpty());
+    });
+    // The end of a run is told there.
+    queue.watch(all.outputText02,
+                [this] { m_form->openFolderButton->setEnabled(!m_controller.extractedFolder().isEmpty()); });
     queue.watch(all.prefText01,
                 [this] { m_form->volumeHint->setText(volumeHint(m_controller.prefText01.text())); });
     queue.watch(all.checkBox04, [this] {
@@ -153,12 +160,15 @@ void Window::closeEvent(QCloseEvent *event)
 void Window::askToStop()
 {
     if (m_question) return;
-    QWidget *over = m_panels->progress().isVisible() ? static_cast<QWidget *>(&m_panels->progress()) : this;
-    auto *question = new QMessageBox(QMessageBox::Question, tr("Backup in progress"),
-                                     tr("A backup is running."), QMessageBox::NoButton, over);
+    const QList<PanelDialog *> sheets = m_panels->progressSheets();
+    const auto shown =
+        std::find_if(sheets.begin(), sheets.end(), [](auto *sheet) { return sheet->isVisible(); });
+    QWidget *over = shown == sheets.end() ? static_cast<QWidget *>(this) : *shown;
+    auto *question =
+        new QMessageBox(QMessageBox::Question, tr("Still running"),
+                        tr("A backup or an extraction is running."), QMessageBox::NoButton, over);
     question->setInformativeText(
-        tr("Quitting stops it: archives that are finished stay, those being made are not "
-           "completed."));
+        tr("Quitting stops it: what is finished stays, what is being worked on is not completed."));
     QPushButton *stop = question->addButton(tr("&Stop and quit"), QMessageBox::DestructiveRole);
     QPushButton *keep = question->addButton(tr("&Keep running"), QMessageBox::RejectRole);
     question->setDefaultButton(keep);
@@ -169,7 +179,8 @@ void Window::askToStop()
         close();
     });
     // The question goes with the sheet: then the run is over, or cancelled.
-    connect(&m_panels->progress(), &PanelDialog::visibilityChanged, question, &QDialog::reject);
+    for (PanelDialog *sheet : sheets)
+        connect(sheet, &PanelDialog::visibilityChanged, question, &QDialog::reject);
     m_question = question;
     question->open();
 }

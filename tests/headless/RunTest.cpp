@@ -60,6 +60,18 @@ public:
         return run(arguments);
     }
 
+    /// Extracts `archive` into `folder`; the options come before the "--".
+    [[nodiscard]] CommandResult extract(const fs::path &archive, const fs::path &folder,
+                                        std::vector<std::string> more = {}) const
+    {
+        fs::create_directories(folder);
+        std::vector<std::string> arguments{
+            "extract", "Mine", "--to", folder.string(), "--password-file", (m_folder / "password").string()};
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        arguments.insert(arguments.end(), {"--", archive.string()});
+        return run(arguments);
+    }
+
     void useTool(const std::string &standard, const fs::path &replacement) const
     {
         const fs::path settings = m_folder / "config/com.brolvanek.Quillorent.config.plist";
@@ -108,6 +120,10 @@ TEST(Run, RefusesWrongUsage)
              {{"backup", "Mine", "Yours"}, "\"Yours\" is one word too many"},
              {{"tools", "--yes"}, "does not go with"},
              {{"backup", "--password-file"}, "password-file"},
+             {{"backup", "--to", "/x"}, "does not go with"},
+             {{"backup", "--", "x.rar"}, "\"x.rar\" is one word too many"},
+             {{"extract", "Mine"}, "Archives are missing"},
+             {{"extract", "--method", "rot13", "--", "x.rar"}, "\"rot13\" is no method"},
          }) {
         const CommandResult result = home.run(arguments);
         EXPECT_EQ(result.status, 64) << reason;
@@ -230,6 +246,60 @@ TEST(Run, FailsWithTheConsoleOnStandardError)
     const CommandResult skipped = home.backUp({"--yes"});
     EXPECT_EQ(skipped.status, 1) << "a folder that is not there is not backed up";
     EXPECT_TRUE(contains(skipped.errors, "Not found: ")) << skipped.errors;
+}
+
+TEST(Run, ExtractsWhatItBackedUp)
+{
+    const Home home;
+    const fs::path out = home.folder() / "out";
+    const fs::path file = out / (home.folder() / "docs/file").relative_path();
+    ASSERT_EQ(home.backUp().status, 0);
+    const CommandResult result = home.extract(home.folder() / "archives", out, {"--progress"});
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_TRUE(contains(result.errors, "Extracted 1 of 1 into \"" + out.string())) << result.errors;
+    EXPECT_EQ(readFile(file), "content");
+
+    const CommandResult refused = home.extract(home.archive(), out);
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_TRUE(contains(refused.errors, "is not empty")) << refused.errors;
+    EXPECT_EQ(home.extract(home.archive(), out, {"--yes", "--method", "aes"}).status, 0);
+}
+
+TEST(Run, SaysWhyItDoesNotExtract)
+{
+    const Home home;
+    const fs::path out = home.folder() / "out";
+    ASSERT_EQ(home.backUp().status, 0);
+    const fs::path unnamed = home.folder() / "holiday.rar";
+    fs::copy_file(home.archive(), unnamed);
+    const fs::path later = home.folder() / "docs.rar.aes.part2.rar";
+    fs::copy_file(home.archive(), later);
+    const fs::path damaged = home.folder() / "damaged.rar.aes.rar";
+    writeFile(damaged, readFile(home.archive()).substr(0, 200));
+    struct Case {
+        fs::path archive;
+        std::vector<std::string> options;
+        int status;
+        std::string reason;
+    };
+    for (const Case &c : {
+             Case{"/no/such.rar", {}, 2, "There is no archive \"/no/such.rar\""},
+             Case{home.folder() / "password", {}, 2, "No archives are chosen"},
+             Case{later, {}, 2, "The first volume is missing"},
+             Case{unnamed, {}, 2, "does not tell how it was encrypted"},
+             Case{unnamed, {"--method", "bf"}, 1, "DECODE ERROR - " + unnamed.string()},
+             Case{unnamed, {"--yes"}, 0, "Extracted 1 of 1"},
+             Case{damaged, {}, 1, "is cut short"},
+         }) {
+        fs::remove_all(out);
+        const CommandResult result = home.extract(c.archive, out, c.options);
+        EXPECT_EQ(result.status, c.status) << result.errors;
+        EXPECT_TRUE(contains(result.errors, c.reason)) << result.errors;
+        EXPECT_FALSE(contains(result.errors, "from a file")) << "the password is shown";
+    }
+    EXPECT_TRUE(contains(
+        home.run({"extract", "Mine", "--password-file", "-", "--", home.archive().string()}, "x").errors,
+        "No extraction folder is chosen"));
 }
 
 TEST(Run, EndsItsToolsOnASignal)

@@ -11,6 +11,8 @@
 //   terminal       says whether it could open a controlling terminal
 //   helper         leaves a process behind that writes "late" to its output a moment later
 //   hang-at WORD PROGRAM  hangs where the word is among its arguments, and becomes the program otherwise
+//   mute-at WORD PROGRAM  the same, but does nothing instead of hanging
+//   write TEXT     the text goes into the file that is named after "-out"
 //   relay PROGRAM  its arguments, each followed by a zero byte, go at the end of "<program>.record", then it
 //   becomes the
 //                  program
@@ -59,6 +61,12 @@ void leaveHelper()
     _exit(127);
 }
 
+void writeTo(char **argument, char **end, const std::string &text)
+{
+    argument = std::find(argument, end, std::string("-out"));
+    if (end - argument > 1) std::ofstream(argument[1], std::ios::binary) << text;
+}
+
 bool hasArgument(const std::string &word, int argc, char **argv)
 {
     return std::find(argv + 1, argv + argc, word) != argv + argc;
@@ -77,7 +85,7 @@ int main(int argc, char **argv)
         return word;
     };
     const std::string behaviour = nextWord();
-    const std::string stopWord = behaviour == "hang-at" ? nextWord() : "";
+    const std::string stopWord = behaviour.ends_with("-at") ? nextWord() : "";
     const std::string rest{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 
     if (behaviour == "print")
@@ -99,7 +107,11 @@ int main(int argc, char **argv)
         std::fputs(open("/dev/tty", O_RDWR) < 0 ? "none" : "open", stdout);
     else if (behaviour == "helper")
         leaveHelper();
-    else if (behaviour == "relay" || behaviour == "hang-at")
+    else if (behaviour == "write")
+        writeTo(argv + 1, argv + argc, rest);
+    else if (behaviour == "mute-at" && hasArgument(stopWord, argc, argv))
+        return 0;
+    else if (behaviour == "relay" || behaviour.ends_with("-at"))
         become(rest, self + ".record", argc, argv);
     return 0;
 }

@@ -17,8 +17,7 @@ namespace {
 class BindingTest : public WindowTest {};
 
 /// Outlets of features that the window does not show yet. One that gains a widget leaves this list.
-const QSet<QString> outletsOfLater{u"extractTableView"_qs, u"extractPath"_qs,    u"decryptionCombo01"_qs,
-                                   u"syncTableView"_qs,    u"syncSelector01"_qs, u"syncTextSourcePath"_qs,
+const QSet<QString> outletsOfLater{u"syncTableView"_qs,    u"syncSelector01"_qs, u"syncTextSourcePath"_qs,
                                    u"syncTextDestPath"_qs, u"checkBoxSync1"_qs,  u"checkBoxSync2"_qs,
                                    u"syncCheck01"_qs,      u"syncView"_qs,       u"syncUser"_qs,
                                    u"syncServer"_qs,       u"syncPort"_qs};
@@ -111,7 +110,8 @@ TEST_F(BindingTest, EscapeAsksThePanelsClosingAction)
     };
     for (const auto &[panel, asSheet] :
          {Case{delegate.warningPanel01, true}, Case{delegate.warningPanel03, true},
-          Case{delegate.consolePanel01, false}}) {
+          Case{delegate.warningPanel02, true}, Case{delegate.concernsPanel01, true},
+          Case{delegate.extractPanel01, true}, Case{delegate.consolePanel01, false}}) {
         SCOPED_TRACE(panel.name().toStdString());
         asSheet ? panel.beginSheet() : panel.orderFront();
         settle();

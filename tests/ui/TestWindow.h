@@ -6,6 +6,9 @@
 #include "ui/Binding.h"
 #include "ui/Window.h"
 
+#include <QAbstractItemView>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -56,6 +59,17 @@ protected:
         // Near its beginning: a check box listens on its sign and words only.
         QWidget &control = widget(name);
         QTest::mouseClick(&control, Qt::LeftButton, {}, QPoint(10, control.height() / 2));
+        settle();
+    }
+
+    void drop(QAbstractItemView &list, const QList<QUrl> &urls)
+    {
+        QMimeData dropped;
+        dropped.setUrls(urls);
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(list.viewport(), &enter);
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(list.viewport(), &drop);
         settle();
     }
 

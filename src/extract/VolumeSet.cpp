@@ -1,0 +1,48 @@
+#include "extract/VolumeSet.h"
+
+#include "extract/ArchiveName.h"
+
+#include <QDir>
+#include <algorithm>
+
+std::optional<QList<Volume>> volumesBeside(const QString &archive)
+{
+    const std::optional<VolumeName> own = volumeName(archive);
+    if (!own) return std::nullopt;
+
+    QList<Volume> volumes;
+    const QDir folder = QFileInfo(archive).dir();
+    for (const QFileInfo &file : folder.entryInfoList(QDir::Files | QDir::Hidden | QDir::System)) {
+        const std::optional<VolumeName> name = volumeName(file.filePath());
+        if (name && QFileInfo(name->set).fileName() == QFileInfo(own->set).fileName())
+            volumes.append({name->number, file.size()});
+    }
+    std::sort(volumes.begin(), volumes.end(),
+              [](const Volume &left, const Volume &right) { return left.number < right.number; });
+    return volumes;
+}
+
+QString whatIsMissing(const QList<Volume> &volumes)
+{
+    for (qsizetype index = 0; index < volumes.size(); ++index)
+        if (volumes[index].number > qulonglong(index) + 1) return u"volume %1 is missing"_qs.arg(index + 1);
+    if (volumes.size() < 2) return u"all volumes but the first are missing"_qs;
+
+    const qint64 full = volumes.first().bytes;
+    for (const Volume &volume : volumes.first(volumes.size() - 1))
+        if (volume.bytes < full) return u"volume %1 is shorter than the others"_qs.arg(volume.number);
+    if (volumes.last().bytes >= full)
+        return u"volume %1 is as large as those before it, so it may not be the last"_qs.arg(
+            volumes.last().number);
+    return {};
+}
+
+qint64 bytesOfArchive(const QString &archive)
+{
+    const std::optional<QList<Volume>> volumes = volumesBeside(archive);
+    if (!volumes) return QFileInfo(archive).size();
+    qint64 bytes = 0;
+    for (const Volume &volume : *volumes)
+        bytes += volume.bytes;
+    return bytes;
+}

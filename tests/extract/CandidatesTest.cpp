@@ -1,0 +1,141 @@
+#include "extract/Candidates.h"
+
+#include "ExtractionTest.h"
+
+#include "extract/ArchiveName.h"
+
+#include <QDir>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class Candidates : public ExtractionTest {};
+
+} // namespace
+
+TEST(ArchiveName, TellsVolumesByTheEndOfTheName)
+{
+    for (const auto &[path, whole] : {
+             std::pair{u"/x/Docs.rar.aes.part1.rar"_qs, u"/x/Docs.rar.aes.rar"_qs},
+             std::pair{u"/x/Docs.rar.smime.part0001.rar"_qs, u"/x/Docs.rar.smime.rar"_qs},
+             std::pair{u"Docs.part2.rar"_qs, u"Docs.rar"_qs},
+             std::pair{u"/x.part1.rar/report.part1.final.rar.aes.rar"_qs,
+                       u"/x.part1.rar/report.part1.final.rar.aes.rar"_qs},
+             std::pair{u"/x/Docs.part.rar"_qs, u"/x/Docs.part.rar"_qs},
+             std::pair{u"/x/Docs.part1.rar.txt"_qs, u"/x/Docs.part1.rar.txt"_qs},
+         }) {
+        EXPECT_EQ(withoutVolumePart(path), whole) << qPrintable(path);
+        EXPECT_EQ(volumeName(path).has_value(), path != whole);
+    }
+}
+
+TEST(ArchiveName, TellsWhereWhatGoes)
+{
+    struct Case {
+        QString archive, encrypted, inner;
+    };
+    for (const Case &c : {
+             Case{u"/x/Docs.rar.aes.rar"_qs, u"/to/Docs.rar.aes"_qs, u"/to/Docs.rar"_qs},
+             Case{u"/x/Docs.rar.3d.part07.rar"_qs, u"/to/Docs.rar.3d"_qs, u"/to/Docs.rar"_qs},
+             Case{u"/x/a.b.rar.bf.rar"_qs, u"/to/a.b.rar.bf"_qs, u"/to/a.b.rar"_qs},
+             Case{u"/x/.hidden.rar.aes.rar"_qs, u"/to/.hidden.rar.aes"_qs, u"/to/.hidden.rar"_qs},
+             Case{u"/x/holiday.part1.rar"_qs, u"/to/holiday"_qs, u"/to/holiday.rar"_qs},
+         }) {
+        const ExtractPaths paths = extractPaths(c.archive, u"/to"_qs, u".aes"_qs);
+        EXPECT_EQ(paths.encrypted, c.encrypted);
+        EXPECT_EQ(paths.inner, c.inner);
+        EXPECT_EQ(paths.leftover, c.encrypted + u".aes"_qs);
+    }
+}
+
+TEST_F(Candidates, LeaveOutLaterVolumes)
+{
+    for (const auto &[path, stays] : {
+             std::pair{u"/x/a.part1.rar"_qs, true},
+             std::pair{u"/x/a.part001.rar"_qs, true},
+             std::pair{u"/x/a.part2.rar"_qs, false},
+             std::pair{u"/x/a.part10.rar"_qs, false},
+             std::pair{u"/x/a.part11.rar"_qs, false},
+             std::pair{u"/x/a.part120.rar"_qs, false},
+             std::pair{u"/x/a.Part2.rar"_qs, true},
+             std::pair{u"/x/a2.rar"_qs, true},
+             std::pair{u"/Departments/report2.rar"_qs, false},
+             std::pair{u"/Apartment/x.rar"_qs, true},
+             std::pair{u"/x/report.part1.final.rar.aes.rar"_qs, true},
+         })
+        EXPECT_EQ(delegate.filterForExtraction({path}) == QStringList{path}, stays) << qPrintable(path);
+}
+
+TEST_F(Candidates, ComeAndGo)
+{
+    const auto shown = [&] { return delegate.extractFullList.strings(); };
+    const auto taken = [&] { return delegate.extractList.strings(); };
+    const QStringList volumes{u"/x/a.part1.rar"_qs, u"/x/a.part2.rar"_qs, u"/x/a.part10.rar"_qs,
+                              u"/x/b.rar"_qs};
+    delegate.openPanel = [&](const outlets::OpenPanel &panel) {
+        EXPECT_TRUE(panel.canChooseFiles && panel.allowsMultipleSelection);
+        EXPECT_FALSE(panel.canChooseDirectories);
+        EXPECT_EQ(panel.allowedFileTypes, QStringList{u"rar"_qs});
+        return std::optional(volumes);
+    };
+    delegate.extractButton01Action();
+    delegate.extractButton01Action();
+    EXPECT_EQ(shown(), volumes + volumes);
+    EXPECT_EQ(taken(), (QStringList{volumes[0], volumes[3], volumes[0], volumes[3]}));
+    const auto *table = dynamic_cast<extractTable *>(delegate.extractTableView.dataSource());
+    EXPECT_EQ(table->objectValue(u"c10"_qs, 1), volumes[1]);
+    EXPECT_EQ(table->objectValue(u"c20"_qs, 1), QString());
+    EXPECT_TRUE(table->isExtracted(0));
+    EXPECT_FALSE(table->isExtracted(1));
+
+    delegate.extractTableView.setSelectedRows({1, 3});
+    delegate.extractButton02Action();
+    EXPECT_EQ(shown(), (QStringList{volumes[0], volumes[2], volumes[0], volumes[2]}));
+    EXPECT_EQ(taken(), (QStringList{volumes[0], volumes[0]}));
+    delegate.extractButton03Action();
+    EXPECT_EQ(table->numberOfRows(), 0);
+    EXPECT_TRUE(taken().isEmpty());
+}
+
+TEST_F(Candidates, AFolderStandsForItsArchives)
+{
+    for (const char *name : {"a.part9.rar", "a.part10.rar", "a.part1.rar", "notes.txt", "below/b.rar"})
+        writeFile(program.folder() / "drop" / name, "x");
+    delegate.addArchives({program.path("drop"), program.path("drop/notes.txt")});
+    EXPECT_EQ(delegate.extractFullList.strings(),
+              (QStringList{program.path("drop/a.part1.rar"), program.path("drop/a.part9.rar"),
+                           program.path("drop/a.part10.rar")}));
+    EXPECT_EQ(delegate.outputText02.text(), QString());
+    delegate.addArchives({program.path("drop/notes.txt")});
+    EXPECT_TRUE(delegate.outputText02.text().contains(u"no archive"));
+}
+
+TEST_F(Candidates, AVolumeWithoutItsFirstIsTold)
+{
+    delegate.addArchives({u"/x/a.part2.rar"_qs});
+    EXPECT_TRUE(delegate.outputText02.text().contains(u"first volume is missing"));
+    delegate.buttonLaunch02b();
+    EXPECT_TRUE(program.lastWarning().contains(u"first volume is missing"))
+        << qPrintable(program.lastWarning());
+    delegate.addArchives({u"/x/a.part1.rar"_qs});
+    EXPECT_EQ(delegate.outputText02.text(), QString());
+    delegate.addArchives({u"/Departments/report2.rar"_qs});
+    EXPECT_TRUE(delegate.outputText02.text().contains(u"Move or rename"));
+}
+
+TEST_F(Candidates, AreDecryptedByChoiceOrByName)
+{
+    using quillorentLibrary::decideDecryption;
+    const QString archive = u"/x/a.rar.bf.part01.rar"_qs;
+    const std::optional<QString> expected[] = {u"aes-256-cbc"_qs, u"bf-cbc"_qs, u"des-ede3-cbc"_qs,
+                                               u"smime"_qs,       u"bf-cbc"_qs, u"aes-256-cbc"_qs};
+    for (int choice = 0; choice < 6; ++choice) {
+        delegate.decryptionCombo01.selectIndex(choice);
+        EXPECT_EQ(decideDecryption(archive), expected[choice]) << choice;
+    }
+    delegate.decryptionCombo01.selectIndex(-1);
+    EXPECT_EQ(decideDecryption(archive), u"aes-256-cbc"_qs);
+    delegate.decryptionCombo01.selectIndex(ExtractTab::automaticDecryption);
+    EXPECT_EQ(decideDecryption(u"/x/holiday.rar"_qs), std::nullopt);
+}
