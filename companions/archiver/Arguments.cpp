@@ -16,6 +16,7 @@ std::optional<Arguments::Command> commandNamed(std::string_view text)
     if (text == "t") return Arguments::Command::Test;
     if (text == "e") return Arguments::Command::ExtractFlat;
     if (text == "x") return Arguments::Command::ExtractPaths;
+    if (text == "lb") return Arguments::Command::ListNames;
     return std::nullopt;
 }
 
@@ -71,7 +72,9 @@ std::optional<std::string> checkCompleteness(bool haveCommand, const Arguments &
     if (arguments.archive.empty()) return "ERROR: No archive";
     const bool adds = arguments.command == Arguments::Command::Add;
     if (adds && arguments.names.empty()) return "ERROR: Nothing to add";
-    const std::size_t most = arguments.command == Arguments::Command::Test ? 0 : 1;
+    const bool extracts = arguments.command == Arguments::Command::ExtractFlat ||
+                          arguments.command == Arguments::Command::ExtractPaths;
+    const std::size_t most = extracts ? 1 : 0;
     if (!adds && arguments.names.size() > most)
         return "ERROR: Unexpected argument: " + arguments.names.back();
     return std::nullopt;
@@ -104,6 +107,7 @@ rar a [SWITCH...] ARCHIVE SOURCE...    add files and folders to a new archive
 rar t [SWITCH...] ARCHIVE              test an archive
 rar e [SWITCH...] ARCHIVE [FOLDER]     extract all files into one folder
 rar x [SWITCH...] ARCHIVE [FOLDER]     extract with full paths
+rar lb [SWITCH...] ARCHIVE             list the names of all entries
 
   -ep     leave the paths out of the names
   -idq    print nothing but errors (always so)
@@ -116,9 +120,9 @@ rar x [SWITCH...] ARCHIVE [FOLDER]     extract with full paths
   -tl     give the archive the time of its newest file
   -vN     make volumes of N thousand bytes
 
-Archives are RAR 5 archives; older ones and those of other archivers can be tested and extracted. Symbolic links,
-modes and times are kept; owners are not. Pipes, sockets and devices are left out. An archive appears under its name
-only when it is complete and nothing went wrong.
+Archives are RAR 5 archives; older ones and those of other archivers can be tested, listed and extracted. Symbolic
+links, modes and times are kept; owners are not. Pipes, sockets and devices are left out. An archive appears under its
+name only when it is complete and nothing went wrong.
 )";
 }
 

@@ -10,7 +10,7 @@
 namespace archiver {
 
 struct Arguments {
-    enum class Command { Add, Test, ExtractFlat, ExtractPaths };
+    enum class Command { Add, Test, ExtractFlat, ExtractPaths, ListNames };
     Command command = Command::Test;
     std::string archive;
     std::vector<std::string> names; ///< sources to add, or the destination (none: the working folder)

@@ -2,6 +2,7 @@
 
 #include "ArchiveProcessor.h"
 #include "ArchiveWriter.h"
+#include "EntryLister.h"
 #include "Extractor.h"
 #include "Interrupt.h"
 #include "TreeWalker.h"
@@ -77,6 +78,13 @@ void extract(const Arguments &arguments, Diagnostics &diagnostics)
     extractor.finish();
 }
 
+void list(const std::string &archive, Diagnostics &diagnostics)
+{
+    EntryLister lister(diagnostics);
+    processArchive(archive, lister, diagnostics);
+    lister.finish();
+}
+
 } // namespace
 
 void runCommand(const Arguments &arguments, Diagnostics &diagnostics)
@@ -91,6 +99,8 @@ void runCommand(const Arguments &arguments, Diagnostics &diagnostics)
     case Arguments::Command::ExtractFlat:
     case Arguments::Command::ExtractPaths:
         return extract(arguments, diagnostics);
+    case Arguments::Command::ListNames:
+        return list(arguments.archive, diagnostics);
     }
 }
 

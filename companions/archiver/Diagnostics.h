@@ -5,8 +5,8 @@
 
 namespace archiver {
 
-/// Takes what goes wrong. Each message is a line of its own on standard error, after an empty one; nothing
-/// else is ever printed, so silence means success to the caller of the program.
+/// Takes what goes wrong. Each message is a line of its own on standard error, after an empty one. Nothing
+/// else is ever printed but a list that was asked for, so silence means success to the caller of the program.
 class Diagnostics {
 public:
     Diagnostics() = default;

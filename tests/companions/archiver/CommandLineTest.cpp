@@ -30,8 +30,8 @@ TEST_F(CommandLine, refusesWhatItDoesNotKnow)
     EXPECT_TRUE(help.errors.starts_with("\nERROR: Unknown option: h\n")) << help.errors;
     EXPECT_NE(help.errors.find("-idq"), std::string::npos);
     for (const std::string line :
-         {"", "a", "a x.rar", "b x.rar y", "t", "t x.rar y", "x x.rar y z", "a -v x.rar y", "a -v0 x.rar y",
-          "a -v1k x.rar y", "a -v-1 x.rar y", "a -m3 x.rar y"}) {
+         {"", "a", "a x.rar", "b x.rar y", "t", "t x.rar y", "lb x.rar y", "x x.rar y z", "a -v x.rar y",
+          "a -v0 x.rar y", "a -v1k x.rar y", "a -v-1 x.rar y", "a -m3 x.rar y"}) {
         std::istringstream words(line);
         const std::vector<std::string> arguments(std::istream_iterator<std::string>(words), {});
         const CommandResult result = rar(arguments, {.folder = temporary.path()});
@@ -61,6 +61,28 @@ TEST_F(CommandLine, namesInTheArchive)
         ASSERT_EQ(rar(all, {.folder = temporary / "a"}).errors, "");
         EXPECT_EQ(runCommand({"bsdtar", "-tf", archive}).output, names);
     }
+}
+
+TEST_F(CommandLine, listsTheNameOfEachEntryOnce)
+{
+    writeFile(source / "a", base64Text(3000));
+    writeFile(source / "caf\xE9\t*", base64Text(3000));
+    fs::create_symlink("nowhere", source / "link");
+    ASSERT_EQ(rar({"a", "-ol", "-m0", "-v1", "../a.rar", "../source"}, {.folder = source}).errors, "");
+    const std::vector<fs::path> volumes = volumesOf(archive);
+    ASSERT_GT(volumes.size(), 5u);
+    const std::string names = "source/a\nsource/caf\xE9\t*\nsource/link\nsource\n";
+    const CommandResult listed = rar({"lb", "-idq", volumes.front()});
+    EXPECT_EQ(listed.output, names);
+    EXPECT_EQ(listed.errors, "");
+
+    EXPECT_EQ(runCommand({"sh", "-c", "exec \"$@\" >/dev/full", "sh", QUILLORENT_RAR, "lb", volumes.front()})
+                  .errors,
+              "\nCannot write the list: No space left on device\n");
+    fs::remove(volumes[2]);
+    const CommandResult broken = rar({"lb", volumes.front()});
+    EXPECT_EQ(broken.errors, "\nCannot find volume " + volumes[2].string() + "\n");
+    EXPECT_EQ(broken.output, "source/a\n");
 }
 
 TEST_F(CommandLine, timeOfTheNewestEntry)
