@@ -122,7 +122,7 @@ rar lb [SWITCH...] ARCHIVE             list the names of all entries
 
 Archives are RAR 5 archives; older ones and those of other archivers can be tested, listed and extracted. Symbolic
 links, modes and times are kept; owners are not. Pipes, sockets and devices are left out. An archive appears under its
-name only when it is complete and nothing went wrong.
+name only when it is complete and on the disk, and nothing went wrong.
 )";
 }
 

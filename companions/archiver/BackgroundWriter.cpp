@@ -30,11 +30,25 @@ void BackgroundWriter::stop()
     m_thread.join(); // what is being written is written to its end; finish() tells how that went
 }
 
+bool BackgroundWriter::writeNow(int file, Bytes bytes)
+{
+    // Not often, as each time costs a walk through what is in memory; often enough that little is left at the
+    // end.
+    constexpr std::size_t interval = 8 << 20;
+    if (!writeFully(file, bytes)) return false;
+    m_unsynced += bytes.size();
+    if (m_unsynced >= interval) {
+        startWriteBack(file);
+        m_unsynced = 0;
+    }
+    return true;
+}
+
 bool BackgroundWriter::write(int file, ByteBuffer &buffer, std::size_t size)
 {
     if (size == 0) return true;
     if (!finish()) return false;
-    if (!m_thread.joinable()) return writeFully(file, Bytes(buffer).first(size));
+    if (!m_thread.joinable()) return writeNow(file, Bytes(buffer).first(size));
     {
         const std::lock_guard lock(m_mutex);
         m_buffer.resize(buffer.size());
@@ -63,7 +77,7 @@ void BackgroundWriter::run()
         if (m_size == 0) return;
         const Bytes bytes = Bytes(m_buffer).first(m_size);
         lock.unlock();
-        const int error = writeFully(m_file, bytes) ? 0 : errno;
+        const int error = writeNow(m_file, bytes) ? 0 : errno;
         lock.lock();
         m_error = error;
         m_size = 0;

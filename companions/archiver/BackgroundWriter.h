@@ -31,6 +31,7 @@ public:
 
 private:
     void run();
+    [[nodiscard]] bool writeNow(int file, Bytes bytes);
 
     std::thread m_thread;
     std::mutex m_mutex;
@@ -39,6 +40,7 @@ private:
     std::size_t m_size = 0;
     int m_file = -1;
     int m_error = 0;
+    std::size_t m_unsynced = 0;
     bool m_stop = false;
 };
 

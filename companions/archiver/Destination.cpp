@@ -50,14 +50,6 @@ std::optional<std::vector<std::string>> Destination::components(const std::strin
     return parts;
 }
 
-std::string Destination::join(const std::vector<std::string> &components)
-{
-    std::string path;
-    for (const std::string &part : components)
-        path += (path.empty() ? "" : "/") + part;
-    return path;
-}
-
 int Destination::parentOf(const std::vector<std::string> &components)
 {
     const std::size_t depth = components.size() - 1;
@@ -65,6 +57,7 @@ int Destination::parentOf(const std::vector<std::string> &components)
     while (common < std::min(depth, m_chain.size()) && m_chain[common].first == components[common])
         ++common;
     m_chain.erase(m_chain.begin() + static_cast<std::ptrdiff_t>(common), m_chain.end());
+    m_made = 0;
     while (m_chain.size() < depth) {
         const int from = m_chain.empty() ? m_root.get() : m_chain.back().second.get();
         if (!descend(from, components[m_chain.size()])) return -1;
@@ -79,16 +72,17 @@ bool Destination::descend(int from, const std::string &name)
         if (mkdirat(from, name.c_str(), 0700) != 0) return false;
         folder = FileDescriptor(openat(from, name.c_str(), folderFlags | O_NOFOLLOW));
         if (!folder) return false;
-        std::string path;
-        for (const auto &[part, descriptor] : m_chain)
-            path += part + '/';
-        m_made.push_back(path + name);
+        ++m_made;
     }
     if (!folder) return false;
     m_chain.emplace_back(name, std::move(folder));
     return true;
 }
 
-std::vector<std::string> Destination::takeMadeFolders() { return std::exchange(m_made, {}); }
+int Destination::root()
+{
+    m_chain.clear();
+    return m_root.get();
+}
 
 } // namespace archiver

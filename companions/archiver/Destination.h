@@ -21,22 +21,24 @@ public:
     /// part at all.
     [[nodiscard]] static std::optional<std::vector<std::string>> components(const std::string &name);
 
-    /// The parts with a '/' between them.
-    [[nodiscard]] static std::string join(const std::vector<std::string> &components);
-
     /// The folder that holds the last of `components`, made where it is missing; valid until the next call.
     /// -1 where that fails. Folders made here can be used by their owner only, until their entry comes.
     [[nodiscard]] int parentOf(const std::vector<std::string> &components);
 
-    /// The paths of folders made since the last call.
-    [[nodiscard]] std::vector<std::string> takeMadeFolders();
+    /// How many folders deep parentOf() has come, the last ones of which, made() of them, are new. Where it
+    /// failed that is as far as it got.
+    [[nodiscard]] std::size_t depth() const { return m_chain.size(); }
+    [[nodiscard]] std::size_t made() const { return m_made; }
+
+    /// The folder below which all this is, open; those that parentOf() opened are closed.
+    [[nodiscard]] int root();
 
 private:
     bool descend(int from, const std::string &name);
 
     FileDescriptor m_root;
     std::vector<std::pair<std::string, FileDescriptor>> m_chain; // open folders, each in the one before
-    std::vector<std::string> m_made;
+    std::size_t m_made = 0;
 };
 
 } // namespace archiver

@@ -35,7 +35,9 @@ bool Diagnostics::reportSystem(std::string_view message)
 std::string printable(std::string_view name)
 {
     constexpr std::string_view digits = "0123456789abcdef";
+    constexpr std::size_t longest = 4096; // no path that the system takes is longer
     std::string text;
+    if (name.size() > longest) return printable(name.substr(0, longest)) + "…";
     while (!name.empty()) {
         const std::size_t length = utf8::sequenceLength(name);
         const auto byte = static_cast<unsigned char>(name.front());

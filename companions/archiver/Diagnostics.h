@@ -25,7 +25,8 @@ private:
     unsigned long m_count = 0;
 };
 
-/// A file name for a message: control characters and bytes that are not UTF-8 as "\xHH".
+/// A file name for a message: control characters and bytes that are not UTF-8 as "\xHH", and cut
+/// where it is longer than anyone reads.
 [[nodiscard]] std::string printable(std::string_view name);
 
 } // namespace archiver

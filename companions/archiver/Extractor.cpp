@@ -1,9 +1,9 @@
 #include "Extractor.h"
 
+#include "FileTimes.h"
 #include "Interrupt.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -22,17 +22,6 @@ unsigned readUmask()
     return present;
 }
 
-std::array<timespec, 2> timesOf(const std::optional<Timestamp> &modified)
-{
-    timespec time{};
-    time.tv_nsec = UTIME_OMIT;
-    if (modified) {
-        time.tv_sec = modified->seconds;
-        time.tv_nsec = modified->nanoseconds;
-    }
-    return {time, time};
-}
-
 } // namespace
 
 Extractor::Extractor(Destination &destination, Paths paths, Diagnostics &diagnostics)
@@ -45,6 +34,9 @@ bool Extractor::cannotCreate(const std::string &name)
     if (errno == ELOOP || errno == ENOTDIR)
         return m_diagnostics.report("Cannot create " + printable(name) +
                                     ": a folder on its way is a link or a file in the destination");
+    if (errno == EMFILE)
+        return m_diagnostics.report("Cannot create " + printable(name) +
+                                    ": too many folders inside each other");
     return m_diagnostics.reportSystem("Cannot create " + printable(name));
 }
 
@@ -63,14 +55,11 @@ int Extractor::enter(const std::vector<std::string> &components, const FileHeade
 {
     const int folder = m_destination.parentOf(components);
     if (folder < 0) cannotCreate(header.name);
-    noteMadeFolders();
+    const std::size_t depth = m_destination.depth();
+    if (m_destination.made() > 0)
+        m_folders.setMissing(std::span(components).first(depth), depth - m_destination.made(),
+                             {0777u & ~m_umask, std::nullopt});
     return folder;
-}
-
-void Extractor::noteMadeFolders()
-{
-    for (std::string &path : m_destination.takeMadeFolders())
-        m_folders.try_emplace(std::move(path), FolderState{0777u & ~m_umask, std::nullopt});
 }
 
 unsigned Extractor::permissions(const FileHeader &header) const
@@ -89,7 +78,7 @@ void Extractor::folder(const FileHeader &header)
     components->emplace_back();
     if (enter(*components, header) < 0) return;
     components->pop_back();
-    m_folders[Destination::join(*components)] = {permissions(header), header.modified};
+    m_folders.set(*components, {permissions(header), header.modified});
 }
 
 void Extractor::link(const FileHeader &header)
@@ -121,7 +110,7 @@ void Extractor::symbolicLink(const FileHeader &header)
         cannotCreate(header.name);
         return;
     }
-    utimensat(folder, temporary.c_str(), timesOf(header.modified).data(), AT_SYMLINK_NOFOLLOW);
+    utimensat(folder, temporary.c_str(), fileTimes(header.modified).data(), AT_SYMLINK_NOFOLLOW);
     if (renameat(folder, temporary.c_str(), folder, components->back().c_str()) == 0) return;
     cannotCreate(header.name);
     unlinkat(folder, temporary.c_str(), 0);
@@ -186,7 +175,7 @@ void Extractor::finishFile(const FileHeader &header)
 {
     // The mode last: changing the owner's own file needs no permission, and set-user-ID bits go when it is
     // written to.
-    const bool done = futimens(m_file.descriptor(), timesOf(header.modified).data()) == 0 &&
+    const bool done = futimens(m_file.descriptor(), fileTimes(header.modified).data()) == 0 &&
                       fchmod(m_file.descriptor(), permissions(header)) == 0 && m_file.closeFile() &&
                       m_file.rename(m_fileName);
     if (!done) m_diagnostics.reportSystem("Cannot create " + printable(header.name));
@@ -195,27 +184,6 @@ void Extractor::finishFile(const FileHeader &header)
 
 void Extractor::abandonFile() { m_file.discard(); }
 
-void Extractor::finish()
-{
-    // From the deepest up: a folder that its owner may not enter must wait for what is in it.
-    using Item = decltype(m_folders)::value_type;
-    std::vector<const Item *> deepestFirst;
-    for (const Item &item : m_folders)
-        deepestFirst.push_back(&item);
-    std::ranges::stable_sort(deepestFirst, std::ranges::greater(),
-                             [](const Item *item) { return std::ranges::count(item->first, '/'); });
-    for (const Item *item : deepestFirst) {
-        const auto &[path, state] = *item;
-        std::vector<std::string> components = *Destination::components(path);
-        const int parent = m_destination.parentOf(components);
-        const FileDescriptor folder(parent < 0 ? -1
-                                               : openat(parent, components.back().c_str(),
-                                                        O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-        const bool done = folder && futimens(folder.get(), timesOf(state.modified).data()) == 0 &&
-                          fchmod(folder.get(), state.mode) == 0;
-        if (!done) m_diagnostics.reportSystem("Cannot set the attributes of folder " + printable(path));
-    }
-    m_folders.clear();
-}
+void Extractor::finish() { m_folders.apply(m_destination.root(), m_diagnostics); }
 
 } // namespace archiver

@@ -2,8 +2,7 @@
 
 #include "ContentSink.h"
 #include "Destination.h"
-
-#include <map>
+#include "FolderAttributes.h"
 
 namespace archiver {
 
@@ -24,11 +23,6 @@ public:
     void finish();
 
 private:
-    struct FolderState {
-        unsigned mode = 0;
-        std::optional<Timestamp> modified;
-    };
-
     bool write(Bytes bytes) override;
     [[nodiscard]] std::optional<std::vector<std::string>> place(const std::string &name);
     [[nodiscard]] int enter(const std::vector<std::string> &components, const FileHeader &header);
@@ -36,7 +30,6 @@ private:
     void copyOfEntry(const FileHeader &header);
     [[nodiscard]] bool copyContent(int from);
     [[nodiscard]] unsigned permissions(const FileHeader &header) const;
-    void noteMadeFolders();
     bool cannotCreate(const std::string &name);
 
     Destination &m_destination;
@@ -46,7 +39,7 @@ private:
     TemporaryFile m_file;
     std::string m_fileName; // its final one, in its folder
     std::string m_entryName;
-    std::map<std::string, FolderState> m_folders; // by their paths in the destination
+    FolderAttributes m_folders;
 };
 
 } // namespace archiver

@@ -84,6 +84,10 @@ bool writeFullyAt(int file, Bytes bytes, std::uint64_t offset)
     return wroteAll(repeat(bytes.size(), call), bytes);
 }
 
+void startWriteBack(int file) { sync_file_range(file, 0, 0, SYNC_FILE_RANGE_WRITE); }
+
+bool syncToDisk(int file) { return fsync(file) == 0 || errno == EINVAL; }
+
 TemporaryFile::TemporaryFile(TemporaryFile &&other) noexcept
     : m_file(std::move(other.m_file))
     , m_name(std::move(other.m_name))

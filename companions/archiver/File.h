@@ -36,6 +36,12 @@ private:
 [[nodiscard]] bool writeFully(int file, Bytes bytes);
 [[nodiscard]] bool writeFullyAt(int file, Bytes bytes, std::uint64_t offset);
 
+/// Has the system begin with bringing what was written to the disk, without waiting for it.
+void startWriteBack(int file);
+/// Waits until a file, or the names in a folder, are on the disk. False with errno set; a file system that
+/// knows no such thing is none of the caller's business.
+[[nodiscard]] bool syncToDisk(int file);
+
 /// A name for something unfinished, unlikely to exist; another one each time.
 [[nodiscard]] std::string temporaryName();
 

@@ -34,17 +34,27 @@ HuffmanDecoder::Start HuffmanDecoder::start(Bytes payload, const BlockHeader &he
     m_bit = 0;
     m_endBit = payload.empty() ? 0 : (payload.size() - 1) * 8 + header.usedBitsInLastByte;
     m_damaged = false;
-    if (!header.hasTables) return m_haveTables ? Start::Ready : Start::Damaged;
+    if (header.hasTables) {
+        const Start start = startTables();
+        if (start != Start::Ready) return start;
+    }
+    // Filling the table costs as much as unpacking a thousand bytes without it.
+    constexpr std::size_t worthIt = 512;
+    if (m_haveTables && !m_haveFast && payload.size() >= worthIt) buildFast();
+    return m_haveTables ? Start::Ready : Start::Damaged;
+}
 
+HuffmanDecoder::Start HuffmanDecoder::startTables()
+{
     std::array<std::uint8_t, allSymbols> lengths{};
     m_haveTables = false;
+    m_haveFast = false;
     if (!readTables(lengths)) return Start::Damaged;
     if (!validLengths(std::span(lengths).first(mainSymbols))) return Start::Damaged;
     const auto commands = std::span(lengths).subspan(literalSymbols, mainSymbols - literalSymbols);
     if (std::ranges::any_of(commands, [](std::uint8_t length) { return length > 0; }))
         return Start::NeedsDictionary;
     buildCode(std::span(lengths).first(literalSymbols));
-    buildFast();
     m_haveTables = true;
     return Start::Ready;
 }
@@ -144,6 +154,7 @@ void HuffmanDecoder::buildFast()
         }
         (*m_fast)[static_cast<std::size_t>(bits)] = entry;
     }
+    m_haveFast = true;
 }
 
 HuffmanDecoder::Symbol HuffmanDecoder::find(std::uint64_t window) const
@@ -189,7 +200,7 @@ std::size_t HuffmanDecoder::decode(std::span<std::uint8_t> output)
 {
     std::size_t done = 0;
     while (done < output.size() && m_bit < m_endBit) {
-        done += decodeFast(output.subspan(done));
+        if (m_haveFast) done += decodeFast(output.subspan(done));
         if (done == output.size() || m_bit == m_endBit) break;
         // A code that is too long for the fast way, or the last bits.
         const Symbol symbol = find(window(m_bit));

@@ -34,6 +34,7 @@ private:
         unsigned length; // 0: no such code
     };
 
+    [[nodiscard]] Start startTables();
     [[nodiscard]] bool readTables(std::array<std::uint8_t, allSymbols> &lengths);
     [[nodiscard]] bool readLengthAlphabet(std::array<std::uint8_t, lengthSymbols> &lengths);
     void buildCode(std::span<const std::uint8_t> lengths);
@@ -55,6 +56,7 @@ private:
     std::size_t m_endBit = 0;
     bool m_damaged = false;
     bool m_haveTables = false;
+    bool m_haveFast = false; // m_fast is of these tables
     std::unique_ptr<std::array<Fast, 1u << fastBits>> m_fast;
     /// For each length: the first 15-bit window beyond its codes, and what turns a code into an index of
     /// m_order.

@@ -147,6 +147,7 @@ bool OutputVolumes::endVolume(bool more)
     const std::uint64_t size = m_position + end.size();
     if (!more && m_files.size() > 1 && size < smallestLastVolume) end.resize(end.size() + smallestLastVolume);
     if (!append(end) || !flushAndWait()) return false;
+    startWriteBack(m_files.back().descriptor());
     return m_files.back().closeFile() || cannotWrite();
 }
 
@@ -181,6 +182,17 @@ std::vector<std::string> OutputVolumes::finalNames() const
     return names;
 }
 
+bool OutputVolumes::complete(TemporaryFile &file, const std::optional<Timestamp> &time)
+{
+    if (!file.reopenFile()) return cannotWrite();
+    if (time) {
+        const timespec times[2] = {{0, UTIME_OMIT}, {time->seconds, time->nanoseconds}};
+        if (futimens(file.descriptor(), times) != 0)
+            return m_diagnostics.reportSystem("Cannot set the time of " + printable(m_path));
+    }
+    return (syncToDisk(file.descriptor()) && file.closeFile()) || cannotWrite();
+}
+
 bool OutputVolumes::publish(const std::optional<Timestamp> &time)
 {
     const std::vector<std::string> names = finalNames();
@@ -192,17 +204,13 @@ bool OutputVolumes::publish(const std::optional<Timestamp> &time)
         errno = EISDIR;
         return m_diagnostics.reportSystem("Cannot create " + printable(name));
     }
-    for (std::size_t index = 0; index < names.size(); ++index) {
-        TemporaryFile &file = m_files[index];
-        if (time) {
-            const timespec moment{time->seconds, time->nanoseconds};
-            const timespec times[2] = {{0, UTIME_OMIT}, moment};
-            if (utimensat(m_folder.get(), file.name().c_str(), times, 0) != 0)
-                return m_diagnostics.reportSystem("Cannot set the time of " + printable(m_path));
-        }
-        if (!file.rename(names[index]))
+    // Before the names, or a power cut would leave an empty archive where the one before is gone.
+    for (TemporaryFile &file : m_files)
+        if (!complete(file, time)) return false;
+    for (std::size_t index = 0; index < names.size(); ++index)
+        if (!m_files[index].rename(names[index]))
             return m_diagnostics.reportSystem("Cannot create " + printable(names[index]));
-    }
+    if (!syncToDisk(m_folder.get())) return cannotWrite();
     if (limited()) removeStale(names);
     return true;
 }

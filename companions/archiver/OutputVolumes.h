@@ -48,8 +48,8 @@ public:
 
     /// All that was written, to be read back; after finish().
     [[nodiscard]] std::unique_ptr<VolumeSource> written() const;
-    /// Gives the files their final names, and the time. Volumes of an older set that the new one doesn't
-    /// replace go.
+    /// Gives the files the time and, once they are on the disk, their final names. Volumes of an older set
+    /// that the new one doesn't replace go.
     [[nodiscard]] bool publish(const std::optional<Timestamp> &time);
 
     /// Whether a name in the folder with that device and inode number is the archive's own, before or after
@@ -64,6 +64,7 @@ private:
     [[nodiscard]] bool endVolume(bool more);
     [[nodiscard]] std::vector<std::string> finalNames() const;
     [[nodiscard]] bool isStale(const std::string &name, const std::vector<std::string> &current) const;
+    [[nodiscard]] bool complete(TemporaryFile &file, const std::optional<Timestamp> &time);
     void removeStale(const std::vector<std::string> &current);
     bool cannotWrite();
 

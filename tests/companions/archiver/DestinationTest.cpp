@@ -93,6 +93,23 @@ TEST_F(Hostile, foldersAreNotReplacedByFiles)
     EXPECT_EQ(snapshotTree(out).size(), 3u); // nothing unfinished is left
 }
 
+TEST_F(Hostile, foldersTooDeepToBeOpenEndInALineOfReadableLength)
+{
+    std::string deep;
+    for (unsigned depth = 0; depth < 3000; ++depth)
+        deep += "a/";
+    writeFile(archive, handmadeArchive({storedFile(deep + "file", "x"), storedFile("next/file", "x")}));
+    const CommandResult result = runCommand({"sh", "-c", "ulimit -n 1000; exec \"$@\"", "sh", QUILLORENT_RAR,
+                                             "x", archive, temporary / "limited"});
+    EXPECT_TRUE(result.errors.ends_with("/…: too many folders inside each other\n")) << result.errors;
+    EXPECT_LT(result.errors.size(), 5000u);
+    EXPECT_EQ(readFile(temporary / "limited/next/file"), "x");
+    // What was made on the way got attributes all the same.
+    const TreeSnapshot tree = snapshotTree(temporary.path());
+    for (const std::string path : {"limited/next", "limited/a", "limited/a/a/a/a"})
+        EXPECT_EQ(tree.at(path).mode, tree.at("out").mode);
+}
+
 TEST_F(Hostile, withoutPathsAllGoesIntoTheFolder)
 {
     EXPECT_EQ(extract({storedFile("/a/b/c", "1"), folderEntry("a/b"), storedFile("d", "2")}, "e"), "");

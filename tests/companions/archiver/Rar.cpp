@@ -63,7 +63,8 @@ void expectContent(const std::vector<fs::path> &volumes, const std::string &cont
     const CommandResult ours = rar({"e", "-idq", first, temporary / "ours"});
     // Into a folder: on its way to a pipe, an empty entry makes bsdtar write zeros without end now and then.
     fs::create_directory(temporary / "other");
-    const CommandResult other = runCommand({"bsdtar", "-xf", temporary / "joined", "-C", temporary / "other"});
+    const CommandResult other =
+        runCommand({"bsdtar", "-xf", temporary / "joined", "-C", temporary / "other"});
     const CommandResult third = runCommand({"unar", "-q", "-D", "-o", temporary / "third", first});
     EXPECT_EQ(ours.errors + other.errors, "");
     EXPECT_EQ(third.status, 0) << third.output;
