@@ -16,6 +16,8 @@ QuillorentAppDelegate::QuillorentAppDelegate()
     controller = this;
 
     listTableView.setDataSource(&m_listTable);
+    syncTableView.setDataSource(&m_syncTable);
+    previewTableView.setDataSource(&m_previewTable);
     pathTableView.setDataSource(&m_pathTable);
 
     // A program without a front end has nobody who could choose.

@@ -12,7 +12,10 @@
 #include "keys/PasswordTab.h"
 #include "plist/Value.h"
 #include "settings/OptionsPanel.h"
+#include "sync/PreviewTable.h"
+#include "sync/SyncSheet.h"
 #include "sync/SyncTab.h"
+#include "sync/SyncTable.h"
 #include "tools/PathTable.h"
 #include "tools/ToolsTab.h"
 
@@ -25,6 +28,7 @@ class QuillorentAppDelegate : public RunState,
                               public PasswordTab,
                               public ExtractTab,
                               public SyncTab,
+                              public SyncSheet,
                               public OptionsPanel,
                               public ToolsTab,
                               public Messages {
@@ -91,6 +95,24 @@ public:
     void buttonKill01(outlets::Button &sender);
     void killer();
 
+    // Synchronisation
+    void syncButton01Action();                     ///< add
+    void syncButton02Action();                     ///< remove
+    void addSyncEntries(const QStringList &paths); ///< chosen in a panel, or dropped onto the list
+    void syncButtoSrcAction();
+    void syncButtoDestAction();
+    void syncTextDestPathAction(); ///< typed, as a folder on a server must be
+    void syncSelector01Action();
+    void checkBoxSync1Action();
+    void checkBoxSync2Action();
+    void syncCheck01Action();
+    void syncCheck02Action(); ///< user, server and port
+    void buttonLaunch03();
+    void previewButton01Action();
+    void showPreview(const std::shared_ptr<const Preview> &preview); ///< any thread
+    void previewPanel01Close();
+    void previewPanel01Launch(); ///< do what the preview shows
+
     // Passwords and keys
     [[nodiscard]] QString passwordSelector() const; ///< password, or path of the certificate
     [[nodiscard]] bool pkeySelector() const;        ///< no certificate is wanted, or one is chosen
@@ -117,6 +139,8 @@ private:
 
     Latest m_keyDescriptions;
     listTable m_listTable;
+    syncTable m_syncTable;
+    previewTable m_previewTable;
     pathTable m_pathTable;
 };
 
