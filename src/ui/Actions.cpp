@@ -31,14 +31,20 @@ void send(const ActionCall &call)
 
 // The entry that comes to stand in the place of the first removed one is selected: it can be removed next,
 // and never more than it by accident.
-void removeFolders(const ActionCall &call)
+template <auto list, auto action>
+void removeSelected(const ActionCall &call)
 {
-    const int first = call.controller.listTableView.selectedRow();
-    call.controller.folderButton02Action();
-    call.controller.listTableView.setSelectedRows(first < 0 ? QList<int>() : QList<int>{first});
+    outlets::TableView &table = call.controller.*list;
+    const int first = table.selectedRow();
+    (call.controller.*action)();
+    table.setSelectedRows(first < 0 ? QList<int>() : QList<int>{first});
 }
 
-void cancelBackup(const ActionCall &call) { call.controller.buttonKill01(call.controller.buttonCancel01); }
+template <auto button>
+void cancelRun(const ActionCall &call)
+{
+    call.controller.buttonKill01(call.controller.*button);
+}
 
 void showConsole(const ActionCall &call) { call.controller.consolePanel01.orderFront(); }
 
@@ -68,7 +74,7 @@ constexpr ActionRow table[] = {
     {"autosaveCheck01"_name, send<&Controller::autosaveCheck01Action>},
 
     {"folderButton01"_name, send<&Controller::folderButton01Action>},
-    {"folderButton02"_name, removeFolders},
+    {"folderButton02"_name, removeSelected<&Controller::listTableView, &Controller::folderButton02Action>},
     {"fileButton01"_name, send<&Controller::fileButton01Action>},
     {"checkBox04"_name, send<&Controller::prefCheck01Action>},
     {"prefText01"_name, send<&Controller::prefStepper01Action>},
@@ -84,11 +90,31 @@ constexpr ActionRow table[] = {
     {"pkButton01"_name, send<&Controller::pkButton01Action>},
     {"certInfoButton02"_name, send<&Controller::certInfo02>},
 
+    {"syncButton01"_name, send<&Controller::syncButton01Action>},
+    {"syncButton02"_name, removeSelected<&Controller::syncTableView, &Controller::syncButton02Action>},
+    {"syncButtoSrc"_name, send<&Controller::syncButtoSrcAction>},
+    {"syncButtoDest"_name, send<&Controller::syncButtoDestAction>},
+    {"syncTextDestPath"_name, send<&Controller::syncTextDestPathAction>},
+    {"syncSelector01"_name, send<&Controller::syncSelector01Action>},
+    {"checkBoxSync1"_name, send<&Controller::checkBoxSync1Action>},
+    {"checkBoxSync2"_name, send<&Controller::checkBoxSync2Action>},
+    {"syncCheck01"_name, send<&Controller::syncCheck01Action>},
+    {"syncUser"_name, send<&Controller::syncCheck02Action>},
+    {"syncServer"_name, send<&Controller::syncCheck02Action>},
+    {"syncPort"_name, send<&Controller::syncCheck02Action>},
+    {"previewButton01"_name, send<&Controller::previewButton01Action>},
+    {"buttonLaunch03"_name, send<&Controller::buttonLaunch03>},
+
     {"settingsSaveButton"_name, send<&Controller::saveSettings1Action>},
     {"consoleShowButton"_name, showConsole},
 
-    {"progressPanel01"_name, cancelBackup},
-    {"buttonCancel01"_name, cancelBackup},
+    {"progressPanel01"_name, cancelRun<&Controller::buttonCancel01>},
+    {"buttonCancel01"_name, cancelRun<&Controller::buttonCancel01>},
+    {"progressPanel03"_name, cancelRun<&Controller::buttonCancel03>},
+    {"buttonCancel03"_name, cancelRun<&Controller::buttonCancel03>},
+    {"previewPanel01"_name, send<&Controller::previewPanel01Close>},
+    {"previewPanel01CloseButton"_name, send<&Controller::previewPanel01Close>},
+    {"previewPanel01LaunchButton"_name, send<&Controller::previewPanel01Launch>},
     {"warningPanel01"_name, send<&Controller::warningPanel01Close>},
     {"warningPanel01CloseButton"_name, send<&Controller::warningPanel01Close>},
     {"certPanel01"_name, send<&Controller::certButton01ActionEnd>},
@@ -126,12 +152,15 @@ bool connectControl(QWidget &widget, Perform perform)
 // What the lists do beyond showing their outlets.
 void connectLists(Controller &controller, QMainWindow &window)
 {
-    for (auto *folders : window.findChildren<FolderListView *>()) {
-        QObject::connect(folders, &FolderListView::pathsDropped, folders,
-                         [&controller](const QStringList &paths) { controller.addFolders(paths); });
-        QObject::connect(folders, &FolderListView::deletePressed,
-                         window.findChild<QAbstractButton *>(u"folderButton02"_qs), &QAbstractButton::click);
-    }
+    const auto connectList = [&](const QString &name, const QString &removeButton, auto add) {
+        auto *list = window.findChild<FolderListView *>(name);
+        QObject::connect(list, &FolderListView::pathsDropped, list,
+                         [&controller, add](const QStringList &paths) { (controller.*add)(paths); });
+        QObject::connect(list, &FolderListView::deletePressed,
+                         window.findChild<QAbstractButton *>(removeButton), &QAbstractButton::click);
+    };
+    connectList(u"listTableView"_qs, u"folderButton02"_qs, &Controller::addFolders);
+    connectList(u"syncTableView"_qs, u"syncButton02"_qs, &Controller::addSyncEntries);
     for (auto *tools : window.findChildren<ToolTableView *>())
         QObject::connect(tools, &ToolTableView::chooseRequested, tools,
                          [&controller] { controller.selectFile(); });

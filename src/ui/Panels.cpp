@@ -6,7 +6,9 @@
 #include "ui/ProgressFigures.h"
 #include "ui_ConsolePanel01.h"
 #include "ui_MessagePanel.h"
+#include "ui_PreviewPanel01.h"
 #include "ui_ProgressPanel01.h"
+#include "ui_ProgressPanel03.h"
 #include "ui_WarningPanel03.h"
 
 #include <QCoreApplication>
@@ -56,15 +58,20 @@ QList<QWidget *> makeMessages(QWidget &window)
 Panels::Panels(QuillorentAppDelegate &controller, QWidget &window)
     : m_questionForm(std::make_unique<Ui::WarningPanel03>())
     , m_progressForm(std::make_unique<Ui::ProgressPanel01>())
+    , m_syncProgressForm(std::make_unique<Ui::ProgressPanel03>())
+    , m_previewForm(std::make_unique<Ui::PreviewPanel01>())
     , m_consoleForm(std::make_unique<Ui::ConsolePanel01>())
     , m_messages(makeMessages(window))
     , m_question(makePanel(*m_questionForm, window))
     , m_progress(makePanel(*m_progressForm, window))
+    , m_syncProgress(makePanel(*m_syncProgressForm, window))
+    , m_preview(makePanel(*m_previewForm, window))
     , m_console(makePanel(*m_consoleForm, window))
     , m_figures(std::make_unique<ProgressFigures>(controller, *m_progressForm))
 {
     showIcon(*m_questionForm->questionIcon, u"dialog-question"_qs);
-    m_progress->keepWindowClosable();
+    for (PanelDialog *sheet : progressSheets())
+        sheet->keepWindowClosable();
     m_consoleForm->consoleTextView01->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     QObject::connect(m_progress, &PanelDialog::visibilityChanged, m_figures.get(),
                      &ProgressFigures::setRunning);
@@ -74,7 +81,7 @@ Panels::~Panels() = default;
 
 QList<QWidget *> Panels::all() const
 {
-    return m_messages + QList<QWidget *>{m_question, m_progress, m_console};
+    return m_messages + QList<QWidget *>{m_question, m_progress, m_syncProgress, m_preview, m_console};
 }
 
 } // namespace ui

@@ -37,6 +37,7 @@ protected:
 private:
     void finishForm();
     void deriveFromOutlets();
+    void describeSynchronisation();
     void addShortcuts();
     void askToStop();
 
