@@ -2,6 +2,7 @@
 #include "app/QuillorentAppDelegate.h"
 #include "headless/BackupCommand.h"
 #include "headless/Print.h"
+#include "headless/SyncCommand.h"
 #include "tools/Verification.h"
 
 #include <QCoreApplication>
@@ -54,9 +55,12 @@ ExitStatus runCommand(QuillorentAppDelegate &delegate, const Options &options)
     case Options::Command::Profiles:
         return listProfiles(delegate);
     case Options::Command::Backup:
+    case Options::Command::Sync:
         break;
     }
-    return openProfile(delegate, options.profile) ? runBackup(delegate, options) : NotStarted;
+    if (!openProfile(delegate, options.profile)) return NotStarted;
+    return options.command == Options::Command::Sync ? runSync(delegate, options)
+                                                     : runBackup(delegate, options);
 }
 
 } // namespace
