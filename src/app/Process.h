@@ -1,8 +1,8 @@
 #pragma once
 
 /// What every front end does before anything else: files that tools write on the way are the user's alone,
-/// and no tool can wait for an answer on the program's own input. Keeps standard input where `keepInput` says
-/// that it is still read; then detachInput() follows.
+/// and no tool can wait for an answer, neither on the program's own input nor in a window that ssh opens.
+/// Keeps standard input where `keepInput` says that it is still read; then detachInput() follows.
 void prepareProcess(bool keepInput = false);
 
 /// Standard input reads nothing from now on.

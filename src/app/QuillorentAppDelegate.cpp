@@ -17,6 +17,8 @@ QuillorentAppDelegate::QuillorentAppDelegate()
 
     listTableView.setDataSource(&m_listTable);
     extractTableView.setDataSource(&m_extractTable);
+    syncTableView.setDataSource(&m_syncTable);
+    previewTableView.setDataSource(&m_previewTable);
     pathTableView.setDataSource(&m_pathTable);
 
     // A program without a front end has nobody who could choose.

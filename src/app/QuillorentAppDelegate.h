@@ -15,7 +15,10 @@
 #include "plist/Value.h"
 #include "settings/OptionsPanel.h"
 #include "settings/ProfileSheets.h"
+#include "sync/PreviewTable.h"
+#include "sync/SyncSheet.h"
 #include "sync/SyncTab.h"
+#include "sync/SyncTable.h"
 #include "tools/PathTable.h"
 #include "tools/ToolsTab.h"
 #include "updates/UpdateNote.h"
@@ -32,6 +35,7 @@ class QuillorentAppDelegate : public RunState,
                               public ExtractTab,
                               public ExtractSheet,
                               public SyncTab,
+                              public SyncSheet,
                               public OptionsPanel,
                               public ProfileSheets,
                               public ToolsTab,
@@ -136,6 +140,23 @@ public:
     void buttonLaunch02c(); ///< go on in spite of `concernsPanel01`
     void concernsPanel01Stop();
     void stopProcess02b();
+    // Synchronisation
+    void syncButton01Action();                     ///< add
+    void syncButton02Action();                     ///< remove
+    void addSyncEntries(const QStringList &paths); ///< chosen in a panel, or dropped onto the list
+    void syncButtoSrcAction();
+    void syncButtoDestAction();
+    void syncTextDestPathAction(); ///< typed, as a folder on a server must be
+    void syncSelector01Action();
+    void checkBoxSync1Action();
+    void checkBoxSync2Action();
+    void syncCheck01Action();
+    void syncCheck02Action(); ///< user, server and port
+    void buttonLaunch03();
+    void previewButton01Action();
+    void showPreview(const std::shared_ptr<const Preview> &preview); ///< any thread
+    void previewPanel01Close();
+    void previewPanel01Launch(); ///< do what the preview shows
 
     // Passwords and keys
     [[nodiscard]] QString passwordSelector() const; ///< password, or path of the certificate
@@ -186,6 +207,8 @@ private:
     Latest m_keyDescriptions;
     listTable m_listTable;
     extractTable m_extractTable;
+    syncTable m_syncTable;
+    previewTable m_previewTable;
     pathTable m_pathTable;
 };
 

@@ -41,9 +41,8 @@ plist::Dictionary makeDefaultProfile()
 QString describeUnreadable(const QString &path, const plist::Dictionary &dictionary)
 {
     if (dictionary) return {};
-    return u"\nA settings file can't be read:\n%1\nIt stays as it is. Repair it, or move it away: the next "
-           u"start "
-           "makes a new one.\n"_qs.arg(plist::readFile(path).reason);
+    return u"\nA settings file can't be read:\n%1\nIt stays as it is. Repair it, or move it "
+           "away: the next start makes a new one.\n"_qs.arg(plist::readFile(path).reason);
 }
 
 } // namespace

@@ -86,15 +86,15 @@ QString explainWrongKey(const FailedStage &stage)
                "the Passwords tab."_qs;
     if (says(stage, {u"ends too early", u"goes on after the end", u"is damaged", u"is empty",
                      u"no S/MIME message", u"not an encrypted one"}))
-        return u"What is in \"%1\" is damaged, or was not encrypted for a certificate: %2. Fetch another "
-               u"copy, or "
-               "choose another decryption method."_qs.arg(nameOf(stage.archive), stage.tool.firstLine());
+        return u"What is in \"%1\" is damaged, or was not encrypted for a certificate: %2. "
+               "Fetch another copy, or choose another decryption method."_qs.arg(nameOf(stage.archive),
+                                                                                 stage.tool.firstLine());
     if (says(stage, {u"Could not read", u"unable to load", u"Could not find"}))
         return u"The private key or the certificate is not usable: %1. A key with a pass phrase can't "
                "be used."_qs.arg(stage.tool.firstLine());
-    return u"\"%1\" can't be decrypted with this private key and certificate: %2. Choose the pair that it "
-           u"was "
-           "encrypted for, on the Passwords tab."_qs.arg(nameOf(stage.archive), stage.tool.firstLine());
+    return u"\"%1\" can't be decrypted with this private key and certificate: %2. Choose "
+           "the pair that it was encrypted for, on the Passwords tab."_qs.arg(nameOf(stage.archive),
+                                                                              stage.tool.firstLine());
 }
 
 QString explainDecryption(const FailedStage &stage)

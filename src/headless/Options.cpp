@@ -23,6 +23,7 @@ const QList<CommandRow> &commands()
          u"extract"_qs,
          2,
          {u"to"_qs, u"method"_qs, u"password-file"_qs, u"yes"_qs, u"progress"_qs}},
+        {Command::Sync, u"sync"_qs, 2, {u"progress"_qs}},
         {Command::Tools, u"tools"_qs, 1, {}},
         {Command::Profiles, u"profiles"_qs, 1, {}}};
     return rows;
@@ -51,6 +52,7 @@ void describe(QCommandLineParser &parser)
         "  backup [PROFILE]                  back up the folders of a profile\n"
         "  extract [PROFILE] -- ARCHIVE...   turn archives back into folders; of a set the first volume,\n"
         "                                    or a folder of archives\n"
+        "  sync [PROFILE]                    synchronise the files and folders of a profile\n"
         "  tools                             list the external tools: name, path, ok or not\n"
         "  profiles                          list the profiles; * marks the one opened at start-up\n\n"
         "Exit status: 0 done, 1 failed or cancelled, 2 could not start, 64 wrong usage."_qs);
@@ -64,7 +66,7 @@ void describe(QCommandLineParser &parser)
          {u"yes"_qs,
           u"Write into a folder that is not empty, and extract in spite of what seems to be missing."_qs},
          {u"progress"_qs, u"Show progress even where no terminal is."_qs}});
-    parser.addPositionalArgument(u"command"_qs, u"backup, extract, tools or profiles."_qs);
+    parser.addPositionalArgument(u"command"_qs, u"backup, extract, sync, tools or profiles."_qs);
     parser.addPositionalArgument(u"PROFILE"_qs,
                                  u"The profile; without it the one that the window would open."_qs);
 }
@@ -83,12 +85,14 @@ ParsedArguments parseArguments(const QStringList &arguments)
     if (parser.isSet(u"help"_qs)) return {std::nullopt, parser.helpText(), Done};
 
     const QStringList words = parser.positionalArguments();
-    if (words.isEmpty()) return wrongUsage(u"A command is missing: backup, extract, tools or profiles."_qs);
+    if (words.isEmpty())
+        return wrongUsage(u"A command is missing: backup, extract, sync, tools or profiles."_qs);
     const auto command = std::find_if(commands().begin(), commands().end(),
                                       [&](const CommandRow &row) { return row.name == words.first(); });
     if (command == commands().end())
         return wrongUsage(
-            u"\"%1\" is no command; there are backup, extract, tools and profiles."_qs.arg(words.first()));
+            u"\"%1\" is no command; there are backup, extract, sync, tools and profiles."_qs.arg(
+                words.first()));
 
     const bool extracts = command->command == Command::Extract;
     if (extracts && archives.isEmpty())

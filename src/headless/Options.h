@@ -6,7 +6,7 @@
 
 /// What `quillorent-run` was asked to do.
 struct Options {
-    enum class Command { Backup, Extract, Tools, Profiles };
+    enum class Command { Backup, Extract, Sync, Tools, Profiles };
 
     Command command = Command::Profiles;
     QString profile;           ///< empty: the one that the window would open

@@ -11,6 +11,8 @@ namespace {
 
 QString describe(const QuillorentAppDelegate &delegate)
 {
+    // rsync has no items to count.
+    if (const QString line = delegate.progress03progressLabel02.text(); !line.isEmpty()) return line;
     const auto size = [](double bytes) {
         return QLocale().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeSIFormat);
     };

@@ -3,6 +3,7 @@
 #include "headless/BackupCommand.h"
 #include "headless/ExtractCommand.h"
 #include "headless/Print.h"
+#include "headless/SyncCommand.h"
 #include "tools/Verification.h"
 
 #include <QCoreApplication>
@@ -49,17 +50,22 @@ bool openProfile(QuillorentAppDelegate &delegate, const QString &name)
 
 ExitStatus runCommand(QuillorentAppDelegate &delegate, const Options &options)
 {
+    const auto runForProfile = [&](auto run) {
+        return openProfile(delegate, options.profile) ? run(delegate, options) : NotStarted;
+    };
     switch (options.command) {
     case Options::Command::Tools:
         return listTools(delegate);
     case Options::Command::Profiles:
         return listProfiles(delegate);
-    case Options::Command::Extract:
-        return openProfile(delegate, options.profile) ? runExtraction(delegate, options) : NotStarted;
     case Options::Command::Backup:
-        break;
+        return runForProfile(runBackup);
+    case Options::Command::Extract:
+        return runForProfile(runExtraction);
+    case Options::Command::Sync:
+        return runForProfile(runSync);
     }
-    return openProfile(delegate, options.profile) ? runBackup(delegate, options) : NotStarted;
+    return WrongUsage;
 }
 
 } // namespace

@@ -53,9 +53,8 @@ QString quillorentLibrary::validityWarning(const CertificateSummary &summary, co
         return u"This certificate is not valid before %1. Check the computer's clock, or choose another one."_qs
             .arg(day(summary.notBefore));
     if (now > summary.notAfter)
-        return u"This certificate has expired on %1. What it encrypted still opens with its private key; for "
-               u"new "
-               "archives choose one that is valid."_qs.arg(day(summary.notAfter));
+        return u"This certificate has expired on %1. What it encrypted still opens with its "
+               "private key; for new archives choose one that is valid."_qs.arg(day(summary.notAfter));
     const qint64 days = now.daysTo(summary.notAfter);
     if (days > soonDays) return {};
     return days == 0 ? u"This certificate expires today."_qs

@@ -31,13 +31,12 @@ QString whyNotRead(KeyFileKind kind)
         return u"\"%1\" looks like a certificate, but can't be read as one. It may be damaged."_qs;
     case PrivateKey:
     case EncryptedKey:
-        return u"\"%1\" holds a private key, not a certificate. Choose the certificate that belongs to it "
-               u"here, and "
-               "this file as the private key."_qs;
+        return u"\"%1\" holds a private key, not a certificate. Choose the certificate that "
+               "belongs to it here, and this file as the private key."_qs;
     case Pkcs12:
-        return u"\"%1\" is a PKCS#12 container. Only PEM, the text form, is accepted. Take the certificate "
-               u"out "
-               "with:\n\nopenssl pkcs12 -in FILE -clcerts -nokeys -out certificate.pem"_qs;
+        return u"\"%1\" is a PKCS#12 container. Only PEM, the text form, is accepted. Take "
+               "the certificate out with:\n\nopenssl pkcs12 -in FILE -clcerts -nokeys -out "
+               "certificate.pem"_qs;
     case Der:
         return u"\"%1\" is not PEM but binary (DER). Only PEM, the text form, is accepted. Convert it "
                "with:\n\nopenssl x509 -inform DER -in FILE -out certificate.pem"_qs;
@@ -50,10 +49,9 @@ QString whyNotMatching(const QString &output, KeyFileKind kind)
 {
     switch (kind) {
     case EncryptedKey:
-        return u"The private key in \"%1\" is encrypted with a pass phrase, which the program can't give to "
-               u"OpenSSL. "
-               "Make a copy without one, and keep it where nobody else can read it:\n\n"
-               "openssl rsa -in FILE -out key.pem"_qs;
+        return u"The private key in \"%1\" is encrypted with a pass phrase, which the "
+               "program can't give to OpenSSL. Make a copy without one, and keep it where "
+               "nobody else can read it:\n\nopenssl rsa -in FILE -out key.pem"_qs;
     case Certificate:
         if (output.contains(u"PUBLIC KEY")) break; // key and certificate in one file
         return u"\"%1\" holds a certificate, not a private key. Choose the private key that belongs to the "
@@ -68,9 +66,9 @@ QString whyNotMatching(const QString &output, KeyFileKind kind)
         return u"The private key in \"%1\" is not an RSA key. Only RSA keys, with RSA certificates, can be used."_qs;
     if (!output.contains(u"BEGIN PUBLIC KEY"))
         return u"\"%1\" holds no private key that can be read. It must be an RSA key in PEM, the text form."_qs;
-    return u"The private key in \"%1\" does not belong to the certificate \"%2\". Choose the key that the "
-           u"certificate "
-           "was made with; no other one opens what the certificate encrypts."_qs;
+    return u"The private key in \"%1\" does not belong to the certificate \"%2\". Choose "
+           "the key that the certificate was made with; no other one opens what the "
+           "certificate encrypts."_qs;
 }
 
 } // namespace
@@ -88,9 +86,8 @@ QString quillorentLibrary::whyNoCertificate(const QString &path)
 QString quillorentLibrary::whyNoKey(const QString &certificate, const QString &key)
 {
     if (certificate.isEmpty())
-        return u"No certificate is chosen yet. Choose it first: a private key is accepted only with the "
-               u"certificate "
-               "that it belongs to."_qs;
+        return u"No certificate is chosen yet. Choose it first: a private key is accepted "
+               "only with the certificate that it belongs to."_qs;
     if (!testCert(certificate, u"Validity"_qs))
         return u"The certificate itself can't be used any more. "_qs + whyNoCertificate(certificate);
     const KeyFile file = examineKeyFile(key);

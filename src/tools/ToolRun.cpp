@@ -7,8 +7,10 @@
 #include <csignal>
 #include <cstring>
 #include <fcntl.h>
+#include <fstream>
 #include <mutex>
 #include <spawn.h>
+#include <string>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
@@ -158,6 +160,12 @@ public:
         m_ended.wait_for(lock, atMost, [this] { return m_tools.empty(); });
     }
 
+    std::vector<pid_t> ids()
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_tools;
+    }
+
     int count()
     {
         const std::lock_guard lock(m_mutex);
@@ -207,9 +215,11 @@ ToolResult runTool(const QString &tool, const QStringList &arguments)
 
     pipe.closeWriteEnd();
     QByteArray bytes = pipe.readToEnd();
-    bytes += describeEnd(tool, runningTools().waitFor(child)).toUtf8();
-    if (!bytes.isValidUtf8()) return {std::nullopt};
-    return {QString::fromUtf8(bytes)};
+    const int status = runningTools().waitFor(child);
+    bytes += describeEnd(tool, status).toUtf8();
+    const int exitStatus = WIFEXITED(status) ? WEXITSTATUS(status) : 0;
+    if (!bytes.isValidUtf8()) return {std::nullopt, true, exitStatus};
+    return {QString::fromUtf8(bytes), true, exitStatus};
 }
 
 void endTools(std::chrono::milliseconds grace)
@@ -217,6 +227,19 @@ void endTools(std::chrono::milliseconds grace)
     runningTools().signalAll(SIGTERM);
     runningTools().waitForNone(grace);
     runningTools().signalAll(SIGKILL);
+}
+
+// "rchar" in proc_pid_io(5).
+quint64 bytesReadByTools()
+{
+    quint64 bytes = 0;
+    for (const pid_t tool : runningTools().ids()) {
+        std::ifstream figures("/proc/" + std::to_string(tool) + "/io");
+        std::string name;
+        quint64 value = 0;
+        if (figures >> name >> value && name == "rchar:") bytes += value;
+    }
+    return bytes;
 }
 
 int toolsRunning() { return runningTools().count(); }

@@ -10,8 +10,9 @@
 struct ToolResult {
     std::optional<QString> output; ///< none where it was not UTF-8
     bool wasStarted = true;
+    int exitStatus = 0; ///< 0 also where a signal ended it
 
-    /// A tool succeeded when it said nothing. Its exit status is not looked at.
+    /// A tool succeeded when it said nothing, whatever its exit status.
     [[nodiscard]] bool isSilent() const { return output && output->isEmpty(); }
 
     /// What it said, "" where that was not UTF-8.
@@ -33,6 +34,10 @@ struct ToolResult {
 /// Ends every tool that runs, with all that it started: asks first, and kills what is still there after
 /// `grace`. Blocks until then at the longest. Any thread may call.
 void endTools(std::chrono::milliseconds grace = std::chrono::seconds(2));
+
+/// How many bytes the tools that run have read by now, from files and connections; 0 where the system does
+/// not tell. What they have started is not counted.
+[[nodiscard]] quint64 bytesReadByTools();
 
 /// How many tools run at this moment.
 [[nodiscard]] int toolsRunning();

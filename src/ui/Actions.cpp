@@ -122,6 +122,21 @@ constexpr ActionRow table[] = {
     {"pkButton01"_name, send<&Controller::pkButton01Action>},
     {"certInfoButton02"_name, send<&Controller::certInfo02>},
 
+    {"syncButton01"_name, send<&Controller::syncButton01Action>},
+    {"syncButton02"_name, removeSelected<&Controller::syncTableView, &Controller::syncButton02Action>},
+    {"syncButtoSrc"_name, send<&Controller::syncButtoSrcAction>},
+    {"syncButtoDest"_name, send<&Controller::syncButtoDestAction>},
+    {"syncTextDestPath"_name, send<&Controller::syncTextDestPathAction>},
+    {"syncSelector01"_name, send<&Controller::syncSelector01Action>},
+    {"checkBoxSync1"_name, send<&Controller::checkBoxSync1Action>},
+    {"checkBoxSync2"_name, send<&Controller::checkBoxSync2Action>},
+    {"syncCheck01"_name, send<&Controller::syncCheck01Action>},
+    {"syncUser"_name, send<&Controller::syncCheck02Action>},
+    {"syncServer"_name, send<&Controller::syncCheck02Action>},
+    {"syncPort"_name, send<&Controller::syncCheck02Action>},
+    {"previewButton01"_name, send<&Controller::previewButton01Action>},
+    {"buttonLaunch03"_name, send<&Controller::buttonLaunch03>},
+
     {"settingsSaveButton"_name, send<&Controller::saveSettings1Action>},
     {"consoleShowButton"_name, showConsole},
 
@@ -151,6 +166,11 @@ constexpr ActionRow table[] = {
     {"buttonCancel01"_name, cancelRun<&Controller::buttonCancel01>},
     {"progressPanel02"_name, cancelRun<&Controller::buttonCancel02>},
     {"buttonCancel02"_name, cancelRun<&Controller::buttonCancel02>},
+    {"progressPanel03"_name, cancelRun<&Controller::buttonCancel03>},
+    {"buttonCancel03"_name, cancelRun<&Controller::buttonCancel03>},
+    {"previewPanel01"_name, send<&Controller::previewPanel01Close>},
+    {"previewPanel01CloseButton"_name, send<&Controller::previewPanel01Close>},
+    {"previewPanel01LaunchButton"_name, send<&Controller::previewPanel01Launch>},
     {"warningPanel01"_name, send<&Controller::warningPanel01Close>},
     {"warningPanel01CloseButton"_name, send<&Controller::warningPanel01Close>},
     {"certPanel01"_name, send<&Controller::certButton01ActionEnd>},
@@ -200,23 +220,23 @@ bool connectControl(QWidget &widget, Perform perform)
     return false;
 }
 
-template <class List>
-void connectPathList(Controller &controller, QMainWindow &window,
-                     void (Controller::*add)(const QStringList &), const QString &removeButton)
+void connectPathList(Controller &controller, QMainWindow &window, const QString &name,
+                     const QString &removeButton, void (Controller::*add)(const QStringList &))
 {
-    for (auto *list : window.findChildren<List *>()) {
-        QObject::connect(list, &PathListView::pathsDropped, list,
-                         [&controller, add](const QStringList &paths) { (controller.*add)(paths); });
-        QObject::connect(list, &PathListView::deletePressed,
-                         window.findChild<QAbstractButton *>(removeButton), &QAbstractButton::click);
-    }
+    auto *list = window.findChild<PathListView *>(name);
+    QObject::connect(list, &PathListView::pathsDropped, list,
+                     [&controller, add](const QStringList &paths) { (controller.*add)(paths); });
+    QObject::connect(list, &PathListView::deletePressed, window.findChild<QAbstractButton *>(removeButton),
+                     &QAbstractButton::click);
 }
 
 // What the lists do beyond showing their outlets.
 void connectLists(Controller &controller, QMainWindow &window)
 {
-    connectPathList<FolderListView>(controller, window, &Controller::addFolders, u"folderButton02"_qs);
-    connectPathList<ArchiveListView>(controller, window, &Controller::addArchives, u"extractButton02"_qs);
+    connectPathList(controller, window, u"listTableView"_qs, u"folderButton02"_qs, &Controller::addFolders);
+    connectPathList(controller, window, u"extractTableView"_qs, u"extractButton02"_qs,
+                    &Controller::addArchives);
+    connectPathList(controller, window, u"syncTableView"_qs, u"syncButton02"_qs, &Controller::addSyncEntries);
     for (auto *tools : window.findChildren<ToolTableView *>())
         QObject::connect(tools, &ToolTableView::chooseRequested, tools,
                          [&controller] { controller.selectFile(); });

@@ -37,9 +37,11 @@ void OutletTableModel::setSource(outlets::TableDataSource *source)
 void OutletTableModel::reload()
 {
     const QList<Row> rows = readQuickCells();
-    resize(int(rows.size()));
-    for (int row = 0; row < rows.size(); ++row)
+    removeBehind(int(rows.size()));
+    const int kept = int(m_rows.size());
+    for (int row = 0; row < kept; ++row)
         setRow(row, rows[row]);
+    append(rows.mid(kept));
     fetchSlowCells();
 }
 
@@ -57,18 +59,23 @@ QList<OutletTableModel::Row> OutletTableModel::readQuickCells() const
     return rows;
 }
 
-void OutletTableModel::resize(int rows)
+void OutletTableModel::removeBehind(int rows)
 {
     const int before = int(m_rows.size());
-    if (rows > before) {
-        beginInsertRows({}, before, rows - 1);
-        m_rows.resize(rows);
-        endInsertRows();
-    } else if (rows < before) {
-        beginRemoveRows({}, rows, before - 1);
-        m_rows.resize(rows);
-        endRemoveRows();
-    }
+    if (before <= rows) return;
+    beginRemoveRows({}, rows, before - 1);
+    m_rows.resize(rows);
+    endRemoveRows();
+}
+
+// New rows come with their cells: a hundred thousand of them would take long to announce one by one.
+void OutletTableModel::append(const QList<Row> &rows)
+{
+    if (rows.isEmpty()) return;
+    const int before = int(m_rows.size());
+    beginInsertRows({}, before, before + int(rows.size()) - 1);
+    m_rows.append(rows);
+    endInsertRows();
 }
 
 void OutletTableModel::setRow(int row, const Row &cells)

@@ -47,7 +47,8 @@ private:
 
     static QVariant fetchFromSource(const outlets::TableDataSource &source, const QString &column, int row);
     [[nodiscard]] QList<Row> readQuickCells() const;
-    void resize(int rows);
+    void removeBehind(int rows);
+    void append(const QList<Row> &rows);
     void setRow(int row, const Row &cells);
     void setFetched(const QString &column, int row, const QVariant &value);
     void fetchSlowCells();

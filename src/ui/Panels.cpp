@@ -10,9 +10,11 @@
 #include "ui_MessagePanel.h"
 #include "ui_NamePanel.h"
 #include "ui_PreferencesPanel01.h"
+#include "ui_PreviewPanel01.h"
 #include "ui_ProfilePanel04.h"
 #include "ui_ProgressPanel01.h"
 #include "ui_ProgressPanel02.h"
+#include "ui_ProgressPanel03.h"
 #include "ui_UpdatePanel01.h"
 #include "ui_WarningPanel02.h"
 #include "ui_WarningPanel03.h"
@@ -157,9 +159,14 @@ QList<QWidget *> makeProfileSheets(QWidget &window)
 Panels::Panels(QuillorentAppDelegate &controller, QWidget &window)
     : m_all(makeMessages(window) + makeQuestions(window) + makeProfileSheets(window))
 {
-    m_all += {makeConsole(window), makePlain<Ui::UpdatePanel01>(window)};
+    m_all +=
+        {makeConsole(window), makePlain<Ui::PreviewPanel01>(window), makePlain<Ui::UpdatePanel01>(window)};
     addProgressSheet<Ui::ProgressPanel01>(controller, window);
     addProgressSheet<Ui::ProgressPanel02>(controller, window);
+    // rsync itself counts what it does.
+    m_progressSheets += makePlain<Ui::ProgressPanel03>(window);
+    m_progressSheets.last()->keepWindowClosable();
+    m_all += m_progressSheets.last();
 }
 
 Panels::~Panels() = default;

@@ -28,7 +28,7 @@ private:
 
     QList<QWidget *> m_all;
     QList<PanelDialog *> m_progressSheets;
-    std::vector<std::unique_ptr<ProgressFigures>> m_figures; // one a progress sheet
+    std::vector<std::unique_ptr<ProgressFigures>> m_figures; // of the sheets that count items
 };
 
 } // namespace ui

@@ -1,5 +1,6 @@
 #include "ui/ProgressFigures.h"
 
+#include "app/Clock.h"
 #include "app/RunState.h"
 #include "ui/Appearance.h"
 
@@ -16,15 +17,6 @@ namespace {
 QString dataSize(double bytes)
 {
     return QLocale().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeSIFormat);
-}
-
-QString clock(std::chrono::milliseconds time)
-{
-    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(time).count();
-    const QChar zero = u'0';
-    return u"%1:%2:%3"_qs.arg(seconds / 3600)
-        .arg(seconds / 60 % 60, 2, 10, zero)
-        .arg(seconds % 60, 2, 10, zero);
 }
 
 void setCell(QTreeWidgetItem &row, int column, const QString &text)
@@ -61,7 +53,7 @@ void ProgressFigures::update()
 {
     m_widgets.itemsDone.setText(tr("%1 of %2 items").arg(m_run.foldersDone()).arg(m_run.foldersToDo()));
     m_widgets.bytesDone.setText(tr("%1 of %2").arg(dataSize(m_run.sizeDone()), dataSize(m_run.sizeToDo())));
-    m_widgets.elapsed.setText(tr("Time: %1").arg(clock(m_run.elapsed())));
+    m_widgets.elapsed.setText(tr("Time: %1").arg(clockText(m_run.elapsed())));
     updateItems();
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/QuillorentAppDelegate.h"
 #include "keys/Strength.h"
+#include "sync/SyncMeaning.h"
 #include "ui/Actions.h"
 #include "ui/Binding.h"
 #include "ui/OpenPanelDialog.h"
@@ -45,6 +46,25 @@ QString strengthHint(const QString &password)
             "a lost backup.");
     }
     return {};
+}
+
+struct RunWords {
+    QString title;
+    QString text;
+    QString consequence; ///< of stopping it
+};
+
+RunWords wordsOfRun(const QWidget &sheet)
+{
+    if (sheet.objectName() == u"progressPanel03")
+        return {Window::tr("Synchronisation in progress"), Window::tr("rsync is running."),
+                Window::tr("Quitting stops it: what is copied stays, and the next run goes on from there.")};
+    if (sheet.objectName() == u"progressPanel02")
+        return {Window::tr("Extraction in progress"), Window::tr("An extraction is running."),
+                Window::tr("Quitting stops it: what is extracted stays, and is not complete.")};
+    return {Window::tr("Backup in progress"), Window::tr("A backup is running."),
+            Window::tr("Quitting stops it: archives that are finished stay, those being made are not "
+                       "completed.")};
 }
 
 } // namespace
@@ -132,6 +152,21 @@ void Window::deriveFromOutlets()
                                                                 m_form->volumeUnit, m_form->volumeHint})
             widget->setEnabled(m_controller.checkBox04.isOn());
     });
+    queue.watch(all.syncTableView, [this] {
+        m_form->syncButton02->setEnabled(!m_controller.syncTableView.selectedRows().isEmpty());
+    });
+    queue.watch({&all.syncTableView, &all.syncTextDestPath, &all.syncSelector01, &all.checkBoxSync1,
+                 &all.checkBoxSync2, &all.syncCheck01, &all.syncUser, &all.syncServer, &all.syncPort},
+                [this] { describeSynchronisation(); });
+}
+
+void Window::describeSynchronisation()
+{
+    const SyncRequest request = readSyncRequest();
+    QFont font = m_form->syncMeaning->font();
+    font.setBold(request.deletesExtra && request.removesSources);
+    m_form->syncMeaning->setFont(font);
+    m_form->syncMeaning->setText(describeSync(request));
 }
 
 void Window::addShortcuts()
@@ -160,15 +195,13 @@ void Window::closeEvent(QCloseEvent *event)
 void Window::askToStop()
 {
     if (m_question) return;
-    const QList<PanelDialog *> sheets = m_panels->progressSheets();
-    const auto shown =
-        std::find_if(sheets.begin(), sheets.end(), [](auto *sheet) { return sheet->isVisible(); });
-    QWidget *over = shown == sheets.end() ? static_cast<QWidget *>(this) : *shown;
+    QWidget *over = this;
+    for (PanelDialog *sheet : m_panels->progressSheets())
+        if (sheet->isVisible()) over = sheet;
+    const RunWords words = wordsOfRun(*over);
     auto *question =
-        new QMessageBox(QMessageBox::Question, tr("Still running"),
-                        tr("A backup or an extraction is running."), QMessageBox::NoButton, over);
-    question->setInformativeText(
-        tr("Quitting stops it: what is finished stays, what is being worked on is not completed."));
+        new QMessageBox(QMessageBox::Question, words.title, words.text, QMessageBox::NoButton, over);
+    question->setInformativeText(words.consequence);
     QPushButton *stop = question->addButton(tr("&Stop and quit"), QMessageBox::DestructiveRole);
     QPushButton *keep = question->addButton(tr("&Keep running"), QMessageBox::RejectRole);
     question->setDefaultButton(keep);
@@ -179,7 +212,7 @@ void Window::askToStop()
         close();
     });
     // The question goes with the sheet: then the run is over, or cancelled.
-    for (PanelDialog *sheet : sheets)
+    for (PanelDialog *sheet : m_panels->progressSheets())
         connect(sheet, &PanelDialog::visibilityChanged, question, &QDialog::reject);
     m_question = question;
     question->open();

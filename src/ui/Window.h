@@ -38,6 +38,7 @@ protected:
 private:
     void finishForm();
     void deriveFromOutlets();
+    void describeSynchronisation();
     void addShortcuts();
     void askToStop();
 

@@ -41,14 +41,17 @@ public:
                       std::to_string(source) + "</integer>" +
                       entry("path", (m_folder / "archives").string()) + entry("emptydir", "0") +
                       entry("symencryption", "OpenSSL-AES") + entry("asymencryption", "OpenSSL-SMIME") +
-                      entry(key, value) + "</dict></dict></plist>");
+                      entry("rsyncdst", (m_folder / "copy").string()) + entry(key, value) +
+                      "<key>sync</key><array><string>" + (m_folder / "docs").string() +
+                      "</string></array></dict></dict></plist>");
     }
 
     [[nodiscard]] CommandResult run(std::vector<std::string> arguments, const std::string &input = {}) const
     {
         arguments.insert(arguments.begin(), {"setsid", "--wait", QUILLORENT_RUN}); // no terminal to ask on
         return runCommand(arguments, {.environment = {{"HOME", m_folder.path().string()},
-                                                      {"XDG_CONFIG_HOME", (m_folder / "config").string()}},
+                                                      {"XDG_CONFIG_HOME", (m_folder / "config").string()},
+                                                      {"TMPDIR", m_folder.path().string()}},
                                       .input = input});
     }
 
@@ -119,6 +122,7 @@ TEST(Run, RefusesWrongUsage)
              {{"backup", "--now"}, "now"},
              {{"backup", "Mine", "Yours"}, "\"Yours\" is one word too many"},
              {{"tools", "--yes"}, "does not go with"},
+             {{"sync", "--yes"}, "does not go with"},
              {{"backup", "--password-file"}, "password-file"},
              {{"backup", "--to", "/x"}, "does not go with"},
              {{"backup", "--", "x.rar"}, "\"x.rar\" is one word too many"},
@@ -302,15 +306,37 @@ TEST(Run, SaysWhyItDoesNotExtract)
         "No extraction folder is chosen"));
 }
 
+TEST(Run, Synchronises)
+{
+    const Home home;
+    const CommandResult done = home.run({"sync", "Mine", "--progress"});
+    EXPECT_EQ(done.status, 0) << done.errors;
+    EXPECT_TRUE(contains(done.errors, "Synchronised 1 entry")) << done.errors;
+    EXPECT_EQ(readFile(home.folder() / "copy/docs/file"), "content");
+
+    fs::remove_all(home.folder() / "docs");
+    const CommandResult failed = home.run({"sync", "Mine"});
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_TRUE(contains(failed.errors, "not where it was")) << failed.errors;
+    EXPECT_TRUE(contains(failed.errors, "link_stat")) << failed.errors;
+
+    const CommandResult refused = home.run({"sync", "Default profile"});
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_TRUE(contains(refused.errors, "The list is empty")) << refused.errors;
+}
+
 TEST(Run, EndsItsToolsOnASignal)
 {
-    for (const int signal : {SIGINT, SIGTERM}) {
+    for (const auto &[signal, name, synchronises] :
+         {std::tuple{SIGINT, "rar", false}, {SIGTERM, "rar", false}, {SIGTERM, "rsync", true}}) {
         const Home home;
-        const Stub rar(home.folder() / "tools", "rar", "hang Unknown option");
-        home.useTool(std::string(QUILLORENT_LIBEXEC) + "/rar", rar.path());
+        const Stub stub(home.folder() / "tools", name, "hang Unknown option");
+        home.useTool(synchronises ? "/usr/bin/rsync" : std::string(QUILLORENT_LIBEXEC) + "/rar", stub.path());
         CommandResult result;
-        std::thread program([&] { result = home.backUp({"--progress"}); });
-        const int tool = rar.processId();
+        std::thread program([&, sync = synchronises] {
+            result = sync ? home.run({"sync", "Mine", "--progress"}) : home.backUp({"--progress"});
+        });
+        const int tool = stub.processId();
         const std::string parent = runCommand({"ps", "-o", "ppid=", "-p", std::to_string(tool)}).output;
         kill(std::stoi(parent), signal);
         program.join();

@@ -1,0 +1,92 @@
+#include "sync/SyncArguments.h"
+
+#include "files/Names.h"
+
+namespace {
+
+/// "/" of "/" and of what lies in it; empty of a name alone.
+QString parentOf(const QString &path)
+{
+    qsizetype end = path.size();
+    const auto skip = [&](bool slashes) {
+        while (end > 0 && (path[end - 1] == u'/') == slashes)
+            --end;
+    };
+    skip(true);
+    skip(false);
+    skip(true);
+    if (end > 0) return path.left(end);
+    return path.startsWith(u'/') ? u"/"_qs : QString();
+}
+
+// rsync takes some argument in each place, so a switch that is off becomes an option without an effect here.
+const QString noOption = u"-h"_qs;
+
+} // namespace
+
+QString syncArguments::rootOf(const QStringList &entries)
+{
+    if (entries.isEmpty()) return {};
+    QString root = parentOf(entries.first());
+    for (const QString &entry : entries)
+        while (!root.isEmpty() && !entry.contains(root))
+            root = parentOf(root) == root ? QString() : parentOf(root);
+    return root;
+}
+
+QString syncArguments::lineOf(const QString &entry, const QString &root)
+{
+    // Without all of its slashes an entry would be no path any more.
+    return root == u"/" || root.isEmpty() ? entry : QString(entry).remove(root);
+}
+
+QStringList syncArguments::misnamedEntries(const QStringList &entries)
+{
+    const QString root = rootOf(entries);
+    QStringList misnamed;
+    for (const QString &entry : entries) {
+        const QString line = lineOf(entry, root);
+        const bool isFound = root == u"/" || (line.startsWith(u'/') && root + line == entry);
+        if (!isFound) misnamed.append(entry);
+    }
+    return misnamed;
+}
+
+QByteArray syncArguments::list(const QStringList &entries)
+{
+    const QString root = rootOf(entries);
+    QStringList lines;
+    for (const QString &entry : entries)
+        lines.append(lineOf(entry, root));
+    return lines.join(u'\n').toUtf8();
+}
+
+QString syncArguments::destination(const SyncRequest &request)
+{
+    if (!request.isRemote) return request.destination;
+    const QString user = request.user.isEmpty() ? u"@"_qs : QString();
+    const QString port = request.port.isEmpty() ? QString() : request.port + u':';
+    return user + request.server + u':' + port + request.destination;
+}
+
+QStringList syncArguments::transfer(const SyncRequest &request, const QString &listFile)
+{
+    if (!request.parameters) return {};
+    QStringList arguments{*request.parameters, request.mode == u"0"_qs ? u"-u"_qs : u"-c"_qs};
+    if (!request.excludes) return arguments;
+    return arguments << *request.excludes << (request.deletesExtra ? u"--delete"_qs : noOption)
+                     << (request.removesSources ? u"--remove-source-files"_qs : noOption)
+                     << u"--files-from="_qs + listFile << rootOf(request.entries) << destination(request);
+}
+
+QStringList syncArguments::preview(const SyncRequest &request, const QString &listFile)
+{
+    constexpr qsizetype behindOptions = 5;
+    QStringList arguments = transfer(request, listFile);
+    QStringList added{u"--dry-run"_qs, u"--itemize-changes"_qs, u"--out-format=%i\t%l\t%n"_qs};
+    // A file that is at the destination already is removed as well; said twice, the option shows it.
+    if (request.removesSources) added.insert(1, u"--itemize-changes"_qs);
+    for (const QString &argument : added)
+        arguments.insert(std::min(behindOptions, arguments.size()), argument);
+    return arguments;
+}

@@ -1,0 +1,74 @@
+#include "sync/SyncMeaning.h"
+
+#include "sync/SyncArguments.h"
+
+namespace {
+
+QString whatIsCopied(const SyncRequest &request)
+{
+    if (request.mode == u"0"_qs)
+        return u"Copies what is new or was changed here. Files that are newer at the destination "
+               "stay as they are."_qs;
+    return u"Copies every file whose content differs, also over a newer one at the destination. "
+           "All files are read on both sides, which takes long."_qs;
+}
+
+QString whatIsDeleted(const SyncRequest &request)
+{
+    if (request.deletesExtra && request.removesSources)
+        return u"MOVES the files: they are removed here once they are at the destination. And "
+               "deletes at the destination, inside the listed folders, what is not here: a "
+               "second run deletes there what the first one moved there, and then it is nowhere."_qs;
+    if (request.deletesExtra)
+        return u"Deletes at the destination, inside the listed folders, everything that is not "
+               "here any more."_qs;
+    if (request.removesSources)
+        return u"MOVES the files: they are removed here once they are at the destination. Folders "
+               "stay, empty."_qs;
+    return u"Deletes nothing, neither here nor there."_qs;
+}
+
+QStringList trapsOfServer(const SyncRequest &request)
+{
+    QStringList traps;
+    if (request.user.isEmpty())
+        traps.append(u"Without a user the server is sent an empty name, which it refuses: fill one in. "
+                     "Which name is used is for ~/.ssh/config to say; otherwise it is your own."_qs);
+    if (!request.port.isEmpty())
+        traps.append(u"The port becomes the beginning of the folder's path on the server. Leave it "
+                     "empty, and put it into ~/.ssh/config."_qs);
+    if (request.entries.size() == 1)
+        traps.append(
+            u"The folder must exist on the server: a single file would be stored under its name instead."_qs);
+    return traps;
+}
+
+bool isInside(const QString &path, const QString &folder)
+{
+    return path == folder || path.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
+}
+
+QStringList trapsOfEntries(const SyncRequest &request)
+{
+    QStringList traps;
+    for (const QString &entry : syncArguments::misnamedEntries(request.entries))
+        traps.append(u"\"%1\" will not be found: its path holds that of the common folder \"%2\" in "
+                     "the wrong place. Synchronise it from a profile of its own."_qs.arg(
+                         entry, syncArguments::rootOf(request.entries)));
+    for (const QString &entry : request.entries)
+        if (!request.isRemote && isInside(request.destination, entry))
+            traps.append(
+                u"The destination lies inside \"%1\", so that each run copies the copies of the last one."_qs
+                    .arg(entry));
+    return traps;
+}
+
+} // namespace
+
+QString describeSync(const SyncRequest &request)
+{
+    QStringList paragraphs{whatIsCopied(request), whatIsDeleted(request)};
+    if (request.isRemote) paragraphs += trapsOfServer(request);
+    paragraphs += trapsOfEntries(request);
+    return paragraphs.join(u'\n');
+}
