@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CipherDecryption.h"
 #include "SmimeDecryption.h"
 #include "ToolRun.h"
 
@@ -17,7 +18,7 @@ struct Refusal {
     std::string message;
 };
 
-using CommandPlan = std::variant<PassThrough, Refusal, ToolRun, SmimeDecryption>;
+using CommandPlan = std::variant<PassThrough, Refusal, ToolRun, CipherDecryption, SmimeDecryption>;
 
 /// What to do for this command line (without the program's name). A password in it moves to `password` and is
 /// overwritten in the memory of the arguments, so that the system's list of processes shows it no longer.

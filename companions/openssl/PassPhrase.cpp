@@ -51,6 +51,11 @@ bool isPassPhraseSource(std::string_view source)
     return source == standardInput || source.starts_with(variable) || source.starts_with(file);
 }
 
+bool isRepeatable(std::string_view source)
+{
+    return source.starts_with(variable) || source.starts_with(file);
+}
+
 bool fetchPassPhrase(const std::string &source, Secret &passPhrase, std::string &problem)
 {
     bool isTaken = false;

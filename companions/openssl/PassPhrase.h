@@ -9,6 +9,9 @@ class Secret;
 /// `file:PATH`, `fd:NUMBER` or `stdin`, as in https://docs.openssl.org/3.0/man1/openssl-passphrase-options/
 [[nodiscard]] bool isPassPhraseSource(std::string_view source);
 
+/// Whether such a source gives the same again to whoever reads it next.
+[[nodiscard]] bool isRepeatable(std::string_view source);
+
 /// Takes the pass phrase from such a source: a variable's value, or the first line of what is read. False:
 /// `problem` is a whole sentence that says why not.
 [[nodiscard]] bool fetchPassPhrase(const std::string &source, Secret &passPhrase, std::string &problem);
