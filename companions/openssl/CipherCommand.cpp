@@ -88,7 +88,7 @@ bool isOpenDecryption(const CommandLine &line)
 {
     const Option *const direction = line.last({"e", "d"});
     // With `-kfile` the tool has rules of its own for what belongs to the password.
-    return direction && direction->name == "d" && leavesDerivationOpen(line) && line.has({"k", "pass"}) &&
+    return direction && direction->name == "d" && leavesDerivationOpen(line) &&
            !line.has(
                {"K", "S", "iv", "nosalt", "saltlen", "skeyopt", "kfile", "z", "help", "list", "ciphers"}) &&
            line.operands().empty();
@@ -172,7 +172,7 @@ CommandPlan planCipherCommand(std::span<char *const> arguments, Secret &password
                        " bytes, the most that the system's tool reads: use a shorter one"};
 
     const bool hasPassword = passwordState == PasswordState::Taken;
-    if (isOpenDecryption(line) && (hasPassword || passPhraseSource(line)))
-        return planDecryption(line, derivation, hasPassword);
+    const bool isKnown = hasPassword || passPhraseSource(line) || !line.has({"k", "pass"});
+    if (isKnown && isOpenDecryption(line)) return planDecryption(line, derivation, hasPassword);
     return planToolRun(line, derivation, hasPassword);
 }

@@ -16,7 +16,7 @@ void addOptions(ToolRun &run, const std::vector<std::string> &options)
 
 /// Fetches the pass phrase into the secret and lets the tool have it from there, but where only the tool can
 /// make something of it. False: it is lost; `problem` says why.
-bool takePassPhrase(const std::string &source, ToolRun &run, Secret &passPhrase, std::string &problem)
+bool fetchOnce(const std::string &source, ToolRun &run, Secret &passPhrase, std::string &problem)
 {
     const bool isFetched = fetchPassPhrase(source, passPhrase, problem);
     // A pipe carries one line.
@@ -24,6 +24,19 @@ bool takePassPhrase(const std::string &source, ToolRun &run, Secret &passPhrase,
     if (run.hasPassword) return true;
     addOptions(run, {"-pass", source});
     return isFetched || isRepeatable(source);
+}
+
+/// The same, from wherever the pass phrase is.
+bool takePassPhrase(const CipherDecryption &decryption, ToolRun &run, Secret &passPhrase,
+                    std::string &problem)
+{
+    if (run.hasPassword) return true;
+    if (decryption.passPhraseSource) return fetchOnce(*decryption.passPhraseSource, run, passPhrase, problem);
+    // Without a terminal the tool takes the password from its standard input, in a way of its own.
+    if (!hasTerminal()) return true;
+    run.hasPassword = askPassPhrase(decryption.cipher, passPhrase);
+    if (!run.hasPassword) problem = "no password was given";
+    return run.hasPassword;
 }
 
 std::optional<KeyDerivation> olderDerivation(const CipherDecryption &decryption, const std::string &head,
@@ -40,8 +53,7 @@ int decryptWithCipher(const std::string &tool, const CipherDecryption &decryptio
 {
     ToolRun run = decryption.run;
     std::string problem;
-    if (decryption.passPhraseSource &&
-        !takePassPhrase(*decryption.passPhraseSource, run, passPhrase, problem)) {
+    if (!takePassPhrase(decryption, run, passPhrase, problem)) {
         complain(problem);
         return 1;
     }

@@ -16,7 +16,7 @@ struct CipherDecryption {
     bool isBase64 = false;
     std::string digest; ///< that the caller named; empty: none
     /// Where the pass phrase comes from: fetchPassPhrase(). Nothing: it is in the secret that goes with the
-    /// plan.
+    /// plan, where `run.hasPassword`, or else a person is asked.
     std::optional<std::string> passPhraseSource{};
     KeyDerivation current = currentKeyDerivation; ///< for every file that is of none of the older ones
 };

@@ -56,7 +56,8 @@ TEST(CommandPlan, AddsWhatTheCallerLeftOpen)
         {"aes256 -d -e -k hush", "aes256" + derivation + buffer + " -d -e", "hush"},
         {"aes256 -d -nosalt -k hush", "aes256" + derivation + buffer + " -d -nosalt", "hush"},
         {"aes256 -d -kfile P", "aes256" + derivation + buffer + " -d -kfile P"},
-        {"aes256 -d -in F", "aes256" + derivation + buffer + " -d -in F"},
+        {"aes256 -d -in F", "aes256" + buffer + " -d"},
+        {"aes256 -d -pass hu-sh", "aes256" + derivation + buffer + " -d -pass hu-sh"},
         {"enc -e -rc4-40 -in F", "enc" + derivation + legacy + buffer + " -e -rc4-40 -in F"},
         {"des -in F", "des" + derivation + legacy + buffer + " -in F"},
         // What the caller chose stays his choice.

@@ -106,4 +106,16 @@ TEST_F(OlderDerivation, IsFoundWhereverInputAndPasswordComeFrom)
     EXPECT_FALSE(fs::exists(folder / "I"));
 }
 
+TEST_F(OlderDerivation, IsFoundWithOneQuestionToAPerson)
+{
+    encrypt(rar5 + binaryData(5'000), "-aes256 -md md5");
+    // A terminal of its own.
+    const std::string command = "'" + front + "' aes256 -d -a -in G -out H";
+    const CommandResult result =
+        runCommand({"script", "-qec", command, "/dev/null"}, {.folder = folder.path(), .input = "right\n"});
+    EXPECT_TRUE(result.status == 0 && fs::exists(folder / "H")) << result.output;
+    const std::size_t question = result.output.find("password:");
+    EXPECT_TRUE(question != std::string::npos && question == result.output.rfind("password:"));
+}
+
 } // namespace
