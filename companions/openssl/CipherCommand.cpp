@@ -2,6 +2,7 @@
 
 #include "CipherName.h"
 #include "CommandLine.h"
+#include "PassPhrase.h"
 #include "Secret.h"
 
 #include <array>
@@ -66,20 +67,89 @@ PasswordState takePassword(const CommandLine &line, Secret &password)
     return state;
 }
 
-/// Nothing is added to a derivation that the caller chose: another count would give another key.
-void addKeyDerivation(const CommandLine &line, const KeyDerivation &derivation,
-                      std::vector<std::string> &arguments)
+/// Whether the caller leaves it open how the key is made. Nothing is added to his choice: another count would
+/// give another key.
+bool leavesDerivationOpen(const CommandLine &line) { return !line.has({"pbkdf2", "iter"}); }
+
+void append(std::vector<std::string> &arguments, const std::vector<std::string> &more)
 {
-    if (line.has({"pbkdf2", "iter"})) return;
-    arguments.insert(arguments.end(), {"-pbkdf2", "-iter", std::to_string(derivation.iterations)});
-    if (!line.has({"md"})) arguments.insert(arguments.end(), {"-md", std::string(derivation.digest)});
+    arguments.insert(arguments.end(), more.begin(), more.end());
 }
 
 void addProviders(const CommandLine &line, std::string_view cipher, std::vector<std::string> &arguments)
 {
     if (!needsLegacyProvider(cipher) || line.has({"provider", "provider-path"})) return;
     // Naming one provider keeps the tool from loading the default one, which has the digests.
-    arguments.insert(arguments.end(), {"-provider", "legacy", "-provider", "default"});
+    append(arguments, {"-provider", "legacy", "-provider", "default"});
+}
+
+/// Whether this decrypts a file as the tool writes it, beginning with its salt, and the key is to be found.
+bool isOpenDecryption(const CommandLine &line)
+{
+    const Option *const direction = line.last({"e", "d"});
+    // With `-kfile` the tool has rules of its own for what belongs to the password.
+    return direction && direction->name == "d" && leavesDerivationOpen(line) &&
+           !line.has(
+               {"K", "S", "iv", "nosalt", "saltlen", "skeyopt", "kfile", "z", "help", "list", "ciphers"}) &&
+           line.operands().empty();
+}
+
+/// Where `-pass` says that the password is; nothing where it is spelled out, or no such place.
+std::optional<std::string> passPhraseSource(const CommandLine &line)
+{
+    const char *const source = line.value("pass");
+    return source && isPassPhraseSource(source) ? std::optional<std::string>(source) : std::nullopt;
+}
+
+/// All but the caller's own options.
+ToolRun planRun(const CommandLine &line, const std::vector<std::string> &derivation = {})
+{
+    ToolRun run;
+    run.arguments.emplace_back(line.command());
+    append(run.arguments, derivation);
+    addProviders(line, cipherOf(line), run.arguments);
+    if (!line.has({"bufsize"})) append(run.arguments, {"-bufsize", std::string(bufferSize)});
+    if (const char *const output = line.value("out")) run.output = output;
+    run.mayPrint = line.has({"p", "P", "v", "debug", "help", "list", "ciphers"});
+    return run;
+}
+
+/// The caller's own options but those for the result, for passwords that are spelled out, and those that
+/// `isOther` names.
+template <typename Predicate>
+void addGiven(const CommandLine &line, Predicate isOther, ToolRun &run)
+{
+    append(run.arguments, line.without([&isOther](const Option &option) {
+        return option.name == "out" || spelledPassword(option) || isOther(option);
+    }));
+}
+
+ToolRun planToolRun(const CommandLine &line, const KeyDerivation &derivation, bool hasPassword)
+{
+    const bool isOpen = leavesDerivationOpen(line);
+    ToolRun run =
+        planRun(line, isOpen ? derivationOptions(derivation, !line.has({"md"})) : std::vector<std::string>());
+    run.hasPassword = hasPassword;
+    addGiven(
+        line, [hasPassword](const Option &each) { return hasPassword && isPasswordOption(each); }, run);
+    return run;
+}
+
+CipherDecryption planDecryption(const CommandLine &line, const KeyDerivation &derivation, bool hasPassword)
+{
+    CipherDecryption decryption;
+    decryption.run = planRun(line);
+    decryption.run.hasPassword = hasPassword;
+    addGiven(
+        line, [](const Option &each) { return each.name == "in" || isPasswordOption(each); }, decryption.run);
+    decryption.cipher = cipherOf(line);
+    const char *const input = line.value("in");
+    if (input && std::string_view(input) != "-") decryption.input = input;
+    decryption.isBase64 = line.has({"a", "base64"});
+    if (const char *const digest = line.value("md")) decryption.digest = digest;
+    if (!hasPassword) decryption.passPhraseSource = passPhraseSource(line);
+    decryption.current = derivation;
+    return decryption;
 }
 
 } // namespace
@@ -101,20 +171,8 @@ CommandPlan planCipherCommand(std::span<char *const> arguments, Secret &password
         return Refusal{"the password is longer than " + std::to_string(Secret::maximumSize) +
                        " bytes, the most that the system's tool reads: use a shorter one"};
 
-    ToolRun run;
-    run.arguments.emplace_back(line.command());
-    addKeyDerivation(line, derivation, run.arguments);
-    addProviders(line, cipherOf(line), run.arguments);
-    if (!line.has({"bufsize"}))
-        run.arguments.insert(run.arguments.end(), {"-bufsize", std::string(bufferSize)});
-
-    run.hasPassword = passwordState == PasswordState::Taken;
-    const std::vector<std::string> given = line.without([&run](const Option &option) {
-        return option.name == "out" || spelledPassword(option) ||
-               (run.hasPassword && isPasswordOption(option));
-    });
-    run.arguments.insert(run.arguments.end(), given.begin(), given.end());
-    if (const char *const output = line.value("out")) run.output = output;
-    run.mayPrint = line.has({"p", "P", "v", "debug", "help", "list", "ciphers"});
-    return run;
+    const bool hasPassword = passwordState == PasswordState::Taken;
+    const bool isKnown = hasPassword || passPhraseSource(line) || !line.has({"k", "pass"});
+    if (isKnown && isOpenDecryption(line)) return planDecryption(line, derivation, hasPassword);
+    return planToolRun(line, derivation, hasPassword);
 }

@@ -8,6 +8,7 @@
 #include <charconv>
 #include <cstdlib>
 #include <fcntl.h>
+#include <openssl/evp.h>
 #include <optional>
 #include <system_error>
 #include <unistd.h>
@@ -49,6 +50,24 @@ bool isPassPhraseSource(std::string_view source)
 {
     if (source.starts_with(descriptor)) return numberIn(source.substr(descriptor.size())).has_value();
     return source == standardInput || source.starts_with(variable) || source.starts_with(file);
+}
+
+bool isRepeatable(std::string_view source)
+{
+    return source.starts_with(variable) || source.starts_with(file);
+}
+
+bool hasTerminal() { return FileDescriptor(open("/dev/tty", O_RDWR | O_CLOEXEC)).isOpen(); }
+
+bool askPassPhrase(const std::string &cipher, Secret &passPhrase)
+{
+    std::array<char, Secret::maximumSize + 1> line{};
+    const std::string prompt = "enter " + cipher + " decryption password:";
+    const bool isAnswered =
+        EVP_read_pw_string(line.data(), static_cast<int>(line.size()), prompt.c_str(), 0) == 0;
+    const bool isTaken = isAnswered && passPhrase.assign(line.data());
+    wipeMemory(line.data(), line.size());
+    return isTaken;
 }
 
 bool fetchPassPhrase(const std::string &source, Secret &passPhrase, std::string &problem)

@@ -26,14 +26,19 @@ int writeAll(int sink, std::string_view bytes)
 
 } // namespace
 
-void Relay::forward(FileDescriptor childOutput, int sink)
+void Relay::forward(FileDescriptor childOutput, int sink, std::vector<std::string> droppedLines)
 {
-    m_drains.push_back({std::move(childOutput), sink, false});
+    m_drains.push_back({std::move(childOutput), sink, false, LineFilter(std::move(droppedLines))});
 }
 
 void Relay::collect(FileDescriptor childOutput, int sink)
 {
-    m_drains.push_back({std::move(childOutput), sink, true});
+    m_drains.push_back({std::move(childOutput), sink, true, LineFilter({})});
+}
+
+void Relay::feed(const BegunStream &stream, FileDescriptor childInput)
+{
+    m_feed.emplace(stream, std::move(childInput));
 }
 
 Relay::Result Relay::run()
@@ -43,13 +48,16 @@ Relay::Result Relay::run()
         std::vector<pollfd> ends;
         for (const Drain &each : m_drains)
             ends.push_back({each.source.get(), POLLIN, 0});
+        if (m_feed) ends.push_back(m_feed->awaited());
         if (poll(ends.data(), ends.size(), -1) < 0) {
             if (errno == EINTR) continue;
             break;
         }
         for (std::size_t i = 0; i < m_drains.size(); ++i)
             if (ends[i].revents) drain(m_drains[i]);
+        if (m_feed && ends.back().revents) m_feed->step();
     }
+    if (m_feed) m_result.inputError = m_feed->error();
     return m_result;
 }
 
@@ -64,14 +72,23 @@ void Relay::drain(Drain &drain)
 {
     const ssize_t count = read(drain.source.get(), m_buffer.data(), m_buffer.size());
     if (count <= 0) {
-        if (count == 0 || errno != EINTR) drain.source.close();
+        if (count < 0 && errno == EINTR) return;
+        drain.source.close();
+        if (!drain.isResult) handOn(drain, drain.filter.rest());
         return;
     }
-    const int error = writeAll(drain.sink, {m_buffer.data(), static_cast<std::size_t>(count)});
+    const std::string_view piece{m_buffer.data(), static_cast<std::size_t>(count)};
     if (!drain.isResult) {
-        m_result.printed = true;
-    } else if (error != 0) {
+        handOn(drain, drain.filter.pass(piece));
+    } else if (const int error = writeAll(drain.sink, piece)) {
         m_result.outputError = error;
         drain.source.close();
     }
+}
+
+void Relay::handOn(const Drain &drain, std::string_view text)
+{
+    if (text.empty()) return;
+    writeAll(drain.sink, text);
+    m_result.printed = true;
 }

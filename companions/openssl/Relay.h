@@ -1,21 +1,31 @@
 #pragma once
 
 #include "FileDescriptor.h"
+#include "InputFeed.h"
+#include "LineFilter.h"
 
+#include <optional>
+#include <string>
 #include <vector>
 
-/// Carries what a child process writes to the outside, until the child has closed its ends.
+/// Carries what a child process writes to the outside, and a stream to the child, until the child has closed
+/// its ends.
 class Relay {
 public:
     struct Result {
         bool printed = false; ///< whether anything came by forward()
         int outputError = 0;  ///< the errno value of writing for collect(); 0: none
+        int inputError = 0;   ///< the errno value of reading for feed(); 0: none
     };
 
-    /// Hands on to `sink` what the child prints. Where nobody reads there, it is dropped.
-    void forward(FileDescriptor childOutput, int sink);
+    /// Hands on to `sink` what the child prints, but for these lines. Where nobody reads there, it is
+    /// dropped.
+    void forward(FileDescriptor childOutput, int sink, std::vector<std::string> droppedLines = {});
     /// Writes the child's result to `sink`. On an error the child finds its output closed.
     void collect(FileDescriptor childOutput, int sink);
+
+    /// Gives the child all of the stream.
+    void feed(const BegunStream &stream, FileDescriptor childInput);
 
     [[nodiscard]] Result run();
 
@@ -24,12 +34,15 @@ private:
         FileDescriptor source;
         int sink;
         bool isResult;
+        LineFilter filter;
     };
 
     [[nodiscard]] bool isDone() const;
     void drain(Drain &drain);
+    void handOn(const Drain &drain, std::string_view text);
 
     Result m_result;
     std::vector<char> m_buffer;
     std::vector<Drain> m_drains;
+    std::optional<InputFeed> m_feed;
 };

@@ -76,15 +76,19 @@ private:
             passwordEnd = passwordPipe(password);
             if (!passwordEnd.isOpen()) return cannotStart();
         }
+        Pipe input = m_run.stream ? Pipe::open() : Pipe();
         Pipe output = m_output ? Pipe::open() : Pipe();
         Pipe errors = Pipe::open();
-        if (!errors.isOpen() || (m_output && !output.isOpen())) return cannotStart();
+        if (!errors.isOpen() || (m_output && !output.isOpen()) || (m_run.stream && !input.isOpen()))
+            return cannotStart();
 
-        const ToolStreams streams{m_input.get(), output.write.get(), errors.write.get(), passwordEnd.get()};
+        const ToolStreams streams{m_run.stream ? input.read.get() : m_input.get(), output.write.get(),
+                                  errors.write.get(), passwordEnd.get()};
         const pid_t child = startTool(m_tool, toolArguments(passwordEnd.get()), streams, m_signals);
         if (child < 0) return cannotStart();
         m_signals.watch(child);
         connect(std::move(output.read), std::move(errors.read));
+        if (m_run.stream) m_relay.feed(*m_run.stream, std::move(input.write));
         return true;
     }
 
@@ -115,7 +119,7 @@ private:
             m_relay.collect(std::move(output), m_output->descriptor());
         else if (m_output)
             m_relay.forward(std::move(output), STDOUT_FILENO);
-        m_relay.forward(std::move(errors), STDERR_FILENO);
+        m_relay.forward(std::move(errors), STDERR_FILENO, m_run.knownLines);
     }
 
     /// Tells what went wrong where nobody else did.
@@ -127,6 +131,10 @@ private:
         }
         if (relayed.outputError != 0) {
             complain("cannot write " + *m_run.output + ": " + systemReason(relayed.outputError));
+            return false;
+        }
+        if (relayed.inputError != 0) {
+            complain("cannot read the input: " + systemReason(relayed.inputError));
             return false;
         }
         if (WIFSIGNALED(waitStatus)) {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "CommandPlan.h"
 #include "Secret.h"
+#include "ToolRun.h"
 
 /// Runs the tool and judges the run: its exit status has to be 0 and, unless `run.mayPrint`, it must have
 /// printed nothing. Only then is there a result file; in every other case something was printed that tells

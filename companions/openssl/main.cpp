@@ -2,6 +2,7 @@
 // of files that are to be kept: today's key derivation, ciphers that it hides, messages of any size, results
 // that are whole or not there at all.
 
+#include "CipherDecryption.h"
 #include "CommandPlan.h"
 #include "RunTool.h"
 #include "ToolLocation.h"
@@ -19,6 +20,8 @@ constexpr int failure = 1;
 int carryOut(const CommandPlan &plan, const std::string &tool, char **argv, Secret &password)
 {
     if (const ToolRun *const run = std::get_if<ToolRun>(&plan)) return runTool(tool, *run, password);
+    if (const CipherDecryption *const decryption = std::get_if<CipherDecryption>(&plan))
+        return decryptWithCipher(tool, *decryption, password);
     becomeTool(tool, argv);
     complain("cannot run " + tool + ": " + std::generic_category().message(errno));
     return failure;

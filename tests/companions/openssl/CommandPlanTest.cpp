@@ -28,7 +28,9 @@ private:
 std::string plannedArguments(const CommandPlan &plan)
 {
     std::string all;
-    if (const ToolRun *const run = std::get_if<ToolRun>(&plan))
+    const ToolRun *run = std::get_if<ToolRun>(&plan);
+    if (const auto *const decryption = std::get_if<CipherDecryption>(&plan)) run = &decryption->run;
+    if (run)
         for (const std::string &argument : run->arguments)
             all += (all.empty() ? "" : " ") + argument;
     return all;
@@ -47,7 +49,15 @@ TEST(CommandPlan, AddsWhatTheCallerLeftOpen)
     const std::vector<Case> cases{
         {"aes-256-cbc -a -in F -out G -pass pass:hush", "aes-256-cbc" + derivation + buffer + " -a -in F",
          "hush"},
-        {"BF-cbc --pass=pass:hush -d", "BF-cbc" + derivation + legacy + buffer + " -d", "hush"},
+        // Which key derivation a file is of shows when it is there.
+        {"BF-cbc --pass=pass:hush -d -in F", "BF-cbc" + legacy + buffer + " -d", "hush"},
+        {"aes256 -d -a -pass fd:3 -md md5", "aes256" + buffer + " -d -a -md md5"},
+        {"aes256 -d -iter 5 -k hush", "aes256" + buffer + " -d -iter 5", "hush"},
+        {"aes256 -d -e -k hush", "aes256" + derivation + buffer + " -d -e", "hush"},
+        {"aes256 -d -nosalt -k hush", "aes256" + derivation + buffer + " -d -nosalt", "hush"},
+        {"aes256 -d -kfile P", "aes256" + derivation + buffer + " -d -kfile P"},
+        {"aes256 -d -in F", "aes256" + buffer + " -d"},
+        {"aes256 -d -pass hu-sh", "aes256" + derivation + buffer + " -d -pass hu-sh"},
         {"enc -e -rc4-40 -in F", "enc" + derivation + legacy + buffer + " -e -rc4-40 -in F"},
         {"des -in F", "des" + derivation + legacy + buffer + " -in F"},
         // What the caller chose stays his choice.

@@ -1,0 +1,121 @@
+#include "Front.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const std::string rar5("Rar!\x1a\x07\x01\x00", 8);
+const std::string rar4("Rar!\x1a\x07\x00", 7);
+
+class OlderDerivation : public testing::Test {
+protected:
+    /// Encrypts by the system's tool to G. With a salt of ours, so that what a wrong password makes of the
+    /// padding is the same in every run; such a file comes without it.
+    void encrypt(const std::string &plain, const std::string &options, const std::string &password = "right",
+                 bool isBase64 = true)
+    {
+        writeFile(folder / "F", plain);
+        const Arguments pass{"-pass", "pass:" + password};
+        ASSERT_EQ(runIn(folder, stock, "enc -in F -out G -S 53616c7453616c74 " + options, pass).status, 0);
+        writeFile(folder / "G", "Salted__SaltSalt" + readFile(folder / "G"));
+        if (!isBase64) return;
+        ASSERT_EQ(runIn(folder, stock, "base64 -in G -out H").status, 0);
+        fs::rename(folder / "H", folder / "G");
+    }
+
+    CommandResult decrypt(const std::string &options, const std::string &password = "right")
+    {
+        fs::remove(folder / "H");
+        return runIn(folder, front, options + " -d -in G -out H -pass", {"pass:" + password});
+    }
+
+    testing::AssertionResult isRefused(const CommandResult &result)
+    {
+        const bool isTold = result.output.find("bad decrypt") != std::string::npos &&
+                            result.output.find("deprecated") == std::string::npos;
+        if (result.status != 0 && isTold && !fs::exists(folder / "H")) return testing::AssertionSuccess();
+        return testing::AssertionFailure() << "exit status " << result.status << ": " << result.output;
+    }
+
+    TemporaryFolder folder;
+};
+
+TEST_F(OlderDerivation, IsFoundForAnArchiveAndForNothingElse)
+{
+    struct Derivation {
+        std::string options;
+        std::string signature;
+        std::string asked{}; ///< of the front
+    };
+    const std::vector<Derivation> derivations{
+        {"-md sha256", rar5}, {"-md md5", rar4}, {"-pbkdf2", rar5}, {"-md sha1", rar4, " -md sha1"}};
+    const std::vector<std::pair<std::string, std::string>> ciphers{
+        {"aes-256-cbc", ""}, {"des-ede3-cbc", ""}, {"bf-cbc", " -provider legacy -provider default"}};
+    for (const auto &[cipher, providers] : ciphers)
+        for (const Derivation &each : derivations) {
+            SCOPED_TRACE(cipher + " " + each.options);
+            const std::string options = "-" + cipher + providers + " " + each.options;
+            const std::string decryption = cipher + " -a -salt" + each.asked;
+            encrypt(each.signature + binaryData(5'000), options);
+            EXPECT_TRUE(isSilentSuccess(decrypt(decryption)));
+            EXPECT_TRUE(readFile(folder / "H") == readFile(folder / "F"));
+            EXPECT_TRUE(isRefused(decrypt(decryption, "wrong")));
+            if (!providers.empty()) continue; // which cipher it is makes no difference any more
+            encrypt("Rar!" + binaryData(5'000), options);
+            EXPECT_TRUE(isRefused(decrypt(decryption)));
+        }
+}
+
+// What the tool says of every such file is left out, and nothing else.
+TEST_F(OlderDerivation, StillTellsADamagedArchive)
+{
+    encrypt(rar5 + binaryData(5'000), "-aes256 -md md5", "right", false);
+    writeFile(folder / "G", readFile(folder / "G").substr(0, 4'000));
+    EXPECT_TRUE(isRefused(decrypt("aes256")));
+    encrypt(rar5, "-aes256 -md md5", "right", false); // a file of its first two blocks alone
+    EXPECT_TRUE(isSilentSuccess(decrypt("aes256")));
+}
+
+TEST_F(OlderDerivation, IsFoundWhereverInputAndPasswordComeFrom)
+{
+    // More than all pipes on the way hold.
+    const std::string plain = rar5 + binaryData(1'000'000);
+    encrypt(plain, "-aes256 -md md5");
+    writeFile(folder / "P", "right\nrest");
+    writeFile(folder / "PG", "right\n" + readFile(folder / "G"));
+    const std::string command = "'" + front + "' aes256 -d -a ";
+    for (const char *const line :
+         {"-in G -pass file:P", "-in G -pass env:P", "-in G -pass stdin <P", "-in G -pass fd:3 3<P",
+          "-in G -pass stdin -pass pass:right </dev/null", "-k right <G", "-in - -k right <G",
+          "-pass stdin <PG", "-in /dev/stdin -k right <G", "-pass fd:3 3<P <G"})
+        for (const bool isPiped : {false, true}) {
+            SCOPED_TRACE(std::string(line) + (isPiped ? ", all of it through pipes" : ""));
+            std::string script = command + line;
+            if (const auto from = script.find(" <"); isPiped && from != std::string::npos)
+                script = "cat " + script.substr(from + 2) + " | " + script.substr(0, from);
+            const CommandResult result = runIn(folder, "env", "P=right sh -c", {script});
+            EXPECT_TRUE(result.status == 0 && result.output == plain) << result.output.substr(0, 200);
+        }
+    // A variable can hold what no pipe to the tool can.
+    encrypt(rar4 + plain, "-aes256 -md md5", "two\nlines");
+    EXPECT_TRUE(isSilentSuccess(
+        runIn(folder, "env", "",
+              {"P=two\nlines", front, "aes256", "-d", "-a", "-in", "G", "-out", "H", "-pass", "env:P"})));
+    EXPECT_NE(runIn(folder, front, "aes256 -d -in G -out I -pass fd:9").status, 0);
+    EXPECT_NE(runIn(folder, front, "aes256 -d -in missing -out I -k x").status, 0);
+    EXPECT_FALSE(fs::exists(folder / "I"));
+}
+
+TEST_F(OlderDerivation, IsFoundWithOneQuestionToAPerson)
+{
+    encrypt(rar5 + binaryData(5'000), "-aes256 -md md5");
+    // A terminal of its own.
+    const std::string command = "'" + front + "' aes256 -d -a -in G -out H";
+    const CommandResult result =
+        runCommand({"script", "-qec", command, "/dev/null"}, {.folder = folder.path(), .input = "right\n"});
+    EXPECT_TRUE(result.status == 0 && fs::exists(folder / "H")) << result.output;
+    const std::size_t question = result.output.find("password:");
+    EXPECT_TRUE(question != std::string::npos && question == result.output.rfind("password:"));
+}
+
+} // namespace
