@@ -1,52 +1,21 @@
 #include "ui/Window.h"
 
 #include "app/QuillorentAppDelegate.h"
-#include "keys/Strength.h"
-#include "sync/SyncMeaning.h"
 #include "ui/Actions.h"
 #include "ui/Binding.h"
+#include "ui/Derived.h"
 #include "ui/OpenPanelDialog.h"
 #include "ui/PanelDialog.h"
 #include "ui/Panels.h"
-#include "ui/Protection.h"
 #include "ui/UnsavedChanges.h"
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
 #include <QDesktopServices>
-#include <QLocale>
 #include <QShortcut>
 
 namespace ui {
 namespace {
-
-QString volumeHint(const QString &size)
-{
-    bool isNumber = false;
-    const qint64 thousands = size.toLongLong(&isNumber);
-    if (!isNumber || thousands <= 0) return Window::tr("not a size");
-    if (thousands > std::numeric_limits<qint64>::max() / 1000) return {};
-    return u"= "_qs + QLocale().formattedDataSize(thousands * 1000, 1, QLocale::DataSizeSIFormat);
-}
-
-// Says what to do, and never blocks: whose password it is decides.
-QString strengthHint(const QString &password)
-{
-    switch (estimateStrength(password)) {
-    case Strength::None:
-        return {};
-    case Strength::Weak:
-        return Window::tr(
-            "Easy to guess. Five or six words that have nothing to do with each other are better.");
-    case Strength::Fair:
-        return Window::tr("Hard to guess. One more word makes it strong.");
-    case Strength::Strong:
-        return Window::tr(
-            "Very hard to guess. Is it written down in a safe place? A mistyped or forgotten password is "
-            "a lost backup.");
-    }
-    return {};
-}
 
 struct RunWords {
     QString title;
@@ -78,7 +47,7 @@ Window::Window(QuillorentAppDelegate &controller)
     m_binding = std::make_unique<Binding>(controller.outlets(), roots());
     connectActions(controller, *this, roots());
     m_unsaved = std::make_unique<UnsavedChanges>(controller, *this, *m_form->unsavedText);
-    deriveFromOutlets();
+    showDerived(controller, *m_form, m_binding->queue());
     addShortcuts();
     controller.openPanel = [this](const outlets::OpenPanel &panel) { return askForPaths(panel, this); };
     controller.openAddress = [](const QString &address) { QDesktopServices::openUrl(QUrl(address)); };
@@ -105,68 +74,6 @@ void Window::finishForm()
     m_form->currentProfileTextView->setFont(bold);
     for (QLabel *output : {m_form->outputText01, m_form->outputText02})
         output->setMinimumHeight(output->fontMetrics().height());
-}
-
-void Window::deriveFromOutlets()
-{
-    QuillorentAppDelegate &all = m_controller;
-    RefreshQueue &queue = m_binding->queue();
-    queue.watch({&all.passCombo01, &all.checkBox01, &all.secureText01a, &all.secureText01b, &all.keychainUser,
-                 &all.keychainPass, &all.keychainClear, &all.certFile01},
-                [this] { m_form->protectionText->setText(protectionText(m_controller)); });
-    queue.watch({&all.checkBox01, &all.checkBox02, &all.keychainPass, &all.keychainClear},
-                [this] { m_form->keychainConflict->setVisible(isKeychainFieldAmbiguous(m_controller)); });
-    queue.watch(all.checkBox02, [this] {
-        m_form->keychainLabel->setBuddy(m_controller.checkBox02.isOn() ? m_form->keychainPass
-                                                                       : m_form->keychainClear);
-    });
-    queue.watch(all.keychainUser, [this] {
-        for (QWidget *button : {m_form->passButton01, m_form->passButton02})
-            button->setEnabled(!m_controller.keychainUser.text().isEmpty());
-    });
-    queue.watch({&all.checkBox01, &all.secureText01a, &all.secureText01b}, [this] {
-        const outlets::TextField &typed =
-            m_controller.checkBox01.isOn() ? m_controller.secureText01a : m_controller.secureText01b;
-        m_form->strengthHint->setText(strengthHint(typed.text()));
-    });
-    queue.watch(all.checkBox01, [this] {
-        m_form->typedLabel->setBuddy(m_controller.checkBox01.isOn() ? m_form->secureText01a
-                                                                    : m_form->secureText01b);
-    });
-    queue.watch(all.profileCombo01, [this] {
-        m_form->profileButton07->setEnabled(m_controller.profileCombo01.titles().size() > 1);
-    });
-    queue.watch(all.listTableView, [this] {
-        m_form->folderButton02->setEnabled(!m_controller.listTableView.selectedRows().isEmpty());
-    });
-    queue.watch(all.extractTableView, [this] {
-        m_form->extractButton02->setEnabled(!m_controller.extractTableView.selectedRows().isEmpty());
-    });
-    // The end of a run is told there.
-    queue.watch(all.outputText02,
-                [this] { m_form->openFolderButton->setEnabled(!m_controller.extractedFolder().isEmpty()); });
-    queue.watch(all.prefText01,
-                [this] { m_form->volumeHint->setText(volumeHint(m_controller.prefText01.text())); });
-    queue.watch(all.checkBox04, [this] {
-        for (QWidget *widget : std::initializer_list<QWidget *>{m_form->prefText01, m_form->prefStepper01,
-                                                                m_form->volumeUnit, m_form->volumeHint})
-            widget->setEnabled(m_controller.checkBox04.isOn());
-    });
-    queue.watch(all.syncTableView, [this] {
-        m_form->syncButton02->setEnabled(!m_controller.syncTableView.selectedRows().isEmpty());
-    });
-    queue.watch({&all.syncTableView, &all.syncTextDestPath, &all.syncSelector01, &all.checkBoxSync1,
-                 &all.checkBoxSync2, &all.syncCheck01, &all.syncUser, &all.syncServer, &all.syncPort},
-                [this] { describeSynchronisation(); });
-}
-
-void Window::describeSynchronisation()
-{
-    const SyncRequest request = readSyncRequest();
-    QFont font = m_form->syncMeaning->font();
-    font.setBold(request.deletesExtra && request.removesSources);
-    m_form->syncMeaning->setFont(font);
-    m_form->syncMeaning->setText(describeSync(request));
 }
 
 void Window::addShortcuts()

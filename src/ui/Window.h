@@ -37,8 +37,6 @@ protected:
 
 private:
     void finishForm();
-    void deriveFromOutlets();
-    void describeSynchronisation();
     void addShortcuts();
     void askToStop();
 

@@ -1,0 +1,128 @@
+#include "ui/Derived.h"
+
+#include "app/QuillorentAppDelegate.h"
+#include "keys/Strength.h"
+#include "sync/SyncMeaning.h"
+#include "ui/Protection.h"
+#include "ui/RefreshQueue.h"
+#include "ui_MainWindow.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+namespace ui {
+namespace {
+
+using Controller = QuillorentAppDelegate;
+
+QString tr(const char *text) { return QCoreApplication::translate("Window", text); }
+
+QString volumeHint(const QString &size)
+{
+    bool isNumber = false;
+    const qint64 thousands = size.toLongLong(&isNumber);
+    if (!isNumber || thousands <= 0) return tr("not a size");
+    if (thousands > std::numeric_limits<qint64>::max() / 1000) return {};
+    return u"= "_qs + QLocale().formattedDataSize(thousands * 1000, 1, QLocale::DataSizeSIFormat);
+}
+
+// Says what to do, and never blocks: whose password it is decides.
+QString strengthHint(const QString &password)
+{
+    switch (estimateStrength(password)) {
+    case Strength::None:
+        return {};
+    case Strength::Weak:
+        return tr("Easy to guess. Five or six words that have nothing to do with each other are better.");
+    case Strength::Fair:
+        return tr("Hard to guess. One more word makes it strong.");
+    case Strength::Strong:
+        return tr("Very hard to guess. Is it written down in a safe place? A mistyped or forgotten password "
+                  "is a lost backup.");
+    }
+    return {};
+}
+
+/// Of a list, what can be removed is what is selected.
+void enableBySelection(RefreshQueue &queue, outlets::TableView &list, QWidget &button)
+{
+    queue.watch(list, [&list, &button] { button.setEnabled(!list.selectedRows().isEmpty()); });
+}
+
+/// Of two fields for one password, the label leads to the one that is seen.
+void leadToShownField(RefreshQueue &queue, outlets::CheckBox &isMasked, QLabel &label, QWidget &masked,
+                      QWidget &clear)
+{
+    queue.watch(isMasked, [&] { label.setBuddy(isMasked.isOn() ? &masked : &clear); });
+}
+
+void showProfiles(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
+{
+    queue.watch(all.profileCombo01,
+                [&] { form.profileButton07->setEnabled(all.profileCombo01.titles().size() > 1); });
+}
+
+void showFolders(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
+{
+    enableBySelection(queue, all.listTableView, *form.folderButton02);
+    queue.watch({&all.passCombo01, &all.checkBox01, &all.secureText01a, &all.secureText01b, &all.keychainUser,
+                 &all.keychainPass, &all.keychainClear, &all.certFile01},
+                [&] { form.protectionText->setText(protectionText(all)); });
+    queue.watch(all.prefText01, [&] { form.volumeHint->setText(volumeHint(all.prefText01.text())); });
+    queue.watch(all.checkBox04, [&] {
+        for (QWidget *widget : std::initializer_list<QWidget *>{form.prefText01, form.prefStepper01,
+                                                                form.volumeUnit, form.volumeHint})
+            widget->setEnabled(all.checkBox04.isOn());
+    });
+}
+
+void showExtraction(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
+{
+    enableBySelection(queue, all.extractTableView, *form.extractButton02);
+    // The end of a run is told there.
+    queue.watch(all.outputText02,
+                [&] { form.openFolderButton->setEnabled(!all.extractedFolder().isEmpty()); });
+}
+
+void showPasswords(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
+{
+    leadToShownField(queue, all.checkBox01, *form.typedLabel, *form.secureText01a, *form.secureText01b);
+    leadToShownField(queue, all.checkBox02, *form.keychainLabel, *form.keychainPass, *form.keychainClear);
+    queue.watch({&all.checkBox01, &all.secureText01a, &all.secureText01b}, [&] {
+        const outlets::TextField &typed = all.checkBox01.isOn() ? all.secureText01a : all.secureText01b;
+        form.strengthHint->setText(strengthHint(typed.text()));
+    });
+    queue.watch({&all.checkBox01, &all.checkBox02, &all.keychainPass, &all.keychainClear},
+                [&] { form.keychainConflict->setVisible(isKeychainFieldAmbiguous(all)); });
+    queue.watch(all.keychainUser, [&] {
+        for (QWidget *button : {form.passButton01, form.passButton02})
+            button->setEnabled(!all.keychainUser.text().isEmpty());
+    });
+}
+
+void showSynchronisation(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
+{
+    enableBySelection(queue, all.syncTableView, *form.syncButton02);
+    queue.watch({&all.syncTableView, &all.syncTextDestPath, &all.syncSelector01, &all.checkBoxSync1,
+                 &all.checkBoxSync2, &all.syncCheck01, &all.syncUser, &all.syncServer, &all.syncPort},
+                [&] {
+                    const SyncRequest request = readSyncRequest();
+                    QFont font = form.syncMeaning->font();
+                    font.setBold(request.deletesExtra && request.removesSources);
+                    form.syncMeaning->setFont(font);
+                    form.syncMeaning->setText(describeSync(request));
+                });
+}
+
+} // namespace
+
+void showDerived(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
+{
+    showProfiles(all, form, queue);
+    showFolders(all, form, queue);
+    showExtraction(all, form, queue);
+    showPasswords(all, form, queue);
+    showSynchronisation(all, form, queue);
+}
+
+} // namespace ui
