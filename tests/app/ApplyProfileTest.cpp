@@ -113,12 +113,6 @@ TEST(Options, WriteTheirKeysAtOnce)
     delegate.prefStepper01Action(u"much"_qs);
     EXPECT_EQ(delegate.prefStepper01.value(), 0);
 
-    delegate.checkBox04.setOn(false);
-    delegate.prefCheck01Action();
-    EXPECT_EQ(stored(u"split"_qs), u"0"_qs);
-    delegate.checkBox05.setOn(false);
-    delegate.checkBox05Action();
-    EXPECT_EQ(stored(u"keepdate"_qs), u"0"_qs);
     delegate.autosaveCheck01.setOn(false);
     delegate.autosaveCheck01Action();
     EXPECT_EQ(delegate.setting(u"resources"_qs, u"autosave"_qs), u"0"_qs);

@@ -13,34 +13,39 @@ protected:
     CertificateActions() : m_keys(makeCredentials(m_program.folder(), "anna")) { m_program.start(); }
 
     /// What the sheet says that the choice brings up; empty where none comes.
-    QString choose(void (QuillorentAppDelegate::*action)(), void (QuillorentAppDelegate::*close)(),
-                   outlets::Panel &sheet, const outlets::TextField &text, const QStringList &chosen)
+    QString choose(const std::function<void()> &action, const std::function<void()> &close,
+                   const outlets::Panel &sheet, const outlets::TextField &text)
     {
-        delegate.openPanel = [&](const outlets::OpenPanel &panel) {
-            m_types = panel.allowedFileTypes;
-            return chosen;
-        };
-        (delegate.*action)();
+        action();
         QString shown;
-        EXPECT_TRUE(TestProgram::waitUntil([&] {
+        const bool hasEnded = TestProgram::waitUntil([&] {
             if (sheet.place() == outlets::Panel::Place::Sheet) {
                 shown = text.text();
-                (delegate.*close)();
+                close();
             }
             return waitForThreads(1ms);
-        }));
+        });
+        EXPECT_TRUE(hasEnded);
         return shown;
+    }
+    void answerChooserWith(const QStringList &paths)
+    {
+        delegate.openPanel = [this, paths](const outlets::OpenPanel &panel) {
+            m_types = panel.allowedFileTypes;
+            return paths;
+        };
     }
     QString chooseCertificate(const QStringList &paths)
     {
-        return choose(&QuillorentAppDelegate::certButton01Action,
-                      &QuillorentAppDelegate::certButton01ActionEnd, delegate.certPanel01,
-                      delegate.certPanelText01, paths);
+        answerChooserWith(paths);
+        return choose([this] { delegate.certButton01Action(); }, [this] { delegate.certButton01ActionEnd(); },
+                      delegate.certPanel01, delegate.certPanelText01);
     }
     QString chooseKey(const QStringList &paths)
     {
-        return choose(&QuillorentAppDelegate::pkButton01Action, &QuillorentAppDelegate::pkButton01ActionEnd,
-                      delegate.pkPanel01, delegate.pkPanelText01, paths);
+        answerChooserWith(paths);
+        return choose([this] { delegate.pkButton01Action(); }, [this] { delegate.pkButton01ActionEnd(); },
+                      delegate.pkPanel01, delegate.pkPanelText01);
     }
     QString kept(const QString &key) const
     {
