@@ -16,36 +16,41 @@ struct Outcome {
     std::optional<QString> password{}; ///< for the field, where it was asked for
 };
 
+/// The words for an end that is told of by this tab's own account; any other end is the keychain's to
+/// explain.
+struct Words {
+    QString success;
+    KeychainStatus expectedFailure;
+    QString failure;
+};
+
+QString describe(KeychainStatus status, const Words &words)
+{
+    if (status == KeychainStatus::Success) return words.success;
+    return status == words.expectedFailure ? words.failure : keychain()->statusText(status);
+}
+
 Outcome fetch(const QString &account)
 {
-    Outcome outcome;
-    const auto item =
-        EMGenericKeychainItem::genericKeychainItemForService(service(), account, &outcome.status);
-    outcome.password = item ? item->password() : QString();
-    if (item)
-        outcome.text = u"The password of \"%1\" was fetched from the keychain."_qs.arg(account);
-    else if (outcome.status == KeychainStatus::ItemNotFound)
-        outcome.text =
-            u"The keychain holds no password of \"%1\". Check the account name; or type the password and "
-            "store it."_qs.arg(account);
-    else
-        outcome.text = keychain()->statusText(outcome.status);
-    return outcome;
+    const Words words{u"The password of \"%1\" was fetched from the keychain."_qs.arg(account),
+                      KeychainStatus::ItemNotFound,
+                      u"The keychain holds no password of \"%1\". Check the account name; or type the "
+                      "password and store it."_qs.arg(account)};
+    KeychainStatus status{};
+    const auto item = EMGenericKeychainItem::genericKeychainItemForService(service(), account, &status);
+    return {status, describe(status, words), item ? item->password() : QString()};
 }
 
 Outcome store(const QString &account, const QString &password)
 {
-    Outcome outcome;
-    EMGenericKeychainItem::addGenericKeychainItemForService(service(), account, password, &outcome.status);
-    if (outcome.status == KeychainStatus::Success)
-        outcome.text = u"The password was stored in the keychain for \"%1\"."_qs.arg(account);
-    else if (outcome.status == KeychainStatus::DuplicateItem)
-        outcome.text =
-            u"The keychain holds a password of \"%1\" already, and it stays as it is. Choose another account "
-            "name, or remove the old one in your desktop's password program first."_qs.arg(account);
-    else
-        outcome.text = keychain()->statusText(outcome.status);
-    return outcome;
+    const Words words{
+        u"The password was stored in the keychain for \"%1\"."_qs.arg(account), KeychainStatus::DuplicateItem,
+        u"The keychain holds a password of \"%1\" already, and it stays as it is. Choose another "
+        "account name, or remove the old one in your desktop's password program "
+        "first."_qs.arg(account)};
+    KeychainStatus status{};
+    EMGenericKeychainItem::addGenericKeychainItemForService(service(), account, password, &status);
+    return {status, describe(status, words)};
 }
 
 /// Unlocks, and then fetches where there is an account to fetch for and nothing typed that would be lost.
