@@ -7,6 +7,7 @@
 #include "tools/Verification.h"
 
 #include <QCoreApplication>
+#include <QLoggingCategory>
 
 namespace {
 
@@ -79,6 +80,8 @@ int main(int argc, char **argv)
         return parsed.exitStatus;
     }
 
+    // Standard error is for the person who started this; how an archive's name was read is not for them.
+    QLoggingCategory::setFilterRules(u"quillorent.decisions.info=false\nquillorent.decisions.debug=false"_qs);
     prepareProcess(parsed.options->passwordFile == u"-");
     QuillorentAppDelegate delegate;
     delegate.applicationDidFinishLaunching();
