@@ -40,15 +40,12 @@ PanelAnswers::PanelAnswers(QuillorentAppDelegate &delegate, bool yes) : m_delega
 
 void PanelAnswers::answer(outlets::Panel &panel, std::function<void()> answer)
 {
-    // From the event loop: when a panel tells that it shows, nobody waits for its answer yet.
-    panel.observe([this, &panel, answer = std::move(answer)] {
-        QMetaObject::invokeMethod(
-            this,
-            [&panel, answer] {
-                if (panel.place() != outlets::Panel::Place::Hidden) answer();
-            },
-            Qt::QueuedConnection);
+    // Looked at from the event loop: when a panel tells that it shows, nobody waits for its answer yet.
+    auto *look = new QTimer(this);
+    connect(look, &QTimer::timeout, this, [&panel, answer = std::move(answer)] {
+        if (panel.place() != outlets::Panel::Place::Hidden) answer();
     });
+    look->start(20ms);
 }
 
 void PanelAnswers::answerQuestion(outlets::Panel &panel, std::function<QString()> text,
