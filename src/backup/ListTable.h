@@ -9,6 +9,4 @@ public:
     [[nodiscard]] QVariant objectValue(const QString &column, int row) const override;
     void setObjectValue(const QVariant &value, const QString &column,
                         int row) override; ///< reloads, changes nothing
-    [[nodiscard]] bool isEditable(const QString &) const override { return false; }
-    [[nodiscard]] bool isSlow(const QString &) const override { return false; }
 };

@@ -7,9 +7,6 @@ class extractTable : public outlets::TableDataSource {
 public:
     [[nodiscard]] int numberOfRows() const override;
     [[nodiscard]] QVariant objectValue(const QString &column, int row) const override;
-    void setObjectValue(const QVariant &, const QString &, int) override {}
-    [[nodiscard]] bool isEditable(const QString &) const override { return false; }
-    [[nodiscard]] bool isSlow(const QString &) const override { return false; }
 
     /// Whether the row's archive is one of those that are extracted. The others are shown greyed.
     [[nodiscard]] bool isExtracted(int row) const;

@@ -7,7 +7,7 @@
 
 namespace outlets {
 
-/// Where a table's cells come from. Any thread may ask.
+/// Where a table's cells come from; read-only and at hand unless it says otherwise. Any thread may ask.
 class TableDataSource {
 public:
     TableDataSource() = default;
@@ -21,12 +21,15 @@ public:
     [[nodiscard]] virtual QVariant objectValue(const QString &column, int row) const = 0;
 
     /// What was typed into a cell. A source that can't be edited ignores it.
-    virtual void setObjectValue(const QVariant &value, const QString &column, int row) = 0;
+    virtual void setObjectValue([[maybe_unused]] const QVariant &value,
+                                [[maybe_unused]] const QString &column, [[maybe_unused]] int row)
+    {
+    }
 
-    [[nodiscard]] virtual bool isEditable(const QString &column) const = 0;
+    [[nodiscard]] virtual bool isEditable([[maybe_unused]] const QString &column) const { return false; }
 
     /// Whether a cell of the column takes so long (a tool is run) that no window may wait for it.
-    [[nodiscard]] virtual bool isSlow(const QString &column) const = 0;
+    [[nodiscard]] virtual bool isSlow([[maybe_unused]] const QString &column) const { return false; }
 };
 
 class TableView : public Outlet {

@@ -7,7 +7,4 @@ class syncTable : public outlets::TableDataSource {
 public:
     [[nodiscard]] int numberOfRows() const override;
     [[nodiscard]] QVariant objectValue(const QString &column, int row) const override;
-    void setObjectValue(const QVariant &, const QString &, int) override {}
-    [[nodiscard]] bool isEditable(const QString &) const override { return false; }
-    [[nodiscard]] bool isSlow(const QString &) const override { return false; }
 };
