@@ -7,17 +7,6 @@
 
 using namespace std::chrono_literals;
 
-TEST(Outlets, HaveNamesOfTheirOwn)
-{
-    TestProgram program;
-    QSet<QString> names;
-    for (const outlets::Outlet *outlet : program.delegate().outlets()) {
-        EXPECT_FALSE(names.contains(outlet->name())) << qPrintable(outlet->name());
-        names.insert(outlet->name());
-    }
-    EXPECT_GT(names.size(), 50);
-}
-
 TEST(Outlets, TellOnlyOfChanges)
 {
     outlets::Registry registry;

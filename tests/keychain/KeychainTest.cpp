@@ -1,6 +1,6 @@
-// What every keychain does, and the items on top of it.
+// The desktop's keychain, in the states that a desktop brings it into, and the items on top of it.
 
-#include "InMemoryKeychain.h"
+#include "Command.h"
 #include "SecretService.h"
 #include "keychain/EMGenericKeychainItem.h"
 #include "keychain/EMInternetKeychainItem.h"
@@ -9,36 +9,30 @@
 #include <gtest/gtest.h>
 #include <thread>
 
+using namespace std::chrono_literals;
 using Generic = EMGenericKeychainItem;
 using Internet = EMInternetKeychainItem;
+using Keyring = SecretService::Keyring;
 using Status = KeychainStatus;
 
 namespace {
 
 const QString service = u"com.brolvanek.Quillorent.encrypt"_qs;
 
-enum class Kind { InMemory, SecretService };
-
-class KeychainTest : public testing::TestWithParam<Kind> {
+class KeychainTest : public testing::Test {
 protected:
-    void SetUp() override
+    KeychainTest()
     {
-        if (GetParam() == Kind::InMemory) {
-            setKeychain(std::make_shared<InMemoryKeychain>());
-            return;
-        }
-        m_session = std::make_unique<SecretService>();
-        m_session->start();
+        session.start();
         setKeychain(std::make_shared<SecretServiceKeychain>());
     }
-    void TearDown() override
+    ~KeychainTest() override
     {
         setKeychain(nullptr);
         Generic::setLogsErrors(false);
     }
 
-private:
-    std::unique_ptr<SecretService> m_session;
+    SecretService session;
 };
 
 std::shared_ptr<Generic> add(const QString &account, const QString &password, Status *status = nullptr)
@@ -64,11 +58,16 @@ QStringList &logged()
     return lines;
 }
 
+const GenericPasswordKey alice{"service", "alice"};
+
+Status find() { return keychain()->findGenericPassword(alice).status; }
+Status addAlice() { return keychain()->addGenericPassword(alice, Secret("pw")).status; }
+
 void keepLog(QtMsgType, const QMessageLogContext &, const QString &text) { logged().append(text); }
 
 } // namespace
 
-TEST_P(KeychainTest, GivesBackWhatItKeeps)
+TEST_F(KeychainTest, GivesBackWhatItKeeps)
 {
     const QStringList passwords{u"correct horse"_qs, u""_qs, u"pâss wörd ✓ \U0001F511"_qs,
                                 u" two\nlines\t"_qs, QString(5000, u'x')};
@@ -85,7 +84,7 @@ TEST_P(KeychainTest, GivesBackWhatItKeeps)
     }
 }
 
-TEST_P(KeychainTest, NeverOverwrites)
+TEST_F(KeychainTest, NeverOverwrites)
 {
     ASSERT_TRUE(add(u"alice"_qs, u"first"_qs));
     Status status{};
@@ -109,7 +108,7 @@ TEST_P(KeychainTest, NeverOverwrites)
     EXPECT_EQ(described(stored(u"bob"_qs)), "\"bob's\"");
 }
 
-TEST_P(KeychainTest, FindsInternetPasswordsByAllTheirParts)
+TEST_F(KeychainTest, FindsInternetPasswordsByAllTheirParts)
 {
     const quint32 ftp = keychainProtocol::ftp;
     const quint32 ftpAccount = keychainProtocol::ftpAccount;
@@ -151,7 +150,7 @@ TEST_P(KeychainTest, FindsInternetPasswordsByAllTheirParts)
     }
 }
 
-TEST_P(KeychainTest, WritesEachPropertyAtOnce)
+TEST_F(KeychainTest, WritesEachPropertyAtOnce)
 {
     const auto item = add(u"alice"_qs, u"old"_qs);
     ASSERT_TRUE(item);
@@ -177,7 +176,7 @@ TEST_P(KeychainTest, WritesEachPropertyAtOnce)
                                                         fourCharacterCode("ftps")));
 }
 
-TEST_P(KeychainTest, LeavesTheKeychainAloneForTheSameObject)
+TEST_F(KeychainTest, LeavesTheKeychainAloneForTheSameObject)
 {
     const auto item = add(equalCopy(u"alice"_qs), u"pw"_qs);
     const auto other = Generic::genericKeychainItemForService(service, u"alice"_qs);
@@ -189,7 +188,7 @@ TEST_P(KeychainTest, LeavesTheKeychainAloneForTheSameObject)
     EXPECT_EQ(described(stored(u"alice"_qs)), "\"pw\"") << "an equal object was not written";
 }
 
-TEST_P(KeychainTest, RemovesAnItemOnce)
+TEST_F(KeychainTest, RemovesAnItemOnce)
 {
     const auto item = add(u"alice"_qs, u"pw"_qs);
     ASSERT_TRUE(item);
@@ -219,7 +218,7 @@ TEST_P(KeychainTest, RemovesAnItemOnce)
     EXPECT_EQ(item->password(), u"new"_qs);
 }
 
-TEST_P(KeychainTest, SaysWhyALookUpFailed)
+TEST_F(KeychainTest, SaysWhyALookUpFailed)
 {
     Generic::setLogsErrors(true);
     logged().clear();
@@ -245,7 +244,7 @@ TEST_P(KeychainTest, SaysWhyALookUpFailed)
     EXPECT_FALSE(logged().join(u' ').contains(u"sesame"));
 }
 
-TEST_P(KeychainTest, RefusesWhatNoItemHas)
+TEST_F(KeychainTest, RefusesWhatNoItemHas)
 {
     const auto added = keychain()->addGenericPassword({"service", "account"}, Secret("pw"));
     ASSERT_EQ(added.status, Status::Success);
@@ -262,7 +261,7 @@ TEST_P(KeychainTest, RefusesWhatNoItemHas)
     EXPECT_EQ(modify(added.item, KeychainTag::Account, "bob"), Status::ItemNotFound);
 }
 
-TEST_P(KeychainTest, ChangesNothingWhileItIsLocked)
+TEST_F(KeychainTest, ChangesNothingWhileItIsLocked)
 {
     const auto item = add(u"alice"_qs, u"pw"_qs);
     ASSERT_TRUE(item);
@@ -278,7 +277,7 @@ TEST_P(KeychainTest, ChangesNothingWhileItIsLocked)
     EXPECT_NO_THROW(item->setUsername(u"dave"_qs)) << "a refused removal must keep the item";
 }
 
-TEST_P(KeychainTest, IsUsedByTwoThreadsAtOnce)
+TEST_F(KeychainTest, IsUsedByTwoThreadsAtOnce)
 {
     std::atomic<int> added = 0;
     const auto work = [&](const QString &own) {
@@ -297,7 +296,116 @@ TEST_P(KeychainTest, IsUsedByTwoThreadsAtOnce)
     EXPECT_EQ(added, 5) << "each shared name is one thread's alone";
 }
 
-INSTANTIATE_TEST_SUITE_P(, KeychainTest, testing::Values(Kind::InMemory, Kind::SecretService),
-                         [](const auto &kind) {
-                             return kind.param == Kind::InMemory ? "InMemory" : "SecretService";
-                         });
+TEST_F(KeychainTest, SaysInWhichStateTheServiceIs)
+{
+    struct Case {
+        std::string name;
+        std::function<void()> enter;
+        Status find;
+        Status add;
+        Status unlock;
+    };
+    const std::string bus = session.environment().at("DBUS_SESSION_BUS_ADDRESS");
+    for (const Case &c : {
+             Case{"no service", [&] { session.stop(); }, Status::NoService, Status::NoService,
+                  Status::NoService},
+             Case{"no keyring", [&] { session.start(Keyring::None); }, Status::NoDefaultKeychain,
+                  Status::NoDefaultKeychain, Status::NoDefaultKeychain},
+             Case{"unlocked", [&] { session.start(); }, Status::ItemNotFound, Status::Success,
+                  Status::Success},
+             Case{"locked", [&] { session.start(Keyring::Locked); }, Status::Locked, Status::Locked,
+                  Status::UnlockDeclined},
+             Case{"unlocked again", [&] { session.start(); }, Status::Success, Status::DuplicateItem,
+                  Status::Success},
+             Case{"ended", [&] { session.stop(); }, Status::NoService, Status::NoService, Status::NoService},
+             Case{"no bus", [] { setenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere/bus", 1); },
+                  Status::NoService, Status::NoService, Status::NoService},
+         }) {
+        SCOPED_TRACE(c.name);
+        c.enter();
+        EXPECT_EQ(find(), c.find);
+        EXPECT_EQ(addAlice(), c.add);
+        EXPECT_EQ(keychain()->unlock(), c.unlock);
+    }
+    setenv("DBUS_SESSION_BUS_ADDRESS", bus.c_str(), 1);
+}
+
+TEST_F(KeychainTest, KnowsItsItemsAfterARestart)
+{
+    const auto item = Generic::addGenericKeychainItemForService(u"service"_qs, u"alice"_qs, u"pw"_qs);
+    ASSERT_TRUE(item);
+    session.start();
+    item->setPassword(u"new"_qs);
+    const auto found = Generic::genericKeychainItemForService(u"service"_qs, u"alice"_qs);
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->password(), u"new"_qs);
+    item->removeFromKeychain();
+    EXPECT_EQ(find(), Status::ItemNotFound);
+}
+
+TEST_F(KeychainTest, DoesNotWaitForAServiceThatIsSilent)
+{
+    setKeychain(std::make_shared<SecretServiceKeychain>(300ms));
+    const auto item = keychain()->addGenericPassword({"service", "bob"}, Secret("pw")).item;
+    session.freeze();
+    EXPECT_EQ(find(), Status::NotAnswering);
+    EXPECT_EQ(addAlice(), Status::NotAnswering);
+    EXPECT_EQ(keychain()->modifyAttributesAndData(item, {}, Secret("new")), Status::NotAnswering);
+    EXPECT_EQ(keychain()->deleteItem(item), Status::NotAnswering);
+    EXPECT_EQ(keychain()->lock(), Status::NotAnswering);
+    EXPECT_EQ(keychain()->unlock(), Status::NotAnswering);
+    session.thaw();
+
+    setKeychain(std::make_shared<SecretServiceKeychain>());
+    EXPECT_EQ(find(), Status::ItemNotFound) << "what was given up has been stored all the same";
+    EXPECT_EQ(keychain()->findGenericPassword({"service", "bob"}).password.text(), u"pw"_qs);
+}
+
+TEST_F(KeychainTest, IsLeftWhenTheProgramQuits)
+{
+    setKeychain(std::make_shared<SecretServiceKeychain>(10min));
+    session.freeze();
+    std::atomic<bool> hasEnded = false;
+    Status status{};
+    std::thread waiting([&] {
+        status = find();
+        hasEnded = true;
+    });
+    while (!hasEnded) {
+        keychain()->giveUp();
+        std::this_thread::sleep_for(10ms);
+    }
+    waiting.join();
+    EXPECT_EQ(status, Status::Cancelled);
+    session.thaw();
+}
+
+TEST_F(KeychainTest, SharesItsPasswordsWithOtherPrograms)
+{
+    const auto remote = EMInternetKeychainItem::addInternetKeychainItemForServer(
+        u"example.org"_qs, u"alice"_qs, u"sésame"_qs, u"/files"_qs, 2121, keychainProtocol::ftp);
+    ASSERT_TRUE(remote);
+    const CommandResult shown = runCommand({"secret-tool", "search", "--all", "server", "example.org"});
+    const std::string all = shown.output + shown.errors;
+    for (const char *line : {"label = Quillorent password of alice at example.org\n", "secret = sésame\n",
+                             "attribute.account = alice\n", "attribute.path = /files\n",
+                             "attribute.port = 2121\n", "attribute.protocol = ftp\n"})
+        EXPECT_NE(all.find(line), std::string::npos) << line << "is not in\n" << all;
+    remote->setLabel(u"Our files"_qs);
+    EXPECT_NE(
+        runCommand({"secret-tool", "search", "server", "example.org"}).output.find("label = Our files\n"),
+        std::string::npos);
+
+    const auto store = [](const std::string &account, const std::string &password) {
+        const std::vector<std::string> command{"secret-tool", "store",   "--label=mine", "service",
+                                               "service",     "account", account};
+        return runCommand(command, {.input = password}).status;
+    };
+    ASSERT_EQ(store("bob", "pw"), 0);
+    ASSERT_EQ(store("carol", "\xff\xfe"), 0);
+    const auto bob = Generic::genericKeychainItemForService(u"service"_qs, u"bob"_qs);
+    const auto carol = Generic::genericKeychainItemForService(u"service"_qs, u"carol"_qs);
+    ASSERT_TRUE(bob && carol);
+    EXPECT_EQ(bob->password(), u"pw"_qs);
+    EXPECT_TRUE(carol->password().isNull()) << "bytes that are no text were taken for a password";
+}

@@ -1,12 +1,10 @@
 #include "keys/Certificates.h"
 
 #include "Credentials.h"
+#include "ProgramTest.h"
 #include "Stub.h"
-#include "TestProgram.h"
 #include "keys/CertificateSummary.h"
 #include "keys/Refusals.h"
-
-#include <gtest/gtest.h>
 
 using namespace quillorentLibrary;
 namespace fs = std::filesystem;
@@ -14,7 +12,7 @@ namespace fs = std::filesystem;
 namespace {
 
 /// Files of every kind that people take for a certificate or a key.
-class Certificates : public testing::Test {
+class Certificates : public ProgramTest {
 protected:
     static void SetUpTestSuite()
     {
@@ -23,18 +21,17 @@ protected:
         makeCredentials(path(), "bert");
         makeCredentials(path(), "old", Validity::EndedIn2021);
         makeCredentials(path(), "soon", Validity::FiveDays);
-        runOpenSsl(path(), "rsa -in anna-key.pem -aes128 -passout pass:x -out encrypted-key.pem");
-        runOpenSsl(path(),
-                   "rsa -in anna-key.pem -aes128 -passout pass:x -traditional -out old-encrypted-key.pem");
-        runOpenSsl(
-            path(),
-            "req -x509 -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 -nodes -keyout ec-key.pem -out "
-            "ec.pem -subj /CN=ec");
-        runOpenSsl(path(), "x509 -in anna.pem -outform DER -out anna.der");
-        runOpenSsl(path(), "pkcs12 -export -in anna.pem -inkey anna-key.pem -passout pass:x -out anna.p12");
-        runOpenSsl(path(), "rsa -in anna-key.pem -pubout -out public.pem");
-        runOpenSsl(path(),
-                   "req -x509 -key anna-key.pem -days 9 -subj /O=Other/CN=Grüße -utf8 -out same-key.pem");
+        for (const char *words :
+             {"rsa -in anna-key.pem -aes128 -passout pass:x -out encrypted-key.pem",
+              "rsa -in anna-key.pem -aes128 -passout pass:x -traditional -out old-encrypted-key.pem",
+              "req -x509 -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 -nodes -keyout ec-key.pem -out "
+              "ec.pem "
+              "-subj /CN=ec",
+              "x509 -in anna.pem -outform DER -out anna.der",
+              "pkcs12 -export -in anna.pem -inkey anna-key.pem -passout pass:x -out anna.p12",
+              "rsa -in anna-key.pem -pubout -out public.pem",
+              "req -x509 -key anna-key.pem -days 9 -subj /O=Other/CN=Grüße -utf8 -out same-key.pem"})
+            runOpenSsl(path(), words);
         const std::string anna = readFile(path() / "anna.pem");
         writeFile(path() / "chain.pem", anna + readFile(path() / "bert.pem"));
         writeFile(path() / "both.pem", readFile(path() / "anna-key.pem") + anna);
@@ -48,10 +45,7 @@ protected:
     static const fs::path &path() { return s_folder->path(); }
     static QString file(const char *name) { return toQString(path() / name); }
 
-    void SetUp() override { m_program.start(); }
-
     static std::unique_ptr<TemporaryFolder> s_folder;
-    TestProgram m_program;
 };
 
 std::unique_ptr<TemporaryFolder> Certificates::s_folder;
@@ -67,14 +61,6 @@ TEST_F(Certificates, AreReadAsPemOnly)
         EXPECT_FALSE(testCert(file(bad), u"Validity"_qs)) << bad;
     EXPECT_TRUE(showCert(file("anna.pem")).contains(u"CN = anna"));
     EXPECT_FALSE(showCert(file("notes.txt")).isEmpty());
-}
-
-// A name can make the tool's complaint look like a certificate's text; what is told of the file is not
-// fooled.
-TEST_F(Certificates, ATextThatLiesIsFoundOut)
-{
-    EXPECT_FALSE(readCertificateSummary(file("Validity.txt")));
-    EXPECT_TRUE(whyNoCertificate(file("Validity.txt")).contains(u"no PEM certificate"));
 }
 
 TEST_F(Certificates, TakeTheKeyThatBelongsToThem)
@@ -95,8 +81,8 @@ TEST_F(Certificates, TakeTheKeyThatBelongsToThem)
         EXPECT_EQ(testKey(file(certificate), file(key)), belongs) << certificate << ' ' << key;
     EXPECT_TRUE(showKey(file("anna-key.pem"))->contains(u"PRIVATE KEY-----"));
 
-    const Stub stub(m_program.folder(), "openssl", "bad-bytes");
-    m_program.useTool(u"OpenSSL"_qs, stub.path());
+    const Stub stub(program.folder(), "openssl", "bad-bytes");
+    program.useTool(u"OpenSSL"_qs, stub.path());
     EXPECT_FALSE(showKey(file("anna-key.pem")));
     EXPECT_EQ(showCert(file("anna.pem")), QString());
     EXPECT_FALSE(testKey(file("anna.pem"), file("anna-key.pem")));
@@ -130,6 +116,8 @@ TEST_F(Certificates, EachRefusalSaysWhy)
           Case{whyNoCertificate(file("anna-key.pem")), "holds a private key"},
           Case{whyNoCertificate(file("damaged.pem")), "damaged"},
           Case{whyNoCertificate(file("notes.txt")), "no PEM certificate"},
+          // A name that makes the tool's complaint look like a certificate's text.
+          Case{whyNoCertificate(file("Validity.txt")), "no PEM certificate"},
           Case{whyNoKey({}, file("anna-key.pem")), "No certificate is chosen yet"},
           Case{whyNoKey(file("missing.pem"), file("anna-key.pem")), "certificate itself"},
           Case{whyNoKey(anna, {}), "No file"}, Case{whyNoKey(anna, file("encrypted-key.pem")), "pass phrase"},
@@ -156,5 +144,6 @@ TEST_F(Certificates, TellWhomTheyAreForAndHowLong)
     const auto anna = *readCertificateSummary(file("anna.pem"));
     EXPECT_TRUE(validityWarning(anna, anna.notBefore.addSecs(-1)).contains(u"not valid before"));
     EXPECT_TRUE(validityWarning(anna, anna.notAfter.addSecs(-1)).contains(u"today"));
-    EXPECT_FALSE(readCertificateSummary(file("anna.der")));
+    for (const char *none : {"anna.der", "Validity.txt"})
+        EXPECT_FALSE(readCertificateSummary(file(none))) << none;
 }

@@ -3,8 +3,10 @@
 
 #include "TemporaryFolder.h"
 
+#include <csignal>
 #include <gtest/gtest.h>
 #include <limits>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace fs = std::filesystem;
@@ -91,13 +93,11 @@ TEST_F(PlistFile, RefusesWhatIsNoRegularFile)
     fs::create_symlink("nowhere", folder / "dangling");
     writeFile(folder / "large", head + tail);
     fs::resize_file(folder / "large", std::uintmax_t{plist::maximumFileSize} + 1);
-    const std::vector<std::pair<fs::path, QString>> placesAndReasons{
-        {folder.path(), u"not a regular file"_s},
-        {folder / "pipe", u"not a regular file"_s},
-        {folder / "dangling", u"no such file"_s},
-        {folder / "large", u"larger than 64 MiB"_s}};
-    for (const auto &[place, reason] : placesAndReasons) {
-        const plist::FileContent content = plist::readFile(toQString(place));
+    for (const auto &[name, reason] : {std::pair{".", u"not a regular file"_s},
+                                       {"pipe", u"not a regular file"_s},
+                                       {"dangling", u"no such file"_s},
+                                       {"large", u"larger than 64 MiB"_s}}) {
+        const plist::FileContent content = plist::readFile(toQString(folder / name));
         EXPECT_FALSE(content.dictionary);
         EXPECT_TRUE(content.reason.endsWith(reason)) << content.reason.toStdString();
     }
@@ -164,6 +164,25 @@ TEST_F(PlistFile, RefusesToWriteWhatItCouldNotReadBackAndKeepsTheOldFile)
     inItself.clear(); // or it would keep itself alive
     EXPECT_NE(plist::writeFile(path, Dictionary{}), QString());
     EXPECT_EQ(readFile(file), "old");
+}
+
+TEST_F(PlistFile, KeepsTheOldFileWhereTheNewOneIsNotWhole)
+{
+    const Dictionary large = Dictionary::make();
+    large.setValue(u"text"_s, QString(100'000, u'x'));
+    writeFile(file, "old");
+    // No file may grow beyond this, as on a full disk.
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit full{50'000, before.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &full);
+    const QString reason = plist::writeFile(path, large);
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_TRUE(reason.startsWith(path)) << reason.toStdString();
+    EXPECT_EQ(readFile(file), "old");
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 1) << "a part of it lies there";
 }
 
 TEST_F(PlistFile, IsWrittenThroughLinksForTheUserAlone)

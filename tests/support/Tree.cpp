@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <functional>
 #include <random>
+#include <sstream>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -57,34 +58,16 @@ std::string printable(const std::string &bytes)
     return text;
 }
 
-std::string timeText(const TreeEntry &entry)
+/// As far as the comparison looks at it.
+std::string describe(const TreeEntry &entry, const TreeComparison &comparison)
 {
-    return std::to_string(entry.seconds) + " s " + std::to_string(entry.nanoseconds) + " ns";
-}
-
-/// What differs between two entries of the same path, as "kind expected/actual" items.
-std::string entryDifference(const TreeEntry &expected, const TreeEntry &actual,
-                            const TreeComparison &comparison)
-{
-    std::string text;
-    const auto note = [&text](const std::string &what, const std::string &left, const std::string &right) {
-        if (left != right) text += "; " + what + " " + left + " became " + right;
-    };
-    note("type", std::string(1, expected.type), std::string(1, actual.type));
-    note("target", printable(expected.target), printable(actual.target));
-    note("size", std::to_string(expected.size), std::to_string(actual.size));
-    if (text.empty() && expected.contentHash != actual.contentHash) text += "; the content differs";
-    const auto octal = [](unsigned mode) {
-        char digits[16];
-        std::snprintf(digits, sizeof digits, "%04o", mode);
-        return std::string(digits);
-    };
-    if (comparison.modes) note("mode", octal(expected.mode), octal(actual.mode));
-    const bool sameTime = expected.seconds == actual.seconds &&
-                          (!comparison.nanoseconds || expected.nanoseconds == actual.nanoseconds);
-    const bool timeMatters = expected.type != 'l' || comparison.linkTimes;
-    if (timeMatters && !sameTime) note("time", timeText(expected), timeText(actual));
-    return text;
+    std::ostringstream text;
+    text << entry.type << ' ' << printable(entry.target) << entry.size << " bytes #" << entry.contentHash;
+    if (comparison.modes) text << std::oct << " 0" << entry.mode << std::dec;
+    if (entry.type == 'l' && !comparison.linkTimes) return text.str();
+    text << ' ' << entry.seconds << " s";
+    if (comparison.nanoseconds) text << ' ' << entry.nanoseconds << " ns";
+    return text.str();
 }
 
 void setTime(const fs::path &path, std::int64_t seconds, std::int64_t nanoseconds)
@@ -154,9 +137,9 @@ std::string treeDifference(const TreeSnapshot &expected, const TreeSnapshot &act
     for (const auto &[path, entry] : expected) {
         if (path == "." && !comparison.root) continue;
         const auto found = actual.find(path);
-        const std::string difference =
-            found == actual.end() ? "; is missing" : entryDifference(entry, found->second, comparison);
-        if (!difference.empty()) text += printable(path) + ":" + difference.substr(1) + "\n";
+        const std::string was = describe(entry, comparison);
+        const std::string is = found == actual.end() ? "nothing" : describe(found->second, comparison);
+        if (was != is) text += printable(path) + ": " + was + " became " + is + "\n";
     }
     for (const auto &[path, entry] : actual)
         if (!expected.contains(path)) text += printable(path) + ": was not expected\n";

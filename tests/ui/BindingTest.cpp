@@ -26,12 +26,12 @@ void onAnotherThread(Work work)
 
 TEST_F(BindingTest, EveryOutletHasOneWidget)
 {
-    QStringList wrong;
+    QSet<QString> names;
     for (const outlets::Outlet *outlet : delegate.outlets()) {
-        const auto widgets = ui::widgetsNamed(outlet->name(), window.roots()).size();
-        if (widgets != 1) wrong.append(outlet->name());
+        EXPECT_EQ(ui::widgetsNamed(outlet->name(), window.roots()).size(), 1) << outlet->name().toStdString();
+        EXPECT_FALSE(names.contains(outlet->name())) << outlet->name().toStdString() << " is there twice";
+        names.insert(outlet->name());
     }
-    EXPECT_EQ(wrong.join(u' ').toStdString(), "");
 }
 
 TEST_F(BindingTest, ManyChangesAreShownOnceAndByTheLastValue)
