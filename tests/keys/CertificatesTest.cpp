@@ -1,12 +1,16 @@
+// Certificates and private keys: which are taken, what is said of the others, and what is told of those
+// taken.
+
 #include "keys/Certificates.h"
 
 #include "Credentials.h"
 #include "ProgramTest.h"
 #include "Stub.h"
 #include "keys/CertificateSummary.h"
-#include "keys/Refusals.h"
+#include "tools/Threads.h"
 
 using namespace quillorentLibrary;
+using namespace std::chrono_literals;
 namespace fs = std::filesystem;
 
 namespace {
@@ -25,8 +29,7 @@ protected:
              {"rsa -in anna-key.pem -aes128 -passout pass:x -out encrypted-key.pem",
               "rsa -in anna-key.pem -aes128 -passout pass:x -traditional -out old-encrypted-key.pem",
               "req -x509 -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 -nodes -keyout ec-key.pem -out "
-              "ec.pem "
-              "-subj /CN=ec",
+              "ec.pem -subj /CN=ec",
               "x509 -in anna.pem -outform DER -out anna.der",
               "pkcs12 -export -in anna.pem -inkey anna-key.pem -passout pass:x -out anna.p12",
               "rsa -in anna-key.pem -pubout -out public.pem",
@@ -43,7 +46,37 @@ protected:
     static void TearDownTestSuite() { s_folder.reset(); }
 
     static const fs::path &path() { return s_folder->path(); }
-    static QString file(const char *name) { return toQString(path() / name); }
+    static QString file(const QString &name) { return toQString(path()) + u'/' + name; }
+
+    /// Chooses a file ("-": none), and gives what the sheet says that the choice brings up; empty where none
+    /// comes.
+    QString choose(const QString &name, void (QuillorentAppDelegate::*action)())
+    {
+        delegate.openPanel = [&](const outlets::OpenPanel &panel) {
+            EXPECT_EQ(panel.allowedFileTypes.join(u' '),
+                      u"cer p12 p15 crt der pem pfx cert txt rtf pk12 pk15 pkcs12"_qs);
+            return name == u"-" ? QStringList() : QStringList{file(name)};
+        };
+        (delegate.*action)();
+        QString shown;
+        EXPECT_TRUE(TestProgram::waitUntil([&] {
+            if (delegate.certPanel01.place() == outlets::Panel::Place::Sheet) {
+                shown = delegate.certPanelText01.text();
+                delegate.certButton01ActionEnd();
+            }
+            if (delegate.pkPanel01.place() == outlets::Panel::Place::Sheet) {
+                shown = delegate.pkPanelText01.text();
+                delegate.pkButton01ActionEnd();
+            }
+            return waitForThreads(1ms);
+        }));
+        return shown;
+    }
+    QString chooseCertificate(const QString &name)
+    {
+        return choose(name, &QuillorentAppDelegate::certButton01Action);
+    }
+    QString chooseKey(const QString &name) { return choose(name, &QuillorentAppDelegate::pkButton01Action); }
 
     static std::unique_ptr<TemporaryFolder> s_folder;
 };
@@ -52,40 +85,86 @@ std::unique_ptr<TemporaryFolder> Certificates::s_folder;
 
 } // namespace
 
-TEST_F(Certificates, AreReadAsPemOnly)
+TEST_F(Certificates, AreKeptWhereTheyAreOfUseAndRefusedWithTheReason)
 {
-    for (const char *good : {"anna.pem", "ec.pem", "old.pem", "chain.pem", "both.pem"})
-        EXPECT_TRUE(testCert(file(good), u"Validity"_qs)) << good;
-    for (const char *bad : {"anna.der", "anna.p12", "anna-key.pem", "public.pem", "damaged.pem", "notes.txt",
-                            "empty.pem", "missing.pem", ""})
-        EXPECT_FALSE(testCert(file(bad), u"Validity"_qs)) << bad;
-    EXPECT_TRUE(showCert(file("anna.pem")).contains(u"CN = anna"));
-    EXPECT_FALSE(showCert(file("notes.txt")).isEmpty());
+    QString last;
+    for (const auto &[name, words] : {std::pair{u"anna.pem"_qs, u""_qs},
+                                      {u"ec.pem"_qs, u""_qs},
+                                      {u"chain.pem"_qs, u""_qs},
+                                      {u"both.pem"_qs, u""_qs},
+                                      {u"old.pem"_qs, u""_qs},
+                                      {u"-"_qs, u"No file"_qs},
+                                      {u""_qs, u"folder"_qs},
+                                      {u"missing.pem"_qs, u"can't be read: No such file"_qs},
+                                      {u"empty.pem"_qs, u"empty"_qs},
+                                      {u"anna.der"_qs, u"-inform DER"_qs},
+                                      {u"anna.p12"_qs, u"openssl pkcs12"_qs},
+                                      {u"anna-key.pem"_qs, u"holds a private key"_qs},
+                                      {u"public.pem"_qs, u"no PEM certificate"_qs},
+                                      {u"damaged.pem"_qs, u"damaged"_qs},
+                                      {u"notes.txt"_qs, u"no PEM certificate"_qs}}) {
+        const QString refusal = chooseCertificate(name);
+        EXPECT_EQ(refusal.isEmpty(), words.isEmpty()) << qPrintable(name);
+        EXPECT_TRUE(refusal.contains(words)) << qPrintable(name + refusal);
+        if (words.isEmpty()) last = file(name);
+        EXPECT_EQ(kept(u"lastcertfile"_qs), last);
+        EXPECT_EQ(delegate.certFile01.text(), last);
+    }
 }
 
 TEST_F(Certificates, TakeTheKeyThatBelongsToThem)
 {
-    struct Case {
-        const char *certificate;
-        const char *key;
-        bool belongs;
-    };
-    for (const auto &[certificate, key, belongs] :
-         {Case{"anna.pem", "anna-key.pem", true}, Case{"same-key.pem", "anna-key.pem", true},
-          Case{"chain.pem", "anna-key.pem", true}, Case{"both.pem", "both.pem", true},
-          Case{"chain.pem", "bert-key.pem", false}, Case{"anna.pem", "bert-key.pem", false},
-          Case{"ec.pem", "ec-key.pem", false}, Case{"anna.pem", "encrypted-key.pem", false},
-          Case{"anna.pem", "old-encrypted-key.pem", false}, Case{"anna.pem", "anna.pem", false},
-          Case{"anna.pem", "missing.pem", false}, Case{"notes.txt", "notes.txt", false},
-          Case{"", "anna-key.pem", false}})
-        EXPECT_EQ(testKey(file(certificate), file(key)), belongs) << certificate << ' ' << key;
-    EXPECT_TRUE(showKey(file("anna-key.pem"))->contains(u"PRIVATE KEY-----"));
+    EXPECT_TRUE(chooseKey(u"anna-key.pem"_qs).contains(u"No certificate is chosen yet"));
+    QString last;
+    for (const auto &[certificate, key, words] :
+         {std::tuple{u"anna.pem"_qs, u"anna-key.pem"_qs, u""_qs},
+          {u"same-key.pem"_qs, u"anna-key.pem"_qs, u""_qs},
+          {u"chain.pem"_qs, u"anna-key.pem"_qs, u""_qs},
+          {u"both.pem"_qs, u"both.pem"_qs, u""_qs},
+          {u"chain.pem"_qs, u"bert-key.pem"_qs, u"does not belong"_qs},
+          {u"anna.pem"_qs, u"bert-key.pem"_qs, u"does not belong"_qs},
+          {u"ec.pem"_qs, u"ec-key.pem"_qs, u"not an RSA key"_qs},
+          {u"anna.pem"_qs, u"encrypted-key.pem"_qs, u"pass phrase"_qs},
+          {u"anna.pem"_qs, u"old-encrypted-key.pem"_qs, u"pass phrase"_qs},
+          {u"anna.pem"_qs, u"bert.pem"_qs, u"holds a certificate"_qs},
+          {u"anna.pem"_qs, u"anna.p12"_qs, u"-nocerts"_qs},
+          {u"anna.pem"_qs, u"notes.txt"_qs, u"no private key"_qs},
+          {u"anna.pem"_qs, u"missing.pem"_qs, u"can't be read"_qs},
+          {u"anna.pem"_qs, u"-"_qs, u"No file"_qs},
+          {u"missing.pem"_qs, u"anna-key.pem"_qs, u"certificate itself"_qs},
+          {u"notes.txt"_qs, u"notes.txt"_qs, u"certificate itself"_qs}}) {
+        delegate.certFile01.setText(file(certificate));
+        const QString refusal = chooseKey(key);
+        EXPECT_EQ(refusal.isEmpty(), words.isEmpty()) << qPrintable(certificate + key);
+        EXPECT_TRUE(refusal.contains(words)) << qPrintable(certificate + key + refusal);
+        if (words.isEmpty()) last = file(key);
+        EXPECT_EQ(kept(u"lastpkfile"_qs), last);
+        EXPECT_EQ(delegate.pkFile01.text(), last);
+    }
 
     const Stub stub(program.folder(), "openssl", "bad-bytes");
     program.useTool(u"OpenSSL"_qs, stub.path());
-    EXPECT_FALSE(showKey(file("anna-key.pem")));
-    EXPECT_EQ(showCert(file("anna.pem")), QString());
-    EXPECT_FALSE(testKey(file("anna.pem"), file("anna-key.pem")));
+    EXPECT_FALSE(showKey(file(u"anna-key.pem"_qs)));
+    EXPECT_EQ(showCert(file(u"anna.pem"_qs)), QString());
+    EXPECT_FALSE(testKey(file(u"anna.pem"_qs), file(u"anna-key.pem"_qs)));
+}
+
+TEST_F(Certificates, AnAnswerThatComesLateStaysWithItsProfile)
+{
+    const QString first = delegate.currentProfile();
+    delegate.listPlist().setValue(u"other"_qs, plist::Dictionary::make());
+    delegate.openPanel = [](const outlets::OpenPanel &) { return QStringList{file(u"anna.pem"_qs)}; };
+    // The file is looked at while the other profile is opened.
+    const fs::path tool = program.folder() / "openssl";
+    writeFile(tool, "#!/bin/sh\nuntil [ -e \"$0.go-on\" ]; do sleep 0.01; done\nexec openssl \"$@\"\n");
+    fs::permissions(tool, fs::perms::owner_all);
+    program.useTool(u"OpenSSL"_qs, tool);
+    delegate.certButton01Action();
+    delegate.setterCurrentProfile(u"other"_qs);
+    writeFile(tool.string() + ".go-on", "");
+    ASSERT_TRUE(waitForThreads(60s));
+    EXPECT_EQ(delegate.certFile01.text(), QString());
+    EXPECT_EQ(delegate.listPlist().dictionary(first).string(u"lastcertfile"_qs), file(u"anna.pem"_qs));
 }
 
 TEST_F(Certificates, PublicKeyStandsBetweenItsMarkers)
@@ -100,50 +179,52 @@ TEST_F(Certificates, PublicKeyStandsBetweenItsMarkers)
     EXPECT_EQ(trimPubKey(begin + u"a"_qs + end + begin + u"b"_qs + end), u"a"_qs);
 }
 
-TEST_F(Certificates, EachRefusalSaysWhy)
-{
-    struct Case {
-        QString why;
-        const char *words;
-    };
-    const QString anna = file("anna.pem");
-    for (const auto &[why, words] :
-         {Case{whyNoCertificate({}), "No file"},
-          Case{whyNoCertificate(file("missing.pem")), "can't be read: No such file"},
-          Case{whyNoCertificate(file("")), "folder"}, Case{whyNoCertificate(file("empty.pem")), "empty"},
-          Case{whyNoCertificate(file("anna.der")), "-inform DER"},
-          Case{whyNoCertificate(file("anna.p12")), "openssl pkcs12"},
-          Case{whyNoCertificate(file("anna-key.pem")), "holds a private key"},
-          Case{whyNoCertificate(file("damaged.pem")), "damaged"},
-          Case{whyNoCertificate(file("notes.txt")), "no PEM certificate"},
-          // A name that makes the tool's complaint look like a certificate's text.
-          Case{whyNoCertificate(file("Validity.txt")), "no PEM certificate"},
-          Case{whyNoKey({}, file("anna-key.pem")), "No certificate is chosen yet"},
-          Case{whyNoKey(file("missing.pem"), file("anna-key.pem")), "certificate itself"},
-          Case{whyNoKey(anna, {}), "No file"}, Case{whyNoKey(anna, file("encrypted-key.pem")), "pass phrase"},
-          Case{whyNoKey(anna, file("old-encrypted-key.pem")), "pass phrase"},
-          Case{whyNoKey(file("ec.pem"), file("ec-key.pem")), "not an RSA key"},
-          Case{whyNoKey(anna, file("bert.pem")), "holds a certificate"},
-          Case{whyNoKey(anna, file("anna.p12")), "-nocerts"},
-          Case{whyNoKey(anna, file("notes.txt")), "no private key"},
-          Case{whyNoKey(anna, file("bert-key.pem")), "does not belong"}})
-        EXPECT_TRUE(why.contains(QString::fromLatin1(words))) << words << ": " << qPrintable(why);
-}
-
 TEST_F(Certificates, TellWhomTheyAreForAndHowLong)
 {
-    const auto now = QDateTime::currentDateTimeUtc();
+    const auto summary = [](const char *name) { return *readCertificateSummary(file(QLatin1String(name))); };
     const auto warning = [&](const char *name) {
-        return validityWarning(*readCertificateSummary(file(name)), now);
+        return validityWarning(summary(name), QDateTime::currentDateTimeUtc());
     };
-    EXPECT_EQ(readCertificateSummary(file("same-key.pem"))->subject, u"CN=Grüße,O=Other"_qs);
-    EXPECT_TRUE(describeCertificate(*readCertificateSummary(file("old.pem"))).contains(u"2021-01-01"));
+    EXPECT_EQ(summary("same-key.pem").subject, u"CN=Grüße,O=Other"_qs);
+    EXPECT_TRUE(describeCertificate(summary("old.pem")).contains(u"2021-01-01"));
     EXPECT_EQ(warning("anna.pem"), QString());
     EXPECT_TRUE(warning("old.pem").contains(u"has expired"));
     EXPECT_TRUE(warning("soon.pem").contains(u"in 4 days") || warning("soon.pem").contains(u"in 5 days"));
-    const auto anna = *readCertificateSummary(file("anna.pem"));
+    const auto anna = summary("anna.pem");
     EXPECT_TRUE(validityWarning(anna, anna.notBefore.addSecs(-1)).contains(u"not valid before"));
     EXPECT_TRUE(validityWarning(anna, anna.notAfter.addSecs(-1)).contains(u"today"));
-    for (const char *none : {"anna.der", "Validity.txt"})
-        EXPECT_FALSE(readCertificateSummary(file(none))) << none;
+    // A name that makes the tool's complaint look like a certificate's text.
+    for (const QString &none : {u"anna.der"_qs, u"Validity.txt"_qs})
+        EXPECT_FALSE(readCertificateSummary(file(none))) << qPrintable(none);
+
+    chooseCertificate(u"anna.pem"_qs);
+    EXPECT_TRUE(delegate.certSummary01.text().startsWith(u"CN=anna"));
+    EXPECT_TRUE(delegate.certWarning01.isHidden());
+    EXPECT_TRUE(delegate.pkWarning01.text().contains(u"No private key"));
+    chooseKey(u"anna-key.pem"_qs);
+    EXPECT_TRUE(delegate.pkWarning01.isHidden());
+    delegate.pkFile01.setText(file(u"missing.pem"_qs));
+    delegate.describeKeys();
+    ASSERT_TRUE(waitForThreads(60s));
+    EXPECT_TRUE(delegate.pkWarning01.text().contains(u"not where it was"));
+}
+
+TEST_F(Certificates, AreShownInTheConsole)
+{
+    delegate.consoleTextView01.setText(u"before"_qs);
+    delegate.certInfo01();
+    delegate.certInfo02();
+    EXPECT_EQ(delegate.consoleTextView01.text(), u"before"_qs);
+    EXPECT_EQ(delegate.consolePanel01.place(), outlets::Panel::Place::Hidden);
+
+    delegate.certFile01.setText(file(u"anna.pem"_qs));
+    delegate.pkFile01.setText(file(u"anna-key.pem"_qs));
+    for (const auto &[action, words] : {std::pair{&QuillorentAppDelegate::certInfo01, u"Certificate:"_qs},
+                                        {&QuillorentAppDelegate::certInfo02, u"PRIVATE KEY-----"_qs}}) {
+        (delegate.*action)();
+        EXPECT_EQ(delegate.consolePanel01.place(), outlets::Panel::Place::Window);
+        ASSERT_TRUE(waitForThreads(60s));
+        EXPECT_TRUE(delegate.consoleTextView01.text().contains(words));
+        EXPECT_FALSE(delegate.consoleTextView01.text().contains(u"before"));
+    }
 }

@@ -63,10 +63,6 @@ TEST_F(PasswordActions, EachSourceHasItsText)
         EXPECT_EQ(delegate.pkeySelector(), source != 2) << source;
     }
     delegate.passCombo01.selectIndex(PasswordTab::Certificate);
-    delegate.passCombo01Action();
-    EXPECT_EQ(delegate.currentRecord().integer(u"passtype"_qs), 2);
-    EXPECT_EQ(delegate.passTabs.selectedIndex(), 2);
-    EXPECT_FALSE(delegate.pkView.isHidden());
     delegate.certFile01.setText(u"/keys/anna.pem"_qs);
     EXPECT_TRUE(delegate.pkeySelector());
     EXPECT_EQ(delegate.passwordSelector(), u"/keys/anna.pem"_qs);

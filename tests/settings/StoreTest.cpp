@@ -37,23 +37,18 @@ public:
     explicit OrdinaryUser(const fs::path &folder)
     {
         if (getuid() != 0) return;
+        EXPECT_EQ(lchown(folder.c_str(), nobody, nobody), 0);
         for (const auto &entry : fs::recursive_directory_iterator(folder))
             EXPECT_EQ(lchown(entry.path().c_str(), nobody, nobody), 0);
-        EXPECT_EQ(lchown(folder.c_str(), nobody, nobody), 0);
         EXPECT_EQ(setresuid(nobody, nobody, 0), 0);
-        m_wasRoot = true;
     }
-    ~OrdinaryUser()
-    {
-        if (!m_wasRoot) return;
-        EXPECT_EQ(setresuid(0, 0, 0), 0);
-    }
+    ~OrdinaryUser() { EXPECT_EQ(setresuid(m_before, m_before, m_before), 0); }
     OrdinaryUser(const OrdinaryUser &) = delete;
     OrdinaryUser &operator=(const OrdinaryUser &) = delete;
 
 private:
     static constexpr uid_t nobody = 65534;
-    bool m_wasRoot = false;
+    const uid_t m_before = getuid();
 };
 
 class Store : public testing::Test {
@@ -108,10 +103,9 @@ TEST_F(Store, LiesInTheFolderThatTheEnvironmentNames)
 {
     const QByteArray home = qgetenv("HOME");
     qputenv("HOME", "/home/of/one");
-    for (const auto &[configured, expected] : {std::pair{"/some/where/", "/some/where/"},
-                                               {"relative", "/home/of/one/.config/"},
-                                               {"", "/home/of/one/.config/"}}) {
+    for (const char *configured : {"/some/where/", "relative", ""}) {
         qputenv("XDG_CONFIG_HOME", configured);
+        const std::string expected = *configured == '/' ? configured : "/home/of/one/.config/";
         EXPECT_EQ(settingsPath().toStdString(), expected + settingsName);
         EXPECT_EQ(profilesPath().toStdString(), expected + profilesName);
     }
@@ -135,7 +129,8 @@ TEST_F(Store, IsBroughtUpToDateWhereTheVersionDiffers)
 
 TEST_F(Store, KeepsWhatCannotBeReadWhenItIsSavedOver)
 {
-    for (const std::string &content : {halfWritten, std::string("other"), halfWritten, std::string()}) {
+    const std::string other(halfWritten.size(), 'x');
+    for (const std::string &content : {halfWritten, other, halfWritten, std::string()}) {
         writeFile(settings, content);
         EXPECT_FALSE(readSettings());
         EXPECT_FALSE(areSettingsSaved(someSettings()));
@@ -146,7 +141,7 @@ TEST_F(Store, KeepsWhatCannotBeReadWhenItIsSavedOver)
     }
     // The second "halfWritten" is kept already, and nothing is not worth keeping.
     EXPECT_EQ(readFile(damaged), halfWritten);
-    EXPECT_EQ(readFile(damaged.string() + ".1"), "other");
+    EXPECT_EQ(readFile(damaged.string() + ".1"), other);
     EXPECT_FALSE(fs::exists(damaged.string() + ".2"));
     EXPECT_EQ(fs::status(damaged).permissions(), fs::perms{0600});
 
@@ -166,14 +161,16 @@ TEST_F(Store, LeavesWhatStandsInItsPlaceAndIsNoFile)
 
 TEST_F(Store, ReplacesAFileThatMayNotBeWrittenAndKeepsIt)
 {
-    for (const char *version : {"old", "older", "old"}) {
-        writeFile(settings, document(versionElement(version)));
+    const std::string old = document(versionElement("old"));
+    const std::string older = document(versionElement("older"));
+    for (const std::string &content : {old, older, old, std::string()}) { // nothing is not worth keeping
+        writeFile(settings, content);
         fs::permissions(settings, fs::perms{0400});
         const OrdinaryUser user(folder.path());
         EXPECT_EQ(readSettings().string(u"version"_s), u"2");
     }
-    EXPECT_EQ(readFile(damaged), document(versionElement("old")));
-    EXPECT_EQ(readFile(damaged.string() + ".1"), document(versionElement("older")));
+    EXPECT_EQ(readFile(damaged), old);
+    EXPECT_EQ(readFile(damaged.string() + ".1"), older);
     EXPECT_FALSE(fs::exists(damaged.string() + ".2"));
     EXPECT_EQ(fs::status(settings).permissions(), fs::perms{0600});
 }
@@ -210,10 +207,12 @@ TEST_F(Store, FollowsLinks)
     EXPECT_TRUE(fs::is_symlink(profiles));
     EXPECT_EQ(plist::readFile(toQString(kept)).dictionary, someSettings());
 
+    // The link is what is kept, though its content was kept before.
+    fs::copy_file(kept, damaged);
     fs::permissions(kept, fs::perms{0400});
     const OrdinaryUser user(folder.path());
     EXPECT_TRUE(readSettings().contains(u"new"_s));
-    EXPECT_EQ(fs::read_symlink(damaged), "../../kept.plist");
+    EXPECT_EQ(fs::read_symlink(damaged.string() + ".1"), "../../kept.plist");
     EXPECT_EQ(plist::readFile(toQString(kept)).dictionary, someSettings());
 }
 

@@ -83,38 +83,15 @@ void setMode(const fs::path &path, mode_t mode)
 
 void makeOddNames(const fs::path &folder)
 {
-    // The last ones: characters beyond ASCII, bytes that are no UTF-8, and characters that may stand for
-    // such.
-    for (const std::string name : {"plain.txt",
-                                   "with space.txt",
-                                   " leading space",
-                                   "trailing space ",
-                                   "line\nbreak",
-                                   "-leading",
-                                   "--",
-                                   "*",
-                                   "*.txt",
-                                   "?",
-                                   "[a-z]",
-                                   "@list",
-                                   "#comment",
-                                   ";semicolon",
-                                   "$HOME",
-                                   "back\\slash",
-                                   "quote'\"",
-                                   "tab\there",
-                                   "~",
-                                   "...",
-                                   ".hidden",
-                                   "stra\xC3\x9F\x65 gr\xC3\xBCn.txt",
-                                   "\xE6\x97\xA5\xE6\x9C\xAC.txt",
-                                   "latin1 caf\xE9",
-                                   "\xFF\xFEraw",
-                                   "cut\xC3",
-                                   "\xEF\xBF\xBE marker",
-                                   "\xEE\x83\xBF private",
-                                   "private \xEE\x83\xA9 and \xE9",
-                                   "surrogate \xED\xA0\x80"})
+    // Between the slashes; the last line has characters beyond ASCII, bytes that are no UTF-8, and characters
+    // that may stand for such.
+    std::istringstream names(
+        "plain.txt/with space.txt/ leading space/trailing space "
+        "/line\nbreak/-leading/--/*/*.txt/?/[a-z]/@list/"
+        "#comment/;semicolon/$HOME/back\\slash/quote'\"/tab\there/~/.../.hidden/"
+        "stra\xC3\x9F\x65 gr\xC3\xBCn.txt/\xE6\x97\xA5\xE6\x9C\xAC.txt/latin1 caf\xE9/\xFF\xFEraw/cut\xC3/"
+        "\xEF\xBF\xBE marker/\xEE\x83\xBF private/private \xEE\x83\xA9 and \xE9/surrogate \xED\xA0\x80");
+    for (std::string name; std::getline(names, name, '/');)
         writeFile(folder / name, "content of " + name);
     writeFile(folder / std::string(255, 'n'), "the longest name");
 }
