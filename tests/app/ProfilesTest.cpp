@@ -167,6 +167,8 @@ TEST_F(Profiles, TheSelectedOneOpensAtStartUpOrTheLast)
 
     delegate.profileButton02Action();
     EXPECT_EQ(delegate.currentProfile(), u"a"_qs);
+    delegate.setterCurrentProfile(u"b"_qs);
+    EXPECT_EQ(delegate.profileCombo01.selectedTitle(), u"b"_qs);
 }
 
 TEST_F(Profiles, WhatCanNotBeSavedIsTold)

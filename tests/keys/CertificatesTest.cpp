@@ -88,25 +88,21 @@ std::unique_ptr<TemporaryFolder> Certificates::s_folder;
 TEST_F(Certificates, AreKeptWhereTheyAreOfUseAndRefusedWithTheReason)
 {
     QString last;
-    for (const auto &[name, words] : {std::pair{u"anna.pem"_qs, u""_qs},
-                                      {u"ec.pem"_qs, u""_qs},
-                                      {u"chain.pem"_qs, u""_qs},
-                                      {u"both.pem"_qs, u""_qs},
-                                      {u"old.pem"_qs, u""_qs},
-                                      {u"-"_qs, u"No file"_qs},
-                                      {u""_qs, u"folder"_qs},
-                                      {u"missing.pem"_qs, u"can't be read: No such file"_qs},
-                                      {u"empty.pem"_qs, u"empty"_qs},
-                                      {u"anna.der"_qs, u"-inform DER"_qs},
-                                      {u"anna.p12"_qs, u"openssl pkcs12"_qs},
-                                      {u"anna-key.pem"_qs, u"holds a private key"_qs},
-                                      {u"public.pem"_qs, u"no PEM certificate"_qs},
-                                      {u"damaged.pem"_qs, u"damaged"_qs},
-                                      {u"notes.txt"_qs, u"no PEM certificate"_qs}}) {
-        const QString refusal = chooseCertificate(name);
-        EXPECT_EQ(refusal.isEmpty(), words.isEmpty()) << qPrintable(name);
-        EXPECT_TRUE(refusal.contains(words)) << qPrintable(name + refusal);
-        if (words.isEmpty()) last = file(name);
+    struct Case {
+        const char *name;
+        const char *words; ///< of the refusal; empty where there is none
+    };
+    for (const auto &[name, words] :
+         {Case{"anna.pem", ""}, Case{"ec.pem", ""}, Case{"chain.pem", ""}, Case{"both.pem", ""},
+          Case{"old.pem", ""}, Case{"-", "No file"}, Case{"", "folder"},
+          Case{"missing.pem", "can't be read: No such file"}, Case{"empty.pem", "empty"},
+          Case{"anna.der", "-inform DER"}, Case{"anna.p12", "openssl pkcs12"},
+          Case{"anna-key.pem", "holds a private key"}, Case{"public.pem", "no PEM certificate"},
+          Case{"damaged.pem", "damaged"}, Case{"notes.txt", "no PEM certificate"}}) {
+        const QString refusal = chooseCertificate(QLatin1String(name));
+        EXPECT_EQ(refusal.isEmpty(), *words == '\0') << name;
+        EXPECT_TRUE(refusal.contains(QLatin1String(words))) << name << ": " << qPrintable(refusal);
+        if (refusal.isEmpty()) last = file(QLatin1String(name));
         EXPECT_EQ(kept(u"lastcertfile"_qs), last);
         EXPECT_EQ(delegate.certFile01.text(), last);
     }
@@ -116,28 +112,28 @@ TEST_F(Certificates, TakeTheKeyThatBelongsToThem)
 {
     EXPECT_TRUE(chooseKey(u"anna-key.pem"_qs).contains(u"No certificate is chosen yet"));
     QString last;
+    struct Case {
+        const char *certificate;
+        const char *key;
+        const char *words;
+    };
     for (const auto &[certificate, key, words] :
-         {std::tuple{u"anna.pem"_qs, u"anna-key.pem"_qs, u""_qs},
-          {u"same-key.pem"_qs, u"anna-key.pem"_qs, u""_qs},
-          {u"chain.pem"_qs, u"anna-key.pem"_qs, u""_qs},
-          {u"both.pem"_qs, u"both.pem"_qs, u""_qs},
-          {u"chain.pem"_qs, u"bert-key.pem"_qs, u"does not belong"_qs},
-          {u"anna.pem"_qs, u"bert-key.pem"_qs, u"does not belong"_qs},
-          {u"ec.pem"_qs, u"ec-key.pem"_qs, u"not an RSA key"_qs},
-          {u"anna.pem"_qs, u"encrypted-key.pem"_qs, u"pass phrase"_qs},
-          {u"anna.pem"_qs, u"old-encrypted-key.pem"_qs, u"pass phrase"_qs},
-          {u"anna.pem"_qs, u"bert.pem"_qs, u"holds a certificate"_qs},
-          {u"anna.pem"_qs, u"anna.p12"_qs, u"-nocerts"_qs},
-          {u"anna.pem"_qs, u"notes.txt"_qs, u"no private key"_qs},
-          {u"anna.pem"_qs, u"missing.pem"_qs, u"can't be read"_qs},
-          {u"anna.pem"_qs, u"-"_qs, u"No file"_qs},
-          {u"missing.pem"_qs, u"anna-key.pem"_qs, u"certificate itself"_qs},
-          {u"notes.txt"_qs, u"notes.txt"_qs, u"certificate itself"_qs}}) {
-        delegate.certFile01.setText(file(certificate));
-        const QString refusal = chooseKey(key);
-        EXPECT_EQ(refusal.isEmpty(), words.isEmpty()) << qPrintable(certificate + key);
-        EXPECT_TRUE(refusal.contains(words)) << qPrintable(certificate + key + refusal);
-        if (words.isEmpty()) last = file(key);
+         {Case{"anna.pem", "anna-key.pem", ""}, Case{"same-key.pem", "anna-key.pem", ""},
+          Case{"chain.pem", "anna-key.pem", ""}, Case{"both.pem", "both.pem", ""},
+          Case{"chain.pem", "bert-key.pem", "does not belong"},
+          Case{"anna.pem", "bert-key.pem", "does not belong"}, Case{"ec.pem", "ec-key.pem", "not an RSA key"},
+          Case{"anna.pem", "encrypted-key.pem", "pass phrase"},
+          Case{"anna.pem", "old-encrypted-key.pem", "pass phrase"},
+          Case{"anna.pem", "bert.pem", "holds a certificate"}, Case{"anna.pem", "anna.p12", "-nocerts"},
+          Case{"anna.pem", "notes.txt", "no private key"}, Case{"anna.pem", "missing.pem", "can't be read"},
+          Case{"ec.pem", "both.pem", "does not belong"}, Case{"anna.pem", "-", "No file"},
+          Case{"missing.pem", "anna-key.pem", "certificate itself"},
+          Case{"notes.txt", "notes.txt", "certificate itself"}}) {
+        delegate.certFile01.setText(file(QLatin1String(certificate)));
+        const QString refusal = chooseKey(QLatin1String(key));
+        EXPECT_EQ(refusal.isEmpty(), *words == '\0') << certificate << ' ' << key;
+        EXPECT_TRUE(refusal.contains(QLatin1String(words))) << key << ": " << qPrintable(refusal);
+        if (refusal.isEmpty()) last = file(QLatin1String(key));
         EXPECT_EQ(kept(u"lastpkfile"_qs), last);
         EXPECT_EQ(delegate.pkFile01.text(), last);
     }

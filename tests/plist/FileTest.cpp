@@ -75,6 +75,7 @@ TEST_F(PlistFile, RefusesMalformedDocumentsWithTheFileAndAReason)
         {"\n<!DOCTYPE plist [<!ATTLIST plist a CDATA \"b\">]>" + document(""), ":2: declarations"},
         {"<plist version=\">\"" + repeated(" a=\"\"", 300000) + "/>", "a tag of more than"},
         {valued(repeated("<array>", 1000000)), "deeper than 64"},
+        {valued(repeated("<array>", 64) + repeated("</array>", 64)), "deeper than 64"},
     };
     for (const auto &[malformed, reason] : documentsAndReasons) {
         SCOPED_TRACE(malformed.substr(0, 200));
@@ -129,6 +130,12 @@ TEST_F(PlistFile, IsReadBackAsItWas)
              QByteArray("\0\r\xff", 3), QByteArray(""),
              QDateTime(QDate(2024, 2, 29), QTime(23, 59, 58), Qt::UTC), Array::make()})
         values.append(value);
+    Array deepest = values; // on the third level
+    for (int level = 4; level <= plist::maximumDepth; ++level) {
+        const Array deeper = Array::make();
+        deepest.append(deeper);
+        deepest = deeper;
+    }
     const Dictionary nested = Dictionary::make();
     nested.setValue(u"b"_s, values);
     nested.setValue(u"a"_s, u"");
