@@ -55,6 +55,7 @@ TEST(MergeData, AddsWhatIsMissing)
              Merge{"config", "mustdo[ a ]", "mustdo[ a b ]", "mustdo[ a mustdo ]"},
              Merge{"config", "l[ ]", "l[ a l ]", "l[ l ]"},
              Merge{"config", "t{ a=user }", "t{ a=1 b=2 }", "t{ a=user t{ a=1 b=2 } }"},
+             Merge{"config", "t{ b=own a=user } l[ a b ]", "t{ a=1 } l[ b a ]", "t{ b=own a=user } l[ a b ]"},
              Merge{"config", "", "n# b!", ""},
              Merge{"config", "l= t=", "l[ a ] t{ a= }", "l= t="},
              Merge{"Config", "version=1", "version=2 a=", "version=1"}, // no type that is known
