@@ -42,9 +42,9 @@ Sshd::Sshd(const fs::path &folder, const std::string &command) : m_folder(folder
                                                 "\nStrictModes no\nUsePAM no\nPidFile none\n");
         // The whole path: it starts itself anew for each connection.
         const std::string program = "/usr/sbin/sshd";
+        const std::string configuration = m_folder / "sshd_config";
         m_server = std::make_unique<BackgroundProgram>(
-            std::vector{program, std::string("-De"), std::string("-f"), (m_folder / "sshd_config").string()},
-            CommandOptions{}, log);
+            std::vector<std::string>{program, "-D", "-f", configuration, "-E", log}, CommandOptions{}, log);
         // It ends at once where another program has the port.
         while (!m_server->hasEnded()) {
             if (readFile(log).find("listening on") != std::string::npos) return;
