@@ -156,6 +156,8 @@ QString FolderBackup::setFormerAside()
         item.former = *plan;
         item.packingSince = QDateTime::currentDateTimeUtc();
     });
+    if (plan->isEmpty()) return {};
+    m_run.journal().sync();
     const QString reason = setAside(*plan);
     if (!reason.isEmpty())
         return u"\"%1\" can't be given another name while its successor is made: %2."_qs.arg(files.value(0),

@@ -40,7 +40,7 @@ Run::Run(RunState &state, RunMonitor &monitor, RunRecord record, FolderLock lock
 
 void Run::execute()
 {
-    m_journal.change([](RunRecord &) {}); // on disk before the first tool starts
+    m_journal.begin(); // on disk before the first tool starts
     m_monitor.began();
     work();
     waitForWorkers();
@@ -53,7 +53,7 @@ void Run::execute()
 void Run::conclude()
 {
     const QString text = summary(); // looks at the record itself
-    m_journal.change([this, &text](RunRecord &record) {
+    m_journal.end([this, &text](RunRecord &record) {
         for (ItemRecord &item : record.items)
             if (item.outcome == Outcome::Open) item.outcome = Outcome::Cancelled;
         const bool succeeded =
@@ -113,7 +113,7 @@ void Run::endWorkers()
 
 void LoneRun::executeAlone(const std::function<void()> &item)
 {
-    journal().change([](RunRecord &) {});
+    journal().begin();
     item();
     conclude();
 }

@@ -7,6 +7,7 @@
 #include <QSaveFile>
 #include <algorithm>
 #include <atomic>
+#include <unistd.h>
 
 namespace {
 
@@ -69,16 +70,37 @@ RunJournal::RunJournal(RunRecord record)
 {
 }
 
-void RunJournal::change(const std::function<void(RunRecord &)> &step)
+void RunJournal::begin()
 {
     const std::lock_guard lock(m_mutex);
-    step(m_record);
-    if (!m_record.kind.isEmpty()) writeOrLog(m_path, m_record);
+    if (m_record.kind.isEmpty()) return;
+    m_file.setFileName(m_path);
+    const bool isOpen = m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered,
+                                    QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    if (!isOpen || m_file.write(recordLine(m_record)) < 0)
+        qCWarning(logRecords).noquote() << m_path << "can't be written:" << m_file.errorString();
+    if (isOpen) fsync(m_file.handle());
 }
 
 void RunJournal::changeItem(qsizetype index, const std::function<void(ItemRecord &)> &step)
 {
-    change([&](RunRecord &record) { step(record.items[index]); });
+    const std::lock_guard lock(m_mutex);
+    step(m_record.items[index]);
+    if (m_file.isOpen()) m_file.write(itemLine(index, m_record.items[index]));
+}
+
+void RunJournal::sync()
+{
+    const std::lock_guard lock(m_mutex);
+    if (m_file.isOpen()) fsync(m_file.handle());
+}
+
+void RunJournal::end(const std::function<void(RunRecord &)> &step)
+{
+    const std::lock_guard lock(m_mutex);
+    step(m_record);
+    m_file.close();
+    if (!m_record.kind.isEmpty()) writeOrLog(m_path, m_record);
 }
 
 RunRecord RunJournal::record() const

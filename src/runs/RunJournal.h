@@ -2,6 +2,7 @@
 
 #include "runs/RunRecord.h"
 
+#include <QFile>
 #include <functional>
 #include <mutex>
 
@@ -12,16 +13,21 @@
 /// Why no record can be written; empty where one can. Makes the folder.
 [[nodiscard]] QString whyNoRecords();
 
-/// Keeps the record of one run on disk, whole at each moment. Any thread may call.
+/// Keeps the record of one run on disk, whole at each moment and cheap to change. Any thread may call.
 class RunJournal {
 public:
     /// Nothing is written yet; and never of a run that has no kind.
     explicit RunJournal(RunRecord record);
 
-    /// Changes the record, then the file: it is there from the first change on. A file that can't be written
-    /// leaves the one before, and is no failure: who started the run was told.
-    void change(const std::function<void(RunRecord &)> &step);
+    /// Writes the record for the first time. A file that can't be written is no failure, here or later: who
+    /// started the run was told.
+    void begin();
+    /// Notes what happens to an item, in a few bytes at the end of the file.
     void changeItem(qsizetype index, const std::function<void(ItemRecord &)> &step);
+    /// Waits until all that was noted is on the disk.
+    void sync();
+    /// Changes the record for the last time, and writes it anew in the form for readers.
+    void end(const std::function<void(RunRecord &)> &step);
 
     [[nodiscard]] RunRecord record() const;
 
@@ -29,6 +35,7 @@ private:
     const QString m_path;
     mutable std::mutex m_mutex;
     RunRecord m_record;
+    QFile m_file; ///< not open where nothing is written
 };
 
 /// A record that is kept in a file.

@@ -125,7 +125,9 @@ ItemRecord readItem(const QJsonValue &value)
 
 } // namespace
 
-QByteArray toJson(const RunRecord &record)
+namespace {
+
+QJsonObject objectOf(const RunRecord &record)
 {
     QJsonObject object{{u"kind"_qs, record.kind},
                        {u"profile"_qs, record.profile},
@@ -137,12 +139,11 @@ QByteArray toJson(const RunRecord &record)
         object[u"outcome"] = nameOf(record.outcome);
         object[u"summary"] = record.summary;
     }
-    return QJsonDocument(object).toJson();
+    return object;
 }
 
-std::optional<RunRecord> recordFromJson(const QByteArray &json)
+std::optional<RunRecord> recordOf(const QJsonObject &object)
 {
-    const QJsonObject object = QJsonDocument::fromJson(json).object();
     if (!object[u"kind"].isString() || !object[u"folder"].isString()) return std::nullopt;
     return RunRecord{.kind = object[u"kind"].toString(),
                      .profile = object[u"profile"].toString(),
@@ -152,4 +153,34 @@ std::optional<RunRecord> recordFromJson(const QByteArray &json)
                      .outcome = outcomeOf(object[u"outcome"]),
                      .summary = object[u"summary"].toString(),
                      .items = listOf<ItemRecord>(object[u"items"], readItem)};
+}
+
+} // namespace
+
+QByteArray toJson(const RunRecord &record) { return QJsonDocument(objectOf(record)).toJson(); }
+
+QByteArray recordLine(const RunRecord &record)
+{
+    return QJsonDocument(objectOf(record)).toJson(QJsonDocument::Compact) + '\n';
+}
+
+QByteArray itemLine(qsizetype index, const ItemRecord &item)
+{
+    const QJsonObject change{{u"index"_qs, index}, {u"item"_qs, fromItem(item)}};
+    return QJsonDocument(change).toJson(QJsonDocument::Compact) + '\n';
+}
+
+std::optional<RunRecord> recordFromJson(const QByteArray &json)
+{
+    const QJsonDocument whole = QJsonDocument::fromJson(json);
+    if (whole.isObject()) return recordOf(whole.object());
+
+    const QList<QByteArray> lines = json.split('\n');
+    std::optional<RunRecord> record = recordOf(QJsonDocument::fromJson(lines.first()).object());
+    for (qsizetype line = 1; record && line < lines.size(); ++line) {
+        const QJsonObject change = QJsonDocument::fromJson(lines[line]).object();
+        const qint64 index = change[u"index"].toInteger(-1);
+        if (index >= 0 && index < record->items.size()) record->items[index] = readItem(change[u"item"]);
+    }
+    return record;
 }

@@ -53,5 +53,11 @@ struct RunRecord {
 /// As JSON (RFC 8259), UTF-8; times as ISO 8601, numbers beyond 53 bits as texts.
 [[nodiscard]] QByteArray toJson(const RunRecord &record);
 
-/// None where the text is none of a record.
+/// The record of a run that is at work: a line for the record, and later a line for each change of an item;
+/// see itemLine(). The JSON of each is in one line.
+[[nodiscard]] QByteArray recordLine(const RunRecord &record);
+[[nodiscard]] QByteArray itemLine(qsizetype index, const ItemRecord &item);
+
+/// Reads either form; a last line that was not finished is passed over. None where the text is none of a
+/// record.
 [[nodiscard]] std::optional<RunRecord> recordFromJson(const QByteArray &json);

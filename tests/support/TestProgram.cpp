@@ -21,6 +21,7 @@ TestProgram::TestProgram()
         fs::create_directories(m_folder / name);
     qputenv("HOME", (m_folder / "home").string().c_str());
     qputenv("XDG_CONFIG_HOME", (m_folder / "config").string().c_str());
+    qputenv("XDG_STATE_HOME", (m_folder / "state").string().c_str());
     quillorentLibrary::setResourceFolder(QStringLiteral(QUILLORENT_TEMPLATES));
     pauses() = {.beforeMeasuring = 20ms, .settingsSaved = 20ms, .profilesSaved = 20ms, .profileLoaded = 20ms};
     // Never the keychain of whoever runs the tests; a test that needs one brings a session of its own.
