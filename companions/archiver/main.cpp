@@ -1,13 +1,14 @@
 #include "Arguments.h"
 #include "Commands.h"
 #include "Diagnostics.h"
-#include "File.h"
 #include "Interrupt.h"
 
+#include <algorithm>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <new>
+#include <sys/resource.h>
 
 namespace {
 
@@ -27,13 +28,22 @@ int run(std::span<const char *const> words, archiver::Diagnostics &diagnostics)
     return diagnostics.silent() ? EXIT_SUCCESS : failure;
 }
 
+/// Volumes stay open until they get their names, and there may be thousands.
+void raiseOpenFileLimit()
+{
+    rlimit limit{};
+    if (getrlimit(RLIMIT_NOFILE, &limit) != 0) return;
+    limit.rlim_cur = std::min<rlim_t>(limit.rlim_max, 65536);
+    setrlimit(RLIMIT_NOFILE, &limit);
+}
+
 } // namespace
 
 int main(int count, char **arguments)
 {
     // libarchive turns names of older archives into those of the locale.
     std::setlocale(LC_CTYPE, "C.UTF-8");
-    archiver::raiseOpenFileLimit();
+    raiseOpenFileLimit();
     archiver::catchInterrupts();
     archiver::Diagnostics diagnostics;
     try {

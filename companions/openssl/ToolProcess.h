@@ -11,7 +11,7 @@ struct ToolStreams {
     int input = -1;
     int output = -1;
     int errors = -1;
-    int inherited = -1; ///< one more descriptor that the tool gets, under the same number; -1: none
+    std::vector<int> inherited{}; ///< more descriptors that the tool gets, under the same numbers; -1: none
 };
 
 /// Starts `tool` with these arguments (without a program name) as a child process that ends with this program

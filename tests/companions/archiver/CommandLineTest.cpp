@@ -1,10 +1,12 @@
 #include "Commands.h"
 #include "Rar.h"
+#include "Shim.h"
 #include "Tree.h"
 
 #include <chrono>
 #include <csignal>
 #include <sstream>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -102,20 +104,30 @@ TEST_F(CommandLine, timeOfTheNewestEntry)
         EXPECT_EQ(fs::last_write_time(volume), fs::last_write_time(QUILLORENT_RAR));
 }
 
-TEST_F(CommandLine, missingSourcesLeaveNoArchiveAndTheOldOneInPlace)
+TEST_F(CommandLine, sourcesThatCannotBeArchivedLeaveTheOldArchiveInPlace)
 {
     writeFile(archive, "the old one");
     writeFile(temporary / "there", "1");
-    const std::string one = temporary / "one";
-    const std::string two = temporary / "two";
-    const CommandResult result =
-        rar({"a", "-r", "-ol", "-o+", "-m0", "-t", archive, one, temporary / "there", two});
-    EXPECT_NE(result.status, 0);
-    EXPECT_EQ(result.errors, "\nCannot open " + one + ": No such file or directory\n\nCannot open " + two +
-                                 ": No such file or directory\n");
-    EXPECT_EQ(readFile(archive), "the old one");
-    EXPECT_EQ(entriesIn(temporary.path()), 2u);
-
+    ASSERT_EQ(mkfifo((temporary / "pipe").c_str(), 0600), 0);
+    fs::create_symlink("pipe", temporary / "link");
+    writeFile(temporary / "huge", "");
+    fs::resize_file(temporary / "huge", 1ull << 42);
+    const std::size_t entries = entriesIn(temporary.path());
+    const std::string noFile = ", and archives hold files, folders and links only";
+    const std::vector<std::pair<std::string, std::string>> sourcesAndReasons = {
+        {"missing", "Cannot open missing: No such file or directory"},
+        {"pipe", "Cannot add pipe: it is a named pipe" + noFile},
+        {"link", "Cannot add link: it is a named pipe" + noFile},
+        {"/dev/null", "Cannot add /dev/null: it is a device" + noFile},
+        {"huge", "Cannot add huge: it has 4 TiB or more, and archives hold smaller files only"}};
+    for (const auto &[name, reason] : sourcesAndReasons) {
+        const CommandResult result =
+            rar({"a", "-r", "-o+", "-m0", "-t", archive, name, "there", name}, {.folder = temporary.path()});
+        EXPECT_NE(result.status, 0);
+        EXPECT_EQ(result.errors, "\n" + reason + "\n\n" + reason + "\n");
+        EXPECT_EQ(readFile(archive), "the old one");
+        EXPECT_EQ(entriesIn(temporary.path()), entries);
+    }
     const CommandResult nowhere = rar({"a", temporary / "no folder/a.rar", temporary / "there"});
     EXPECT_NE(nowhere.status, 0);
     EXPECT_NE(nowhere.errors.find("No such file or directory"), std::string::npos);
@@ -168,24 +180,32 @@ TEST_F(CommandLine, aFullDiskIsReportedAndCleanedUp)
     EXPECT_TRUE(fs::is_empty(out));
 }
 
-TEST_F(CommandLine, terminationLeavesNothingUnfinished)
+TEST_F(CommandLine, endingItLeavesNothingUnfinishedOrTheNextRunRemovesIt)
 {
-    fs::create_directory(temporary / "to");
+    const fs::path to = temporary / "to";
+    writeFile(temporary / "small", "");
     writeFile(temporary / "endless", "");
     fs::resize_file(temporary / "endless", 1ull << 36); // far more than is written before the signal
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
-        const pid_t child = fork();
-        if (child == 0) {
-            execl(QUILLORENT_RAR, "rar", "a", "-m0", "-v100000", (temporary / "to/a.rar").c_str(),
-                  (temporary / "endless").c_str(), nullptr);
-            _exit(127);
+    for (const bool nameless : {true, false})
+        for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGKILL}) {
+            fs::create_directory(to);
+            const pid_t child = fork();
+            if (child == 0) {
+                for (const auto &[name, value] : nameless ? withShim() : withoutNamelessFiles())
+                    setenv(name.c_str(), value.c_str(), 1);
+                execl(QUILLORENT_RAR, "rar", "a", "-m0", "-v100000", (to / "a.rar").c_str(),
+                      (temporary / "endless").c_str(), nullptr);
+                _exit(127);
+            }
+            while (readFile("/proc/" + std::to_string(child) + "/io").find("\nwchar: 1") == std::string::npos)
+                std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            kill(child, signal);
+            int status = 0;
+            ASSERT_EQ(waitpid(child, &status, 0), child);
+            EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == signal) << status;
+            EXPECT_EQ(fs::is_empty(to), nameless || signal != SIGKILL);
+            EXPECT_EQ(rar({"a", to / "a.rar", temporary / "small"}).errors, "");
+            EXPECT_EQ(entriesIn(to), 1u);
+            fs::remove_all(to);
         }
-        while (entriesIn(temporary / "to") < 2)
-            std::this_thread::sleep_for(std::chrono::milliseconds(1));
-        kill(child, signal);
-        int status = 0;
-        ASSERT_EQ(waitpid(child, &status, 0), child);
-        EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == signal) << status;
-        EXPECT_EQ(entriesIn(temporary / "to"), 0u);
-    }
 }

@@ -1,4 +1,7 @@
 #include "Front.h"
+#include "Shim.h"
+
+#include <sys/stat.h>
 
 namespace fs = std::filesystem;
 
@@ -76,7 +79,8 @@ TEST_F(CipherFront, TellsAFailureAndLeavesNoResult)
     EXPECT_TRUE(result.status != 0 && !result.output.empty() && entriesIn(folder) == 3);
 }
 
-TEST_F(CipherFront, WritesForTheUserAloneAndWhereALinkLeads)
+// Command lines that are not the program's mean by a name whatever it leads to, as the tool does.
+TEST_F(CipherFront, FollowsNamesThatAPersonGives)
 {
     writeFile(folder / "F", "text");
     writeFile(folder / "old", "older");
@@ -85,17 +89,93 @@ TEST_F(CipherFront, WritesForTheUserAloneAndWhereALinkLeads)
     EXPECT_TRUE(fs::is_symlink(folder / "G"));
     EXPECT_TRUE(readFile(folder / "old").starts_with("Salted__"));
     EXPECT_EQ(fs::status(folder / "old").permissions(), fs::perms{0600});
-}
 
-TEST_F(CipherFront, WritesStraightToWhatIsNoRegularFile)
-{
-    writeFile(folder / "F", "text");
     const std::string encrypt = "aes256 -in F -nosalt -k x";
     const std::string output = runIn(folder, front, encrypt, quick).output;
     EXPECT_EQ(output.size(), 16U);
     EXPECT_EQ(runIn(folder, front, encrypt + " -out /dev/stdout", quick).output, output);
     EXPECT_TRUE(succeeds(front, encrypt + " -out /dev/null", quick));
-    EXPECT_EQ(entriesIn(folder), 1);
+    EXPECT_EQ(entriesIn(folder), 3);
+    EXPECT_TRUE(succeeds(front, "aes256 -a -in F -out /dev/null -pass pass:x", {}));
+    EXPECT_FALSE(fs::is_regular_file("/dev/null"));
+}
+
+// In a folder that others may write to, anything can wait under the program's names.
+TEST_F(CipherFront, TakesTheProgramsNamesForNamesAlone)
+{
+    for (const char *const files : {"-keyout key -out cert"})
+        ASSERT_EQ(
+            runIn(folder, stock, "req -x509 -newkey rsa:2048 -nodes -days 2 -subj /CN=test", words(files))
+                .status,
+            0);
+    writeFile(folder / "F", "text");
+    writeFile(folder / "other", "somebody's");
+    const Arguments pass{"-pass", "pass:x"};
+    ASSERT_TRUE(succeeds(front, "aes-256-cbc -a -salt -in F -out aes", pass));
+    ASSERT_TRUE(succeeds(front, "smime -aes256 -encrypt -binary -in F -out smime cert", {}));
+    struct Command {
+        std::string line, input, last;
+    };
+    for (const auto &[line, input, last] :
+         {Command{"aes-256-cbc -a -salt", "F", "-pass pass:x"},
+          Command{"aes-256-cbc -d -a -salt", "aes", "-pass pass:x"},
+          Command{"smime -aes256 -encrypt -binary", "F", "cert"},
+          Command{"smime -aes256 -decrypt -binary", "smime", "-inkey key cert"}}) {
+        SCOPED_TRACE(line);
+        const auto run = [&, first = line,
+                          end = last](const std::string &from, const std::string &to,
+                                      const std::map<std::string, std::string> &environment) {
+            CommandResult result =
+                runCommand(Arguments{front} + words(first + " -in " + from + " -out " + to + " " + end),
+                           {.folder = folder.path(), .environment = environment});
+            result.output += result.errors;
+            return result;
+        };
+        const std::string content = readFile(folder / input);
+        for (const auto &environment : {withShim(), withoutNamelessFiles()}) {
+            for (const std::string kind : {"link", "dangling", "pipe", "itself"}) {
+                fs::remove(folder / "G");
+                if (kind == "link") fs::create_symlink("other", folder / "G");
+                if (kind == "dangling") fs::create_symlink("new", folder / "G");
+                if (kind == "pipe") runIn(folder, "mkfifo", "G");
+                if (kind == "itself") writeFile(folder / "G", content);
+                EXPECT_TRUE(isSilentSuccess(run(kind == "itself" ? "G" : input, "G", environment))) << kind;
+                EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(folder / "G"))) << kind;
+                EXPECT_NE(readFile(folder / "G"), content);
+            }
+            const auto entries = entriesIn(folder);
+            const std::vector<std::pair<std::string, std::string>> inputsAndReasons{
+                {"link", "a symbolic link"}, {"pipe", "a named pipe"}, {"folder", "a folder"}};
+            fs::create_symlink(input, folder / "link");
+            ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+            fs::create_directory(folder / "folder");
+            for (const auto &[name, reason] : inputsAndReasons) {
+                EXPECT_EQ(run(name, "H", environment).output,
+                          "openssl: cannot read " + name + ": it is " + reason + "\n");
+                fs::remove(folder / name);
+            }
+            EXPECT_EQ(run(input, "", environment).status, 1);
+            EXPECT_EQ(entriesIn(folder), entries);
+        }
+        EXPECT_EQ(readFile(folder / "other"), "somebody's");
+        // On the disk before it has its name, and then the name.
+        fs::remove(folder / "log");
+        EXPECT_TRUE(isSilentSuccess(run(input, "G", withShim({{"SHIM_LOG", folder / "log"}}))));
+        EXPECT_EQ(readFile(folder / "log"), "FLLRD");
+    }
+}
+
+TEST_F(CipherFront, TellsFirstThatTheDiskIsFull)
+{
+    writeFile(folder / "F", binaryData(300'000));
+    fs::create_directory(folder / "disk");
+    const std::string script = "mount -t tmpfs -o size=256k none disk && exec '" + front +
+                               "' aes-256-cbc -a -salt -in F -out disk/G -pass pass:x";
+    const CommandResult result = runIn(folder, "unshare", "-m sh -c", {script});
+    if (result.output.find("mount") != std::string::npos) GTEST_SKIP() << "no disk can be made here";
+    EXPECT_TRUE(result.output.starts_with("openssl: there is next to no space left for disk/G\n"))
+        << result.output;
+    EXPECT_NE(result.status, 0);
 }
 
 TEST_F(CipherFront, DoesOtherwiseWhatTheSystemsToolDoes)

@@ -47,8 +47,7 @@ TEST(CommandPlan, AddsWhatTheCallerLeftOpen)
         std::string password{};
     };
     const std::vector<Case> cases{
-        {"aes-256-cbc -a -in F -out G -pass pass:hush", "aes-256-cbc" + derivation + buffer + " -a -in F",
-         "hush"},
+        {"aes-256-cbc -a -in F -out G -pass pass:hush", "aes-256-cbc" + derivation + buffer + " -a", "hush"},
         // Which key derivation a file is of shows when it is there.
         {"BF-cbc --pass=pass:hush -d -in F", "BF-cbc" + legacy + buffer + " -d", "hush"},
         {"aes256 -d -a -pass fd:3 -md md5", "aes256" + buffer + " -d -a -md md5"},
