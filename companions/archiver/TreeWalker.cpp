@@ -184,7 +184,7 @@ bool TreeWalker::visit(const Place &place)
         return visitLink(known);
     default:
         // Whoever names it wants it.
-        if (place.folder == AT_FDCWD) refuse(DTTOIF(known.type));
+        if (place.folder == AT_FDCWD) refuse(static_cast<mode_t>(DTTOIF(known.type)));
         return true;
     }
 }

@@ -80,16 +80,6 @@ TEST_F(Volumes, aSetAndAPlainArchiveReplaceEachOther)
         EXPECT_TRUE(fs::exists(other));
 }
 
-TEST_F(Volumes, aTreeMayBeSplitToo)
-{
-    makeSampleTree(source);
-    ASSERT_EQ(rar({"a", "-r", "-ol", "-m0", "-v50", "-t", archive, source}).errors, "");
-    const std::vector<fs::path> volumes = volumesOf(archive);
-    ASSERT_GT(volumes.size(), 20u);
-    EXPECT_EQ(rar({"x", "-idq", volumes.front(), out}).errors, "");
-    EXPECT_EQ(treeDifference(source, extracted), "");
-}
-
 TEST_F(BrokenSet, isReportedAndNothingExtracted)
 {
     fs::remove(volumes[2]);
