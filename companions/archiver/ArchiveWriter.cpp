@@ -74,7 +74,8 @@ bool ArchiveWriter::addFile(int file, const struct stat &status, const std::stri
                             const std::string &path)
 {
     if (static_cast<std::uint64_t>(status.st_size) > largestSize) {
-        m_diagnostics.report("Cannot add " + printable(path) + ": it has 4 TiB or more, and archives hold smaller files only");
+        m_diagnostics.report("Cannot add " + printable(path) +
+                             ": it has 4 TiB or more, and archives hold smaller files only");
         return true;
     }
     keepNewest(m_newestFile, status);

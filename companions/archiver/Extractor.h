@@ -8,7 +8,8 @@
 namespace archiver {
 
 /// Makes an archive's entries below a folder, over what is there already, nothing of which is ever opened. A
-/// file appears under its name only when it is complete. Times and modes of folders are set at the end, by finish().
+/// file appears under its name only when it is complete. Times and modes of folders are set at the end, by
+/// finish().
 class Extractor final : public EntryReceiver, private ContentSink {
 public:
     enum class Paths { Keep, Drop };

@@ -65,9 +65,9 @@ void FolderAttributes::apply(int root, Diagnostics &diagnostics) const
         }
         // The one above comes first: there may be no way back once this one has its mode.
         const std::optional<State> &state = level.folder->state;
-        const bool isDone = open.openParent() &&
-                            (!state || (futimens(open.last(), fileTimes(state->modified).data()) == 0 &&
-                                        fchmod(open.last(), state->mode) == 0));
+        const bool isDone =
+            open.openParent() && (!state || (futimens(open.last(), fileTimes(state->modified).data()) == 0 &&
+                                             fchmod(open.last(), state->mode) == 0));
         const std::string name = level.name;
         way.pop_back();
         if (!isDone) complain(name);

@@ -91,9 +91,9 @@ struct FileHeader {
 [[nodiscard]] std::optional<FileHeader> parseFileHeader(const HeaderFrame &frame);
 
 void putMainHeader(ByteBuffer &into, const MainHeader &header);
-/// The same length for the same name, link and time, whatever the sizes (up to largestSize), flags and checksum: a
-/// header can be replaced when its data is behind it. A file has a checksum always, 0 as long as none is
-/// known.
+/// The same length for the same name, link and time, whatever the sizes (up to largestSize), flags and
+/// checksum: a header can be replaced when its data is behind it. A file has a checksum always, 0 as long as
+/// none is known.
 void putFileHeader(ByteBuffer &into, const FileHeader &header);
 void putEndHeader(ByteBuffer &into, bool moreVolumes);
 

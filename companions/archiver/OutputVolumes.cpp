@@ -100,8 +100,8 @@ bool OutputVolumes::begin()
 
 bool OutputVolumes::beginVolume()
 {
-    base::StagedFile file = base::StagedFile::create(m_folder.get(), m_passingNames,
-                                                     static_cast<unsigned>(m_files.size()));
+    base::StagedFile file =
+        base::StagedFile::create(m_folder.get(), m_passingNames, static_cast<unsigned>(m_files.size()));
     if (!file) return m_diagnostics.reportSystem("Cannot create " + printable(m_path));
     m_files.push_back(std::move(file));
     m_position = 0;

@@ -13,9 +13,9 @@ namespace archiver {
 // No call of the system does that at once, and the program can be killed, or the power fail, between any two
 // renames. So all new files, whole and on the disk, first get passing names. Then a mark appears beside them,
 // by one call, that lists them. Without the mark the former files are untouched and those with passing names
-// are rubbish, which the next run for this archive removes. With it the new files are what counts, be it under
-// their final or their passing names: whoever finds it goes on renaming, takes away what is left of the former
-// set, and removes the mark last. Each step is on the disk before the next one begins.
+// are rubbish, which the next run for this archive removes. With it the new files are what counts, be it
+// under their final or their passing names: whoever finds it goes on renaming, takes away what is left of the
+// former set, and removes the mark last. Each step is on the disk before the next one begins.
 
 /// The names that belong to the archive `base` (its file name without ".rar") in passing.
 [[nodiscard]] base::PassingNames passingNamesOf(const std::string &base);

@@ -118,10 +118,7 @@ void TreeWalker::refuse(mode_t mode)
                          ", and archives hold files, folders and links only");
 }
 
-std::string TreeWalker::storedName() const
-{
-    return m_names == Names::Bare ? lastComponent(m_name) : m_name;
-}
+std::string TreeWalker::storedName() const { return m_names == Names::Bare ? lastComponent(m_name) : m_name; }
 
 bool TreeWalker::walk(const std::string &source)
 {
@@ -207,8 +204,7 @@ void TreeWalker::enterFolder(const Place &place)
     const int flags = O_RDONLY | O_DIRECTORY | O_CLOEXEC | (place.followed ? 0 : O_NOFOLLOW);
     base::FileDescriptor folder(openat(place.folder, place.entry.c_str(), flags));
     Level level{{}, m_path.size(), m_name.size()};
-    const bool isOpen =
-        folder && fstat(folder.get(), &level.status) == 0 && level.listing.open(folder.get());
+    const bool isOpen = folder && fstat(folder.get(), &level.status) == 0 && level.listing.open(folder.get());
     if (!isOpen || !m_folders.push(std::move(folder))) return cannotOpen();
     m_levels.push_back(std::move(level));
 }

@@ -24,8 +24,8 @@ public:
 
 /// Goes through a file, a link or a folder with all below it, a folder after its contents. Pipes, sockets and
 /// devices in a folder are passed over in silence: they have no content, and a home folder always has some.
-/// What can't be read is reported, and the walk goes on behind it. Folders may be inside each other as deep as
-/// the system lets them be: only names grow with it.
+/// What can't be read is reported, and the walk goes on behind it. Folders may be inside each other as deep
+/// as the system lets them be: only names grow with it.
 class TreeWalker {
 public:
     enum class Links { Keep, Follow };

@@ -2,6 +2,8 @@
 #include "Rar.h"
 #include "Tree.h"
 
+#include <sys/stat.h>
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -81,6 +83,10 @@ TEST_F(Damage, whatIsNoArchiveIsSaidToBeNone)
             EXPECT_EQ(result.errors, "\n" + path + " is not a RAR archive\n");
         }
     }
+    const std::string pipe = temporary / "pipe"; // nobody would ever write to it
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_EQ(rar({"x", pipe}).errors,
+              "\nCannot open " + pipe + ": it is no file, but a pipe, a socket or a device\n");
     EXPECT_EQ(rar({"t", path + "x"}).errors, "\nCannot open " + path + "x: No such file or directory\n");
     EXPECT_EQ(rar({"t", temporary.path()}).errors,
               "\nCannot open " + temporary.path().string() + ": Is a directory\n");

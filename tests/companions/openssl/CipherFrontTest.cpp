@@ -165,6 +165,22 @@ TEST_F(CipherFront, TakesTheProgramsNamesForNamesAlone)
     }
 }
 
+TEST_F(CipherFront, LeavesAWriteProtectedFileAlone)
+{
+    writeFile(folder / "F", "text");
+    writeFile(folder / "G", "protected");
+    fs::permissions(folder / "F", fs::perms::all);
+    fs::permissions(folder / "G", fs::perms{0444});
+    const Arguments program = asOrdinaryUser(folder.path(), front);
+    for (const char *const line : {" -in F -out G -pass pass:x", " -pbkdf2 -in F -out G -pass pass:x"}) {
+        const CommandResult result =
+            runCommand(program + Arguments{"aes256", "-a"} + words(line), {.folder = folder.path()});
+        EXPECT_NE(result.status, 0);
+        EXPECT_NE(result.errors.find("Permission denied"), std::string::npos) << result.errors;
+        EXPECT_EQ(readFile(folder / "G"), "protected");
+    }
+}
+
 TEST_F(CipherFront, TellsFirstThatTheDiskIsFull)
 {
     writeFile(folder / "F", binaryData(300'000));
