@@ -59,27 +59,6 @@ TEST_F(Volumes, setsOfManySizesAreReadByAll)
     }
 }
 
-TEST_F(Volumes, aSetAndAPlainArchiveReplaceEachOther)
-{
-    const fs::path plain = temporary / "file.rar.aes.rar";
-    const std::string content = base64Text(100'000);
-    const std::vector<fs::path> others = {temporary / "file.rar.aes.part1.rar.txt",
-                                          temporary / "other.part1.rar"};
-    for (const fs::path &other : others)
-        writeFile(other, "someone else's");
-    writeFile(temporary / "file", content);
-    const std::vector<std::pair<std::string, std::size_t>> steps = {
-        {"", 0}, {"-v10", 8}, {"-v30", 3}, {"-v1000", 0}};
-    for (const auto &[volume, count] : steps) {
-        ASSERT_EQ(packFile(plain, temporary / "file", volume).errors, "");
-        EXPECT_EQ(volumesOf(plain).size(), count);
-        EXPECT_EQ(fs::exists(plain), count == 0);
-    }
-    expectContent({plain}, content);
-    for (const fs::path &other : others)
-        EXPECT_TRUE(fs::exists(other));
-}
-
 TEST_F(BrokenSet, isReportedAndNothingExtracted)
 {
     fs::remove(volumes[2]);
