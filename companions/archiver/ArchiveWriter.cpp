@@ -186,6 +186,8 @@ bool ArchiveWriter::addPackedBlocks(Source &source)
 
 bool ArchiveWriter::makeRoom(std::size_t headerSize, std::uint64_t dataSize)
 {
+    if (headerSize > largestHeader)
+        return m_diagnostics.report(printable(m_header.name) + " has a longer name than an archive can hold");
     const std::uint64_t needed = headerSize + std::min(dataSize, smallestPart);
     if (m_output.room() >= needed) return true;
     if (!m_output.atStart() && !m_output.nextVolume()) return false;

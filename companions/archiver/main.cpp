@@ -24,7 +24,8 @@ int run(std::span<const char *const> words, archiver::Diagnostics &diagnostics)
         return usageError;
     }
     archiver::runCommand(std::get<archiver::Arguments>(parsed), diagnostics);
-    archiver::endByCaughtSignal();
+    // So that the parent learns of it.
+    if (archiver::interrupted()) base::endBySignal(base::StopSignals::received());
     return diagnostics.silent() ? EXIT_SUCCESS : failure;
 }
 
@@ -44,7 +45,8 @@ int main(int count, char **arguments)
     // libarchive turns names of older archives into those of the locale.
     std::setlocale(LC_CTYPE, "C.UTF-8");
     raiseOpenFileLimit();
-    archiver::catchInterrupts();
+    base::StopSignals signals(base::StopSignals::BrokenPipe::EndsIt);
+    signals.watch(0); // no child: whoever is at work looks whether one came
     archiver::Diagnostics diagnostics;
     try {
         return run({arguments + 1, arguments + (count > 0 ? count : 1)}, diagnostics);

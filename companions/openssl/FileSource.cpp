@@ -37,7 +37,7 @@ FileSource::FileSource(int descriptor, Fault &fault)
 
 Bytes FileSource::read()
 {
-    while (StopSignals::received() == 0) {
+    while (base::StopSignals::received() == 0) {
         const ssize_t count = ::read(m_descriptor, m_buffer.data(), m_buffer.size());
         if (count >= 0) return {m_buffer.data(), static_cast<std::size_t>(count)};
         if (errno == EINTR) continue;

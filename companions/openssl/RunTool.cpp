@@ -146,8 +146,8 @@ private:
     /// Tells what went wrong where nobody else did.
     bool succeeded(int waitStatus, const Relay::Result &relayed) const
     {
-        if (const int signal = StopSignals::received()) {
-            complain("stopped by " + signalName(signal));
+        if (const int signal = base::StopSignals::received()) {
+            complain("stopped by " + base::signalName(signal));
             return false;
         }
         if (relayed.outputError != 0) {
@@ -159,7 +159,7 @@ private:
             return false;
         }
         if (WIFSIGNALED(waitStatus)) {
-            complain(m_tool + " was ended by " + signalName(WTERMSIG(waitStatus)));
+            complain(m_tool + " was ended by " + base::signalName(WTERMSIG(waitStatus)));
             return false;
         }
         const bool isFailure = WEXITSTATUS(waitStatus) != 0;
@@ -183,7 +183,8 @@ private:
     const std::string &m_tool;
     const ToolRun &m_run;
     // First of all: from here on no signal ends the program while a staged file is there.
-    StopSignals m_signals;
+    // A reader that went away must not end it before the child is waited for.
+    base::StopSignals m_signals{base::StopSignals::BrokenPipe::IsAnError};
     ResultFile m_output;
     bool m_hasToldFull = false;
     base::FileDescriptor m_input;
@@ -195,7 +196,7 @@ private:
 int runTool(const std::string &tool, const ToolRun &run, Secret &password)
 {
     const int status = SupervisedRun(tool, run).execute(password);
-    if (const int signal = StopSignals::received()) endBySignal(signal);
+    if (const int signal = base::StopSignals::received()) base::endBySignal(signal);
     return status;
 }
 

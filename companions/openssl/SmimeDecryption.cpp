@@ -27,7 +27,8 @@ public:
     {
         const bool isDone = readKey(passPhrase) && readRecipient() && openInput() && decrypt();
         if (isDone) return true;
-        if (const int signal = StopSignals::received()) m_problem = "stopped by " + signalName(signal);
+        if (const int signal = base::StopSignals::received())
+            m_problem = "stopped by " + base::signalName(signal);
         complain(m_problem);
         return false;
     }
@@ -72,7 +73,7 @@ private:
         const bool isWhole = m_output.open() && m_output.openTarget() &&
                              decryptMessage(source, m_plan.form, keys, m_output, fault);
         // Whoever asked to stop in the last moment expects no result.
-        if (isWhole && StopSignals::received() == 0 && m_output.commit()) return true;
+        if (isWhole && base::StopSignals::received() == 0 && m_output.commit()) return true;
         m_problem = m_output.problem();
         if (m_problem.empty())
             m_problem = m_plan.input.value_or("the standard input") + " " + fault.predicate();
@@ -81,7 +82,7 @@ private:
 
     const SmimeDecryption &m_plan;
     // First of all: from here on no signal ends the program while a staged file is there.
-    StopSignals m_signals;
+    base::StopSignals m_signals{base::StopSignals::BrokenPipe::IsAnError};
     ResultFile m_output;
     base::FileDescriptor m_input;
     PrivateKey m_key;
@@ -94,6 +95,6 @@ private:
 int decryptSmime(const SmimeDecryption &decryption, Secret &passPhrase)
 {
     const bool isDone = Decryption(decryption).execute(passPhrase);
-    if (const int signal = StopSignals::received()) endBySignal(signal);
+    if (const int signal = base::StopSignals::received()) base::endBySignal(signal);
     return isDone ? 0 : 1;
 }

@@ -42,7 +42,7 @@ void becomeTool(const std::string &tool, char **argv)
 }
 
 pid_t startTool(const std::string &tool, const std::vector<std::string> &arguments,
-                const ToolStreams &streams, const StopSignals &signals)
+                const ToolStreams &streams, const base::StopSignals &signals)
 {
     std::vector<char *> argv{toolName};
     for (const std::string &argument : arguments)

@@ -33,8 +33,8 @@ protected:
     std::string unpacked()
     {
         fs::remove_all(out);
-        rar({"t", first()}); // may give it other names
-        const CommandResult result = rar({"e", first(), out});
+        CommandResult result = rar({"e", first(), out});
+        if (!result.errors.empty()) result = rar({"e", first(), out}); // it has other names now
         return result.errors.empty() ? readFile(out / "file") : result.errors;
     }
 
@@ -52,10 +52,10 @@ protected:
 
 TEST_F(Killed, anywhereItLeavesTheFormerSetOrTheNewOne)
 {
-    const std::string former = randomBytes(5000, 1);
-    const std::string latter = randomBytes(3000, 2);
+    const std::string former = randomBytes(2500, 1);
+    const std::string latter = randomBytes(1500, 2);
     const std::vector<std::pair<std::string, std::string>> changes = {
-        {"", ""}, {"", "-v1"}, {"-v1", "-v1"}, {"-v1", "-v4"}, {"-v4", "-v1"}};
+        {"", ""}, {"", "-v1"}, {"-v1", "-v1"}, {"-v1", "-v3"}, {"-v3", "-v1"}};
     for (const auto &[before, after] : changes)
         for (Environment shim : shims) {
             int call = 0;
