@@ -119,10 +119,9 @@ TEST_F(CommandLine, sourcesThatCannotBeArchivedLeaveTheOldArchiveInPlace)
         {"/dev/null", "Cannot add /dev/null: it is a device" + noFile},
         {"huge", "Cannot add huge: it has 4 TiB or more, and archives hold smaller files only"}};
     for (const auto &[name, reason] : sourcesAndReasons) {
-        const CommandResult result =
-            rar({"a", "-r", "-o+", "-m0", "-t", archive, name, "there", name}, {.folder = temporary.path()});
-        EXPECT_NE(result.status, 0);
-        EXPECT_EQ(result.errors, "\n" + reason + "\n\n" + reason + "\n");
+        EXPECT_EQ(failure(rar({"a", "-r", "-o+", "-m0", "-t", archive, name, "there", name},
+                              {.folder = temporary.path()})),
+                  "\n" + reason + "\n\n" + reason + "\n");
         EXPECT_EQ(readFile(archive), "the old one");
         EXPECT_EQ(entriesIn(temporary.path()), entries);
     }
@@ -153,9 +152,7 @@ TEST_F(CommandLine, whatPermissionsForbidIsNamed)
     for (const auto &[arguments, message] : commandsAndMessages) {
         std::vector<std::string> command = start;
         command.insert(command.end(), arguments.begin(), arguments.end());
-        const CommandResult result = runCommand(command);
-        EXPECT_NE(result.status, 0);
-        EXPECT_EQ(result.errors, message);
+        EXPECT_EQ(failure(runCommand(command)), message);
         EXPECT_FALSE(fs::exists(archive)) << "an archive without them looks like a whole one";
     }
     fs::permissions(source / "hidden", fs::perms::all);
@@ -171,9 +168,8 @@ TEST_F(CommandLine, aFullDiskIsReportedAndCleanedUp)
                          {"sh", "-c", "trap '' XFSZ; ulimit -f 1000; exec \"$@\"", "sh", QUILLORENT_RAR});
         return runCommand(arguments);
     };
-    const CommandResult added = limited({"a", "-m0", "-t", archive, source});
-    EXPECT_NE(added.status, 0);
-    EXPECT_EQ(added.errors, "\nCannot write " + archive.string() + ": File too large\n");
+    EXPECT_EQ(failure(limited({"a", "-m0", "-t", archive, source})),
+              "\nCannot write " + archive.string() + ": File too large\n");
     const CommandResult unpacked = limited({"e", temporary / "whole.rar", out});
     EXPECT_NE(unpacked.status, 0);
     EXPECT_NE(unpacked.errors.find("file: File too large\n"), std::string::npos) << unpacked.errors;

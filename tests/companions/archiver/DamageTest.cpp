@@ -64,9 +64,7 @@ TEST_F(Damage, doesNotTakeOtherFilesWithIt)
         handmadeArchive({storedFile("first", "1"), storedFile("second", "twice"), storedFile("third", "3")});
     bytes[bytes.find("twice")] = 'T';
     writeFile(archive, bytes);
-    const CommandResult result = rar({"x", "-o+", "-idq", archive, out});
-    EXPECT_NE(result.status, 0);
-    EXPECT_EQ(result.errors, "\nsecond: checksum error\n");
+    EXPECT_EQ(failure(rar({"x", "-o+", "-idq", archive, out})), "\nsecond: checksum error\n");
     EXPECT_EQ(readFile(out / "first"), "1");
     EXPECT_EQ(readFile(out / "third"), "3");
     EXPECT_FALSE(fs::exists(out / "second"));
@@ -78,9 +76,7 @@ TEST_F(Damage, whatIsNoArchiveIsSaidToBeNone)
     for (const std::string &junk : {std::string(), std::string("Rar!"), randomBytes(100'000)}) {
         writeFile(path, junk);
         for (const std::string command : {"t", "x", "e"}) {
-            const CommandResult result = rar({command, "-idq", path});
-            EXPECT_NE(result.status, 0);
-            EXPECT_EQ(result.errors, "\n" + path + " is not a RAR archive\n");
+            EXPECT_EQ(failure(rar({command, "-idq", path})), "\n" + path + " is not a RAR archive\n");
         }
     }
     const std::string pipe = temporary / "pipe"; // nobody would ever write to it

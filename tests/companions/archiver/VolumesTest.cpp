@@ -22,9 +22,7 @@ protected:
     void expectMessage(std::string message, std::size_t about, std::size_t first = 0)
     {
         message = "\n" + message.replace(message.find('#'), 1, volumes[about]) + "\n";
-        const CommandResult tested = rar({"t", "-idq", volumes[first]});
-        EXPECT_NE(tested.status, 0);
-        EXPECT_EQ(tested.errors, message);
+        EXPECT_EQ(failure(rar({"t", "-idq", volumes[first]})), message);
         EXPECT_EQ(rar({"e", "-o+", "-idq", volumes[first], out}).errors, message);
         EXPECT_TRUE(fs::is_empty(out));
         SetUp();

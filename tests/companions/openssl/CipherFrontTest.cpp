@@ -1,7 +1,7 @@
 #include "Front.h"
 #include "Shim.h"
 
-#include <sys/stat.h>
+#include <array>
 
 namespace fs = std::filesystem;
 
@@ -55,6 +55,34 @@ TEST_F(CipherFront, ExchangesFilesOfEverySizeWithTheSystemsToolAndPasswordsByteF
     }
 }
 
+TEST_F(CipherFront, MeansByEveryOptionWhatTheToolMeansAndChoosesWhatIsLeftOpen)
+{
+    writeFile(folder / "F", "text");
+    writeFile(folder / "P", "phrase\nrest");
+    const std::string today = " -pbkdf2 -iter 600000";
+    const std::string legacy = today + " -md sha256 -provider legacy -provider default";
+    const std::vector<std::pair<std::string, std::string>> linesAndChoices{
+        {"aes256 -iter 5 -k one -pass file:P", ""},
+        {"aes256 -iter 5 -pass pass:one -pass pass:two", ""},
+        {"aes256 -iter 5 -pass pass:one -kfile P", ""},
+        {"aes256 -iter 5 -pass env:HOME -d -e", ""},
+        {"enc -e -aes256 --iter=5 -k x -bufsize 1k", ""},
+        {"aes256 -in -iter -pbkdf2 -k x", ""},
+        {"aes256 -md=sha1 -k x", today},
+        {"aes256 -kfile P", today + " -md sha256"},
+        {"enc -e -rc4-40 -k x", legacy},
+        {"des -k x", legacy},
+        {"enc -base64", ""}};
+    for (const auto &[line, choice] : linesAndChoices) {
+        const std::string expected = runIn(folder, stock, line + choice + " -nosalt -in F").output;
+        EXPECT_NE(expected, "");
+        EXPECT_TRUE(runIn(folder, front, line + " -nosalt -in F").output == expected) << line;
+        if (line.find("aes256") == std::string::npos) continue;
+        writeFile(folder / "G", expected);
+        EXPECT_EQ(runIn(folder, front, line + " -d -nosalt -in G").output, "text") << line;
+    }
+}
+
 TEST_F(CipherFront, TellsAFailureAndLeavesNoResult)
 {
     writeFile(folder / "F", binaryData(100'000));
@@ -97,38 +125,33 @@ TEST_F(CipherFront, FollowsNamesThatAPersonGives)
     EXPECT_EQ(runIn(folder, front, encrypt + " -out /dev/stdout", quick).output, output);
     EXPECT_TRUE(succeeds(front, encrypt + " -out /dev/null", quick));
     EXPECT_EQ(entriesIn(folder), 3);
-    EXPECT_TRUE(succeeds(front, "aes256 -a -in F -out /dev/null -pass pass:x", {}));
-    EXPECT_FALSE(fs::is_regular_file("/dev/null"));
+    EXPECT_TRUE(runIn(folder, front, "aes256 -a -in F -out /proc/self/fd/1 -pass pass:x")
+                    .output.starts_with("U2FsdGVk"));
 }
 
 // In a folder that others may write to, anything can wait under the program's names.
 TEST_F(CipherFront, TakesTheProgramsNamesForNamesAlone)
 {
-    for (const char *const files : {"-keyout key -out cert"})
-        ASSERT_EQ(
-            runIn(folder, stock, "req -x509 -newkey rsa:2048 -nodes -days 2 -subj /CN=test", words(files))
-                .status,
-            0);
+    const std::string request =
+        "req -x509 -newkey rsa:2048 -nodes -keyout key -out cert -days 2 -subj /CN=test";
+    ASSERT_EQ(runIn(folder, stock, request).status, 0);
     writeFile(folder / "F", "text");
     writeFile(folder / "other", "somebody's");
     const Arguments pass{"-pass", "pass:x"};
     ASSERT_TRUE(succeeds(front, "aes-256-cbc -a -salt -in F -out aes", pass));
     ASSERT_TRUE(succeeds(front, "smime -aes256 -encrypt -binary -in F -out smime cert", {}));
-    struct Command {
-        std::string line, input, last;
-    };
-    for (const auto &[line, input, last] :
-         {Command{"aes-256-cbc -a -salt", "F", "-pass pass:x"},
-          Command{"aes-256-cbc -d -a -salt", "aes", "-pass pass:x"},
-          Command{"smime -aes256 -encrypt -binary", "F", "cert"},
-          Command{"smime -aes256 -decrypt -binary", "smime", "-inkey key cert"}}) {
-        SCOPED_TRACE(line);
-        const auto run = [&, first = line,
-                          end = last](const std::string &from, const std::string &to,
-                                      const std::map<std::string, std::string> &environment) {
-            CommandResult result =
-                runCommand(Arguments{front} + words(first + " -in " + from + " -out " + to + " " + end),
-                           {.folder = folder.path(), .environment = environment});
+    const std::vector<std::array<std::string, 3>> commands{
+        {"aes-256-cbc -a -salt", "F", " -pass pass:x"},
+        {"aes-256-cbc -d -a -salt", "aes", " -pass pass:x"},
+        {"smime -aes256 -encrypt -binary", "F", " cert"},
+        {"smime -aes256 -decrypt -binary", "smime", " -inkey key cert"}};
+    for (const auto &command : commands) {
+        SCOPED_TRACE(command[0]);
+        const std::string &input = command[1];
+        const auto run = [&](const std::string &from, const std::string &to, auto environment) {
+            const std::string line = command[0] + " -in " + from + " -out " + to + command[2];
+            CommandResult result = runCommand(Arguments{front} + words(line),
+                                              {.folder = folder.path(), .environment = environment});
             result.output += result.errors;
             return result;
         };
@@ -145,14 +168,13 @@ TEST_F(CipherFront, TakesTheProgramsNamesForNamesAlone)
                 EXPECT_NE(readFile(folder / "G"), content);
             }
             const auto entries = entriesIn(folder);
-            const std::vector<std::pair<std::string, std::string>> inputsAndReasons{
-                {"link", "a symbolic link"}, {"pipe", "a named pipe"}, {"folder", "a folder"}};
             fs::create_symlink(input, folder / "link");
-            ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+            runIn(folder, "mkfifo", "pipe");
             fs::create_directory(folder / "folder");
-            for (const auto &[name, reason] : inputsAndReasons) {
+            for (const std::string reason : {"symbolic link", "named pipe", "folder"}) {
+                const std::string name = reason.substr(reason.find(' ') + 1);
                 EXPECT_EQ(run(name, "H", environment).output,
-                          "openssl: cannot read " + name + ": it is " + reason + "\n");
+                          "openssl: cannot read " + name + ": it is a " + reason + "\n");
                 fs::remove(folder / name);
             }
             EXPECT_EQ(run(input, "", environment).status, 1);

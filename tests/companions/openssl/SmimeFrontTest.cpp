@@ -37,6 +37,17 @@ TEST_F(SmimeFront, ExchangesFilesWithTheSystemsTool)
     }
 }
 
+// A message in one piece can't be decrypted from 1.6 GB on, and the tool says nothing of it.
+TEST_F(SmimeFront, WritesInPiecesWhateverIsAskedFor)
+{
+    writeFile(folder / "F", "text");
+    for (const char *const option : {"-binary", "-noindef", "-indef", "-stream"}) {
+        const std::string line = std::string("smime -encrypt -outform DER -in F ") + option + " cert";
+        EXPECT_EQ(runIn(folder, front, line).output.substr(0, 2), "\x30\x80")
+            << option; // a sequence without length
+    }
+}
+
 TEST_F(SmimeFront, DecryptsWhateverFormTheSystemsToolWrites)
 {
     const std::string plain = binaryData(20'001);

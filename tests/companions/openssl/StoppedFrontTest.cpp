@@ -58,8 +58,9 @@ TEST(StoppedFront, TakesTheToolAndItsTracesAlongAndShowsNoPassword)
     ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
     const std::string message = readFile(folder / "message");
     const auto entries = entriesIn(folder);
-    for (const std::string line : {"aes-256-cbc -pbkdf2 -in pipe -out G -pass pass:hush-hush",
-                                   "smime -decrypt -inform SMIME -in pipe -out G -inkey key"})
+    for (const std::string line :
+         {"aes-256-cbc -pbkdf2 -in pipe -out G --pass=pass:hush-1 -k hush-2 -pass pass:hush-3",
+          "smime -decrypt -inform SMIME -in pipe -out G -inkey key"})
         for (const auto &environment : {withShim(), withoutNamelessFiles()})
             for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGKILL}) {
                 SCOPED_TRACE(line + ", signal " + std::to_string(signal));
