@@ -4,9 +4,10 @@
 #include "EntryUnpacker.h"
 #include "ForeignReader.h"
 #include "Interrupt.h"
+#include "SetReplacement.h"
 
 #include <memory>
-#include <unistd.h>
+#include <sys/stat.h>
 
 namespace archiver {
 
@@ -18,7 +19,9 @@ std::vector<std::string> existingVolumes(const std::string &path)
     constexpr std::size_t most = 100'000; // names repeat at some point
     const VolumeFiles files(path);
     std::vector<std::string> paths{path};
-    while (paths.size() < most && access(files.name(paths.size()).c_str(), F_OK) == 0)
+    struct stat status {};
+    while (paths.size() < most && stat(files.name(paths.size()).c_str(), &status) == 0 &&
+           S_ISREG(status.st_mode))
         paths.push_back(files.name(paths.size()));
     return paths;
 }
@@ -108,6 +111,7 @@ private:
 
 void processArchive(const std::string &path, EntryReceiver &receiver, Diagnostics &diagnostics)
 {
+    if (!finishReplacement(path, diagnostics)) return;
     VolumeFiles volumes(path);
     Processor(path, volumes, receiver, diagnostics).run();
 }

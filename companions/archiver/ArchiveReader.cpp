@@ -12,14 +12,18 @@ bool ArchiveReader::fail(const std::string &message)
     return m_diagnostics.report(message);
 }
 
+bool ArchiveReader::cannotOpen(std::size_t index)
+{
+    const std::string message = "Cannot open " + printable(m_volumes.name(index));
+    if (errno == ENXIO) return fail(message + ": it is no file, but a pipe, a socket or a device");
+    m_failed = true;
+    return m_diagnostics.reportSystem(message);
+}
+
 ArchiveReader::Format ArchiveReader::open()
 {
     std::unique_ptr<ByteSource> source = m_volumes.open(0);
-    if (!source) {
-        m_failed = true;
-        m_diagnostics.reportSystem("Cannot open " + printable(m_volumes.name(0)));
-        return Format::Unreadable;
-    }
+    if (!source) return cannotOpen(0), Format::Unreadable;
     m_window = SourceWindow(std::move(source));
     const Bytes start = m_window.peek(signature.size());
     if (start.size() >= oldSignature.size() &&
@@ -179,8 +183,7 @@ bool ArchiveReader::openVolume(std::size_t index)
     std::unique_ptr<ByteSource> source = m_volumes.open(index);
     if (!source) {
         if (errno == ENOENT) return fail("Cannot find volume " + printable(m_volumes.name(index)));
-        m_failed = true;
-        return m_diagnostics.reportSystem("Cannot open " + printable(m_volumes.name(index)));
+        return cannotOpen(index);
     }
     m_window = SourceWindow(std::move(source));
     m_volume = index;

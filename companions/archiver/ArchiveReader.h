@@ -34,6 +34,7 @@ public:
 
 private:
     bool fail(const std::string &message);
+    bool cannotOpen(std::size_t index);
     bool openVolume(std::size_t index);
     bool readSignature();
     bool readMainHeader(std::size_t index);

@@ -73,6 +73,11 @@ bool ArchiveWriter::addWithoutData(const FileHeader &header)
 bool ArchiveWriter::addFile(int file, const struct stat &status, const std::string &name,
                             const std::string &path)
 {
+    if (static_cast<std::uint64_t>(status.st_size) > largestSize) {
+        m_diagnostics.report("Cannot add " + printable(path) +
+                             ": it has 4 TiB or more, and archives hold smaller files only");
+        return true;
+    }
     keepNewest(m_newestFile, status);
     m_header = describe(status, name);
     m_header.unpackedSize = static_cast<std::uint64_t>(status.st_size);
@@ -99,7 +104,7 @@ std::size_t ArchiveWriter::read(Source &source, std::span<std::uint8_t> into)
 {
     const std::size_t wanted = static_cast<std::size_t>(std::min<std::uint64_t>(into.size(), source.left));
     if (wanted == 0) return 0;
-    const ssize_t count = readFully(source.file, into.first(wanted));
+    const ssize_t count = base::readFully(source.file, into.first(wanted));
     if (count < 0) {
         m_diagnostics.reportSystem("Cannot read " + printable(source.path));
         source.left = 0;
@@ -141,7 +146,7 @@ bool ArchiveWriter::shouldPack(const Source &source)
     std::size_t after = 0;
     for (std::uint64_t sample = 0; sample < samples; ++sample) {
         const std::uint64_t offset = (source.left - sampleSize) / (samples - 1) * sample;
-        const ssize_t count = readFullyAt(source.file, std::span(m_block).first(sampleSize), offset);
+        const ssize_t count = base::readFullyAt(source.file, std::span(m_block).first(sampleSize), offset);
         if (count <= 0) return false; // addStored() will meet the fault, and report it
         const Bytes bytes = Bytes(m_block).first(static_cast<std::size_t>(count));
         before += bytes.size();
@@ -181,6 +186,8 @@ bool ArchiveWriter::addPackedBlocks(Source &source)
 
 bool ArchiveWriter::makeRoom(std::size_t headerSize, std::uint64_t dataSize)
 {
+    if (headerSize > largestHeader)
+        return m_diagnostics.report(printable(m_header.name) + " has a longer name than an archive can hold");
     const std::uint64_t needed = headerSize + std::min(dataSize, smallestPart);
     if (m_output.room() >= needed) return true;
     if (!m_output.atStart() && !m_output.nextVolume()) return false;

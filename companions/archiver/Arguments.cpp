@@ -121,8 +121,9 @@ rar lb [SWITCH...] ARCHIVE             list the names of all entries
   -vN     make volumes of N thousand bytes
 
 Archives are RAR 5 archives; older ones and those of other archivers can be tested, listed and extracted. Symbolic
-links, modes and times are kept; owners are not. Pipes, sockets and devices are left out. An archive appears under its
-name only when it is complete and on the disk, and nothing went wrong.
+links, modes and times are kept; owners are not, so set-user-ID and set-group-ID bits are not restored. Pipes, sockets
+and devices in folders are left out. An archive, or a set of volumes, takes the place of the one before only when it is
+complete and on the disk, and nothing went wrong.
 )";
 }
 

@@ -1,6 +1,6 @@
 #include "BackgroundWriter.h"
 
-#include "File.h"
+#include "FileDescriptor.h"
 
 #include <cerrno>
 #include <system_error>
@@ -35,10 +35,10 @@ bool BackgroundWriter::writeNow(int file, Bytes bytes)
     // Not often, as each time costs a walk through what is in memory; often enough that little is left at the
     // end.
     constexpr std::size_t interval = 8 << 20;
-    if (!writeFully(file, bytes)) return false;
+    if (!base::writeFully(file, bytes)) return false;
     m_unsynced += bytes.size();
     if (m_unsynced >= interval) {
-        startWriteBack(file);
+        base::startWriteBack(file);
         m_unsynced = 0;
     }
     return true;

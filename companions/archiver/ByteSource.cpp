@@ -14,15 +14,13 @@ constexpr std::size_t windowSize = 256 << 10; // fits the processor's cache, whe
 
 } // namespace
 
-std::unique_ptr<FileSource> FileSource::open(const std::string &path) { return openAt(AT_FDCWD, path); }
-
-std::unique_ptr<FileSource> FileSource::openAt(int folder, const std::string &path)
+std::unique_ptr<FileSource> FileSource::open(const std::string &path)
 {
-    FileDescriptor file(openat(folder, path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    base::FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status {};
     if (!file || fstat(file.get(), &status) != 0) return nullptr;
     if (!S_ISREG(status.st_mode)) {
-        errno = S_ISDIR(status.st_mode) ? EISDIR : EINVAL;
+        errno = S_ISDIR(status.st_mode) ? EISDIR : ENXIO;
         return nullptr;
     }
     posix_fadvise(file.get(), 0, 0, POSIX_FADV_SEQUENTIAL);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Bytes.h"
-#include "File.h"
+#include "FileDescriptor.h"
 
 #include <memory>
 
@@ -18,21 +18,20 @@ public:
 
 class FileSource final : public ByteSource {
 public:
-    /// Of a regular file; null with errno set where it can't be opened.
+    /// Of a regular file; null with errno set where it can't be opened, ENXIO where it is a pipe, a socket or
+    /// a device, which nobody waits for.
     [[nodiscard]] static std::unique_ptr<FileSource> open(const std::string &path);
-    /// The same for a path relative to an open folder.
-    [[nodiscard]] static std::unique_ptr<FileSource> openAt(int folder, const std::string &path);
     /// `descriptor` stays the caller's.
     FileSource(int descriptor, std::uint64_t size) : m_descriptor(descriptor), m_size(size) {}
 
     ssize_t read(std::uint64_t offset, std::span<std::uint8_t> into) override
     {
-        return readFullyAt(m_descriptor, into, offset);
+        return base::readFullyAt(m_descriptor, into, offset);
     }
     [[nodiscard]] std::uint64_t size() const override { return m_size; }
 
 private:
-    FileDescriptor m_own;
+    base::FileDescriptor m_own;
     int m_descriptor;
     std::uint64_t m_size;
 };

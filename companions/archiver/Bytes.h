@@ -1,13 +1,13 @@
 #pragma once
 
-#include <cstdint>
-#include <span>
+#include "FileDescriptor.h"
+
 #include <string_view>
 #include <vector>
 
 namespace archiver {
 
-using Bytes = std::span<const std::uint8_t>;
+using base::Bytes;
 
 /// Takes little-endian numbers off the front of bytes that may be anything. After a read beyond the end, or
 /// of a number that is too long, ok() is false and every further read gives 0 or nothing.

@@ -31,7 +31,7 @@ public:
     }
     bool excluded(const struct stat &folder, const std::string &name) override
     {
-        return m_output.owns(folder.st_dev, folder.st_ino, name);
+        return m_output.owns(folder, name);
     }
 
 private:

@@ -28,10 +28,10 @@ bool makeFolders(const std::string &path)
 
 bool Destination::open(const std::string &path)
 {
-    m_root = FileDescriptor(::open(path.c_str(), folderFlags));
+    m_root = base::FileDescriptor(::open(path.c_str(), folderFlags));
     if (m_root || errno != ENOENT) return static_cast<bool>(m_root);
     if (!makeFolders(path)) return false;
-    m_root = FileDescriptor(::open(path.c_str(), folderFlags));
+    m_root = base::FileDescriptor(::open(path.c_str(), folderFlags));
     return static_cast<bool>(m_root);
 }
 
@@ -54,34 +54,36 @@ int Destination::parentOf(const std::vector<std::string> &components)
 {
     const std::size_t depth = components.size() - 1;
     std::size_t common = 0;
-    while (common < std::min(depth, m_chain.size()) && m_chain[common].first == components[common])
+    while (common < std::min(depth, m_names.size()) && m_names[common] == components[common])
         ++common;
-    m_chain.erase(m_chain.begin() + static_cast<std::ptrdiff_t>(common), m_chain.end());
+    // Where a folder was moved away meanwhile, the way begins at the root again.
+    if (!m_chain.shorten(common)) common = 0;
+    m_names.resize(common);
     m_made = 0;
-    while (m_chain.size() < depth) {
-        const int from = m_chain.empty() ? m_root.get() : m_chain.back().second.get();
-        if (!descend(from, components[m_chain.size()])) return -1;
-    }
-    return m_chain.empty() ? m_root.get() : m_chain.back().second.get();
+    while (m_names.size() < depth)
+        if (!descend(components[m_names.size()])) return -1;
+    return last();
 }
 
-bool Destination::descend(int from, const std::string &name)
+bool Destination::descend(const std::string &name)
 {
-    FileDescriptor folder(openat(from, name.c_str(), folderFlags | O_NOFOLLOW));
+    const int from = last();
+    base::FileDescriptor folder(openat(from, name.c_str(), folderFlags | O_NOFOLLOW));
     if (!folder && errno == ENOENT) {
         if (mkdirat(from, name.c_str(), 0700) != 0) return false;
-        folder = FileDescriptor(openat(from, name.c_str(), folderFlags | O_NOFOLLOW));
+        folder = base::FileDescriptor(openat(from, name.c_str(), folderFlags | O_NOFOLLOW));
         if (!folder) return false;
         ++m_made;
     }
-    if (!folder) return false;
-    m_chain.emplace_back(name, std::move(folder));
+    if (!folder || !m_chain.push(std::move(folder))) return false;
+    m_names.push_back(name);
     return true;
 }
 
 int Destination::root()
 {
-    m_chain.clear();
+    m_names.clear();
+    static_cast<void>(m_chain.shorten(0));
     return m_root.get();
 }
 

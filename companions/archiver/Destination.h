@@ -1,11 +1,10 @@
 #pragma once
 
 #include "Diagnostics.h"
-#include "File.h"
+#include "FolderChain.h"
 
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace archiver {
@@ -27,17 +26,19 @@ public:
 
     /// How many folders deep parentOf() has come, the last ones of which, made() of them, are new. Where it
     /// failed that is as far as it got.
-    [[nodiscard]] std::size_t depth() const { return m_chain.size(); }
+    [[nodiscard]] std::size_t depth() const { return m_names.size(); }
     [[nodiscard]] std::size_t made() const { return m_made; }
 
     /// The folder below which all this is, open; those that parentOf() opened are closed.
     [[nodiscard]] int root();
 
 private:
-    bool descend(int from, const std::string &name);
+    bool descend(const std::string &name);
+    [[nodiscard]] int last() const { return m_names.empty() ? m_root.get() : m_chain.last(); }
 
-    FileDescriptor m_root;
-    std::vector<std::pair<std::string, FileDescriptor>> m_chain; // open folders, each in the one before
+    base::FileDescriptor m_root;
+    std::vector<std::string> m_names; ///< of the folders in the chain
+    FolderChain m_chain;
     std::size_t m_made = 0;
 };
 

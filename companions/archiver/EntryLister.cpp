@@ -1,6 +1,6 @@
 #include "EntryLister.h"
 
-#include "File.h"
+#include "FileDescriptor.h"
 
 #include <unistd.h>
 
@@ -22,7 +22,7 @@ void EntryLister::add(const FileHeader &header)
 
 void EntryLister::finish()
 {
-    if (!m_failed && !writeFully(STDOUT_FILENO, m_lines)) {
+    if (!m_failed && !base::writeFully(STDOUT_FILENO, m_lines)) {
         m_failed = true; // one message is enough
         m_diagnostics.reportSystem("Cannot write the list");
     }

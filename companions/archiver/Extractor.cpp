@@ -34,9 +34,6 @@ bool Extractor::cannotCreate(const std::string &name)
     if (errno == ELOOP || errno == ENOTDIR)
         return m_diagnostics.report("Cannot create " + printable(name) +
                                     ": a folder on its way is a link or a file in the destination");
-    if (errno == EMFILE)
-        return m_diagnostics.report("Cannot create " + printable(name) +
-                                    ": too many folders inside each other");
     return m_diagnostics.reportSystem("Cannot create " + printable(name));
 }
 
@@ -64,7 +61,10 @@ int Extractor::enter(const std::vector<std::string> &components, const FileHeade
 
 unsigned Extractor::permissions(const FileHeader &header) const
 {
-    if (header.unixHost) return header.mode & 07777u;
+    // Archives don't say whose a file was. Set-user-ID and set-group-ID would turn it into the right to act
+    // as whoever unpacks it.
+    constexpr unsigned withoutIdentities = 01777;
+    if (header.unixHost) return header.mode & withoutIdentities;
     const unsigned most = header.folder ? 0777 : header.mode & windowsReadOnly ? 0444 : 0666;
     return most & ~m_umask;
 }
@@ -105,15 +105,22 @@ void Extractor::symbolicLink(const FileHeader &header)
         m_diagnostics.report("Cannot create " + printable(header.name) + ": the link's target is damaged");
         return;
     }
-    const std::string temporary = temporaryName();
-    if (symlinkat(target.c_str(), folder, temporary.c_str()) != 0) {
+    const std::string &name = components->back();
+    const base::PassingNames names(".rar", name);
+    std::string made = name;
+    bool isMade = symlinkat(target.c_str(), folder, made.c_str()) == 0;
+    for (unsigned number = 0; !isMade && errno == EEXIST && number < 1000; ++number) {
+        made = names.name(number);
+        isMade = symlinkat(target.c_str(), folder, made.c_str()) == 0;
+    }
+    if (!isMade) {
         cannotCreate(header.name);
         return;
     }
-    utimensat(folder, temporary.c_str(), fileTimes(header.modified).data(), AT_SYMLINK_NOFOLLOW);
-    if (renameat(folder, temporary.c_str(), folder, components->back().c_str()) == 0) return;
+    utimensat(folder, made.c_str(), fileTimes(header.modified).data(), AT_SYMLINK_NOFOLLOW);
+    if (made == name || renameat(folder, made.c_str(), folder, name.c_str()) == 0) return;
     cannotCreate(header.name);
-    unlinkat(folder, temporary.c_str(), 0);
+    unlinkat(folder, made.c_str(), 0);
 }
 
 void Extractor::copyOfEntry(const FileHeader &header)
@@ -124,7 +131,7 @@ void Extractor::copyOfEntry(const FileHeader &header)
     const int folder = components ? enter(*components, original) : -1;
     if (folder < 0) return;
     constexpr int flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
-    const FileDescriptor from(openat(folder, components->back().c_str(), flags));
+    const base::FileDescriptor from(openat(folder, components->back().c_str(), flags));
     struct stat status {};
     if (!from || fstat(from.get(), &status) != 0 || !S_ISREG(status.st_mode)) {
         m_diagnostics.report("Cannot create " + printable(header.name) + ": its original " +
@@ -142,7 +149,7 @@ bool Extractor::copyContent(int from)
 {
     ByteBuffer buffer(256 << 10);
     for (;;) {
-        const ssize_t count = readFully(from, buffer);
+        const ssize_t count = base::readFully(from, buffer);
         if (count < 0)
             return m_diagnostics.reportSystem("Cannot read the original of " + printable(m_entryName));
         if (count == 0) return true;
@@ -155,7 +162,7 @@ ContentSink *Extractor::beginFile(const FileHeader &header)
     const std::optional<std::vector<std::string>> components = place(header.name);
     const int folder = components ? enter(*components, header) : -1;
     if (folder < 0) return nullptr;
-    m_file = TemporaryFile::create(folder);
+    m_file = base::StagedFile::create(folder, {".rar", components->back()});
     if (!m_file) {
         cannotCreate(header.name);
         return nullptr;
@@ -167,17 +174,18 @@ ContentSink *Extractor::beginFile(const FileHeader &header)
 
 bool Extractor::write(Bytes bytes)
 {
-    if (writeFully(m_file.descriptor(), bytes)) return true;
+    if (base::writeFully(m_file.descriptor(), bytes)) return true;
     return m_diagnostics.reportSystem("Cannot write " + printable(m_entryName));
 }
 
 void Extractor::finishFile(const FileHeader &header)
 {
-    // The mode last: changing the owner's own file needs no permission, and set-user-ID bits go when it is
-    // written to.
+    // Some network file systems tell when a file is closed that it couldn't be written; those know names
+    // only.
     const bool done = futimens(m_file.descriptor(), fileTimes(header.modified).data()) == 0 &&
-                      fchmod(m_file.descriptor(), permissions(header)) == 0 && m_file.closeFile() &&
-                      m_file.rename(m_fileName);
+                      fchmod(m_file.descriptor(), permissions(header)) == 0 &&
+                      (m_file.passingName().empty() || m_file.park()) &&
+                      m_file.publish(m_fileName, {".rar", m_fileName});
     if (!done) m_diagnostics.reportSystem("Cannot create " + printable(header.name));
     m_file.discard();
 }

@@ -3,11 +3,13 @@
 #include "ContentSink.h"
 #include "Destination.h"
 #include "FolderAttributes.h"
+#include "StagedFile.h"
 
 namespace archiver {
 
-/// Makes an archive's entries below a folder, over what is there already. A file appears under its name only
-/// when it is complete. Times and modes of folders are set at the end, by finish().
+/// Makes an archive's entries below a folder, over what is there already, nothing of which is ever opened. A
+/// file appears under its name only when it is complete. Times and modes of folders are set at the end, by
+/// finish().
 class Extractor final : public EntryReceiver, private ContentSink {
 public:
     enum class Paths { Keep, Drop };
@@ -36,7 +38,7 @@ private:
     Paths m_paths;
     Diagnostics &m_diagnostics;
     unsigned m_umask;
-    TemporaryFile m_file;
+    base::StagedFile m_file;
     std::string m_fileName; // its final one, in its folder
     std::string m_entryName;
     FolderAttributes m_folders;

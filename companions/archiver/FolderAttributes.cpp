@@ -1,17 +1,16 @@
 #include "FolderAttributes.h"
 
-#include "File.h"
 #include "FileTimes.h"
+#include "FolderChain.h"
 
 #include <fcntl.h>
 
 namespace archiver {
 
-/// A folder on apply()'s way down, open, and the child that comes next.
+/// A folder on apply()'s way down, and the child that comes next.
 struct FolderAttributes::Level {
     std::string name;
     const Folder *folder;
-    FileDescriptor descriptor;
     std::map<std::string, std::size_t>::const_iterator next;
 };
 
@@ -43,31 +42,36 @@ void FolderAttributes::setMissing(std::span<const std::string> path, std::size_t
 void FolderAttributes::apply(int root, Diagnostics &diagnostics) const
 {
     std::vector<Level> way;
+    FolderChain open;
+    const auto complain = [&](const std::string &name) {
+        std::string path;
+        for (std::size_t depth = 1; depth < way.size(); ++depth)
+            path += way[depth].name + '/';
+        diagnostics.reportSystem("Cannot set the attributes of folder " + printable(path + name));
+    };
     const auto enter = [&](int parent, const std::string &name, const Folder &folder) {
         constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-        way.push_back(
-            {name, &folder, FileDescriptor(openat(parent, name.c_str(), flags)), folder.children.begin()});
-        return static_cast<bool>(way.back().descriptor);
+        base::FileDescriptor opened(openat(parent, name.c_str(), flags));
+        if (!opened || !open.push(std::move(opened))) return complain(name);
+        way.push_back({name, &folder, folder.children.begin()});
     };
-    const auto leave = [&](bool done) {
-        std::string path;
-        for (std::size_t depth = 1; !done && depth < way.size(); ++depth)
-            path += (depth > 1 ? "/" : "") + way[depth].name;
-        if (!done) diagnostics.reportSystem("Cannot set the attributes of folder " + printable(path));
-        way.pop_back();
-    };
-    if (!enter(root, ".", m_folders.front())) leave(false);
+    enter(root, ".", m_folders.front());
     while (!way.empty()) {
         Level &level = way.back();
-        const int descriptor = level.descriptor.get();
         if (level.next != level.folder->children.end()) {
             const auto &[name, index] = *level.next++;
-            if (!enter(descriptor, name, m_folders[index])) leave(false);
-        } else {
-            const std::optional<State> &state = level.folder->state;
-            leave(!state || (futimens(descriptor, fileTimes(state->modified).data()) == 0 &&
-                             fchmod(descriptor, state->mode) == 0));
+            enter(open.last(), name, m_folders[index]);
+            continue;
         }
+        // The one above comes first: there may be no way back once this one has its mode.
+        const std::optional<State> &state = level.folder->state;
+        const bool isDone =
+            open.openParent() && (!state || (futimens(open.last(), fileTimes(state->modified).data()) == 0 &&
+                                             fchmod(open.last(), state->mode) == 0));
+        const std::string name = level.name;
+        way.pop_back();
+        if (!isDone) complain(name);
+        if (!open.shorten(way.size()) && !way.empty()) return complain(name);
     }
 }
 

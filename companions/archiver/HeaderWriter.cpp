@@ -6,7 +6,8 @@ namespace archiver {
 
 namespace {
 
-constexpr std::size_t sizeWidth = 6; // 4 TiB - 1; larger files get a wider field
+constexpr std::size_t sizeWidth = 6;
+static_assert(largestSize >> 7 * sizeWidth == 0);
 
 /// Puts the checksum and the size before `body`, which begins with the type.
 void putFramed(ByteBuffer &into, const ByteBuffer &body)

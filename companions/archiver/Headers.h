@@ -18,6 +18,7 @@ inline constexpr std::array<std::uint8_t, 7> oldSignature{0x52, 0x61, 0x72, 0x21
 
 inline constexpr std::size_t largestHeader = 2u << 20; ///< bytes after the size field
 inline constexpr std::size_t endHeaderSize = 8;
+inline constexpr std::uint64_t largestSize = (1ull << 42) - 1; ///< of a file, as its header is written
 
 enum class HeaderType : std::uint64_t { Main = 1, File = 2, Service = 3, Encryption = 4, End = 5 };
 
@@ -90,9 +91,9 @@ struct FileHeader {
 [[nodiscard]] std::optional<FileHeader> parseFileHeader(const HeaderFrame &frame);
 
 void putMainHeader(ByteBuffer &into, const MainHeader &header);
-/// The same length for the same name, link and time, whatever the sizes (up to 4 TiB), flags and checksum: a
-/// header can be replaced when its data is behind it. A file has a checksum always, 0 as long as none is
-/// known.
+/// The same length for the same name, link and time, whatever the sizes (up to largestSize), flags and
+/// checksum: a header can be replaced when its data is behind it. A file has a checksum always, 0 as long as
+/// none is known.
 void putFileHeader(ByteBuffer &into, const FileHeader &header);
 void putEndHeader(ByteBuffer &into, bool moreVolumes);
 

@@ -1,15 +1,10 @@
 #pragma once
 
+#include "StopSignals.h"
+
 namespace archiver {
 
-/// From here on SIGTERM, SIGINT and SIGHUP no longer end the program at once: interrupted() becomes true
-/// instead, and the work in hand stops and removes what it has not finished.
-void catchInterrupts();
-
-[[nodiscard]] bool interrupted();
-
-/// Ends the program with the signal that was caught, so that its parent learns of it; returns where there was
-/// none.
-void endByCaughtSignal();
+/// Whether a signal asked to stop: the work in hand stops then, and removes what it has not finished.
+[[nodiscard]] inline bool interrupted() { return base::StopSignals::received() != 0; }
 
 } // namespace archiver

@@ -1,14 +1,14 @@
 #include "OutputVolumes.h"
 
 #include "Interrupt.h"
+#include "SetReplacement.h"
 #include "VolumeNames.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
-#include <dirent.h>
 #include <fcntl.h>
 #include <limits>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -20,35 +20,56 @@ namespace {
 constexpr std::size_t bufferSize = 512 << 10;
 constexpr std::uint64_t smallestLastVolume = 512; // readers look for the signature of shorter files in vain
 
-/// The written volumes under their temporary names; messages name the archive.
+/// The written volumes, read through the descriptors that they were written through; messages name the
+/// archive.
 class WrittenVolumes final : public VolumeSource {
 public:
-    WrittenVolumes(int folder, std::vector<std::string> names, std::string archive)
-        : m_folder(folder), m_names(std::move(names)), m_archive(std::move(archive))
+    WrittenVolumes(std::vector<base::StagedFile> &files, std::string archive)
+        : m_files(files), m_archive(std::move(archive))
     {
     }
     std::unique_ptr<ByteSource> open(std::size_t index) override
     {
-        if (index < m_names.size()) return FileSource::openAt(m_folder, m_names[index]);
+        // Those with names were too many to be open together.
+        if (index > 0 && !m_files[index - 1].passingName().empty() && !m_files[index - 1].park())
+            return nullptr;
         errno = ENOENT;
-        return nullptr;
+        struct stat status {};
+        if (index >= m_files.size() || !m_files[index].unpark() ||
+            fstat(m_files[index].descriptor(), &status) != 0)
+            return nullptr;
+        return std::make_unique<FileSource>(m_files[index].descriptor(),
+                                            static_cast<std::uint64_t>(status.st_size));
     }
     [[nodiscard]] std::string name(std::size_t) const override { return m_archive; }
 
 private:
-    int m_folder;
-    std::vector<std::string> m_names;
+    std::vector<base::StagedFile> &m_files;
     std::string m_archive;
 };
+
+/// How many volumes may be open at a time: half of what the system allows leaves enough for the sources.
+std::size_t mostOpenVolumes()
+{
+    rlimit limit{};
+    if (getrlimit(RLIMIT_NOFILE, &limit) != 0) return 16;
+    return static_cast<std::size_t>(std::max<rlim_t>(limit.rlim_cur / 2, 1));
+}
+
+std::string nameIn(const std::string &path) { return path.substr(path.rfind('/') + 1); }
 
 } // namespace
 
 OutputVolumes::OutputVolumes(const std::string &archivePath, std::optional<std::uint64_t> volumeSize,
                              Diagnostics &diagnostics)
-    : m_path(archivePath), m_volumeSize(volumeSize), m_diagnostics(diagnostics), m_buffer(bufferSize)
+    : m_path(archivePath)
+    , m_name(nameIn(archivePath))
+    , m_volumeSize(volumeSize)
+    , m_diagnostics(diagnostics)
+    , m_passingNames(passingNamesOf(withoutExtension(m_name)))
+    , m_mostOpen(mostOpenVolumes())
+    , m_buffer(bufferSize)
 {
-    const std::size_t slash = m_path.rfind('/');
-    m_name = slash == std::string::npos ? m_path : m_path.substr(slash + 1);
 }
 
 bool OutputVolumes::cannotWrite() { return m_diagnostics.reportSystem("Cannot write " + printable(m_path)); }
@@ -57,26 +78,30 @@ bool OutputVolumes::openFolder()
 {
     const std::string folder = m_path.substr(0, m_path.size() - m_name.size());
     m_folder =
-        FileDescriptor(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        base::FileDescriptor(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     struct stat status {};
-    if (!m_folder || fstat(m_folder.get(), &status) != 0)
+    if (!m_folder || fstat(m_folder.get(), &m_folderStatus) != 0)
         return m_diagnostics.reportSystem("Cannot create " + printable(m_path));
-    m_folderDevice = status.st_dev;
-    m_folderInode = status.st_ino;
     // Found out now rather than after all the work.
-    if (m_name.empty() ||
-        (fstatat(m_folder.get(), m_name.c_str(), &status, 0) == 0 && S_ISDIR(status.st_mode))) {
+    if (m_name.empty() || (fstatat(m_folder.get(), m_name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0 &&
+                           S_ISDIR(status.st_mode))) {
         errno = EISDIR;
         return m_diagnostics.reportSystem("Cannot create " + printable(m_path));
     }
     return true;
 }
 
-bool OutputVolumes::begin() { return openFolder() && beginVolume(); }
+bool OutputVolumes::begin()
+{
+    if (!openFolder() || !finishReplacement(m_path, m_diagnostics)) return false;
+    base::removeLeftovers(m_folder.get(), m_passingNames);
+    return beginVolume();
+}
 
 bool OutputVolumes::beginVolume()
 {
-    TemporaryFile file = TemporaryFile::create(m_folder.get());
+    base::StagedFile file =
+        base::StagedFile::create(m_folder.get(), m_passingNames, static_cast<unsigned>(m_files.size()));
     if (!file) return m_diagnostics.reportSystem("Cannot create " + printable(m_path));
     m_files.push_back(std::move(file));
     m_position = 0;
@@ -137,7 +162,7 @@ bool OutputVolumes::patch(std::uint64_t offset, Bytes bytes)
         return true;
     }
     if (!flushAndWait()) return false;
-    return writeFullyAt(m_files.back().descriptor(), bytes, offset) || cannotWrite();
+    return base::writeFullyAt(m_files.back().descriptor(), bytes, offset) || cannotWrite();
 }
 
 bool OutputVolumes::endVolume(bool more)
@@ -147,8 +172,15 @@ bool OutputVolumes::endVolume(bool more)
     const std::uint64_t size = m_position + end.size();
     if (!more && m_files.size() > 1 && size < smallestLastVolume) end.resize(end.size() + smallestLastVolume);
     if (!append(end) || !flushAndWait()) return false;
-    startWriteBack(m_files.back().descriptor());
-    return m_files.back().closeFile() || cannotWrite();
+    base::startWriteBack(m_files.back().descriptor());
+    return keepFewOpen() || cannotWrite();
+}
+
+bool OutputVolumes::keepFewOpen()
+{
+    base::StagedFile &file = m_files.back();
+    return m_files.size() < m_mostOpen ||
+           (file.giveName(m_passingNames, static_cast<unsigned>(m_files.size() - 1)) && file.park());
 }
 
 bool OutputVolumes::nextVolume() { return endVolume(true) && beginVolume(); }
@@ -164,38 +196,26 @@ bool OutputVolumes::finish()
     return endVolume(false);
 }
 
-std::unique_ptr<VolumeSource> OutputVolumes::written() const
+std::unique_ptr<VolumeSource> OutputVolumes::written()
 {
-    std::vector<std::string> names;
-    for (const TemporaryFile &file : m_files)
-        names.push_back(file.name());
-    return std::make_unique<WrittenVolumes>(m_folder.get(), std::move(names), m_path);
+    return std::make_unique<WrittenVolumes>(m_files, m_path);
 }
 
-std::vector<std::string> OutputVolumes::finalNames() const
+bool OutputVolumes::complete(base::StagedFile &file, const std::optional<Timestamp> &time)
 {
-    if (m_files.size() == 1) return {m_name};
-    const std::size_t digits = std::to_string(m_files.size()).size();
-    std::vector<std::string> names;
-    for (std::size_t number = 1; number <= m_files.size(); ++number)
-        names.push_back(volumePath(withoutExtension(m_name), number, digits));
-    return names;
-}
-
-bool OutputVolumes::complete(TemporaryFile &file, const std::optional<Timestamp> &time)
-{
-    if (!file.reopenFile()) return cannotWrite();
+    const bool isParked = !file;
+    if (!file.unpark()) return cannotWrite();
     if (time) {
         const timespec times[2] = {{0, UTIME_OMIT}, {time->seconds, time->nanoseconds}};
         if (futimens(file.descriptor(), times) != 0)
             return m_diagnostics.reportSystem("Cannot set the time of " + printable(m_path));
     }
-    return (syncToDisk(file.descriptor()) && file.closeFile()) || cannotWrite();
+    return (base::syncToDisk(file.descriptor()) && (!isParked || file.park())) || cannotWrite();
 }
 
 bool OutputVolumes::publish(const std::optional<Timestamp> &time)
 {
-    const std::vector<std::string> names = finalNames();
+    const std::vector<std::string> names = finalNames(m_name, m_files.size());
     for (const std::string &name : names) {
         struct stat status {};
         if (fstatat(m_folder.get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0 ||
@@ -205,45 +225,20 @@ bool OutputVolumes::publish(const std::optional<Timestamp> &time)
         return m_diagnostics.reportSystem("Cannot create " + printable(name));
     }
     // Before the names, or a power cut would leave an empty archive where the one before is gone.
-    for (TemporaryFile &file : m_files)
+    for (base::StagedFile &file : m_files)
         if (!complete(file, time)) return false;
-    for (std::size_t index = 0; index < names.size(); ++index)
-        if (!m_files[index].rename(names[index]))
-            return m_diagnostics.reportSystem("Cannot create " + printable(names[index]));
-    if (!syncToDisk(m_folder.get())) return cannotWrite();
-    if (limited()) removeStale(names);
-    return true;
+    const bool areSeveral =
+        names.size() > 1 || (limited() && !filesOfArchive(m_folder.get(), m_name, names).empty());
+    if (areSeveral) return replaceSet(m_folder.get(), m_name, m_files, m_diagnostics);
+    if (!m_files.front().publish(m_name, m_passingNames))
+        return m_diagnostics.reportSystem("Cannot create " + printable(m_name));
+    return base::syncToDisk(m_folder.get()) || cannotWrite();
 }
 
-bool OutputVolumes::isStale(const std::string &name, const std::vector<std::string> &current) const
+bool OutputVolumes::owns(const struct stat &folder, const std::string &name) const
 {
-    const std::optional<VolumeName> volume = parseVolumeName(name);
-    const bool ofThisArchive = name == m_name || (volume && volume->base == withoutExtension(m_name));
-    return ofThisArchive && std::ranges::find(current, name) == current.end();
-}
-
-void OutputVolumes::removeStale(const std::vector<std::string> &current)
-{
-    const int folder = dup(m_folder.get());
-    DIR *const entries = folder < 0 ? nullptr : fdopendir(folder);
-    if (!entries) {
-        if (folder >= 0) close(folder);
-        return;
-    }
-    std::vector<std::string> stale;
-    while (const dirent *entry = readdir(entries))
-        if (isStale(entry->d_name, current)) stale.emplace_back(entry->d_name);
-    closedir(entries);
-    for (const std::string &name : stale)
-        if (unlinkat(m_folder.get(), name.c_str(), 0) != 0 && errno != EISDIR)
-            m_diagnostics.reportSystem("Cannot remove the older volume " + printable(name));
-}
-
-bool OutputVolumes::owns(dev_t folderDevice, ino_t folderInode, const std::string &name) const
-{
-    if (folderDevice != m_folderDevice || folderInode != m_folderInode) return false;
-    if (name == m_name || (limited() && isStale(name, {}))) return true;
-    return std::ranges::any_of(m_files, [&](const TemporaryFile &file) { return file.name() == name; });
+    if (!base::isSame(folder, m_folderStatus)) return false;
+    return name == m_name || m_passingNames.include(name) || (limited() && isFileOfArchive(name, m_name));
 }
 
 } // namespace archiver

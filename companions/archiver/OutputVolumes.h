@@ -2,8 +2,8 @@
 
 #include "BackgroundWriter.h"
 #include "Diagnostics.h"
-#include "File.h"
 #include "Headers.h"
+#include "StagedFile.h"
 #include "VolumeSource.h"
 
 #include <memory>
@@ -13,15 +13,17 @@
 
 namespace archiver {
 
-/// The files of an archive that is being written: one, or volumes of a limited size. They have temporary
-/// names in the archive's folder until publish(), and are gone again where that doesn't come. Functions that
-/// give false have reported why.
+/// The files of an archive that is being written: one, or volumes of a limited size. They have no names of
+/// their own until publish(), and are gone again where that doesn't come. Functions that give false have
+/// reported why.
 class OutputVolumes {
 public:
     /// `volumeSize`: most bytes of a volume; none for a single file of any size.
     OutputVolumes(const std::string &archivePath, std::optional<std::uint64_t> volumeSize,
                   Diagnostics &diagnostics);
 
+    /// Before anything else: finishes what an earlier run for this archive has begun, and removes what it
+    /// left.
     [[nodiscard]] bool begin();
     [[nodiscard]] bool limited() const { return m_volumeSize.has_value(); }
     /// Bytes that the present volume still takes, its end header not counted.
@@ -47,14 +49,13 @@ public:
     [[nodiscard]] bool finish();
 
     /// All that was written, to be read back; after finish().
-    [[nodiscard]] std::unique_ptr<VolumeSource> written() const;
-    /// Gives the files the time and, once they are on the disk, their final names. Volumes of an older set
-    /// that the new one doesn't replace go.
+    [[nodiscard]] std::unique_ptr<VolumeSource> written();
+    /// Gives the files the time and, once they are on the disk, their final names. Where there are volumes,
+    /// all of an older set go.
     [[nodiscard]] bool publish(const std::optional<Timestamp> &time);
 
-    /// Whether a name in the folder with that device and inode number is the archive's own, before or after
-    /// publish().
-    [[nodiscard]] bool owns(dev_t folderDevice, ino_t folderInode, const std::string &name) const;
+    /// Whether a name in the folder with that status is the archive's own, before or after publish().
+    [[nodiscard]] bool owns(const struct stat &folder, const std::string &name) const;
 
 private:
     [[nodiscard]] bool openFolder();
@@ -62,20 +63,19 @@ private:
     [[nodiscard]] bool flush();
     [[nodiscard]] bool flushAndWait();
     [[nodiscard]] bool endVolume(bool more);
-    [[nodiscard]] std::vector<std::string> finalNames() const;
-    [[nodiscard]] bool isStale(const std::string &name, const std::vector<std::string> &current) const;
-    [[nodiscard]] bool complete(TemporaryFile &file, const std::optional<Timestamp> &time);
-    void removeStale(const std::vector<std::string> &current);
+    [[nodiscard]] bool keepFewOpen();
+    [[nodiscard]] bool complete(base::StagedFile &file, const std::optional<Timestamp> &time);
     bool cannotWrite();
 
     std::string m_path;
     std::string m_name; ///< the archive's, in its folder
     std::optional<std::uint64_t> m_volumeSize;
     Diagnostics &m_diagnostics;
-    FileDescriptor m_folder;
-    dev_t m_folderDevice = 0;
-    ino_t m_folderInode = 0;
-    std::vector<TemporaryFile> m_files;
+    base::FileDescriptor m_folder;
+    struct stat m_folderStatus {};
+    base::PassingNames m_passingNames;
+    std::vector<base::StagedFile> m_files;
+    std::size_t m_mostOpen;
     BackgroundWriter m_writer; ///< behind the files, which it writes to
     ByteBuffer m_buffer;
     std::size_t m_used = 0;

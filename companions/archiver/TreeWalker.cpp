@@ -40,27 +40,41 @@ struct Listed {
 /// A folder's entries, some at a time: a folder may have millions.
 class Listing {
 public:
-    explicit Listing(DIR *entries) : m_entries(entries, closedir) {}
+    /// False with errno set.
+    [[nodiscard]] bool open(int folder)
+    {
+        base::FileDescriptor own(fcntl(folder, F_DUPFD_CLOEXEC, 0));
+        m_entries.reset(own ? fdopendir(own.get()) : nullptr);
+        if (m_entries) own.release(); // closed with the listing
+        return m_entries != nullptr;
+    }
 
     /// The next ones in the order of their names; none at the end, or with errno set.
     std::vector<Listed> next()
     {
         constexpr std::size_t most = 50'000;
         std::vector<Listed> listed;
-        errno = 0;
-        while (listed.size() < most) {
+        errno = m_error;
+        while (m_entries && listed.size() < most) {
+            errno = 0;
             const dirent *entry = readdir(m_entries.get());
+            m_error = errno;
+            if (!entry) m_entries.reset(); // few folders need to be open twice while what is in them is read
             if (!entry) break;
             const std::string_view name = entry->d_name;
             if (name != "." && name != "..") listed.push_back({std::string(name), entry->d_type});
         }
         std::ranges::sort(listed, {}, &Listed::name);
+        errno = m_error;
         return listed;
     }
-    [[nodiscard]] int folder() const { return dirfd(m_entries.get()); }
 
 private:
-    std::unique_ptr<DIR, int (*)(DIR *)> m_entries;
+    struct Closer {
+        void operator()(DIR *entries) const { closedir(entries); }
+    };
+    std::unique_ptr<DIR, Closer> m_entries;
+    int m_error = 0;
 };
 
 std::optional<std::string> readTarget(int folder, const std::string &entry)
@@ -79,103 +93,135 @@ std::optional<std::string> readTarget(int folder, const std::string &entry)
 
 } // namespace
 
-void TreeWalker::cannotOpen(const std::string &path)
+/// A folder on the way, and what is left to visit in it.
+struct TreeWalker::Level {
+    struct stat status;
+    std::size_t pathLength;
+    std::size_t nameLength;
+    Listing listing{};
+    std::vector<Listed> batch{};
+    std::size_t next = 0;
+};
+
+TreeWalker::TreeWalker(TreeVisitor &visitor, Links links, Names names, Diagnostics &diagnostics)
+    : m_visitor(visitor), m_links(links), m_names(names), m_diagnostics(diagnostics)
 {
-    m_diagnostics.reportSystem("Cannot open " + printable(path));
 }
 
-std::string TreeWalker::entryName(const std::string &parent, const std::string &entry) const
+TreeWalker::~TreeWalker() = default;
+
+void TreeWalker::cannotOpen() { m_diagnostics.reportSystem("Cannot open " + printable(m_path)); }
+
+void TreeWalker::refuse(mode_t mode)
 {
-    return m_names == Names::Bare || parent.empty() ? entry : parent + '/' + entry;
+    m_diagnostics.report("Cannot add " + printable(m_path) + ": it is " + base::kindOf(mode) +
+                         ", and archives hold files, folders and links only");
 }
+
+std::string TreeWalker::storedName() const { return m_names == Names::Bare ? lastComponent(m_name) : m_name; }
 
 bool TreeWalker::walk(const std::string &source)
 {
-    std::string path = source;
-    while (path.size() > 1 && path.back() == '/')
-        path.pop_back();
-    const std::string stored = storedPath(path);
-    const std::string name = m_names == Names::Bare ? lastComponent(stored) : stored;
-    return visit({AT_FDCWD, path, DT_UNKNOWN}, path, name);
+    m_path = source;
+    while (m_path.size() > 1 && m_path.back() == '/')
+        m_path.pop_back();
+    m_name = storedPath(m_path);
+    bool goesOn = visit({AT_FDCWD, m_path, DT_UNKNOWN});
+    while (goesOn && !m_levels.empty())
+        goesOn = goOn();
+    return goesOn;
 }
 
-bool TreeWalker::visit(const Place &place, const std::string &path, const std::string &name)
+bool TreeWalker::goOn()
+{
+    Level &level = m_levels.back();
+    m_path.resize(level.pathLength);
+    m_name.resize(level.nameLength);
+    if (level.next == level.batch.size()) {
+        level.batch = level.listing.next();
+        level.next = 0;
+        if (level.batch.empty() && errno != 0) m_diagnostics.reportSystem("Cannot read " + printable(m_path));
+        if (level.batch.empty()) return leaveFolder();
+    }
+    const auto &[entry, type] = level.batch[level.next++];
+    if (m_visitor.excluded(level.status, entry)) return true;
+    if (m_path != "/") m_path += '/';
+    m_path += entry;
+    if (!m_name.empty()) m_name += '/';
+    m_name += entry;
+    return visit({m_folders.last(), entry, type});
+}
+
+bool TreeWalker::leaveFolder()
+{
+    const struct stat status = m_levels.back().status;
+    m_levels.pop_back();
+    if (!m_folders.shorten(m_levels.size())) return cannotOpen(), false;
+    const std::string name = storedName();
+    return name.empty() || m_visitor.folder(status, name); // "/" itself has no name
+}
+
+bool TreeWalker::visit(const Place &place)
 {
     if (interrupted()) return false;
     Place known = place;
     if (place.type == DT_UNKNOWN) {
         struct stat status {};
         if (fstatat(place.folder, place.entry.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0)
-            return cannotOpen(path), true;
+            return cannotOpen(), true;
         known.type = listingType(status.st_mode);
     }
     switch (known.type) {
     case DT_REG:
-        return visitFile(known, path, name);
+        return visitFile(known);
     case DT_DIR:
-        return visitFolder(known, path, name);
+        enterFolder(known);
+        return true;
     case DT_LNK:
-        return visitLink(known, path, name);
+        return visitLink(known);
     default:
+        // Whoever names it wants it.
+        if (place.folder == AT_FDCWD) refuse(static_cast<mode_t>(DTTOIF(known.type)));
         return true;
     }
 }
 
-bool TreeWalker::visitFile(const Place &place, const std::string &path, const std::string &name)
+bool TreeWalker::visitFile(const Place &place)
 {
     const int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | (place.followed ? 0 : O_NOFOLLOW);
-    const FileDescriptor file(openat(place.folder, place.entry.c_str(), flags));
+    const base::FileDescriptor file(openat(place.folder, place.entry.c_str(), flags));
     struct stat status {};
-    if (!file || fstat(file.get(), &status) != 0) return cannotOpen(path), true;
+    if (!file || fstat(file.get(), &status) != 0) return cannotOpen(), true;
     if (!S_ISREG(status.st_mode)) {
-        m_diagnostics.report("Cannot open " + printable(path) + ": it was replaced meanwhile");
+        m_diagnostics.report("Cannot open " + printable(m_path) + ": it was replaced meanwhile");
         return true;
     }
-    return m_visitor.file(file.get(), status, name, path);
+    return m_visitor.file(file.get(), status, storedName(), m_path);
 }
 
-bool TreeWalker::visitFolder(const Place &place, const std::string &path, const std::string &name)
+void TreeWalker::enterFolder(const Place &place)
 {
     const int flags = O_RDONLY | O_DIRECTORY | O_CLOEXEC | (place.followed ? 0 : O_NOFOLLOW);
-    FileDescriptor folder(openat(place.folder, place.entry.c_str(), flags));
-    struct stat status {};
-    if (!folder || fstat(folder.get(), &status) != 0) return cannotOpen(path), true;
-    if (!visitContents(std::move(folder), status, path, name)) return false;
-    return name.empty() || m_visitor.folder(status, name); // "/" itself has no name
+    base::FileDescriptor folder(openat(place.folder, place.entry.c_str(), flags));
+    Level level{{}, m_path.size(), m_name.size()};
+    const bool isOpen = folder && fstat(folder.get(), &level.status) == 0 && level.listing.open(folder.get());
+    if (!isOpen || !m_folders.push(std::move(folder))) return cannotOpen();
+    m_levels.push_back(std::move(level));
 }
 
-bool TreeWalker::visitContents(FileDescriptor folder, const struct stat &status, const std::string &path,
-                               const std::string &name)
-{
-    DIR *const entries = fdopendir(folder.get());
-    if (!entries) return cannotOpen(path), true;
-    folder.release(); // closed with the listing
-    Listing listing(entries);
-    const std::string prefix = path == "/" ? path : path + '/';
-    for (;;) {
-        const std::vector<Listed> batch = listing.next();
-        if (batch.empty() && errno != 0) m_diagnostics.reportSystem("Cannot read " + printable(path));
-        if (batch.empty()) return true;
-        for (const auto &[entry, type] : batch) {
-            if (m_visitor.excluded(status, entry)) continue;
-            if (!visit({listing.folder(), entry, type}, prefix + entry, entryName(name, entry))) return false;
-        }
-    }
-}
-
-bool TreeWalker::visitLink(const Place &place, const std::string &path, const std::string &name)
+bool TreeWalker::visitLink(const Place &place)
 {
     struct stat status {};
     if (m_links == Links::Follow) {
-        if (fstatat(place.folder, place.entry.c_str(), &status, 0) != 0) return cannotOpen(path), true;
+        if (fstatat(place.folder, place.entry.c_str(), &status, 0) != 0) return cannotOpen(), true;
         // Below the source a link to a folder stays a link: following it might never end.
         const bool follow = !S_ISDIR(status.st_mode) || place.folder == AT_FDCWD;
-        if (follow) return visit({place.folder, place.entry, listingType(status.st_mode), true}, path, name);
+        if (follow) return visit({place.folder, place.entry, listingType(status.st_mode), true});
     }
     const std::optional<std::string> target = readTarget(place.folder, place.entry);
     if (!target || fstatat(place.folder, place.entry.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0)
-        return cannotOpen(path), true;
-    return m_visitor.link(status, name, *target);
+        return cannotOpen(), true;
+    return m_visitor.link(status, storedName(), *target);
 }
 
 } // namespace archiver

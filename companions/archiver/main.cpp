@@ -1,13 +1,14 @@
 #include "Arguments.h"
 #include "Commands.h"
 #include "Diagnostics.h"
-#include "File.h"
 #include "Interrupt.h"
 
+#include <algorithm>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <new>
+#include <sys/resource.h>
 
 namespace {
 
@@ -23,8 +24,18 @@ int run(std::span<const char *const> words, archiver::Diagnostics &diagnostics)
         return usageError;
     }
     archiver::runCommand(std::get<archiver::Arguments>(parsed), diagnostics);
-    archiver::endByCaughtSignal();
+    // So that the parent learns of it.
+    if (archiver::interrupted()) base::endBySignal(base::StopSignals::received());
     return diagnostics.silent() ? EXIT_SUCCESS : failure;
+}
+
+/// Volumes stay open until they get their names, and there may be thousands.
+void raiseOpenFileLimit()
+{
+    rlimit limit{};
+    if (getrlimit(RLIMIT_NOFILE, &limit) != 0) return;
+    limit.rlim_cur = std::min<rlim_t>(limit.rlim_max, 65536);
+    setrlimit(RLIMIT_NOFILE, &limit);
 }
 
 } // namespace
@@ -33,8 +44,9 @@ int main(int count, char **arguments)
 {
     // libarchive turns names of older archives into those of the locale.
     std::setlocale(LC_CTYPE, "C.UTF-8");
-    archiver::raiseOpenFileLimit();
-    archiver::catchInterrupts();
+    raiseOpenFileLimit();
+    base::StopSignals signals(base::StopSignals::BrokenPipe::EndsIt);
+    signals.watch(0); // no child: whoever is at work looks whether one came
     archiver::Diagnostics diagnostics;
     try {
         return run({arguments + 1, arguments + (count > 0 ? count : 1)}, diagnostics);

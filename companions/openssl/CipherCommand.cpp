@@ -101,6 +101,15 @@ std::optional<std::string> passPhraseSource(const CommandLine &line)
     return source && isPassPhraseSource(source) ? std::optional<std::string>(source) : std::nullopt;
 }
 
+/// Whether it is what the program runs that these tools belong to: `CIPHER [-d] -a [-salt] -in … -out … -pass
+/// pass:…`.
+bool isOurs(const CommandLine &line)
+{
+    const Option *const pass = line.last({"pass"});
+    return isCipher(line.command()) && line.has({"a"}) && pass && spelledPassword(*pass) &&
+           line.operands().empty() && line.worksOnFiles({"d", "a", "salt", "in", "out", "pass"});
+}
+
 /// All but the caller's own options.
 ToolRun planRun(const CommandLine &line, const std::vector<std::string> &derivation = {})
 {
@@ -110,6 +119,7 @@ ToolRun planRun(const CommandLine &line, const std::vector<std::string> &derivat
     addProviders(line, cipherOf(line), run.arguments);
     if (!line.has({"bufsize"})) append(run.arguments, {"-bufsize", std::string(bufferSize)});
     if (const char *const output = line.value("out")) run.output = output;
+    run.isOurs = isOurs(line);
     run.mayPrint = line.has({"p", "P", "v", "debug", "help", "list", "ciphers"});
     return run;
 }
@@ -130,8 +140,11 @@ ToolRun planToolRun(const CommandLine &line, const KeyDerivation &derivation, bo
     ToolRun run =
         planRun(line, isOpen ? derivationOptions(derivation, !line.has({"md"})) : std::vector<std::string>());
     run.hasPassword = hasPassword;
-    addGiven(
-        line, [hasPassword](const Option &each) { return hasPassword && isPasswordOption(each); }, run);
+    if (run.isOurs) run.input = line.value("in");
+    const auto isOther = [&run](const Option &each) {
+        return (run.input && each.name == "in") || (run.hasPassword && isPasswordOption(each));
+    };
+    addGiven(line, isOther, run);
     return run;
 }
 

@@ -57,9 +57,16 @@ int decryptWithCipher(const std::string &tool, const CipherDecryption &decryptio
         complain(problem);
         return 1;
     }
-    const PeekedInput input(decryption.input);
+    const PeekedInput input(decryption.input, run.isOurs);
+    if (run.isOurs && !input.problem().empty()) {
+        complain(input.problem());
+        return 1;
+    }
     run.stream = input.stream();
-    if (decryption.input && !run.stream) addOptions(run, {"-in", *decryption.input});
+    if (run.isOurs)
+        run.openInput = input.descriptor();
+    else if (decryption.input && !run.stream) // the tool will say why, where it can't be opened
+        addOptions(run, {"-in", *decryption.input});
 
     const std::optional<KeyDerivation> older = olderDerivation(decryption, input.head(), passPhrase);
     addOptions(run, derivationOptions(older.value_or(decryption.current), decryption.digest.empty()));

@@ -3,6 +3,17 @@
 #include <algorithm>
 #include <cstring>
 
+namespace {
+
+bool isFileName(const char *value)
+{
+    const std::string_view name = value ? value : "-";
+    const bool isOfSystem = name.starts_with("/proc/") || name.starts_with("/dev/");
+    return name != "-" && (!isOfSystem || name.starts_with("/dev/shm/"));
+}
+
+} // namespace
+
 CommandLine::CommandLine(std::span<char *const> arguments, std::span<const std::string_view> withValue)
     : m_arguments(arguments), m_operands(arguments.size())
 {
@@ -43,4 +54,12 @@ const char *CommandLine::value(std::string_view name) const
 {
     const Option *const option = last({name});
     return option ? option->value : nullptr;
+}
+
+bool CommandLine::worksOnFiles(std::initializer_list<std::string_view> options) const
+{
+    return isFileName(value("in")) && isFileName(value("out")) &&
+           std::ranges::all_of(m_options, [options](const Option &option) {
+               return std::ranges::find(options, option.name) != options.end();
+           });
 }

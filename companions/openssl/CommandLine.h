@@ -39,6 +39,10 @@ public:
     /// The value of the last option of this name, null where there is none.
     [[nodiscard]] const char *value(std::string_view name) const;
 
+    /// Whether it has no options but these, and reads and writes files whose names it gives: no standard
+    /// stream or device.
+    [[nodiscard]] bool worksOnFiles(std::initializer_list<std::string_view> options) const;
+
     /// What follows the command's name, but for the options for which `drop` is true.
     template <typename Predicate>
     [[nodiscard]] std::vector<std::string> without(Predicate drop) const

@@ -14,7 +14,7 @@ bool isPassing(int error) { return error == EINTR || error == EAGAIN; }
 
 } // namespace
 
-InputFeed::InputFeed(const BegunStream &stream, FileDescriptor childInput)
+InputFeed::InputFeed(const BegunStream &stream, base::FileDescriptor childInput)
     : m_source(stream.descriptor), m_sink(std::move(childInput)), m_buffer(stream.head), m_pending(m_buffer)
 {
     fcntl(m_sink.get(), F_SETFL, O_NONBLOCK);
@@ -22,7 +22,7 @@ InputFeed::InputFeed(const BegunStream &stream, FileDescriptor childInput)
 
 pollfd InputFeed::awaited() const
 {
-    if (!m_sink.isOpen()) return {-1, 0, 0};
+    if (!m_sink) return {-1, 0, 0};
     if (m_pending.empty()) return {m_source, POLLIN, 0};
     return {m_sink.get(), POLLOUT, 0};
 }

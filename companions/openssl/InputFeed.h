@@ -11,7 +11,7 @@
 /// that nobody waits for the child while the child waits to be read from.
 class InputFeed {
 public:
-    InputFeed(const BegunStream &stream, FileDescriptor childInput);
+    InputFeed(const BegunStream &stream, base::FileDescriptor childInput);
     InputFeed(const InputFeed &) = delete;
     InputFeed &operator=(const InputFeed &) = delete;
 
@@ -26,7 +26,7 @@ private:
     void pour();
 
     int m_source;
-    FileDescriptor m_sink;
+    base::FileDescriptor m_sink;
     std::string m_buffer;
     std::string_view m_pending; ///< of the buffer
     int m_error = 0;

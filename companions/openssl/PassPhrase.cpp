@@ -57,7 +57,7 @@ bool isRepeatable(std::string_view source)
     return source.starts_with(variable) || source.starts_with(file);
 }
 
-bool hasTerminal() { return FileDescriptor(open("/dev/tty", O_RDWR | O_CLOEXEC)).isOpen(); }
+bool hasTerminal() { return static_cast<bool>(base::FileDescriptor(open("/dev/tty", O_RDWR | O_CLOEXEC))); }
 
 bool askPassPhrase(const std::string &cipher, Secret &passPhrase)
 {
@@ -78,8 +78,8 @@ bool fetchPassPhrase(const std::string &source, Secret &passPhrase, std::string 
         const char *const value = std::getenv(source.c_str() + variable.size());
         isTaken = value && passPhrase.assign(value);
     } else if (source.starts_with(file)) {
-        const FileDescriptor opened(open(source.c_str() + file.size(), O_RDONLY | O_CLOEXEC));
-        isTaken = opened.isOpen() && readLine(opened.get(), passPhrase);
+        const base::FileDescriptor opened(open(source.c_str() + file.size(), O_RDONLY | O_CLOEXEC));
+        isTaken = opened && readLine(opened.get(), passPhrase);
     } else {
         const bool isNumbered = source.starts_with(descriptor);
         const auto number = numberIn(std::string_view(source).substr(isNumbered ? descriptor.size() : 0));

@@ -1,9 +1,9 @@
 #include "PeekedInput.h"
 
+#include "FileSource.h"
+
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <fcntl.h>
 #include <openssl/evp.h>
 #include <unistd.h>
 
@@ -13,24 +13,18 @@ constexpr std::size_t headSize = 128; // in bytes
 
 std::string readHead(int descriptor)
 {
-    std::array<char, headSize> bytes;
-    std::size_t size = 0;
-    while (size < bytes.size()) {
-        const ssize_t count = read(descriptor, bytes.data() + size, bytes.size() - size);
-        if (count < 0 && errno == EINTR) continue;
-        if (count <= 0) break;
-        size += static_cast<std::size_t>(count);
-    }
-    return {bytes.data(), size};
+    std::array<std::uint8_t, headSize> bytes;
+    const ssize_t size = base::readFully(descriptor, bytes);
+    return {bytes.begin(), bytes.begin() + std::max<ssize_t>(size, 0)};
 }
 
 } // namespace
 
-PeekedInput::PeekedInput(const std::optional<std::string> &path) : m_descriptor(STDIN_FILENO)
+PeekedInput::PeekedInput(const std::optional<std::string> &path, bool isOurs) : m_descriptor(STDIN_FILENO)
 {
     if (path) {
-        m_file = FileDescriptor(open(path->c_str(), O_RDONLY | O_CLOEXEC));
-        if (!m_file.isOpen()) return; // the tool will say why
+        m_file = openInput(*path, isOurs, m_problem);
+        if (!m_file) return;
         m_descriptor = m_file.get();
     }
     const off_t start = lseek(m_descriptor, 0, SEEK_CUR);

@@ -9,8 +9,12 @@
 /// An input of which the first bytes are known before the tool reads it.
 class PeekedInput {
 public:
-    /// Nothing: standard input.
-    explicit PeekedInput(const std::optional<std::string> &path);
+    /// Nothing: standard input. `isOurs`: as for openInput().
+    PeekedInput(const std::optional<std::string> &path, bool isOurs);
+
+    /// Why it can't be opened; empty: it is open.
+    [[nodiscard]] const std::string &problem() const { return m_problem; }
+    [[nodiscard]] int descriptor() const { return m_descriptor; }
 
     /// The bytes that it begins with, up to 128; fewer only where there are no more, or it can't be read.
     [[nodiscard]] const std::string &head() const { return m_head; }
@@ -19,7 +23,8 @@ public:
     [[nodiscard]] std::optional<BegunStream> stream() const;
 
 private:
-    FileDescriptor m_file;
+    base::FileDescriptor m_file;
+    std::string m_problem;
     int m_descriptor;
     bool m_isStream = false;
     std::string m_head;

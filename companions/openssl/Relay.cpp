@@ -12,31 +12,25 @@ namespace {
 constexpr std::size_t bufferSize = 65536; // what a pipe holds
 
 /// 0, or the errno value of the write that failed.
-int writeAll(int sink, std::string_view bytes)
+int writeAll(int sink, std::string_view text)
 {
-    while (!bytes.empty()) {
-        const ssize_t count = write(sink, bytes.data(), bytes.size());
-        if (count >= 0)
-            bytes.remove_prefix(static_cast<std::size_t>(count));
-        else if (errno != EINTR)
-            return errno;
-    }
-    return 0;
+    const base::Bytes bytes(reinterpret_cast<const std::uint8_t *>(text.data()), text.size());
+    return base::writeFully(sink, bytes) ? 0 : errno;
 }
 
 } // namespace
 
-void Relay::forward(FileDescriptor childOutput, int sink, std::vector<std::string> droppedLines)
+void Relay::forward(base::FileDescriptor childOutput, int sink, std::vector<std::string> droppedLines)
 {
     m_drains.push_back({std::move(childOutput), sink, false, LineFilter(std::move(droppedLines))});
 }
 
-void Relay::collect(FileDescriptor childOutput, int sink)
+void Relay::collect(base::FileDescriptor childOutput, int sink)
 {
     m_drains.push_back({std::move(childOutput), sink, true, LineFilter({})});
 }
 
-void Relay::feed(const BegunStream &stream, FileDescriptor childInput)
+void Relay::feed(const BegunStream &stream, base::FileDescriptor childInput)
 {
     m_feed.emplace(stream, std::move(childInput));
 }
@@ -64,7 +58,7 @@ Relay::Result Relay::run()
 bool Relay::isDone() const
 {
     for (const Drain &each : m_drains)
-        if (each.source.isOpen()) return false;
+        if (each.source) return false;
     return true;
 }
 
@@ -89,6 +83,6 @@ void Relay::drain(Drain &drain)
 void Relay::handOn(const Drain &drain, std::string_view text)
 {
     if (text.empty()) return;
+    if (!std::exchange(m_result.printed, true)) m_beforeFirstWord();
     writeAll(drain.sink, text);
-    m_result.printed = true;
 }

@@ -4,6 +4,7 @@
 #include "InputFeed.h"
 #include "LineFilter.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,18 +21,21 @@ public:
 
     /// Hands on to `sink` what the child prints, but for these lines. Where nobody reads there, it is
     /// dropped.
-    void forward(FileDescriptor childOutput, int sink, std::vector<std::string> droppedLines = {});
+    void forward(base::FileDescriptor childOutput, int sink, std::vector<std::string> droppedLines = {});
     /// Writes the child's result to `sink`. On an error the child finds its output closed.
-    void collect(FileDescriptor childOutput, int sink);
+    void collect(base::FileDescriptor childOutput, int sink);
 
     /// Gives the child all of the stream.
-    void feed(const BegunStream &stream, FileDescriptor childInput);
+    void feed(const BegunStream &stream, base::FileDescriptor childInput);
+
+    /// Is called before the first that is handed on to `sink`.
+    void beforeFirstWord(std::function<void()> call) { m_beforeFirstWord = std::move(call); }
 
     [[nodiscard]] Result run();
 
 private:
     struct Drain {
-        FileDescriptor source;
+        base::FileDescriptor source;
         int sink;
         bool isResult;
         LineFilter filter;
@@ -45,4 +49,5 @@ private:
     std::vector<char> m_buffer;
     std::vector<Drain> m_drains;
     std::optional<InputFeed> m_feed;
+    std::function<void()> m_beforeFirstWord = [] {};
 };

@@ -1,53 +1,108 @@
 #include "ResultFile.h"
 
 #include <cerrno>
+#include <cstdlib>
 #include <fcntl.h>
+#include <memory>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <system_error>
 #include <unistd.h>
 
 namespace {
 
-std::string systemReason() { return std::generic_category().message(errno); }
+// In bytes: less than this is what a file system has left after a write that it refused.
+constexpr unsigned long long nextToNothing = 65536;
+
+std::string resolved(const std::string &path)
+{
+    const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr), &std::free);
+    return real ? std::string(real.get()) : path;
+}
+
+base::PassingNames passingNames(const std::string &name) { return {".openssl", name}; }
 
 } // namespace
 
-ResultFile::ResultFile(const std::optional<std::string> &target)
-    : m_name(target.value_or("the standard output")), m_descriptor(STDOUT_FILENO)
+ResultFile::ResultFile(const std::optional<std::string> &path, Target target)
+    : m_path(path), m_target(target), m_descriptor(path ? -1 : STDOUT_FILENO)
 {
-    if (target) m_staged.emplace(*target);
 }
 
 bool ResultFile::open()
 {
-    if (!m_staged) return true;
-    m_descriptor = m_staged->descriptor();
-    if (m_staged->isStaged()) return true;
-    const int flags = O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC;
-    m_unstaged = FileDescriptor(::open(m_staged->path().c_str(), flags, S_IRUSR | S_IWUSR));
-    m_descriptor = m_unstaged.get();
-    return m_unstaged.isOpen() || fail(systemReason());
+    if (!m_path) return true;
+    if (mayReplace() && stage()) return true;
+    return m_target == Target::Opened || (m_problem.empty() && fail(errno));
 }
 
-bool ResultFile::write(Bytes bytes)
+/// False with errno set.
+bool ResultFile::mayReplace()
 {
-    while (!bytes.empty()) {
-        const ssize_t count = ::write(m_descriptor, bytes.data(), bytes.size());
-        if (count < 0 && errno != EINTR) return fail(systemReason());
-        if (count > 0) bytes = bytes.subspan(static_cast<std::size_t>(count));
-    }
-    return true;
+    errno = EISDIR;
+    if (m_path->empty() || m_path->ends_with('/')) return false;
+    struct stat status {};
+    const bool isThere =
+        fstatat(AT_FDCWD, m_path->c_str(), &status, m_target == Target::Name ? AT_SYMLINK_NOFOLLOW : 0) == 0;
+    // A link that leads nowhere: writing makes the file that it names.
+    if (!isThere) return m_target == Target::Name || lstat(m_path->c_str(), &status) != 0;
+    if (S_ISREG(status.st_mode)) return access(m_path->c_str(), W_OK) == 0;
+    if (m_target == Target::Opened || S_ISDIR(status.st_mode)) return false;
+    if (!S_ISBLK(status.st_mode) && !S_ISCHR(status.st_mode)) return true;
+    m_problem = "cannot write " + *m_path + ": it is " + base::kindOf(status.st_mode);
+    return false;
+}
+
+/// False with errno set.
+bool ResultFile::stage()
+{
+    const std::string path = m_target == Target::Name ? *m_path : resolved(*m_path);
+    const std::size_t start = path.rfind('/') + 1;
+    const std::string folder = start == 0 ? "." : path.substr(0, start);
+    m_name = path.substr(start);
+    m_folder = base::FileDescriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!m_folder) return false;
+    base::removeLeftovers(m_folder.get(), passingNames(m_name));
+    m_staged = base::StagedFile::create(m_folder.get(), passingNames(m_name));
+    m_descriptor = m_staged.descriptor();
+    return isStaged();
+}
+
+bool ResultFile::openTarget()
+{
+    if (isStaged() || !m_path) return true;
+    const int flags = O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC;
+    m_unstaged = base::FileDescriptor(::open(m_path->c_str(), flags, S_IRUSR | S_IWUSR));
+    m_descriptor = m_unstaged.get();
+    return m_unstaged || fail(errno);
+}
+
+std::string ResultFile::pathForTool() const
+{
+    return isStaged() ? base::descriptorPath(m_descriptor) : m_path.value_or("");
+}
+
+bool ResultFile::write(Bytes bytes) { return base::writeFully(m_descriptor, bytes) || fail(errno); }
+
+bool ResultFile::isFull() const
+{
+    struct statvfs status {};
+    if (!isStaged() || fstatvfs(m_descriptor, &status) != 0) return false;
+    return static_cast<unsigned long long>(status.f_bavail) * status.f_frsize < nextToNothing;
 }
 
 bool ResultFile::commit()
 {
-    if (!m_unstaged.close()) return fail(systemReason());
-    const std::error_code error = m_staged ? m_staged->commit() : std::error_code();
-    return !error || fail(error.message());
+    if (!isStaged()) return m_unstaged.close() || fail(errno);
+    // On the disk before it has its name, and its name before anything that it replaces is removed.
+    const bool isDone = base::syncToDisk(m_descriptor) && m_staged.publish(m_name, passingNames(m_name)) &&
+                        base::syncToDisk(m_folder.get());
+    return isDone || fail(errno);
 }
 
-bool ResultFile::fail(const std::string &reason)
+bool ResultFile::fail(int error)
 {
-    m_problem = "cannot write " + m_name + ": " + reason;
+    m_problem = "cannot write " + m_path.value_or("the standard output") + ": " +
+                std::generic_category().message(error);
     return false;
 }

@@ -1,32 +1,52 @@
 #pragma once
 
-#include "FileDescriptor.h"
-#include "StagedOutput.h"
+#include "StagedFile.h"
 #include "smime/ByteStreams.h"
 
 #include <optional>
 #include <string>
 
-/// Where a result is written to: a file, which appears under its name once it is whole, or standard output.
+/// Where a result goes: to a file, which appears under its name only once it is whole and on the disk, and is
+/// its user's alone, or to standard output.
 class ResultFile final : public ByteSink {
 public:
+    /// What becomes of a target that is there already.
+    enum class Target {
+        Name,  ///< a link or a pipe is nothing but a name, and goes
+        Opened ///< where a link leads the result goes; what is no regular file, or can't be replaced, is
+               ///< written to as it is
+    };
     /// Nothing: standard output.
-    explicit ResultFile(const std::optional<std::string> &target);
+    ResultFile(const std::optional<std::string> &path, Target target);
 
     /// False: there is nowhere to write to; problem() says why.
     [[nodiscard]] bool open();
+    /// The file to write to; where it isn't staged, standard output, or -1 before openTarget().
+    [[nodiscard]] int descriptor() const { return m_descriptor; }
+    [[nodiscard]] bool isStaged() const { return static_cast<bool>(m_staged); }
+    /// Opens a target that isn't staged. False: problem() says why.
+    [[nodiscard]] bool openTarget();
+    /// What the tool has to open where it is to write itself.
+    [[nodiscard]] std::string pathForTool() const;
     [[nodiscard]] bool write(Bytes bytes) override;
-    /// Gives the file its name. False: problem() says why not.
+    /// Whether the file system has next to no room left.
+    [[nodiscard]] bool isFull() const;
+    /// Gives a staged file its name, in the place of an older one. False: problem() says why not.
     [[nodiscard]] bool commit();
-    /// What went wrong; empty: nothing.
+    /// What went wrong, as a sentence; empty: nothing.
     [[nodiscard]] const std::string &problem() const { return m_problem; }
+    bool fail(int error);
 
 private:
-    bool fail(const std::string &reason);
+    [[nodiscard]] bool mayReplace();
+    [[nodiscard]] bool stage();
 
-    std::string m_name;
-    std::optional<StagedOutput> m_staged;
-    FileDescriptor m_unstaged;
+    std::optional<std::string> m_path;
+    Target m_target;
+    std::string m_name; ///< of the staged file, in its folder
+    base::FileDescriptor m_folder;
+    base::StagedFile m_staged;
+    base::FileDescriptor m_unstaged;
     int m_descriptor;
     std::string m_problem;
 };

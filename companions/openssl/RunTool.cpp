@@ -1,8 +1,8 @@
 #include "RunTool.h"
 
-#include "FileDescriptor.h"
+#include "FileSource.h"
 #include "Relay.h"
-#include "StagedOutput.h"
+#include "ResultFile.h"
 #include "StopSignals.h"
 #include "ToolProcess.h"
 
@@ -10,10 +10,9 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <fcntl.h>
-#include <optional>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace {
@@ -22,10 +21,10 @@ constexpr int failure = 1;
 
 /// A pipe with the password in it, as the one line that the tool reads. Closed, with errno set: it couldn't
 /// be made.
-FileDescriptor passwordPipe(Secret &password)
+base::FileDescriptor passwordPipe(Secret &password)
 {
-    Pipe pipe = Pipe::open();
-    if (!pipe.isOpen()) return {};
+    base::Pipe pipe = base::Pipe::open();
+    if (!pipe.read) return {};
     std::array<char, Secret::maximumSize + 1> line;
     const std::string_view text = password.text();
     std::memcpy(line.data(), text.data(), text.size());
@@ -34,7 +33,7 @@ FileDescriptor passwordPipe(Secret &password)
     const ssize_t written = write(pipe.write.get(), line.data(), text.size() + 1);
     wipeMemory(line.data(), line.size());
     password.wipe();
-    return written == static_cast<ssize_t>(text.size() + 1) ? std::move(pipe.read) : FileDescriptor();
+    return written == static_cast<ssize_t>(text.size() + 1) ? std::move(pipe.read) : base::FileDescriptor();
 }
 
 std::string systemReason(int error) { return std::generic_category().message(error); }
@@ -42,48 +41,69 @@ std::string systemReason(int error) { return std::generic_category().message(err
 /// One run of the tool, with all that belongs to it.
 class SupervisedRun {
 public:
-    SupervisedRun(const std::string &tool, const ToolRun &run) : m_tool(tool), m_run(run)
+    SupervisedRun(const std::string &tool, const ToolRun &run)
+        : m_tool(tool)
+        , m_run(run)
+        , m_output(run.output, run.isOurs ? ResultFile::Target::Name : ResultFile::Target::Opened)
     {
-        if (run.output) m_output.emplace(*run.output);
+        m_relay.beforeFirstWord([this] { tellWhereFull(); });
     }
 
     int execute(Secret &password)
     {
-        if (!prepareInput() || !start(password)) return failure;
+        if (!prepareInput()) return failure;
+        if (!m_output.open()) return tellOutputProblem();
+        if (!start(password)) return failure;
         const Relay::Result relayed = m_relay.run();
         const int waitStatus = m_signals.waitForChild();
-        if (!succeeded(waitStatus, relayed)) {
-            if (m_output && m_output->isFull())
-                complain("there is next to no space left for " + *m_run.output);
+        if (waitStatus != 0 || relayed.outputError != 0) tellWhereFull();
+        if (!succeeded(waitStatus, relayed))
             return WIFEXITED(waitStatus) && WEXITSTATUS(waitStatus) != 0 ? WEXITSTATUS(waitStatus) : failure;
-        }
-        return m_output ? commit() : 0;
+        return m_output.commit() ? 0 : tellOutputProblem();
     }
 
 private:
     bool prepareInput()
     {
         if (!m_run.input) return true;
-        m_input = FileDescriptor(open(m_run.input->c_str(), O_RDONLY | O_CLOEXEC));
-        if (!m_input.isOpen()) complain("cannot open " + *m_run.input + ": " + systemReason(errno));
-        return m_input.isOpen();
+        std::string problem;
+        m_input = openInput(*m_run.input, m_run.isOurs, problem);
+        if (!m_input) complain(problem);
+        return static_cast<bool>(m_input);
+    }
+
+    [[nodiscard]] int tellOutputProblem() const
+    {
+        complain(m_output.problem());
+        return failure;
+    }
+
+    /// Before anything that the tool makes of it, which nobody would understand.
+    void tellWhereFull()
+    {
+        if (!m_hasToldFull && m_output.isFull())
+            complain("there is next to no space left for " + *m_run.output);
+        m_hasToldFull = m_hasToldFull || m_output.isFull();
     }
 
     bool start(Secret &password)
     {
-        FileDescriptor passwordEnd;
+        base::FileDescriptor passwordEnd;
         if (m_run.hasPassword) {
             passwordEnd = passwordPipe(password);
-            if (!passwordEnd.isOpen()) return cannotStart();
+            if (!passwordEnd) return cannotStart();
         }
-        Pipe input = m_run.stream ? Pipe::open() : Pipe();
-        Pipe output = m_output ? Pipe::open() : Pipe();
-        Pipe errors = Pipe::open();
-        if (!errors.isOpen() || (m_output && !output.isOpen()) || (m_run.stream && !input.isOpen()))
+        base::Pipe input = m_run.stream ? base::Pipe::open() : base::Pipe();
+        base::Pipe output = m_run.output ? base::Pipe::open() : base::Pipe();
+        base::Pipe errors = base::Pipe::open();
+        if (!errors.read || (m_run.output && !output.read) || (m_run.stream && !input.read))
             return cannotStart();
 
-        const ToolStreams streams{m_run.stream ? input.read.get() : m_input.get(), output.write.get(),
-                                  errors.write.get(), passwordEnd.get()};
+        const int given = m_input ? m_input.get() : m_run.openInput;
+        const ToolStreams streams{m_run.stream ? input.read.get() : given,
+                                  output.write.get(),
+                                  errors.write.get(),
+                                  {passwordEnd.get(), m_output.descriptor()}};
         const pid_t child = startTool(m_tool, toolArguments(passwordEnd.get()), streams, m_signals);
         if (child < 0) return cannotStart();
         m_signals.watch(child);
@@ -100,24 +120,25 @@ private:
 
     [[nodiscard]] bool collectsOutput() const
     {
-        return m_run.collectsOutput && m_output && m_output->isStaged();
+        // Without /proc the tool can't open what has no name.
+        return m_output.isStaged() && (m_run.collectsOutput || access("/proc/self/fd", X_OK) != 0);
     }
 
     [[nodiscard]] std::vector<std::string> toolArguments(int passwordEnd) const
     {
         std::vector<std::string> added;
         if (m_run.hasPassword) added.insert(added.end(), {"-pass", "fd:" + std::to_string(passwordEnd)});
-        if (m_output && !collectsOutput()) added.insert(added.end(), {"-out", m_output->path()});
+        if (m_run.output && !collectsOutput()) added.insert(added.end(), {"-out", m_output.pathForTool()});
         std::vector<std::string> arguments = m_run.arguments;
         arguments.insert(arguments.begin() + 1, added.begin(), added.end());
         return arguments;
     }
 
-    void connect(FileDescriptor output, FileDescriptor errors)
+    void connect(base::FileDescriptor output, base::FileDescriptor errors)
     {
         if (collectsOutput())
-            m_relay.collect(std::move(output), m_output->descriptor());
-        else if (m_output)
+            m_relay.collect(std::move(output), m_output.descriptor());
+        else if (m_run.output)
             m_relay.forward(std::move(output), STDOUT_FILENO);
         m_relay.forward(std::move(errors), STDERR_FILENO, m_run.knownLines);
     }
@@ -125,8 +146,8 @@ private:
     /// Tells what went wrong where nobody else did.
     bool succeeded(int waitStatus, const Relay::Result &relayed) const
     {
-        if (const int signal = StopSignals::received()) {
-            complain("stopped by " + signalName(signal));
+        if (const int signal = base::StopSignals::received()) {
+            complain("stopped by " + base::signalName(signal));
             return false;
         }
         if (relayed.outputError != 0) {
@@ -138,7 +159,7 @@ private:
             return false;
         }
         if (WIFSIGNALED(waitStatus)) {
-            complain(m_tool + " was ended by " + signalName(WTERMSIG(waitStatus)));
+            complain(m_tool + " was ended by " + base::signalName(WTERMSIG(waitStatus)));
             return false;
         }
         const bool isFailure = WEXITSTATUS(waitStatus) != 0;
@@ -151,7 +172,7 @@ private:
     /// The tool read through a descriptor of ours, so ours stands where the tool stopped.
     bool wasReadToEnd() const
     {
-        if (!m_input.isOpen() || m_run.mayPrint) return true;
+        if (!m_input || m_run.mayPrint) return true;
         char byte = 0;
         const ssize_t count = pread(m_input.get(), &byte, 1, lseek(m_input.get(), 0, SEEK_CUR));
         if (count < 0) complain("cannot read " + *m_run.input + ": " + systemReason(errno));
@@ -159,19 +180,14 @@ private:
         return count == 0;
     }
 
-    int commit()
-    {
-        const std::error_code error = m_output->commit();
-        if (error) complain("cannot write " + *m_run.output + ": " + error.message());
-        return error ? failure : 0;
-    }
-
     const std::string &m_tool;
     const ToolRun &m_run;
     // First of all: from here on no signal ends the program while a staged file is there.
-    StopSignals m_signals;
-    std::optional<StagedOutput> m_output;
-    FileDescriptor m_input;
+    // A reader that went away must not end it before the child is waited for.
+    base::StopSignals m_signals{base::StopSignals::BrokenPipe::IsAnError};
+    ResultFile m_output;
+    bool m_hasToldFull = false;
+    base::FileDescriptor m_input;
     Relay m_relay;
 };
 
@@ -180,7 +196,7 @@ private:
 int runTool(const std::string &tool, const ToolRun &run, Secret &password)
 {
     const int status = SupervisedRun(tool, run).execute(password);
-    if (const int signal = StopSignals::received()) endBySignal(signal);
+    if (const int signal = base::StopSignals::received()) base::endBySignal(signal);
     return status;
 }
 

@@ -33,6 +33,12 @@ const Option *operationOf(const CommandLine &line)
     return line.last({"encrypt", "decrypt", "sign", "resign", "verify", "pk7out"});
 }
 
+/// Whether it is what the program runs that these tools belong to.
+bool isOurs(const CommandLine &line)
+{
+    return line.worksOnFiles({"aes256", "encrypt", "decrypt", "binary", "in", "out", "inkey"});
+}
+
 CommandPlan planEncryption(const CommandLine &line)
 {
     const char *const input = line.value("in");
@@ -44,7 +50,8 @@ CommandPlan planEncryption(const CommandLine &line)
     // A message in one piece (-noindef) can't be decrypted from 1.6 GB on, and the tool says nothing of it.
     if (!line.has({"stream", "indef"})) run.arguments.emplace_back("-stream");
     // The tool takes an error while it reads for the end of the file, and says nothing.
-    const bool isFed = isFound && (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode));
+    run.isOurs = isOurs(line);
+    const bool isFed = run.isOurs || (isFound && (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode)));
     if (isFed) run.input = input;
     const std::vector<std::string> given = line.without([isFed](const Option &option) {
         return option.name == "out" || option.name == "noindef" || (isFed && option.name == "in");
@@ -109,6 +116,7 @@ CommandPlan planOwnDecryption(const CommandLine &line, Secret &passPhrase)
     SmimeDecryption decryption;
     decryption.input = valueOf(line, "in");
     decryption.output = valueOf(line, "out");
+    decryption.isOurs = isOurs(line);
     decryption.recipient = valueOf(line, "recip");
     // The tool looks for the key beside the certificate, too.
     decryption.keyFile = valueOf(line, "inkey").value_or(decryption.recipient.value_or(""));

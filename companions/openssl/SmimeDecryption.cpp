@@ -1,6 +1,5 @@
 #include "SmimeDecryption.h"
 
-#include "FileDescriptor.h"
 #include "FileSource.h"
 #include "PassPhrase.h"
 #include "ResultFile.h"
@@ -11,16 +10,15 @@
 #include "smime/KeyFile.h"
 #include "smime/KeyOpener.h"
 
-#include <cerrno>
-#include <fcntl.h>
-#include <system_error>
 #include <unistd.h>
 
 namespace {
 
 class Decryption {
 public:
-    explicit Decryption(const SmimeDecryption &plan) : m_plan(plan), m_output(plan.output)
+    explicit Decryption(const SmimeDecryption &plan)
+        : m_plan(plan)
+        , m_output(plan.output, plan.isOurs ? ResultFile::Target::Name : ResultFile::Target::Opened)
     {
         m_signals.watch(0); // no child: a signal makes the reading end
     }
@@ -29,7 +27,8 @@ public:
     {
         const bool isDone = readKey(passPhrase) && readRecipient() && openInput() && decrypt();
         if (isDone) return true;
-        if (const int signal = StopSignals::received()) m_problem = "stopped by " + signalName(signal);
+        if (const int signal = base::StopSignals::received())
+            m_problem = "stopped by " + base::signalName(signal);
         complain(m_problem);
         return false;
     }
@@ -61,10 +60,8 @@ private:
     bool openInput()
     {
         if (!m_plan.input) return true;
-        m_input = FileDescriptor(open(m_plan.input->c_str(), O_RDONLY | O_CLOEXEC));
-        if (!m_input.isOpen())
-            m_problem = "cannot open " + *m_plan.input + ": " + std::generic_category().message(errno);
-        return m_input.isOpen();
+        m_input = ::openInput(*m_plan.input, m_plan.isOurs, m_problem);
+        return static_cast<bool>(m_input);
     }
 
     bool decrypt()
@@ -73,9 +70,10 @@ private:
         FileSource source(m_plan.input ? m_input.get() : STDIN_FILENO, fault);
         KeyOpener keys(m_key, m_certificate.handle ? &m_certificate : nullptr,
                        m_plan.recipient ? KeyOpener::Scope::Certificate : KeyOpener::Scope::All);
-        const bool isWhole = m_output.open() && decryptMessage(source, m_plan.form, keys, m_output, fault);
+        const bool isWhole = m_output.open() && m_output.openTarget() &&
+                             decryptMessage(source, m_plan.form, keys, m_output, fault);
         // Whoever asked to stop in the last moment expects no result.
-        if (isWhole && StopSignals::received() == 0 && m_output.commit()) return true;
+        if (isWhole && base::StopSignals::received() == 0 && m_output.commit()) return true;
         m_problem = m_output.problem();
         if (m_problem.empty())
             m_problem = m_plan.input.value_or("the standard input") + " " + fault.predicate();
@@ -84,9 +82,9 @@ private:
 
     const SmimeDecryption &m_plan;
     // First of all: from here on no signal ends the program while a staged file is there.
-    StopSignals m_signals;
+    base::StopSignals m_signals{base::StopSignals::BrokenPipe::IsAnError};
     ResultFile m_output;
-    FileDescriptor m_input;
+    base::FileDescriptor m_input;
     PrivateKey m_key;
     Certificate m_certificate;
     std::string m_problem;
@@ -97,6 +95,6 @@ private:
 int decryptSmime(const SmimeDecryption &decryption, Secret &passPhrase)
 {
     const bool isDone = Decryption(decryption).execute(passPhrase);
-    if (const int signal = StopSignals::received()) endBySignal(signal);
+    if (const int signal = base::StopSignals::received()) base::endBySignal(signal);
     return isDone ? 0 : 1;
 }

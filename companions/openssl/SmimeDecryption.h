@@ -12,6 +12,7 @@ class Secret;
 struct SmimeDecryption {
     std::optional<std::string> input;  ///< nothing: standard input
     std::optional<std::string> output; ///< nothing: standard output
+    bool isOurs = false;               ///< as in ToolRun
     MessageForm form = MessageForm::Smime;
     std::string keyFile;
     /// The certificate of the only recipient to try. Nothing: all are tried.

@@ -42,7 +42,7 @@ void becomeTool(const std::string &tool, char **argv)
 }
 
 pid_t startTool(const std::string &tool, const std::vector<std::string> &arguments,
-                const ToolStreams &streams, const StopSignals &signals)
+                const ToolStreams &streams, const base::StopSignals &signals)
 {
     std::vector<char *> argv{toolName};
     for (const std::string &argument : arguments)
@@ -57,7 +57,8 @@ pid_t startTool(const std::string &tool, const std::vector<std::string> &argumen
     useStream(streams.input, STDIN_FILENO);
     useStream(streams.output, STDOUT_FILENO);
     useStream(streams.errors, STDERR_FILENO);
-    if (streams.inherited >= 0) fcntl(streams.inherited, F_SETFD, 0);
+    for (const int each : streams.inherited)
+        if (each >= 0) fcntl(each, F_SETFD, 0);
     umask(S_IRWXG | S_IRWXO);
     signals.restoreInChild();
     becomeTool(tool, argv.data());

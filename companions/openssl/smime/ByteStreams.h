@@ -1,9 +1,8 @@
 #pragma once
 
-#include <cstdint>
-#include <span>
+#include "FileDescriptor.h"
 
-using Bytes = std::span<const std::uint8_t>;
+using base::Bytes;
 
 /// Bytes that come in pieces.
 class ByteSource {

@@ -14,6 +14,8 @@ CommandResult rar(std::vector<std::string> arguments, const CommandOptions &opti
     return runCommand(arguments, options);
 }
 
+std::string failure(const CommandResult &result) { return result.status != 0 ? result.errors : "success"; }
+
 CommandResult addTree(const fs::path &archive, const fs::path &source)
 {
     return rar({"a", "-r", "-ol", "-o+", "-m0", "", "-t", "-idq", archive, source});

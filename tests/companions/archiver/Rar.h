@@ -12,6 +12,9 @@
 /// Runs the archiver as the application does.
 CommandResult rar(std::vector<std::string> arguments, const CommandOptions &options = {});
 
+/// What is said by a run that ends with a status other than 0; "success" by any other.
+std::string failure(const CommandResult &result);
+
 /// First pass: a folder, stored. Second pass: a file, packed; `volume` is a switch such as "-v10", or empty.
 CommandResult addTree(const std::filesystem::path &archive, const std::filesystem::path &source);
 CommandResult packFile(const std::filesystem::path &archive, const std::filesystem::path &file,

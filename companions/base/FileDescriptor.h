@@ -1,11 +1,14 @@
 #pragma once
 
-#include "Bytes.h"
-
+#include <cstdint>
+#include <span>
 #include <string>
+#include <sys/stat.h>
 #include <sys/types.h>
 
-namespace archiver {
+namespace base {
+
+using Bytes = std::span<const std::uint8_t>;
 
 /// Owns an open file or folder; -1 owns none.
 class FileDescriptor {
@@ -28,6 +31,15 @@ private:
     int m_descriptor = -1;
 };
 
+/// A pipe that programs started later do not inherit. Both ends closed, with errno set: there is none to be
+/// had.
+struct Pipe {
+    FileDescriptor read;
+    FileDescriptor write;
+
+    [[nodiscard]] static Pipe open();
+};
+
 /// Reads until `into` is full or the file ends; the number of bytes, or -1 with errno set.
 [[nodiscard]] ssize_t readFully(int file, std::span<std::uint8_t> into);
 /// The same from an offset of its own.
@@ -42,41 +54,12 @@ void startWriteBack(int file);
 /// knows no such thing is none of the caller's business.
 [[nodiscard]] bool syncToDisk(int file);
 
-/// A name for something unfinished, unlikely to exist; another one each time.
-[[nodiscard]] std::string temporaryName();
+/// The descriptor's own name for programs and calls that take nothing but names.
+[[nodiscard]] std::string descriptorPath(int descriptor);
 
-/// A file under a name that nothing else has, removed again unless it gets its final name. Its mode is 0600.
-class TemporaryFile {
-public:
-    TemporaryFile() = default;
-    ~TemporaryFile() { discard(); }
-    TemporaryFile(TemporaryFile &&other) noexcept;
-    TemporaryFile &operator=(TemporaryFile &&other) noexcept;
-    TemporaryFile(const TemporaryFile &) = delete;
-    TemporaryFile &operator=(const TemporaryFile &) = delete;
+/// Whether both are of the same file or folder.
+[[nodiscard]] bool isSame(const struct stat &one, const struct stat &other);
+/// "a named pipe", "a socket", "a symbolic link" … for messages.
+[[nodiscard]] const char *kindOf(mode_t mode);
 
-    /// In the folder open as `folder`, which has to stay open. Not open, with errno set, where that fails.
-    [[nodiscard]] static TemporaryFile create(int folder);
-
-    [[nodiscard]] explicit operator bool() const { return m_named; }
-    [[nodiscard]] int descriptor() const { return m_file.get(); }
-    [[nodiscard]] const std::string &name() const { return m_name; }
-    /// Closes the file, which keeps its temporary name. False with errno set.
-    bool closeFile() { return m_file.close(); }
-    /// Opens it again for reading and writing. False with errno set.
-    bool reopenFile();
-    /// Gives it its final name in the same folder, over a file or link of that name. False with errno set.
-    bool rename(const std::string &name);
-    void discard();
-
-private:
-    FileDescriptor m_file;
-    std::string m_name;
-    int m_folder = -1;
-    bool m_named = false;
-};
-
-/// Raises the number of files that may be open to what the system allows, for deep trees.
-void raiseOpenFileLimit();
-
-} // namespace archiver
+} // namespace base

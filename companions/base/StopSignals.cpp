@@ -8,6 +8,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+namespace base {
+
 namespace {
 
 constexpr std::array stopSignals{SIGTERM, SIGINT, SIGHUP};
@@ -47,17 +49,15 @@ void setHandler(int signal, void (*handler)(int))
 
 } // namespace
 
-StopSignals::StopSignals()
+StopSignals::StopSignals(BrokenPipe brokenPipe)
 {
     const sigset_t set = stopSet();
     sigprocmask(SIG_BLOCK, &set, &m_formerMask);
     receivedSignal = 0;
     for (const int signal : stopSignals)
         setHandler(signal, passOn);
-    // A reader that went away must not end the program before the child is waited for.
-    struct sigaction ignore {};
-    ignore.sa_handler = SIG_IGN;
-    sigaction(SIGPIPE, &ignore, &m_formerPipe);
+    sigaction(SIGPIPE, nullptr, &m_formerPipe);
+    if (brokenPipe == BrokenPipe::IsAnError) std::signal(SIGPIPE, SIG_IGN);
 }
 
 StopSignals::~StopSignals()
@@ -115,3 +115,5 @@ void endBySignal(int signal)
     raise(signal);
     _exit(128 + signal);
 }
+
+} // namespace base

@@ -4,12 +4,16 @@
 #include <string>
 #include <sys/types.h>
 
+namespace base {
+
 /// Passes on to a child process the signals that ask the program to stop (SIGTERM, SIGINT, SIGHUP), so that
 /// the program can put things in order once the child is gone. Signals that the program was started to ignore
 /// stay ignored. From its construction until watch(), the signals wait. There is one of it at a time.
 class StopSignals {
 public:
-    StopSignals();
+    /// What becomes of the program when it writes to a reader that went away.
+    enum class BrokenPipe { EndsIt, IsAnError };
+    explicit StopSignals(BrokenPipe brokenPipe);
     ~StopSignals();
     StopSignals(const StopSignals &) = delete;
     StopSignals &operator=(const StopSignals &) = delete;
@@ -34,3 +38,5 @@ private:
 
 /// Ends the program the way the signal would have done.
 [[noreturn]] void endBySignal(int signal);
+
+} // namespace base
