@@ -63,6 +63,7 @@ private:
     void expectSourcesUntouched() const;
     void expectFormerOrNew(bool underItsName) const;
     void expectClearFilesNamed(const CommandResult &hit) const;
+    [[nodiscard]] bool isNew() const;
     void expectTruth(const CommandResult &hit, Ends ends) const;
     void expectNoTools(bool mayFinish) const;
     void expectNextRunRepairs(const Stage &stage) const;
