@@ -14,9 +14,10 @@ struct Stage {
 };
 
 enum class Ends {
-    Killed, ///< by the signal
-    Fails,  ///< and says so
-    Any,    ///< well or by a failure, as it says
+    Killed,    ///< by the signal
+    Fails,     ///< and says so
+    Cancelled, ///< the same, but what was hit may be done
+    Any,       ///< well or by a failure, as it says
 };
 
 struct Fault {
@@ -35,7 +36,7 @@ public:
     FaultHome(Kind kind, bool splits);
 
     /// The whole story: the run is hit, the questions are asked, and the next run has to repair everything.
-    /// False where the fault never came, as the moment was not reached.
+    /// False where the run ended well.
     bool survives(const Stage &stage, const Fault &fault);
 
     /// The run writes to a small file system of its own from now on; false where that isn't allowed here.
@@ -45,14 +46,13 @@ public:
     FaultHome &operator=(const FaultHome &) = delete;
 
     /// The runs are an ordinary user's from now on; root's rights would hide what is forbidden.
-    void becomeOrdinaryUser();
+    void becomeOrdinaryUser() { m_isOrdinaryUser = true; }
 
 private:
     using Path = std::filesystem::path;
 
     void write(const std::string &version, std::uint32_t seed) const;
-    void reset() const;
-    void giveAway(const Path &folder) const;
+    void reset();
     [[nodiscard]] Path productOf(const Stage &stage) const;
     [[nodiscard]] CommandResult launch(const std::vector<std::string> &more = {}) const;
     [[nodiscard]] Path target() const { return m_home / (m_kind == Kind::Backup ? "archives" : "out"); }
@@ -72,6 +72,7 @@ private:
     Kind m_kind;
     bool m_splits;
     bool m_isMounted = false;
+    bool m_isOrdinaryUser = false;
     TreeSnapshot m_former, m_new;     ///< of the folder
     TreeSnapshot m_sources;           ///< of all that the run may only read
     std::vector<std::string> m_names; ///< of the archives that a good run leaves

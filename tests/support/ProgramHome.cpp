@@ -3,6 +3,8 @@
 #include "Credentials.h"
 
 #include <algorithm>
+#include <stdexcept>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -97,6 +99,19 @@ void ProgramHome::encryptForCertificate()
     record["passtype"] = "2";
     record["lastcertfile"] = keys.certificate.string();
     record["lastpkfile"] = keys.key.string();
+}
+
+void ProgramHome::becomeOrdinaryUser()
+{
+    if (geteuid() != 0) return;
+    writeProfile();
+    const auto give = [](const fs::path &path) {
+        if (lchown(path.c_str(), 65534, 65534) != 0) throw std::runtime_error("can't give " + path.string());
+    };
+    give(path());
+    for (const auto &entry : fs::recursive_directory_iterator(path()))
+        give(entry.path());
+    launcher = {"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups", "--"};
 }
 
 void ProgramHome::changeSettings(const std::string &from, const std::string &to) const

@@ -33,6 +33,9 @@ public:
     /// Archives for a certificate of the home's own ("keys"), which spares the slow way from password to key.
     void encryptForCertificate();
 
+    /// Gives all that is there to an ordinary user, whose the next runs are: root may do what is forbidden.
+    void becomeOrdinaryUser();
+
     /// Puts `to` in place of `from` in the settings.
     void changeSettings(const std::string &from, const std::string &to) const;
 
