@@ -47,20 +47,21 @@ const std::vector<Fault> &faults()
     return all;
 }
 
+using Prepare = std::function<bool(FaultHome &)>;
+
 void strike(
     Kind kind, bool splits, const std::vector<Stage> &stages, const std::vector<Fault> &table,
-    const std::function<bool(FaultHome &)> &prepare = [](FaultHome &) { return true; })
+    const Prepare &prepare = [](FaultHome &) { return true; })
 {
-    const std::size_t count = stages.size() * table.size();
-    inParallel(count, [&](const auto &next) {
-        FaultHome home(kind, splits);
-        if (!prepare(home)) return;
-        for (std::size_t row = next(); row < count; row = next()) {
-            const Stage &stage = stages[row % stages.size()];
-            const Fault &fault = table[row / stages.size()];
-            SCOPED_TRACE((splits ? "volumes, " : "") + stage.name + ": " + fault.name);
-            EXPECT_TRUE(home.survives(stage, fault) || fault.ends == Ends::Any) << "nothing was hit";
-        }
+    const auto make = [&] {
+        auto home = std::make_unique<FaultHome>(kind, splits);
+        return prepare(*home) ? std::move(home) : nullptr;
+    };
+    inParallel(stages.size() * table.size(), make, [&](FaultHome &home, std::size_t row) {
+        const Stage &stage = stages[row % stages.size()];
+        const Fault &fault = table[row / stages.size()];
+        SCOPED_TRACE((splits ? "volumes, " : "") + stage.name + ": " + fault.name);
+        EXPECT_TRUE(home.survives(stage, fault) || fault.ends == Ends::Any) << "nothing was hit";
     });
 }
 
@@ -68,14 +69,12 @@ void strike(
 void killAtEachChange(Kind kind, const Stage &stage, Ends ends)
 {
     std::atomic<bool> isOver = false;
-    constexpr std::size_t tooMany = 80;
-    inParallel(tooMany, [&](const auto &next) {
-        FaultHome home(kind, true);
-        for (std::size_t row = next(); !isOver && row < tooMany; row = next()) {
-            const std::string moment = "change " + std::to_string(row + 1);
-            SCOPED_TRACE(stage.name + ", " + moment);
-            if (!home.survives(stage, {moment, moment, signalled("kill", SIGKILL), ends})) isOver = true;
-        }
+    const auto make = [&] { return std::make_unique<FaultHome>(kind, true); };
+    inParallel(80, make, [&](FaultHome &home, std::size_t row) {
+        if (isOver) return;
+        const std::string moment = "change " + std::to_string(row + 1);
+        SCOPED_TRACE(stage.name + ", " + moment);
+        if (!home.survives(stage, {moment, moment, signalled("kill", SIGKILL), ends})) isOver = true;
     });
     EXPECT_TRUE(isOver);
 }

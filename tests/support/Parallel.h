@@ -3,19 +3,34 @@
 #include <algorithm>
 #include <atomic>
 #include <cstddef>
-#include <functional>
+#include <gtest/gtest.h>
+#include <memory>
 #include <thread>
 #include <vector>
 
-/// Runs `work` in four threads until all are done, for rows that mostly wait for programs. Each call takes
-/// the rows that `next` gives, until that is `count` or more.
-inline void inParallel(std::size_t count,
-                       const std::function<void(const std::function<std::size_t()> &next)> &work)
+/// Does the rows 0 to `count` - 1 in four threads: rows that mostly wait for programs. Each thread makes a
+/// state of its own and hands it to `work` with the row; where `make` gives none it does nothing. What a row
+/// throws is a failure of that row.
+template <class Make, class Work>
+void inParallel(std::size_t count, Make make, Work work)
 {
-    std::atomic<std::size_t> row = 0;
+    const auto guarded = [](auto &&what) {
+        try {
+            what();
+        } catch (const std::exception &exception) {
+            ADD_FAILURE() << exception.what();
+        }
+    };
+    std::atomic<std::size_t> next = 0;
     std::vector<std::thread> threads;
     for (std::size_t i = 0; i < std::min<std::size_t>(4, count); ++i)
-        threads.emplace_back([&] { work([&] { return row++; }); });
+        threads.emplace_back([&] {
+            guarded([&] {
+                const auto state = make();
+                for (std::size_t row = next++; state && row < count; row = next++)
+                    guarded([&] { work(*state, row); });
+            });
+        });
     for (std::thread &thread : threads)
         thread.join();
 }
@@ -24,8 +39,7 @@ inline void inParallel(std::size_t count,
 template <class Rows, class Work>
 void forEachInParallel(const Rows &rows, Work work)
 {
-    inParallel(rows.size(), [&](const std::function<std::size_t()> &next) {
-        for (std::size_t row = next(); row < rows.size(); row = next())
-            work(rows[row]);
-    });
+    inParallel(
+        rows.size(), [] { return std::make_unique<char>(); },
+        [&](char, std::size_t row) { work(rows[row]); });
 }
