@@ -127,7 +127,8 @@ bool FaultHome::survives(const Stage &stage, const Fault &fault)
     expectNoTools(wasKilled);
     fs::permissions(target(), fs::perms::owner_all);
     expectSourcesUntouched();
-    expectFormerOrNew(!wasKilled);
+    // What stands under its name may keep the former one from coming back at once.
+    expectFormerOrNew(!wasKilled && fault.ends != Ends::Any);
     expectClearFilesNamed(hit);
     if (hit.status != 0 || fault.ends != Ends::Killed) expectTruth(hit, fault.ends);
     expectNextRunRepairs(stage);

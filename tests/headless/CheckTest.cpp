@@ -18,13 +18,14 @@ namespace {
 
 using Home = ProgramHome;
 using Words = std::vector<std::string>;
+using Prepare = std::function<void(Home &)>;
 
 constexpr int obstacle = 2;
 
 /// A situation, and how a run with --yes ends in it.
 struct Case {
     std::string name;
-    std::function<void(Home &)> prepare;
+    Prepare prepare;
     Words told;     ///< "@" stands for the home's path
     int status = 0; ///< with --yes
     std::function<void(const Home &, const CommandResult &)> check = {};
@@ -82,19 +83,34 @@ CommandResult synchronise(const Home &home, Words more)
 
 // Situations.
 
-std::function<void(Home &)> secret(const std::string &text)
+Prepare all(const std::vector<Prepare> &steps)
 {
-    return [text](Home &home) { writeFile(home / "password", text); };
+    return [steps](Home &home) {
+        for (const Prepare &step : steps)
+            step(home);
+    };
 }
 
-std::function<void(Home &)> settings(const std::string &from, const std::string &to)
+Prepare file(const std::string &name, const std::string &content)
+{
+    return [=](Home &home) { writeFile(home / name, content); };
+}
+
+Prepare link(const std::string &name)
+{
+    return [name](Home &home) { fs::create_directory_symlink("docs", home / name); };
+}
+
+Prepare secret(const std::string &text) { return file("password", text); }
+
+Prepare settings(const std::string &from, const std::string &to)
 {
     return [=](Home &home) {
         home.changeSettings("<string>" + from + "</string>", "<string>" + to + "</string>");
     };
 }
 
-std::function<void(Home &)> certificate(const std::string &kind)
+Prepare certificate(const std::string &kind)
 {
     return [kind](Home &home) {
         home.encryptForCertificate();
@@ -111,13 +127,13 @@ std::function<void(Home &)> certificate(const std::string &kind)
     };
 }
 
-std::function<void(Home &)> volumes(const std::string &size)
+Prepare volumes(const std::string &size)
 {
     return [size](Home &home) { home.record["split"] = "1", home.record["part"] = size; };
 }
 
 /// Folders to back up, each with a file in it.
-std::function<void(Home &)> folders(const Words &names)
+Prepare folders(const Words &names)
 {
     return [names](Home &home) {
         home.folders.clear();
@@ -144,21 +160,22 @@ Words filesBelow(const fs::path &folder)
     return found;
 }
 
-bool isRoot() { return geteuid() == 0; }
+/// Brings an archive to where it will be extracted.
+Prepare move(const std::string &from, const std::string &to)
+{
+    return [=](Home &home) { fs::rename(home / "archives" / from, home / "out" / to); };
+}
 
 } // namespace
 
 TEST(Backup, HasObstacles)
 {
     const std::string libexec = QUILLORENT_LIBEXEC;
+    const std::string settingsFile = "config/com.brolvanek.Quillorent.config.plist";
     std::vector<Case> cases{
-        {"settings that can't be read", [](Home &home) { writeFile(home.settings(), "damaged"); }, {"read"}},
+        {"settings that can't be read", file(settingsFile, "damaged"), {"read"}},
         {"no archive extension",
-         [](Home &home) {
-             settings(".rar", "")(home);
-             writeFile(home / "archives/letter.odt", "the only copy");
-             home.folders = {home.text("archives/letter.odt")};
-         },
+         all({settings(".rar", ""), file("archives/letter.odt", "x"), folders({"archives/letter.odt"})}),
          {"xtension"}},
         {"no extension of the method", settings(".aes", ""), {"OpenSSL-AES"}},
         {"no cipher", settings("aes-256-cbc", ""), {"OpenSSL-AES"}},
@@ -180,18 +197,11 @@ TEST(Backup, HasObstacles)
         {"names that meet", folders({"a/docs", "b/docs", "c/docs-1"}), {"@/b/docs", "@/c/docs-1"}},
         {"names that meet in between", folders({"docs", "docs.rar.aes"}), {"@/docs.rar.aes"}},
         {"an entry under a derived name",
-         [](Home &home) {
-             writeFile(home / "archives/docs.rar", "the user's own");
-             home.folders.push_back(home.text("archives/docs.rar"));
-         },
+         all({file("archives/docs.rar", "the user's own"), folders({"docs", "archives/docs.rar"})}),
          {"@/archives/docs.rar"}},
         {"a name that is too long", folders({std::string(246, 'n')}), {"@/nnn", "long"}},
         {"all at once",
-         [](Home &home) {
-             volumes("many")(home);
-             secret(std::string(1024, 'x'))(home);
-             folders({"a/docs", "b/docs", "c/docs-1"})(home);
-         },
+         all({volumes("many"), secret(std::string(1024, 'x')), folders({"a/docs", "b/docs", "c/docs-1"})}),
          {"many", "1,023", "@/c/docs-1"}},
         {"a destination that can't be written",
          [](Home &home) {
@@ -224,22 +234,11 @@ TEST(Backup, HasConcerns)
         {"archives there", backUpFirst, {"@/archives"}},
         {"the destination inside a source", [](Home &home) { home.folders = {home.path()}; }, {"@/archives"}},
         {"the destination is the source",
-         [](Home &home) {
-             writeFile(home / "archives/file", "x");
-             home.folders = {home.text("archives")};
-         },
+         all({file("archives/file", "x"), folders({"archives"})}),
          {"@/archives"}},
-        {"a symbolic link",
-         [](Home &home) {
-             fs::create_directory_symlink("docs", home / "link");
-             home.folders = {home.text("link")};
-         },
-         {"@/link"}},
+        {"a symbolic link", all({link("link"), folders({"link"})}), {"@/link"}},
         {"a FIFO",
-         [](Home &home) {
-             mkfifo((home / "fifo").c_str(), 0600);
-             home.folders.push_back(home.text("fifo"));
-         },
+         all({[](Home &home) { mkfifo((home / "fifo").c_str(), 0600); }, folders({"docs", "fifo"})}),
          {"@/fifo"},
          1,
          [](const Home &home, const CommandResult &) {
@@ -255,21 +254,18 @@ TEST(Backup, HasConcerns)
              EXPECT_TRUE(contains(result.errors, home.text("gone")));
          }},
         {"a file of the user's under a name in between",
-         [](Home &home) { writeFile(home / "archives/docs.rar", "photos"); },
+         file("archives/docs.rar", "photos"),
          {"@/archives/docs.rar"},
          0,
          kept("kept-docs.rar", "photos")},
         {"a second one",
-         [](Home &home) {
-             writeFile(home / "archives/docs.rar.aes", "mine");
-             writeFile(home / "archives/kept-docs.rar.aes", "set aside before");
-         },
+         all({file("archives/docs.rar.aes", "mine"), file("archives/kept-docs.rar.aes", "before")}),
          {"@/archives/docs.rar.aes"},
          0,
          kept("kept-b-docs.rar.aes", "mine")},
         {"an RSA key that is too small", certificate("small"), {"1024"}},
     };
-    if (isRoot())
+    if (geteuid() == 0)
         cases.push_back({"too little room",
                          [](Home &home) {
                              writeFile(home / "docs/photo", randomBytes(400'000));
@@ -288,16 +284,12 @@ TEST(Backup, TakesWhatNeedsNoQuestion)
     };
     struct Good {
         std::string name;
-        std::function<void(Home &)> prepare;
+        Prepare prepare;
         std::function<bool(const Home &)> holds;
     };
     const std::vector<Good> cases{
         {"a link with a slash behind it",
-         [](Home &home) {
-             fs::create_directory_symlink("docs", home / "link");
-             writeFile(home / "docs/photo", randomBytes(20'000));
-             home.folders = {home.text("link/")};
-         },
+         all({link("link"), file("docs/photo", randomBytes(20'000)), folders({"link/"})}),
          [](const Home &home) { return fs::file_size(home / "archives/link.rar.aes.rar") > 20'000; }},
         {"a secret of 1,023 bytes", secret(std::string(1023, 'x')), archive("docs.rar.aes.rar")},
         {"names that nearly meet", folders({"docs", "docs-1", "docs.aes"}), archive("docs-1.rar.aes.rar")},
@@ -332,10 +324,7 @@ TEST(Extraction, HasObstaclesAndConcerns)
     };
     const auto foreign = [](const std::string &name) {
         return Case{"a file of the user's under " + name,
-                    [=](Home &home) {
-                        backUpFirst(home);
-                        writeFile(home / "out" / name, "mine");
-                    },
+                    all({backUpFirst, file("out/" + name, "mine")}),
                     {"@/out/" + name},
                     0,
                     [=](const Home &home, const CommandResult &) {
@@ -352,55 +341,44 @@ TEST(Extraction, HasObstaclesAndConcerns)
                     },
                     {"@/" + name}};
     };
-    expectAll({foreign("docs.rar"),
-               foreign("docs.rar.aes"),
-               filledFolder("out"),
-               filledFolder("the out"),
-               filledFolder("früher"),
-               {"an archive under the name of what comes out of another",
-                [](Home &home) {
-                    backUpFirst(home);
-                    fs::rename(home / "archives/docs.rar.aes.rar", home / "out/docs.rar.aes.rar");
-                    fs::copy_file(home / "out/docs.rar.aes.rar", home / "out/docs.rar");
-                    fs::remove(home / "archives");
-                    fs::create_directory_symlink("out", home / "archives");
-                },
-                {"@/out/docs.rar"},
-                obstacle},
-               {"an archive under the name of what comes out of it",
-                [](Home &home) {
-                    backUpFirst(home);
-                    fs::rename(home / "archives/docs.rar.aes.rar", home / "out/docs.rar");
-                    fs::remove(home / "archives");
-                    fs::create_directory_symlink("out", home / "archives");
-                },
-                {"@/out/docs.rar"},
-                obstacle},
-               {"archives of the same name from two folders",
-                [](Home &home) {
-                    for (const std::string folder : {"one", "two"}) {
-                        folders({folder + "/docs"})(home);
-                        backUpFirst(home);
-                        fs::create_directory(home / "archives" / folder);
-                        fs::rename(home / "archives/docs.rar.aes.rar",
-                                   home / "archives" / folder / "docs.rar.aes.rar");
-                    }
-                },
-                {"@/archives/one/docs.rar.aes.rar", "@/archives/two/docs.rar.aes.rar"},
-                0,
-                allBack({"of one/docs", "of two/docs"})}},
-              [](const Home &home, const Words &more) {
-                  const fs::path archives = fs::canonical(home / "archives");
-                  Words list;
-                  for (const auto &entry : fs::recursive_directory_iterator(archives))
-                      if (entry.path().extension() == ".rar") list.push_back(entry.path());
-                  if (archives == home / "out") {
-                      Words words = more;
-                      words.insert(words.end(), {"--method", "aes"});
-                      return home.extract(list, words);
-                  }
-                  return home.extract(list, more);
-              });
+    expectAll(
+        {foreign("docs.rar"),
+         foreign("docs.rar.aes"),
+         filledFolder("out"),
+         filledFolder("the out"),
+         filledFolder("früher"),
+         {"an archive under the name of what comes out of another",
+          all({backUpFirst, move("docs.rar.aes.rar", "docs.rar.aes.rar"),
+               [](Home &home) { fs::copy_file(home / "out/docs.rar.aes.rar", home / "out/docs.rar"); }}),
+          {"@/out/docs.rar"},
+          obstacle},
+         {"an archive under the name of what comes out of it",
+          all({backUpFirst, move("docs.rar.aes.rar", "docs.rar")}),
+          {"@/out/docs.rar"},
+          obstacle},
+         {"archives of the same name from two folders",
+          [](Home &home) {
+              for (const std::string folder : {"one", "two"}) {
+                  folders({folder + "/docs"})(home);
+                  backUpFirst(home);
+                  fs::create_directory(home / "archives" / folder);
+                  fs::rename(home / "archives/docs.rar.aes.rar",
+                             home / "archives" / folder / "docs.rar.aes.rar");
+              }
+          },
+          {"@/archives/one/docs.rar.aes.rar", "@/archives/two/docs.rar.aes.rar"},
+          0,
+          allBack({"of one/docs", "of two/docs"})}},
+        [](const Home &home, const Words &more) {
+            Words list;
+            for (const char *folder : {"archives", "out"})
+                for (const auto &entry : fs::recursive_directory_iterator(home / folder))
+                    if (entry.path().extension() == ".rar" && fs::file_size(entry) > 10)
+                        list.push_back(entry.path());
+            Words words = more;
+            words.insert(words.end(), {"--method", "aes"});
+            return home.extract(list, words);
+        });
 }
 
 TEST(Extraction, PutsDatedCopiesIntoFoldersOfTheirOwn)
