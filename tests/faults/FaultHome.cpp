@@ -6,6 +6,7 @@
 #include <chrono>
 #include <csignal>
 #include <gtest/gtest.h>
+#include <sstream>
 #include <sys/mount.h>
 #include <sys/stat.h>
 #include <thread>
@@ -133,6 +134,20 @@ bool FaultHome::survives(const Stage &stage, const Fault &fault)
     if (hit.status != 0 || fault.ends != Ends::Killed) expectTruth(hit, fault.ends);
     expectNextRunRepairs(stage);
     return hit.status != 0;
+}
+
+std::vector<std::string> FaultHome::orderOfChanges()
+{
+    reset();
+    m_home.environment["LD_PRELOAD"] = QUILLORENT_TRIPWIRE_LIBRARY;
+    m_home.environment["ASAN_OPTIONS"] = "verify_asan_link_order=0";
+    m_home.environment["QUILLORENT_TRIPWIRE_LOG"] = m_home.text("log");
+    EXPECT_EQ(launch({"--yes"}).status, 0);
+    std::istringstream log(replaced(readFile(m_home / "log"), target().string() + "/", ""));
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(log, line);)
+        lines.push_back(line);
+    return lines;
 }
 
 /// What comes out of an archive set by the archiver and the system's own OpenSSL; none where it does not

@@ -39,6 +39,10 @@ public:
     /// False where the run ended well.
     bool survives(const Stage &stage, const Fault &fault);
 
+    /// The order in which a good run makes files durable, names them and removes them: "safe INODE", "named
+    /// INODE PATH", "gone INODE PATH", with paths relative to the folder that it writes to.
+    std::vector<std::string> orderOfChanges();
+
     /// The run writes to a small file system of its own from now on; false where that isn't allowed here.
     [[nodiscard]] bool mountSmallDisk();
     ~FaultHome();

@@ -5,6 +5,9 @@
 #include <csignal>
 #include <functional>
 #include <gtest/gtest.h>
+#include <map>
+#include <set>
+#include <sstream>
 
 namespace {
 
@@ -126,4 +129,38 @@ TEST(Permission, GoesAtEachStage)
                    home.becomeOrdinaryUser();
                    return true;
                });
+}
+
+// A file system may write names before contents: what is not safe when its predecessor goes can be lost with
+// it.
+TEST(PowerCut, FindsTheSuccessorOfWhatIsGone)
+{
+    for (const bool splits : {false, true}) {
+        FaultHome home(Kind::Backup, splits);
+        std::set<std::string> safe;
+        std::map<std::string, std::string> named;
+        std::vector<std::string> gone;
+        for (const std::string &line : home.orderOfChanges()) {
+            std::istringstream words(line);
+            std::string event, inode, path;
+            words >> event >> inode >> path;
+            if (event == "safe") safe.insert(inode);
+            if (event == "named") named[path] = inode;
+            if (event != "gone") continue;
+            gone.push_back(path);
+            // Of a set, any volume may be the first to go: all that has come into its place has to be there.
+            const std::string successor = path == "docs.rar"            ? "docs.rar.smime"
+                                          : path == "docs.rar.smime"    ? "docs.rar.smime."
+                                          : path.starts_with("former-") ? "docs.rar.smime."
+                                                                        : "";
+            std::size_t found = 0;
+            for (const auto &[name, file] : named) {
+                if (name != successor && !(successor.ends_with('.') && name.starts_with(successor))) continue;
+                ++found;
+                EXPECT_TRUE(safe.contains(file)) << path << " is gone before " << name << " is safe";
+            }
+            EXPECT_TRUE(found > 0 || successor.empty()) << path << " has no successor yet";
+        }
+        EXPECT_GE(gone.size(), 3U) << "the two in between, and the former archive";
+    }
 }
