@@ -175,7 +175,7 @@ TEST(Backup, HasObstacles)
     const std::string libexec = QUILLORENT_LIBEXEC;
     const std::string settingsFile = "config/com.brolvanek.Quillorent.config.plist";
     std::vector<Case> cases{
-        {"settings that can't be read", file(settingsFile, "damaged"), {"read"}},
+        {"settings that can't be read", file(settingsFile, "damaged"), {"settings"}},
         {"no archive extension",
          all({settings(".rar", ""), file("archives/letter.odt", "x"), folders({"archives/letter.odt"})}),
          {"xtension"}},
@@ -185,7 +185,7 @@ TEST(Backup, HasObstacles)
         {"no encoder", settings(libexec + "/openssl", ""), {"OpenSSL"}},
         {"a secret in UTF-16", secret(std::string("p\0a\0s\0s\0", 8)), {"password"}},
         {"a secret with a line break", secret("one\rtwo"), {"line"}},
-        {"a secret that is too long", secret(std::string(1024, 'x')), {"1,023"}},
+        {"a secret that is too long", secret(std::string(1024, 'x')), {"bytes"}},
         {"a key for a certificate", certificate("key"), {"@/keys/anna-key.pem"}},
         {"a certificate that is gone", certificate("missing"), {"@/keys/anna.pem"}},
         {"rubbish for a certificate", certificate("rubbish"), {"@/keys/anna.pem"}},
@@ -204,7 +204,7 @@ TEST(Backup, HasObstacles)
         {"a name that is too long", folders({std::string(246, 'n')}), {"@/nnn", "long"}},
         {"all at once",
          all({volumes("many"), secret(std::string(1024, 'x')), folders({"a/docs", "b/docs", "c/docs-1"})}),
-         {"many", "1,023", "@/c/docs-1"}},
+         {"many", "bytes", "@/c/docs-1"}},
         {"a destination that can't be written",
          [](Home &home) {
              fs::permissions(home / "archives", fs::perms(0500));
@@ -312,7 +312,7 @@ TEST(Backup, RunsAFolderThatIsListedTwiceOneAfterTheOther)
     const CommandResult result = home.backUp({"--yes"});
     EXPECT_EQ(result.status, 0) << result.errors;
     EXPECT_TRUE(contains(result.errors, "Backed up 2 of 2")) << result.errors;
-    EXPECT_TRUE(contains(result.errors, "twice")) << result.errors;
+    EXPECT_TRUE(contains(result.errors, home.text("docs"))) << result.errors;
 }
 
 TEST(Extraction, HasObstaclesAndConcerns)
@@ -366,7 +366,7 @@ TEST(Extraction, HasObstaclesAndConcerns)
                              home / "archives" / folder / "docs.rar.aes.rar");
               }
           },
-          {"@/archives/one/docs.rar.aes.rar", "@/archives/two/docs.rar.aes.rar"},
+          {"docs.rar.aes"},
           0,
           allBack({"of one/docs", "of two/docs"})}},
         [](const Home &home, const Words &more) {
