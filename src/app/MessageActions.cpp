@@ -6,11 +6,24 @@ void QuillorentAppDelegate::warn(const QString &text)
     warningPanel01.runModal();
 }
 
-void QuillorentAppDelegate::warningPanel01Close()
+void QuillorentAppDelegate::closeSheet(outlets::Panel &sheet)
 {
-    warningPanel01.close();
+    sheet.close();
     window.orderFront();
 }
+
+void QuillorentAppDelegate::chooseFolder(const QString &title, outlets::TextField &field, const QString &key)
+{
+    const auto chosen = openPanel({.title = title,
+                                   .canChooseFiles = false,
+                                   .canChooseDirectories = true,
+                                   .canCreateDirectories = true});
+    if (!chosen || chosen->isEmpty()) return;
+    field.setText(chosen->first());
+    currentRecord().setValue(key, chosen->first());
+}
+
+void QuillorentAppDelegate::warningPanel01Close() { closeSheet(warningPanel01); }
 
 void QuillorentAppDelegate::tabViewDidSelectTabViewItem()
 {

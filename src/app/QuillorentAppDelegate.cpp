@@ -1,6 +1,6 @@
 #include "app/QuillorentAppDelegate.h"
 
-#include "app/Pauses.h"
+#include "tools/RegisteredTool.h"
 
 #include <QtGlobal>
 
@@ -14,6 +14,7 @@ QuillorentAppDelegate::QuillorentAppDelegate()
 {
     Q_ASSERT_X(!controller, "QuillorentAppDelegate", "there is one controller at a time");
     controller = this;
+    setToolSettings([this] { return configPlist(); });
 
     listTableView.setDataSource(&m_listTable);
     extractTableView.setDataSource(&m_extractTable);
@@ -33,19 +34,20 @@ QuillorentAppDelegate::QuillorentAppDelegate()
     secureText01b.setHidden(true);
     keychainClear.setHidden(true);
     keychainUnlock01.setHidden(true);
+    for (outlets::Outlet *untilNeeded :
+         std::initializer_list<outlets::Outlet *>{&toolsText01, &toolsCancel01, &clearText01, &clearRemove01})
+        untilNeeded->setHidden(true);
     currentProfileTextView.setHidden(true);
 }
 
-QuillorentAppDelegate::~QuillorentAppDelegate() { controller = nullptr; }
+QuillorentAppDelegate::~QuillorentAppDelegate()
+{
+    setToolSettings([] { return plist::Dictionary(); });
+    controller = nullptr;
+}
 
 QuillorentAppDelegate &theDelegate()
 {
     Q_ASSERT_X(controller, "theDelegate", "called before the controller was made");
     return *controller;
-}
-
-Pauses &pauses()
-{
-    static Pauses inForce;
-    return inForce;
 }

@@ -4,26 +4,35 @@
 #include "app/Latest.h"
 #include "app/MainWindow.h"
 #include "app/Messages.h"
-#include "app/RunState.h"
-#include "backup/FolderTab.h"
-#include "backup/ListTable.h"
-#include "backup/ProgressSheet.h"
-#include "extract/ExtractSheet.h"
-#include "extract/ExtractTab.h"
-#include "extract/ExtractTable.h"
-#include "keys/PasswordTab.h"
+#include "app/extraction/ExtractSheet.h"
+#include "app/extraction/ExtractTab.h"
+#include "app/extraction/ExtractTable.h"
+#include "app/folders/BackupSheet.h"
+#include "app/folders/FolderTab.h"
+#include "app/folders/ListTable.h"
+#include "app/passwords/PasswordTab.h"
+#include "app/profiles/OptionsPanel.h"
+#include "app/profiles/ProfileSheets.h"
+#include "app/synchronisation/PreviewTable.h"
+#include "app/synchronisation/SyncSheet.h"
+#include "app/synchronisation/SyncTab.h"
+#include "app/synchronisation/SyncTable.h"
+#include "app/tools/PathTable.h"
+#include "app/tools/ToolsTab.h"
+#include "app/updates/UpdateNote.h"
 #include "plist/Value.h"
-#include "settings/OptionsPanel.h"
-#include "settings/ProfileSheets.h"
-#include "sync/PreviewTable.h"
-#include "sync/SyncSheet.h"
-#include "sync/SyncTab.h"
-#include "sync/SyncTable.h"
-#include "tools/PathTable.h"
-#include "tools/ToolsTab.h"
-#include "updates/UpdateNote.h"
+#include "runs/RunRecord.h"
+#include "runs/RunState.h"
+#include "sync/SyncOrder.h"
 
 #include <atomic>
+#include <functional>
+#include <memory>
+
+struct Findings;
+struct Preview;
+struct RunStart;
+class RunMonitor;
 
 /// The controller: all state of the program, what every control holds, and what every control does. It knows
 /// no toolkit; a front end shows its outlets and calls its actions, on the main thread.
@@ -54,9 +63,13 @@ public:
     Guarded<QString> partSize;                 ///< volume size, thousands of bytes, as text
     plist::Array extractList = plist::Array::make();     ///< archives to extract
     plist::Array extractFullList = plist::Array::make(); ///< archives shown
-    Guarded<QString> extractedFolder;   ///< where the last extraction went; empty unless all of it succeeded
-    Guarded<bool> compliance;           ///< every registered tool is the right one
-    Guarded<int> compliant;             ///< how many are
+    Guarded<RunRecord> lastRecord; ///< of the run that ended last; without a kind before one has
+    /// Where the last extraction went; empty unless all of it succeeded.
+    [[nodiscard]] QString extractedFolder() const { return openFolderButton.alternateTitle(); }
+    bool asksBeforeDeleting =
+        true;                 ///< off: whoever starts a synchronisation has been asked; set before it starts
+    Guarded<bool> compliance; ///< every registered tool is the right one
+    Guarded<int> compliant;   ///< how many are
     Guarded<int> compliantBase;         ///< how many are registered
     std::atomic<int> verifications = 0; ///< that run: until they end, the three above say nothing
 
@@ -137,8 +150,6 @@ public:
     void buttonLaunch02();
     void buttonLaunch02b();
     void buttonLaunch02Stop();
-    void buttonLaunch02c(); ///< go on in spite of `concernsPanel01`
-    void concernsPanel01Stop();
     void stopProcess02b();
     // Synchronisation
     void syncButton01Action();                     ///< add
@@ -187,6 +198,11 @@ public:
     void openBrowserAt(const outlets::Button &sender); ///< the address that the button carries
 
     // Messages
+    void concernsPanel01GoOn(); ///< in spite of what was found before the run
+    void concernsPanel01Stop();
+    void toolsCancel01Action(); ///< end the tools that a failed run has left
+    void clearRemove01Action(); ///< remove what runs have left in clear
+    void showLeftInClear();     ///< any thread
     void warningPanel01Close();
     void consolePanel01Action();
 
@@ -194,6 +210,22 @@ private:
     void applyRecord(const plist::Dictionary &record);
     void showPartSize(const QString &size);
     void closeSheet(outlets::Panel &sheet);
+    /// Lets the user choose one folder, shows it, and keeps it under `key` in the current record.
+    void chooseFolder(const QString &title, outlets::TextField &field, const QString &key);
+
+    /// Starts a run, where none is active, once the keychain has answered. `prepare` reads all that is live,
+    /// on the main thread.
+    void startRun(const QString &threadName, const std::function<RunStart()> &prepare);
+    void carryOut(const RunStart &start);
+    [[nodiscard]] bool isWanted(const RunStart &start, const Findings &findings);
+    [[nodiscard]] bool askToGoOn(outlets::Panel &panel);
+    void answer(outlets::Panel &panel, bool goesOn);
+
+    enum class PreviewFor { Looking, Question };
+    void previewFirst(const SyncOrder &order, RunMonitor &monitor, PreviewFor purpose);
+    [[nodiscard]] RunStart prepareSync(bool isPreview);
+    [[nodiscard]] RunStart prepareTransfer(const SyncOrder &order);
+
     [[nodiscard]] bool acceptName(const QString &name,
                                   outlets::Panel &sheet); ///< or says why not, in its place
     void showProfile(const QString &name);
@@ -205,9 +237,11 @@ private:
 
     Latest m_keychainRequests;
     Latest m_keyDescriptions;
-    listTable m_listTable;
+    std::atomic<bool> m_goesOn = false; ///< the answer to the question that was asked last
+    Guarded<SyncOrder> m_previewedOrder;
+    listTable m_listTable{listTableView};
     extractTable m_extractTable;
-    syncTable m_syncTable;
+    syncTable m_syncTable{syncTableView};
     previewTable m_previewTable;
     pathTable m_pathTable;
 };

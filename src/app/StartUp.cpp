@@ -1,11 +1,11 @@
 #include "app/QuillorentAppDelegate.h"
+#include "app/tools/Compliance.h"
 #include "keychain/Keychain.h"
 #include "plist/File.h"
 #include "settings/Paths.h"
 #include "settings/Store.h"
 #include "tools/Threads.h"
 #include "tools/ToolRun.h"
-#include "tools/Verification.h"
 
 using namespace std::chrono_literals;
 
@@ -62,6 +62,7 @@ void QuillorentAppDelegate::applicationDidFinishLaunching()
     decryptionCombo01.selectIndex(automaticDecryption);
     defaultProfile.set(makeDefaultProfile());
     checkForUpdatesAtStart();
+    showLeftInClear();
 
     consoleTextView01.append(describeUnreadable(quillorentLibrary::settingsPath(), configPlist()));
     consoleTextView01.append(describeUnreadable(quillorentLibrary::profilesPath(), listPlist()));

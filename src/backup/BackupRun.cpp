@@ -1,12 +1,10 @@
 #include "backup/BackupRun.h"
 
-#include "app/Pauses.h"
-#include "app/QuillorentAppDelegate.h"
-#include "app/Workers.h"
 #include "backup/FolderBackup.h"
-#include "files/Names.h"
 #include "files/Paths.h"
 #include "files/Sizes.h"
+#include "runs/Pauses.h"
+#include "runs/Run.h"
 
 #include <QFileInfo>
 #include <QLocale>
@@ -14,115 +12,110 @@
 
 namespace {
 
-/// One run, step by step, on its own thread.
-class BackupRun {
+class BackupRun : public Run {
 public:
-    explicit BackupRun(const QString &profile) : m_record(m_delegate.listPlist().dictionary(profile)) {}
-    void run();
+    BackupRun(const BackupOrder &order, RunState &state, RunMonitor &monitor, FolderLock lock);
+
+protected:
+    void work() override;
+    [[nodiscard]] QString summary() const override;
 
 private:
-    void begin();
     void measure();
-    void launchWorkers();
-    [[nodiscard]] bool launchWorkerFor(const QString &folder) const;
-    void end();
-    [[nodiscard]] QString summary() const;
+    [[nodiscard]] bool skip(qsizetype index);
 
-    QuillorentAppDelegate &m_delegate = theDelegate();
-    const plist::Dictionary m_record;
-    const QStringList m_folders = m_record.array(u"folders"_qs).strings();
+    const BackupOrder &m_order;
     QStringList m_missing;
+    QStringList m_unsuitable;
 };
 
-void BackupRun::run()
+RunRecord recordOf(const BackupOrder &order)
 {
-    begin();
-    measure();
-    launchWorkers();
-    waitForWorkers();
-    end();
+    RunRecord record{.kind = u"backup"_qs,
+                     .profile = order.profile,
+                     .folder = order.destination,
+                     .began = QDateTime::currentDateTimeUtc()};
+    for (const BackupItem &item : order.items)
+        record.items.append({.path = item.source});
+    return record;
 }
 
-void BackupRun::begin()
+BackupRun::BackupRun(const BackupOrder &order, RunState &state, RunMonitor &monitor, FolderLock lock)
+    : Run(state, monitor, recordOf(order), std::move(lock)), m_order(order)
 {
-    m_delegate.setCancelFlag(false);
-    m_delegate.beginRun();
-    m_delegate.consoleTextView01.setText({});
-    m_delegate.outputText01.setText({});
-    m_delegate.buttonCancel01.setTitle(u"Cancel"_qs);
-    m_delegate.progressPanel01.beginSheet();
-    m_delegate.view01progressIndicator01.setIndeterminate(true);
-    m_delegate.view01progressIndicator01.startAnimation();
-    m_delegate.view01progressLabel01.setHidden(true);
-    m_delegate.view01progressLabel02.setHidden(false);
 }
 
-void BackupRun::measure()
+void BackupRun::work()
 {
-    m_delegate.setSizeToDo(0);
-    m_delegate.setSizeDone(0);
-    m_delegate.setFoldersToDo(0);
-    m_delegate.setFoldersDone(0);
-    m_delegate.view01progressIndicator01.setValue(0);
     std::this_thread::sleep_for(pauses().beforeMeasuring);
-
-    // What does not exist any more counts as well, with no bytes.
-    for (const QString &folder : m_folders)
-        if (!m_delegate.cancelFlag()) m_delegate.addToDo(double(quillorentLibrary::calculateSize(folder)));
-
-    m_delegate.view01progressIndicator01.setMaximum(m_delegate.sizeToDo());
-    m_delegate.view01progressIndicator01.setIndeterminate(false);
-    m_delegate.view01progressLabel01.setHidden(false);
-    m_delegate.view01progressLabel02.setHidden(true);
-}
-
-void BackupRun::launchWorkers()
-{
-    m_delegate.setThreadsRunning({});
-    for (const QString &folder : m_folders) {
-        if (!QFileInfo::exists(quillorentLibrary::standardizePath(folder))) {
-            m_missing.append(folder);
-            continue;
-        }
-        if (!launchWorkerFor(folder)) return;
+    measure();
+    for (qsizetype index = 0; index < m_order.items.size(); ++index) {
+        if (skip(index)) continue;
+        const QString source = m_order.items[index].source;
+        // A folder that is listed twice has one archive: one after the other.
+        const auto isFree = [this, source] { return !m_state.threadsRunning().contains(source); };
+        const auto body = [this, index] { backUpItem(*this, m_order, index); };
+        if (!launchWorker(u"backup"_qs, source, body, isFree)) return;
     }
 }
 
-bool BackupRun::launchWorkerFor(const QString &folder) const
+// What does not exist any more counts as well, with no bytes.
+void BackupRun::measure()
 {
-    const BackupJob job{.source = folder,
-                        .destination = m_record.string(u"path"_qs).value_or(QString()),
-                        .baseName = quillorentLibrary::nameRepeated(folder, m_folders)};
-    return launchWorker(u"backup"_qs, folder, [job] { quillorentLibrary::runProcess1(job); });
+    const auto goesOn = [this] { return !isCancelled(); };
+    for (const BackupItem &item : m_order.items) {
+        if (!goesOn()) break;
+        m_state.addToDo(
+            double(item.bytes ? *item.bytes : quillorentLibrary::calculateSize(item.source, goesOn)));
+    }
+    m_monitor.measured(m_state.sizeToDo());
 }
 
-void BackupRun::end()
+bool BackupRun::skip(qsizetype index)
 {
-    m_delegate.view01progressIndicator01.stopAnimation();
-    m_delegate.outputText01.setText(summary());
-    m_delegate.progressPanel01.close();
-    if (!m_delegate.consoleTextView01.text().isEmpty()) m_delegate.consolePanel01.orderFront();
-    endWorkers();
-    m_delegate.endRun();
+    const QString source = m_order.items[index].source;
+    const auto there = entryAt(source);
+    const bool isMissing = !QFileInfo::exists(quillorentLibrary::standardizePath(source));
+    const bool isUnsuitable = there && there->kind == FileEntry::Kind::Other;
+    if (!isMissing && !isUnsuitable) return false;
+    (isMissing ? m_missing : m_unsuitable).append(source);
+    journal().changeItem(index, [&](ItemRecord &item) {
+        item.outcome = Outcome::Skipped;
+        item.reason = isMissing ? u"it is not there"_qs : u"it is neither a file nor a folder"_qs;
+    });
+    return true;
 }
 
 QString BackupRun::summary() const
 {
     const QLocale locale;
     const auto number = [&](double value) { return locale.toString(qint64(value)); };
-    const QString count =
-        u"%1 of %2"_qs.arg(number(m_delegate.foldersDone()), number(m_delegate.foldersToDo()));
-    const QString size =
-        locale.formattedDataSize(qint64(m_delegate.sizeDone()), 1, QLocale::DataSizeSIFormat);
-
-    if (m_delegate.isCancelledByUser())
-        return u"Cancelled. Files left in the destination may not be encrypted: back up again, or remove them."_qs;
-    if (!m_delegate.failure().isEmpty()) return u"Failed: "_qs + m_delegate.failure();
-    if (!m_missing.isEmpty())
-        return u"Backed up %1 (%2). Not found: %3"_qs.arg(count, size, m_missing.join(u", "_qs));
-    return u"Backed up %1 (%2)."_qs.arg(count, size);
+    QStringList sentences;
+    if (m_state.isCancelledByUser())
+        sentences.append(u"Cancelled."_qs);
+    else if (!m_state.failure().isEmpty())
+        sentences.append(u"Failed: "_qs + m_state.failure());
+    else
+        sentences.append(u"Backed up %1 of %2 (%3)."_qs.arg(
+            number(m_state.foldersDone()), number(m_state.foldersToDo()),
+            locale.formattedDataSize(qint64(m_state.sizeDone()), 1, QLocale::DataSizeSIFormat)));
+    if (!m_missing.isEmpty()) sentences.append(u"Not found: %1."_qs.arg(m_missing.join(u", "_qs)));
+    if (!m_unsuitable.isEmpty())
+        sentences.append(
+            u"Left out, as they are neither files nor folders: %1."_qs.arg(m_unsuitable.join(u", "_qs)));
+    sentences += describeKept();
+    return sentences.join(u' ');
 }
 
 } // namespace
 
-void quillorentLibrary::launchBackup(const QString &profile) { BackupRun(profile).run(); }
+void runBackup(const BackupOrder &order, RunState &state, RunMonitor &monitor, FolderLock lock)
+{
+    BackupRun(order, state, monitor, std::move(lock)).execute();
+}
+
+void runBackupOfOne(const BackupOrder &order, RunState &state, RunMonitor &monitor)
+{
+    LoneRun run(state, monitor, recordOf(order));
+    run.executeAlone([&] { backUpItem(run, order, 0); });
+}

@@ -1,11 +1,14 @@
 #pragma once
 
-#include <QString>
+#include "backup/BackupOrder.h"
+#include "files/FolderLock.h"
 
-namespace quillorentLibrary {
+class RunMonitor;
+class RunState;
 
-/// The backup of every folder of a profile, from its progress sheet to its end; the body of the run's own
-/// thread.
-void launchBackup(const QString &profile);
+/// The backup of all items of the order, on the calling thread and its workers; returns at its end. `lock`
+/// holds the destination. The state was begun; it is at rest again afterwards.
+void runBackup(const BackupOrder &order, RunState &state, RunMonitor &monitor, FolderLock lock);
 
-} // namespace quillorentLibrary
+/// The same for the first item alone, on the calling thread, without a sheet and a summary.
+void runBackupOfOne(const BackupOrder &order, RunState &state, RunMonitor &monitor);

@@ -1,132 +1,203 @@
 #include "backup/FolderBackup.h"
 
-#include "app/ItemPipeline.h"
-#include "app/QuillorentAppDelegate.h"
 #include "backup/BackupArguments.h"
-#include "backup/Decisions.h"
-#include "files/Names.h"
-#include "tools/RegisteredTool.h"
+#include "files/ArchiveFiles.h"
+#include "files/Sizes.h"
+#include "runs/ItemPipeline.h"
+#include "runs/Run.h"
 
 #include <QFile>
 #include <QFileInfo>
 
 namespace {
 
-/// One folder on its way to an archive.
+/// One item on its way to an archive.
 class FolderBackup : private ItemPipeline {
 public:
-    explicit FolderBackup(const BackupJob &job);
+    FolderBackup(Run &run, const BackupOrder &order, qsizetype index);
     void run();
 
 private:
     void storeFolder();
     void encrypt();
     void dateEncryptedFile();
+    void removeStored();
     void pack();
+    [[nodiscard]] QString setFormerAside();
+    void settleFormer();
 
+    [[nodiscard]] QStringList newFiles() const;
     [[nodiscard]] QString whatIsLeftInClear() const;
     enum class LogOutput { No, Yes };
-    void judgeStage(const QString &stage, const ToolResult &result, LogOutput logOutput = LogOutput::No);
+    bool judgeStage(const QString &stage, const ToolResult &result, const QString &product,
+                    LogOutput logOutput = LogOutput::No);
 
-    QString m_storedArchive;
-    QString m_encryptedFile;
-    QString m_finalArchive;
+    const BackupOrder &m_order;
+    const BackupItem m_paths;
+    QList<Aside> m_former; ///< of an earlier run, under other names for the time being
+    bool m_isEncrypted = false;
+    bool m_isPacked = false;
     QString m_reason; ///< of the failure, for people
 };
 
-FolderBackup::FolderBackup(const BackupJob &job) : ItemPipeline(job.source)
+FolderBackup::FolderBackup(Run &run, const BackupOrder &order, qsizetype index)
+    : ItemPipeline(run, index, order.items[index].source, order.known)
+    , m_order(order)
+    , m_paths(order.items[index])
 {
-    const QString archiveExtension = m_delegate.setting(u"extensions"_qs, u"RAR"_qs).value_or(QString());
-    m_storedArchive = quillorentLibrary::joined(job.destination, job.baseName) + archiveExtension;
-    m_encryptedFile = m_storedArchive + quillorentLibrary::decideExtension().value_or(QString());
-    m_finalArchive = m_encryptedFile + archiveExtension;
     m_log = u"\nSTART processing file"_qs + m_item;
+    expect({m_paths.stored, m_paths.encrypted}, m_paths.stored, m_paths.final);
 }
 
 void FolderBackup::run()
 {
-    removeIfGoingOn(m_storedArchive); // the archiver would update a stale one
     storeFolder();
-    removeIfGoingOn(m_encryptedFile);
     encrypt();
     dateEncryptedFile();
-    removeIfGoingOn(m_storedArchive);
-    removeIfGoingOn(m_finalArchive);
+    removeStored();
     pack();
-    removeIfGoingOn(m_encryptedFile);
+    settleFormer();
+    if (goesOn() && m_isPacked && m_distrust.isEmpty()) removeOwn(m_paths.encrypted);
 
     if (m_succeeded)
-        succeed(m_delegate.view01progressIndicator01);
+        succeed(quillorentLibrary::calculateSize(m_item));
     else
         fail({}, m_reason + whatIsLeftInClear());
-    end();
+    end(m_isPacked, m_isPacked ? newFiles() : QStringList());
 }
 
-void FolderBackup::judgeStage(const QString &stage, const ToolResult &result, LogOutput logOutput)
+bool FolderBackup::judgeStage(const QString &stage, const ToolResult &result, const QString &product,
+                              LogOutput logOutput)
 {
-    judge(u"\n   "_qs + stage, result);
+    const bool isMade = entryAt(product).has_value();
+    const bool isDone = judge(u"\n   "_qs + stage, result, isMade, product);
     if (logOutput == LogOutput::Yes || !result.wasStarted) m_log += u'\n' + result.text();
     if (!m_succeeded) m_reason = stage + u": "_qs + result.firstLine();
+    noteBetween();
+    return isDone;
 }
 
 void FolderBackup::storeFolder()
 {
     if (isCancelled()) return;
-    m_delegate.setStage(m_item, u"storing"_qs);
-    const QString keepDate = quillorentLibrary::decideKeepDate();
-    judgeStage(u"RAR 1st"_qs,
-               runRegisteredTool(u"RAR"_qs, backupArguments::firstPass(keepDate, m_storedArchive, m_item)),
-               LogOutput::Yes);
+    setStage(u"storing"_qs);
+    ToolResult result = makeWay(m_paths.stored); // the archiver would update what is there
+    if (result.isSilent())
+        result =
+            runStage(m_order.archiver, backupArguments::firstPass(m_order.keepDate, m_paths.stored, m_item));
+    judgeStage(u"RAR 1st"_qs, result, m_paths.stored, LogOutput::Yes);
 }
 
 void FolderBackup::encrypt()
 {
     if (!goesOn()) return;
-    m_delegate.setStage(m_item, u"encrypting"_qs);
-    const bool byCertificate = m_delegate.passCombo01.selectedIndex() == PasswordTab::Certificate;
-    const QStringList arguments =
-        byCertificate
-            ? backupArguments::encryptByCertificate(m_storedArchive, m_encryptedFile,
-                                                    m_delegate.certFile01.text())
-            : backupArguments::encryptByPassword(quillorentLibrary::decideEncryption().value_or(QString()),
-                                                 m_storedArchive, m_encryptedFile,
-                                                 m_delegate.passwordSelector());
-    judgeStage(u"Encoder"_qs, runRegisteredTool(u"OpenSSL"_qs, arguments));
+    setStage(u"encrypting"_qs);
+    ToolResult result = makeWay(m_paths.encrypted);
+    if (result.isSilent()) result = checkInput(m_paths.stored);
+    if (result.isSilent()) {
+        QString password = m_order.password.text();
+        result =
+            runStage(m_order.encoder, m_order.byCertificate
+                                          ? backupArguments::encryptByCertificate(
+                                                m_paths.stored, m_paths.encrypted, m_order.certificate)
+                                          : backupArguments::encryptByPassword(m_order.cipher, m_paths.stored,
+                                                                               m_paths.encrypted, password));
+        wipe(password);
+    }
+    m_isEncrypted = judgeStage(u"Encoder"_qs, result, m_paths.encrypted);
 }
 
 // Without regard to whether the stages before it succeeded.
 void FolderBackup::dateEncryptedFile()
 {
-    if (isCancelled() || !m_delegate.checkBox03.isOn() || quillorentLibrary::decideKeepDate().isEmpty())
-        return;
-    const QDateTime date = QFileInfo(m_storedArchive).lastModified();
-    QFile encrypted(m_encryptedFile);
+    if (isCancelled() || !m_order.datesEncrypted || m_order.keepDate.isEmpty()) return;
+    if (!entryAt(m_paths.stored) || !entryAt(m_paths.encrypted)) return;
+    if (!checkInput(m_paths.stored).isSilent() || !checkInput(m_paths.encrypted).isSilent()) return;
+    const QDateTime date = QFileInfo(m_paths.stored).lastModified();
+    QFile encrypted(m_paths.encrypted);
     if (date.isValid() && encrypted.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
         encrypted.setFileTime(date, QFileDevice::FileModificationTime);
+    encrypted.close();
+    noteBetween();
+}
+
+void FolderBackup::removeStored()
+{
+    if (goesOn() && m_isEncrypted) removeOwn(m_paths.stored);
 }
 
 void FolderBackup::pack()
 {
     if (!goesOn()) return;
-    m_delegate.setStage(m_item, u"packing"_qs);
-    judgeStage(u"RAR 2nd"_qs,
-               runRegisteredTool(u"RAR"_qs, backupArguments::secondPass(quillorentLibrary::decideKeepDate(),
-                                                                        quillorentLibrary::decideSplit(),
-                                                                        m_finalArchive, m_encryptedFile)));
+    setStage(u"packing"_qs);
+    const QString problem = setFormerAside();
+    ToolResult result{.output = problem, .wasStarted = problem.isEmpty()};
+    if (result.isSilent()) result = checkInput(m_paths.encrypted);
+    if (result.isSilent())
+        result = runStage(m_order.archiver, backupArguments::secondPass(m_order.keepDate, m_order.split,
+                                                                        m_paths.final, m_paths.encrypted));
+    const QStringList made = newFiles();
+    m_isPacked = judgeStage(u"RAR 2nd"_qs, result, made.value(0, m_paths.final));
 }
+
+/// The archive of an earlier run, whole or in volumes, gets other names: what can still be opened stays until
+/// something better is there. Why that failed, else empty.
+QString FolderBackup::setFormerAside()
+{
+    const QStringList files = filesOfArchive(m_paths.final);
+    const auto plan = planAside(files, u"former"_qs);
+    if (!plan)
+        return u"\"%1\" can't be given another name while its successor is made."_qs.arg(files.value(0));
+    // Where the names are written down first, a run that is killed now is repaired by the next.
+    m_run.journal().changeItem(m_index, [&](ItemRecord &item) {
+        item.former = *plan;
+        item.packingSince = QDateTime::currentDateTimeUtc();
+    });
+    const QString reason = setAside(*plan);
+    if (!reason.isEmpty())
+        return u"\"%1\" can't be given another name while its successor is made: %2."_qs.arg(files.value(0),
+                                                                                             reason);
+    m_former = *plan;
+    return {};
+}
+
+/// Drops the former archive where the new one is whole and on the disk; otherwise it gets its names back, and
+/// pieces of a new one go.
+void FolderBackup::settleFormer()
+{
+    if (m_former.isEmpty()) return;
+    const QStringList made = newFiles();
+    bool isSafe = m_isPacked && m_distrust.isEmpty() && !made.isEmpty();
+    for (const QString &path : made)
+        isSafe = isSafe && syncToDisk(path).isEmpty();
+    isSafe = isSafe && syncToDisk(m_order.destination).isEmpty();
+    if (isSafe) {
+        dropAside(m_former);
+    } else {
+        for (const QString &path : made)
+            if (const auto there = entryAt(path); there && there->isFile()) QFile::remove(path);
+        const QString reason = putBack(m_former);
+        if (!reason.isEmpty())
+            m_reason += u"\nThe former archive is \"%1\" now: %2."_qs.arg(m_former.first().to, reason);
+        m_isPacked = false;
+    }
+    m_run.journal().changeItem(m_index, [](ItemRecord &item) { item.former.clear(); });
+}
+
+QStringList FolderBackup::newFiles() const { return filesOfArchive(m_paths.final); }
 
 // What a failed stage leaves stays, so that nothing is lost; but who wanted it encrypted must know.
 QString FolderBackup::whatIsLeftInClear() const
 {
-    if (!QFile::exists(m_storedArchive)) return {};
+    if (!entryAt(m_paths.stored)) return {};
     return u"\n\"%1\" is left and is not encrypted: run the backup again, or remove it."_qs.arg(
-        m_storedArchive);
+        m_paths.stored);
 }
 
 } // namespace
 
-void quillorentLibrary::runProcess1(const BackupJob &job)
+void backUpItem(Run &run, const BackupOrder &order, qsizetype index)
 {
-    FolderBackup backup(job);
+    FolderBackup backup(run, order, index);
     backup.run();
 }

@@ -1,43 +1,50 @@
 #include "extract/ArchiveExtraction.h"
 
-#include "app/ItemPipeline.h"
-#include "app/QuillorentAppDelegate.h"
-#include "backup/Decisions.h"
-#include "extract/ArchiveName.h"
-#include "extract/Candidates.h"
 #include "extract/Explanation.h"
 #include "extract/ExtractArguments.h"
-#include "extract/Room.h"
 #include "files/Names.h"
-#include "tools/RegisteredTool.h"
+#include "files/Room.h"
+#include "files/Sizes.h"
+#include "runs/ItemPipeline.h"
+#include "runs/Run.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 namespace {
 
 using Place = FailedStage::Place;
+using quillorentLibrary::joined;
+using quillorentLibrary::lastPathComponent;
 
 /// One archive on its way back to a folder.
 class ArchiveExtraction : private ItemPipeline {
 public:
-    explicit ArchiveExtraction(const ExtractJob &job);
+    ArchiveExtraction(Run &run, const ExtractOrder &order, qsizetype index, ExtractShared &shared);
     void run();
 
 private:
     void unpackOuter();
+    [[nodiscard]] ToolResult makeWayForEntries();
     void takeRenamedEntry();
     void decrypt();
-    [[nodiscard]] ToolResult runDecoder() const;
+    [[nodiscard]] ToolResult runDecoder();
     void unpackInner();
+    [[nodiscard]] QStringList entriesOf(const QString &archive) const;
+    [[nodiscard]] QString folderForContents();
 
-    void judgeStage(FailedStage::Kind kind, const QString &line, const ToolResult &result);
+    void judgeStage(FailedStage::Kind kind, const QString &line, const ToolResult &result, bool isMade,
+                    const QString &product);
     [[nodiscard]] QString explainFailure() const;
 
-    const QString m_folder;
-    const ExtractPaths m_paths;
+    const ExtractOrder &m_order;
+    ExtractShared &m_shared;
+    const ExtractItem &m_paths;
     QString m_entryName; ///< of the encrypted file in the archive, where it is another than expected
-    QString m_decoderCommand;
+    QString m_command;
+    bool m_isDecrypted = false;
+    bool m_isExtracted = false;
     bool m_innerIsArchive = false;
     FailedStage::Kind m_stage = FailedStage::Kind::UnpackOuter;
     ToolResult m_result; ///< of the last stage that ran
@@ -45,115 +52,167 @@ private:
 
 Place whatIsAt(const QString &path)
 {
-    const QFileInfo there(path);
-    if (there.isSymLink()) return Place::Link;
-    if (there.isDir()) return Place::Folder;
-    return there.exists() ? Place::File : Place::Nothing;
+    const auto there = entryAt(path);
+    if (!there) return Place::Nothing;
+    if (there->kind == FileEntry::Kind::Link) return Place::Link;
+    return there->kind == FileEntry::Kind::Folder ? Place::Folder : Place::File;
 }
 
 /// Whether a file begins as RAR archives do, of any version.
 bool beginsAsArchive(const QString &path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) && file.read(6) == QByteArray("Rar!\x1a\x07", 6);
+    return whatIsAt(path) == Place::File && file.open(QIODevice::ReadOnly) &&
+           file.read(6) == QByteArray("Rar!\x1a\x07", 6);
 }
 
-QString extensionOf(const QString &archive)
+ArchiveExtraction::ArchiveExtraction(Run &run, const ExtractOrder &order, qsizetype index,
+                                     ExtractShared &shared)
+    : ItemPipeline(run, index, order.items[index].archive, order.known)
+    , m_order(order)
+    , m_shared(shared)
+    , m_paths(order.items[index])
+    , m_command(m_paths.command)
 {
-    return quillorentLibrary::decideExtension(withoutVolumePart(archive)).value_or(QString());
-}
-
-ArchiveExtraction::ArchiveExtraction(const ExtractJob &job)
-    : ItemPipeline(job.archive)
-    , m_folder(job.folder)
-    , m_paths(extractPaths(job.archive, job.folder, extensionOf(job.archive)))
-{
+    expect({m_paths.paths.encrypted, m_paths.paths.inner}, m_paths.paths.inner);
 }
 
 void ArchiveExtraction::run()
 {
-    removeIfGoingOn(m_paths.encrypted);
+    const ExtractPaths &paths = m_paths.paths;
     unpackOuter();
     takeRenamedEntry();
     decrypt();
-    removeIfGoingOn(m_paths.encrypted);
+    if (goesOn() && m_isDecrypted) removeOwn(paths.encrypted);
     unpackInner();
-    removeIfGoingOn(m_paths.inner);
-    removeIfGoingOn(m_paths.leftover);
+    if (goesOn() && m_isExtracted) removeOwn(paths.inner);
+    // Only where this run has put it there: something else was set aside.
+    if (goesOn() && m_isExtracted && paths.leftover != paths.encrypted) QFile::remove(paths.leftover);
 
     if (m_succeeded) {
-        succeed(m_delegate.progress02progressIndicator01);
+        succeed(quillorentLibrary::calculateSize(m_item));
     } else {
         const QString explanation = explainFailure();
         fail(u'\n' + explanation, explanation);
     }
-    end();
+    end(m_isExtracted, {});
 }
 
-void ArchiveExtraction::judgeStage(FailedStage::Kind kind, const QString &line, const ToolResult &result)
+void ArchiveExtraction::judgeStage(FailedStage::Kind kind, const QString &line, const ToolResult &result,
+                                   bool isMade, const QString &product)
 {
     m_stage = kind;
     m_result = result;
-    judge(line, result);
+    judge(line, result, isMade, product);
+    noteBetween();
+}
+
+QStringList ArchiveExtraction::entriesOf(const QString &archive) const
+{
+    const ToolResult result = runStage(m_order.archiver, extractArguments::list(archive));
+    return result.text().split(u'\n', Qt::SkipEmptyParts);
+}
+
+/// Nothing that is in the folder may be written over by a file that the archive holds under another name than
+/// its own. Where the archiver knows no listing, its words are no file's name.
+ToolResult ArchiveExtraction::makeWayForEntries()
+{
+    for (const QString &path : {m_paths.paths.encrypted, m_paths.paths.leftover})
+        if (ToolResult result = makeWay(path); !result.isSilent()) return result;
+    for (const QString &entry : entriesOf(m_item)) {
+        const QString path = joined(m_order.folder, lastPathComponent(entry));
+        if (whatIsAt(path) == Place::Nothing || whatIsAt(path) == Place::Folder) continue;
+        if (ToolResult result = makeWay(path); !result.isSilent()) return result;
+    }
+    return {.output = QString()};
 }
 
 void ArchiveExtraction::unpackOuter()
 {
     if (isCancelled()) return;
-    m_delegate.setStage(m_item, u"unpacking"_qs);
-    judgeStage(FailedStage::Kind::UnpackOuter, u"\nunRAR 1st"_qs,
-               runRegisteredTool(u"RAR"_qs, extractArguments::unpackOuter(m_item, m_folder)));
+    setStage(u"unpacking"_qs);
+    ToolResult result = makeWayForEntries();
+    if (result.isSilent())
+        result = runStage(m_order.archiver, extractArguments::unpackOuter(m_item, m_order.folder));
+    // Whether the encrypted file is there is for the next stage to say: its name may be another one.
+    judgeStage(FailedStage::Kind::UnpackOuter, u"\nunRAR 1st"_qs, result, true, m_paths.paths.encrypted);
 }
 
 // An archive that was renamed still holds its encrypted file under the old name.
 void ArchiveExtraction::takeRenamedEntry()
 {
-    if (!goesOn() || whatIsAt(m_paths.encrypted) != Place::Nothing) return;
-    const QString names = runRegisteredTool(u"RAR"_qs, extractArguments::list(m_item)).text();
-    if (!names.endsWith(u'\n') || names.count(u'\n') != 1) return;
-    const QString name = quillorentLibrary::lastPathComponent(names.chopped(1));
-    // Where the archiver knows no listing, this is what it says of that, and no file is called so.
-    const QString entry = quillorentLibrary::joined(m_folder, name);
-    if (whatIsAt(entry) == Place::File && QFile::rename(entry, m_paths.encrypted)) m_entryName = name;
+    if (!goesOn() || whatIsAt(m_paths.paths.encrypted) != Place::Nothing) return;
+    const QStringList entries = entriesOf(m_item);
+    if (entries.size() != 1) return;
+    const QString name = lastPathComponent(entries.first());
+    const QString entry = joined(m_order.folder, name);
+    if (whatIsAt(entry) == Place::File && renameToFree(entry, m_paths.paths.encrypted) == 0)
+        m_entryName = name;
+    noteBetween();
 }
 
 void ArchiveExtraction::decrypt()
 {
     if (!goesOn()) return;
-    m_delegate.setStage(m_item, u"decrypting"_qs);
-    m_decoderCommand = quillorentLibrary::decideDecryption(m_item).value_or(QString());
-    if (m_decoderCommand.isEmpty() && !m_entryName.isEmpty())
-        m_decoderCommand = quillorentLibrary::decideEncryption(m_entryName).value_or(QString());
-    judgeStage(FailedStage::Kind::Decrypt, u"\nDECODE"_qs, runDecoder());
+    setStage(u"decrypting"_qs);
+    if (m_command.isEmpty() && !m_entryName.isEmpty())
+        m_command = commandOfArchive(m_entryName, m_order.methods);
+    const ToolResult result = runDecoder();
+    const bool isMade = whatIsAt(m_paths.paths.inner) == Place::File;
+    judgeStage(FailedStage::Kind::Decrypt, u"\nDECODE"_qs, result, isMade, m_paths.paths.inner);
+    m_isDecrypted = m_succeeded && isMade && m_distrust.isEmpty();
 }
 
-ToolResult ArchiveExtraction::runDecoder() const
+ToolResult ArchiveExtraction::runDecoder()
 {
     // What an archive holds may be a trap: a link that leads the decoder out of the folder, to read or to
     // write.
-    if (whatIsAt(m_paths.encrypted) == Place::Link) return {u"\"%1\" is a link"_qs.arg(m_paths.encrypted)};
-    if (whatIsAt(m_paths.inner) == Place::Link) QFile::remove(m_paths.inner);
+    const ExtractPaths &paths = m_paths.paths;
+    if (whatIsAt(paths.encrypted) == Place::Link) return {u"\"%1\" is a link"_qs.arg(paths.encrypted)};
+    if (ToolResult result = checkInput(paths.encrypted); !result.isSilent()) return result;
+    if (ToolResult result = makeWay(paths.inner); !result.isSilent()) return result;
 
-    if (m_decoderCommand == u"smime")
-        return runRegisteredTool(u"OpenSSL"_qs,
-                                 extractArguments::decryptByCertificate(m_paths.encrypted, m_paths.inner,
-                                                                        m_delegate.pkFile01.text(),
-                                                                        m_delegate.certFile01.text()));
-    return runRegisteredTool(
-        u"OpenSSL"_qs, extractArguments::decryptByPassword(m_decoderCommand, m_paths.encrypted, m_paths.inner,
-                                                           m_delegate.passwordSelector()));
+    if (m_command == u"smime")
+        return runStage(m_order.decoder, extractArguments::decryptByCertificate(
+                                             paths.encrypted, paths.inner, m_order.key, m_order.certificate));
+    QString password = m_order.password.text();
+    ToolResult result =
+        runStage(m_order.decoder,
+                 extractArguments::decryptByPassword(m_command, paths.encrypted, paths.inner, password));
+    wipe(password);
+    return result;
+}
+
+/// The extraction folder; or one of the archive's own in it, where its entries would write over what another
+/// archive of this run has brought back.
+QString ArchiveExtraction::folderForContents()
+{
+    if (m_order.items.size() < 2 || m_shared.names.claim(entriesOf(m_paths.paths.inner)))
+        return m_order.folder;
+    const QString inner = lastPathComponent(m_paths.paths.inner);
+    const QString name = inner.endsWith(u".rar"_qs) ? inner.chopped(4) : inner + u" contents"_qs;
+    QString folder = joined(m_order.folder, name);
+    for (int number = 2; !QDir().mkdir(folder) && number < 1000; ++number)
+        folder = joined(m_order.folder, u"%1 (%2)"_qs.arg(name).arg(number));
+    const std::lock_guard lock(m_shared.mutex);
+    m_shared.ownFolders.append(folder);
+    return folder;
 }
 
 void ArchiveExtraction::unpackInner()
 {
     if (!goesOn()) return;
-    m_delegate.setStage(m_item, u"extracting"_qs);
-    m_innerIsArchive = beginsAsArchive(m_paths.inner);
-    ToolResult result = runRegisteredTool(u"RAR"_qs, extractArguments::unpackInner(m_paths.inner, m_folder));
+    setStage(u"extracting"_qs);
+    const QString &inner = m_paths.paths.inner;
+    m_innerIsArchive = beginsAsArchive(inner);
+    ToolResult result = checkInput(inner);
+    if (result.isSilent())
+        result = runStage(m_order.archiver, extractArguments::unpackInner(inner, folderForContents()));
     // Now and then a wrong password decrypts to rubbish, without a word, and some archivers say nothing about
     // rubbish.
-    if (result.isSilent() && !m_innerIsArchive) result.output = u"\"%1\" is no archive"_qs.arg(m_paths.inner);
-    judgeStage(FailedStage::Kind::UnpackInner, u"\nunRAR 2nd"_qs, result);
+    if (result.isSilent() && !m_innerIsArchive) result.output = u"\"%1\" is no archive"_qs.arg(inner);
+    judgeStage(FailedStage::Kind::UnpackInner, u"\nunRAR 2nd"_qs, result, true, {});
+    m_isExtracted = m_succeeded && m_distrust.isEmpty();
 }
 
 QString ArchiveExtraction::explainFailure() const
@@ -161,28 +220,29 @@ QString ArchiveExtraction::explainFailure() const
     const auto isReadableFile = [](const QString &path) {
         return QFileInfo(path).isFile() && QFileInfo(path).isReadable();
     };
-    const QString nameToTell = m_entryName.isEmpty() ? withoutVolumePart(m_item) : m_entryName;
+    const QString commandByName =
+        m_entryName.isEmpty() ? m_paths.commandByName : commandOfArchive(m_entryName, m_order.methods);
     return explain({.kind = m_stage,
                     .tool = m_result,
                     .archive = m_item,
-                    .folder = m_folder,
-                    .folderIsWritable = QFileInfo(m_folder).isWritable(),
-                    .bytesFree = roomFree(m_folder),
-                    .encrypted = m_paths.encrypted,
-                    .inner = m_paths.inner,
-                    .atEncrypted = whatIsAt(m_paths.encrypted),
-                    .atInner = whatIsAt(m_paths.inner),
+                    .folder = m_order.folder,
+                    .folderIsWritable = QFileInfo(m_order.folder).isWritable(),
+                    .bytesFree = roomFree(m_order.folder),
+                    .encrypted = m_paths.paths.encrypted,
+                    .inner = m_paths.paths.inner,
+                    .atEncrypted = whatIsAt(m_paths.paths.encrypted),
+                    .atInner = whatIsAt(m_paths.paths.inner),
                     .innerIsArchive = m_innerIsArchive,
-                    .decoderCommand = m_decoderCommand,
-                    .commandByName = quillorentLibrary::decideEncryption(nameToTell).value_or(QString()),
-                    .keyIsReadable = isReadableFile(m_delegate.pkFile01.text()),
-                    .certificateIsReadable = isReadableFile(m_delegate.certFile01.text())});
+                    .decoderCommand = m_command,
+                    .commandByName = commandByName,
+                    .keyIsReadable = isReadableFile(m_order.key),
+                    .certificateIsReadable = isReadableFile(m_order.certificate)});
 }
 
 } // namespace
 
-void quillorentLibrary::runProcess2(const ExtractJob &job)
+void extractItem(Run &run, const ExtractOrder &order, qsizetype index, ExtractShared &shared)
 {
-    ArchiveExtraction extraction(job);
+    ArchiveExtraction extraction(run, order, index, shared);
     extraction.run();
 }

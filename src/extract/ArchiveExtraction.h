@@ -1,19 +1,18 @@
 #pragma once
 
-#include <QString>
+#include "extract/BroughtBack.h"
+#include "extract/ExtractOrder.h"
 
-/// What one worker is given.
-struct ExtractJob {
-    QString archive; ///< in one piece, or the first volume of a set
-    QString folder;  ///< where its contents go
+class Run;
+
+/// What the items of one extraction share.
+struct ExtractShared {
+    BroughtBack names;
+    std::mutex mutex;
+    QStringList ownFolders; ///< of archives whose entries have the names of another's; guarded by `mutex`
 };
 
-namespace quillorentLibrary {
-
-/// Turns one archive back into what it was made of: takes the encrypted file out of it, decrypts that,
-/// unpacks the result; the body of a worker's thread. Reports through the run state, and through the console
-/// log where it failed. An intermediate file goes once the next stage has succeeded; after a failure what is
-/// there stays.
-void runProcess2(const ExtractJob &job);
-
-} // namespace quillorentLibrary
+/// Turns one archive of the order back into what it was made of: takes the encrypted file out of it, decrypts
+/// that, unpacks the result; the body of a worker's thread. An intermediate file goes once the next stage has
+/// done its work; after a failure what is there stays.
+void extractItem(Run &run, const ExtractOrder &order, qsizetype index, ExtractShared &shared);

@@ -2,8 +2,6 @@
 
 #include "files/Names.h"
 
-#include <QRegularExpression>
-
 namespace {
 
 /// Without what follows the last dot of its last component; a dot at the beginning starts no extension.
@@ -15,23 +13,6 @@ QString withoutLastExtension(const QString &path)
 
 } // namespace
 
-std::optional<VolumeName> volumeName(const QString &path)
-{
-    static const QRegularExpression pattern(u"^(.*)\\.part([0-9]+)\\.rar$"_qs,
-                                            QRegularExpression::DotMatchesEverythingOption |
-                                                QRegularExpression::CaseInsensitiveOption);
-    const QRegularExpressionMatch match = pattern.match(path);
-    bool isNumber = false;
-    const qulonglong number = match.captured(2).toULongLong(&isNumber);
-    return isNumber ? std::optional(VolumeName{match.captured(1), number}) : std::nullopt;
-}
-
-QString withoutVolumePart(const QString &path)
-{
-    const std::optional<VolumeName> volume = volumeName(path);
-    return volume ? volume->set + path.right(4) : path;
-}
-
 ExtractPaths extractPaths(const QString &archive, const QString &folder, const QString &methodExtension)
 {
     const QString name = quillorentLibrary::lastPathComponent(withoutVolumePart(archive));
@@ -40,4 +21,22 @@ ExtractPaths extractPaths(const QString &archive, const QString &folder, const Q
     // A renamed archive may have no further extension. A file can't be decrypted into itself.
     if (inner == encrypted) inner += u".rar"_qs;
     return {encrypted, inner, encrypted + methodExtension};
+}
+
+QString methodOfArchive(const QString &archive, const QList<Method> &methods)
+{
+    QString found;
+    // The last match counts: the method stands last in a name that holds several extensions.
+    for (const QString &piece : quillorentLibrary::lastPathComponent(archive).split(u".rar"_qs))
+        for (const Method &method : methods)
+            if (method.extension == piece) found = method.name;
+    return found;
+}
+
+QString commandOfArchive(const QString &archive, const QList<Method> &methods)
+{
+    const QString name = methodOfArchive(archive, methods);
+    for (const Method &method : methods)
+        if (method.name == name) return method.command;
+    return {};
 }

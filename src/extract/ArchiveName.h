@@ -1,20 +1,9 @@
 #pragma once
 
+#include "files/ArchiveFiles.h"
+
+#include <QList>
 #include <QString>
-#include <optional>
-
-/// A path that ends in ".partN.rar", as the volumes of a set are called.
-struct VolumeName {
-    QString set{}; ///< the path up to ".part"
-    qulonglong number = 0;
-    bool isLater() const { return number > 1; }
-};
-
-/// None where `path` is no volume's: a ".part1" elsewhere in it makes no difference.
-[[nodiscard]] std::optional<VolumeName> volumeName(const QString &path);
-
-/// The path that the archive would have in one piece: of a volume without its ".partN".
-[[nodiscard]] QString withoutVolumePart(const QString &path);
 
 /// Where an archive's extraction puts what, by names alone.
 struct ExtractPaths {
@@ -26,3 +15,17 @@ struct ExtractPaths {
 /// `methodExtension` has its dot; it is empty where the archive's name tells no method.
 [[nodiscard]] ExtractPaths extractPaths(const QString &archive, const QString &folder,
                                         const QString &methodExtension);
+
+/// A method of encryption, as the settings describe it.
+struct Method {
+    QString name;      ///< their key
+    QString extension; ///< of encrypted files, with its dot
+    QString command;   ///< the encoder's; empty where they have none
+};
+
+/// The name of the method whose extension the archive's name carries before an ".rar"; empty where it carries
+/// none.
+[[nodiscard]] QString methodOfArchive(const QString &archive, const QList<Method> &methods);
+
+/// The command of that method; empty where there is none.
+[[nodiscard]] QString commandOfArchive(const QString &archive, const QList<Method> &methods);

@@ -1,14 +1,10 @@
 #include "extract/Candidates.h"
 
-#include "app/QuillorentAppDelegate.h"
-#include "backup/Decisions.h"
 #include "extract/ArchiveName.h"
-#include "extract/ExtractArguments.h"
 #include "files/Names.h"
-#include "tools/RegisteredTool.h"
 
 #include <QDir>
-#include <QRegularExpression>
+#include <algorithm>
 
 namespace {
 
@@ -52,13 +48,6 @@ QString describe(const QString &leftOut, const QStringList &all)
                .arg(quillorentLibrary::lastPathComponent(volume->set));
 }
 
-QString nameOfMethod(int choice)
-{
-    static const QStringList methods{u"OpenSSL-AES"_qs, u"OpenSSL-BF"_qs, u"OpenSSL-3D"_qs,
-                                     u"OpenSSL-SMIME"_qs};
-    return methods.value(choice, methods.first());
-}
-
 } // namespace
 
 QStringList archivesAmong(const QStringList &paths)
@@ -83,29 +72,10 @@ QString describeLeftOut(const QStringList &added, const QStringList &all, const 
     return {};
 }
 
-ToolResult testArchive(const QString &archive)
+QStringList namesLeftOut(const QStringList &all, const QStringList &extracted)
 {
-    return runRegisteredTool(u"RAR"_qs, extractArguments::test(archive));
-}
-
-QStringList QuillorentAppDelegate::filterForExtraction(const QStringList &paths) const
-{
-    // Over the whole path, folders included.
-    static const QRegularExpression laterVolume(
-        QRegularExpression::anchoredPattern(u".*part.*[2-9].*|.*part.*11.*|.*part.*10.*"_qs),
-        QRegularExpression::DotMatchesEverythingOption);
-    QStringList candidates;
-    for (const QString &path : paths)
-        if (!laterVolume.match(path).hasMatch()) candidates.append(path);
-    return candidates;
-}
-
-bool quillorentLibrary::testFileToExtract(const QString &archive) { return testArchive(archive).isSilent(); }
-
-std::optional<QString> quillorentLibrary::decideDecryption(const QString &archive)
-{
-    const QuillorentAppDelegate &delegate = theDelegate();
-    const int choice = delegate.decryptionCombo01.selectedIndex();
-    if (choice == ExtractTab::automaticDecryption) return decideEncryption(withoutVolumePart(archive));
-    return delegate.setting(u"encparam"_qs, nameOfMethod(choice));
+    QStringList leftOut;
+    for (const QString &path : all)
+        if (!extracted.contains(path) && !describe(path, all).isEmpty()) leftOut.append(path);
+    return leftOut;
 }

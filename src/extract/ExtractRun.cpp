@@ -1,12 +1,13 @@
 #include "extract/ExtractRun.h"
 
-#include "app/Pauses.h"
-#include "app/QuillorentAppDelegate.h"
-#include "app/Workers.h"
 #include "extract/ArchiveExtraction.h"
 #include "extract/Candidates.h"
 #include "extract/Explanation.h"
+#include "extract/ExtractArguments.h"
 #include "files/Sizes.h"
+#include "runs/Pauses.h"
+#include "runs/Run.h"
+#include "tools/ToolRun.h"
 
 #include <QLocale>
 #include <memory>
@@ -14,88 +15,89 @@
 
 namespace {
 
-/// One run, step by step, on its own thread.
-class ExtractRun {
+class ExtractRun : public Run {
 public:
-    explicit ExtractRun(const QString &profile)
-        : m_folder(m_delegate.listPlist().dictionary(profile).string(u"extractpath"_qs).value_or(QString()))
-    {
-    }
-    void run();
+    ExtractRun(const ExtractOrder &order, RunState &state, RunMonitor &monitor, FolderLock lock,
+               const FoundDamage &foundDamage);
+
+protected:
+    void work() override;
+    [[nodiscard]] QString summary() const override;
 
 private:
-    void begin();
     [[nodiscard]] bool allAreWhole();
-    [[nodiscard]] ToolResult test(const QString &archive) const;
-    void reportDamage(const QString &archive, const ToolResult &result);
+    [[nodiscard]] ToolResult test(const QString &archive);
     void measure();
     void launchWorkers();
-    void end();
-    [[nodiscard]] bool succeeded() const;
-    [[nodiscard]] QString summary() const;
+    [[nodiscard]] bool isFree(const ExtractItem &item) const;
 
-    QuillorentAppDelegate &m_delegate = theDelegate();
-    const QString m_folder;
-    const QStringList m_archives = m_delegate.extractList.strings();
-    const QStringList m_shown = m_delegate.extractFullList.strings();
+    const ExtractOrder &m_order;
+    const FoundDamage &m_foundDamage;
+    mutable ExtractShared m_shared;
 };
 
-void ExtractRun::run()
+QStringList archivesOf(const ExtractOrder &order)
 {
-    begin();
-    if (allAreWhole()) {
-        measure();
-        launchWorkers();
-        waitForWorkers();
-    }
-    end();
+    QStringList archives;
+    for (const ExtractItem &item : order.items)
+        archives.append(item.archive);
+    return archives;
 }
 
-void ExtractRun::begin()
+RunRecord recordOf(const ExtractOrder &order)
 {
-    m_delegate.setCancelFlag(false);
-    m_delegate.beginRun();
-    m_delegate.consoleTextView01.setText({});
-    m_delegate.extractedFolder.set({});
-    m_delegate.outputText02.setText({});
-    m_delegate.buttonCancel02.setTitle(u"Cancel"_qs);
-    m_delegate.progressPanel02.beginSheet();
+    RunRecord record{.kind = u"extract"_qs,
+                     .profile = order.profile,
+                     .folder = order.folder,
+                     .began = QDateTime::currentDateTimeUtc()};
+    for (const ExtractItem &item : order.items)
+        record.items.append({.path = item.archive});
+    for (const QString &archive : namesLeftOut(order.shown, archivesOf(order)))
+        record.items.append({.path = archive,
+                             .outcome = Outcome::Skipped,
+                             .reason = u"its name is that of a later volume"_qs});
+    return record;
+}
 
-    m_delegate.setSizeToDo(0);
-    m_delegate.setSizeDone(0);
-    m_delegate.setFoldersToDo(0);
-    m_delegate.setFoldersDone(0);
-    m_delegate.setThreadsRunning({});
-    m_delegate.progress02progressIndicator01.setValue(0);
-    m_delegate.progress02progressIndicator01.setIndeterminate(true);
-    m_delegate.progress02progressIndicator01.startAnimation();
-    m_delegate.progress02progressLabel01.setHidden(false);
-    m_delegate.progress02progressLabel02.setHidden(true);
+ExtractRun::ExtractRun(const ExtractOrder &order, RunState &state, RunMonitor &monitor, FolderLock lock,
+                       const FoundDamage &foundDamage)
+    : Run(state, monitor, recordOf(order), std::move(lock)), m_order(order), m_foundDamage(foundDamage)
+{
+}
+
+void ExtractRun::work()
+{
     std::this_thread::sleep_for(pauses().beforeMeasuring);
+    if (!allAreWhole()) return;
+    measure();
+    launchWorkers();
 }
 
 // One damaged archive, and nothing is extracted at all.
 bool ExtractRun::allAreWhole()
 {
-    for (const QString &archive : m_archives) {
-        if (m_delegate.cancelFlag()) return false;
-        const ToolResult result = test(archive);
-        if (m_delegate.cancelFlag()) return false;
+    for (const ExtractItem &item : m_order.items) {
+        if (isCancelled()) return false;
+        const ToolResult result = test(item.archive);
+        if (isCancelled()) return false;
         if (result.isSilent()) continue;
-        reportDamage(archive, result);
+        const QString reason =
+            explain({.kind = FailedStage::Kind::Test, .tool = result, .archive = item.archive});
+        m_state.setFailure(item.archive, reason);
+        m_foundDamage(item.archive, reason);
         return false;
     }
     return true;
 }
 
 /// On a thread of its own: testing a large archive takes long, and can be cancelled like any stage.
-ToolResult ExtractRun::test(const QString &archive) const
+ToolResult ExtractRun::test(const QString &archive)
 {
     const auto result = std::make_shared<ToolResult>();
-    const bool isLaunched = launchWorker(u"extract-test"_qs, archive, [archive, result] {
-        theDelegate().setStage(archive, u"testing"_qs);
-        *result = testArchive(archive);
-        theDelegate().endItem(archive);
+    const bool isLaunched = launchWorker(u"extract-test"_qs, archive, [this, archive, result] {
+        m_state.setStage(archive, u"testing"_qs);
+        *result = runTool(m_order.archiver, extractArguments::test(archive), lockDescriptor());
+        m_state.endItem(archive);
     });
     if (!isLaunched) return {};
     waitForWorkers();
@@ -103,65 +105,72 @@ ToolResult ExtractRun::test(const QString &archive) const
     return *result;
 }
 
-void ExtractRun::reportDamage(const QString &archive, const ToolResult &result)
-{
-    const QString reason = explain({.kind = FailedStage::Kind::Test, .tool = result, .archive = archive});
-    m_delegate.setFailure(archive, reason);
-    m_delegate.extractPanelText01.setText(archive);
-    m_delegate.extractReasonText01.setText(reason);
-    m_delegate.extractPanel01.runModal();
-}
-
 void ExtractRun::measure()
 {
     // Later volumes count as well, though only the first is counted when its set is done.
-    for (const QString &archive : m_shown)
-        m_delegate.addToDo(double(quillorentLibrary::calculateSize(archive)));
+    for (const QString &archive : m_order.shown)
+        m_state.addToDo(double(quillorentLibrary::calculateSize(archive)));
+    m_monitor.measured(m_state.sizeToDo());
+}
 
-    m_delegate.progress02progressIndicator01.setIndeterminate(false);
-    m_delegate.progress02progressIndicator01.setMaximum(m_delegate.sizeToDo());
-    m_delegate.progress02progressLabel01.setHidden(true);
-    m_delegate.progress02progressLabel02.setHidden(false);
-    m_delegate.setThreadsRunning({});
+/// Whether no archive that is worked on has a file of the same name on its way.
+bool ExtractRun::isFree(const ExtractItem &item) const
+{
+    const auto pathsOf = [](const ExtractItem &of) {
+        return QStringList{of.archive, of.paths.encrypted, of.paths.inner, of.paths.leftover};
+    };
+    const QStringList running = m_state.threadsRunning();
+    for (const ExtractItem &other : m_order.items) {
+        if (!running.contains(other.archive)) continue;
+        for (const QString &path : pathsOf(other))
+            if (pathsOf(item).contains(path)) return false;
+    }
+    return true;
 }
 
 void ExtractRun::launchWorkers()
 {
-    for (const QString &archive : m_archives) {
-        const ExtractJob job{.archive = archive, .folder = m_folder};
-        if (launchWorker(u"extract"_qs, archive, [job] { quillorentLibrary::runProcess2(job); })) continue;
-        quillorentLibrary::stopProcess02();
-        return;
+    for (qsizetype index = 0; index < m_order.items.size(); ++index) {
+        const ExtractItem &item = m_order.items[index];
+        const auto body = [this, index] { extractItem(*this, m_order, index, m_shared); };
+        if (!launchWorker(u"extract"_qs, item.archive, body, [this, &item] { return isFree(item); })) return;
     }
-}
-
-void ExtractRun::end()
-{
-    if (succeeded()) m_delegate.extractedFolder.set(m_folder);
-    m_delegate.progress02progressIndicator01.stopAnimation();
-    m_delegate.outputText02.setText(summary());
-    m_delegate.progressPanel02.close();
-    if (!m_delegate.consoleTextView01.text().isEmpty()) m_delegate.consolePanel01.orderFront();
-    endWorkers();
-    m_delegate.endRun();
-}
-
-bool ExtractRun::succeeded() const
-{
-    return !m_delegate.isCancelledByUser() && m_delegate.failure().isEmpty() &&
-           m_delegate.foldersDone() == double(m_archives.size());
 }
 
 QString ExtractRun::summary() const
 {
     const QLocale locale;
-    if (m_delegate.isCancelledByUser())
-        return u"Cancelled. Files left in the extraction folder may be incomplete."_qs;
-    if (!m_delegate.failure().isEmpty()) return u"Failed: "_qs + m_delegate.failure();
-    return u"Extracted %1 of %2 into \"%3\"."_qs.arg(locale.toString(qint64(m_delegate.foldersDone())),
-                                                     locale.toString(m_archives.size()), m_folder);
+    QStringList sentences;
+    if (m_state.isCancelledByUser())
+        sentences.append(u"Cancelled. Files left in the extraction folder may be incomplete."_qs);
+    else if (!m_state.failure().isEmpty())
+        sentences.append(u"Failed: "_qs + m_state.failure());
+    else
+        sentences.append(
+            u"Extracted %1 of %2 into \"%3\"."_qs.arg(locale.toString(qint64(m_state.foldersDone())),
+                                                      locale.toString(m_order.items.size()), m_order.folder));
+    const std::lock_guard lock(m_shared.mutex);
+    for (const QString &folder : m_shared.ownFolders)
+        sentences.append(u"\"%1\" has what would have replaced files of another archive."_qs.arg(folder));
+    const QStringList leftOut = namesLeftOut(m_order.shown, archivesOf(m_order));
+    if (!leftOut.isEmpty())
+        sentences.append(
+            u"Not extracted, as they look like later volumes: %1."_qs.arg(leftOut.join(u", "_qs)));
+    sentences += describeKept();
+    return sentences.join(u' ');
 }
 
 } // namespace
 
-void quillorentLibrary::launchExtract(const QString &profile) { ExtractRun(profile).run(); }
+void runExtraction(const ExtractOrder &order, RunState &state, RunMonitor &monitor, FolderLock lock,
+                   const FoundDamage &foundDamage)
+{
+    ExtractRun(order, state, monitor, std::move(lock), foundDamage).execute();
+}
+
+void runExtractionOfOne(const ExtractOrder &order, RunState &state, RunMonitor &monitor)
+{
+    ExtractShared shared;
+    LoneRun run(state, monitor, recordOf(order));
+    run.executeAlone([&] { extractItem(run, order, 0, shared); });
+}

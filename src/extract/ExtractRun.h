@@ -1,11 +1,20 @@
 #pragma once
 
-#include <QString>
+#include "extract/ExtractOrder.h"
+#include "files/FolderLock.h"
 
-namespace quillorentLibrary {
+#include <functional>
 
-/// The extraction of every archive of `extractList` into the profile's extraction folder, from its progress
-/// sheet to its end; the body of the run's own thread.
-void launchExtract(const QString &profile);
+class RunMonitor;
+class RunState;
 
-} // namespace quillorentLibrary
+/// An archive failed its test, so nothing is extracted. Returns when the person has seen it.
+using FoundDamage = std::function<void(const QString &archive, const QString &reason)>;
+
+/// The extraction of all items of the order, on the calling thread and its workers; returns at its end.
+/// `lock` holds the folder. The state was begun; it is at rest again afterwards.
+void runExtraction(const ExtractOrder &order, RunState &state, RunMonitor &monitor, FolderLock lock,
+                   const FoundDamage &foundDamage);
+
+/// The same for the first item alone, on the calling thread, without a test, a sheet and a summary.
+void runExtractionOfOne(const ExtractOrder &order, RunState &state, RunMonitor &monitor);

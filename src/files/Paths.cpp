@@ -1,24 +1,8 @@
 #include "files/Paths.h"
 
-#include "app/QuillorentAppDelegate.h"
-
 #include <QDir>
 #include <QFileInfo>
-#include <QRegularExpression>
-#include <QUrl>
 #include <filesystem>
-
-namespace {
-
-/// The folder that the text names when it is read as a URL (RFC 3986); none where it is not one.
-std::optional<QString> pathOfUrl(const QString &text)
-{
-    static const QRegularExpression url(u"^(?:[A-Za-z0-9._~:/?#\\[\\]@!$&'()*+,;=-]|%[0-9A-Fa-f]{2})+$"_qs);
-    if (!url.match(text).hasMatch()) return std::nullopt;
-    return QUrl(text, QUrl::StrictMode).path(QUrl::FullyDecoded);
-}
-
-} // namespace
 
 QString quillorentLibrary::standardizePath(const QString &path)
 {
@@ -28,11 +12,9 @@ QString quillorentLibrary::standardizePath(const QString &path)
 
 bool quillorentLibrary::folderExists(const QString &path) { return QFileInfo(path).isDir(); }
 
-bool quillorentLibrary::folderIsEmpty(const QString &path)
+bool quillorentLibrary::holdsNothing(const QString &folder)
 {
-    if (theDelegate().prefCheck02.isOn()) return true;
-    const std::optional<QString> folder = pathOfUrl(path);
-    return !folder || QDir(*folder).isEmpty(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
+    return QDir(folder).isEmpty(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
 }
 
 QStringList quillorentLibrary::translatePath(const QStringList &paths)

@@ -12,9 +12,8 @@ namespace quillorentLibrary {
 /// Whether a folder is there, or a link to one.
 [[nodiscard]] bool folderExists(const QString &path);
 
-/// Whether the folder counts as empty: nothing in it but hidden entries. Every folder does while
-/// `prefCheck02` is on, and so does one whose path is not the text of a URL.
-[[nodiscard]] bool folderIsEmpty(const QString &path);
+/// Whether nothing but hidden entries is in the folder; so it is where there is no folder.
+[[nodiscard]] bool holdsNothing(const QString &folder);
 
 /// The standardised form of those paths that exist, in their order.
 [[nodiscard]] QStringList translatePath(const QStringList &paths);

@@ -35,9 +35,11 @@ bool isSelfOrParent(const char *name) { return std::strcmp(name, ".") == 0 || st
 // Names stay bytes from entry to entry: one that is not UTF-8 would be lost in a QString. Walking by open
 // folders instead of paths also spares the kernel the look-up of every parent, and has no limit on a path's
 // length.
-quint64 sizeBelow(Folder top)
+quint64 sizeBelow(Folder top, const std::function<bool()> &goesOn)
 {
+    constexpr quint64 entriesBetweenLooks = 256;
     quint64 bytes = 0;
+    quint64 entries = 0;
     std::vector<Folder> open;
     open.push_back(std::move(top));
     while (!open.empty()) {
@@ -47,6 +49,7 @@ quint64 sizeBelow(Folder top)
             continue;
         }
         if (isSelfOrParent(entry->d_name)) continue;
+        if (++entries % entriesBetweenLooks == 0 && !goesOn()) break;
         struct stat attributes {};
         if (fstatat(dirfd(open.back().get()), entry->d_name, &attributes, AT_SYMLINK_NOFOLLOW) != 0) continue;
         bytes += static_cast<quint64>(attributes.st_size);
@@ -60,11 +63,16 @@ quint64 sizeBelow(Folder top)
 
 quint64 quillorentLibrary::calculateSize(const QString &path)
 {
+    return calculateSize(path, [] { return true; });
+}
+
+quint64 quillorentLibrary::calculateSize(const QString &path, const std::function<bool()> &goesOn)
+{
     const QByteArray name = path.toUtf8();
     const int descriptor = open(name.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor >= 0) {
         Folder folder = openFolder(descriptor);
-        return folder ? sizeBelow(std::move(folder)) : 0;
+        return folder ? sizeBelow(std::move(folder), goesOn) : 0;
     }
     struct stat attributes {};
     return lstat(name.constData(), &attributes) == 0 ? static_cast<quint64>(attributes.st_size) : 0;

@@ -14,15 +14,7 @@ ExitStatus runBackup(QuillorentAppDelegate &delegate, const Options &options)
 
     PanelAnswers answers(delegate, options.yes);
     answers.answerQuestion(
-        delegate.warningPanel03,
-        [&] {
-            return u"The destination \"%1\" is not empty. Archives of the same name would be replaced; say --yes to go on."_qs
-                .arg(delegate.folderNotEmptyText02.text());
-        },
+        delegate.warningPanel03, [&] { return delegate.overwritesText02.text(); },
         [&] { delegate.buttonLaunch01b(); }, [&] { delegate.buttonLaunch01Stop(); });
-    const ExitStatus status =
-        runToEnd(delegate, options, answers, delegate.buttonCancel01, [&] { delegate.buttonLaunch01(); });
-    if (status == NotStarted) return status;
-    printError(delegate.outputText01.text());
-    return delegate.foldersDone() == delegate.foldersToDo() ? status : RunFailed;
+    return runToEnd(delegate, options, answers, delegate.buttonCancel01, [&] { delegate.buttonLaunch01(); });
 }

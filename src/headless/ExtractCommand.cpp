@@ -30,8 +30,6 @@ bool fillIn(QuillorentAppDelegate &delegate, const Options &options)
         archives.append(absolute(archive));
     }
     delegate.addArchives(archives);
-    const QString remark = delegate.outputText02.text();
-    if (!remark.isEmpty() && delegate.extractList.count() > 0) printError(remark);
     return true;
 }
 
@@ -41,17 +39,9 @@ void answerPanels(QuillorentAppDelegate &delegate, PanelAnswers &answers)
         delegate.warningPanel02,
         [&] {
             return u"The extraction folder \"%1\" is not empty. Files of the same name would be "
-                   "replaced; say --yes to go on."_qs.arg(delegate.folderNotEmptyText01.text());
+                   "replaced."_qs.arg(delegate.folderNotEmptyText01.text());
         },
         [&] { delegate.buttonLaunch02b(); }, [&] { delegate.buttonLaunch02Stop(); });
-    answers.answerQuestion(
-        delegate.concernsPanel01,
-        [&] { return delegate.concernsText01.text() + u"\nSay --yes to extract in spite of that."_qs; },
-        [&] {
-            printError(delegate.concernsText01.text());
-            delegate.buttonLaunch02c();
-        },
-        [&] { delegate.concernsPanel01Stop(); });
     // Which archive is damaged is said at the end.
     answers.answer(delegate.extractPanel01, [&] { delegate.stopProcess02b(); });
 }
@@ -65,9 +55,5 @@ ExitStatus runExtraction(QuillorentAppDelegate &delegate, const Options &options
 
     PanelAnswers answers(delegate, options.yes);
     answerPanels(delegate, answers);
-    const ExitStatus status =
-        runToEnd(delegate, options, answers, delegate.buttonCancel02, [&] { delegate.buttonLaunch02(); });
-    if (status == NotStarted) return status;
-    printError(delegate.outputText02.text());
-    return delegate.extractedFolder().isEmpty() ? RunFailed : status;
+    return runToEnd(delegate, options, answers, delegate.buttonCancel02, [&] { delegate.buttonLaunch02(); });
 }

@@ -18,12 +18,12 @@ struct CommandRow {
 const QList<CommandRow> &commands()
 {
     static const QList<CommandRow> rows{
-        {Command::Backup, u"backup"_qs, 2, {u"password-file"_qs, u"yes"_qs, u"progress"_qs}},
+        {Command::Backup, u"backup"_qs, 2, {u"password-file"_qs, u"yes"_qs, u"progress"_qs, u"json"_qs}},
         {Command::Extract,
          u"extract"_qs,
          2,
-         {u"to"_qs, u"method"_qs, u"password-file"_qs, u"yes"_qs, u"progress"_qs}},
-        {Command::Sync, u"sync"_qs, 2, {u"progress"_qs}},
+         {u"to"_qs, u"method"_qs, u"password-file"_qs, u"yes"_qs, u"progress"_qs, u"json"_qs}},
+        {Command::Sync, u"sync"_qs, 2, {u"yes"_qs, u"progress"_qs, u"json"_qs}},
         {Command::Tools, u"tools"_qs, 1, {}},
         {Command::Profiles, u"profiles"_qs, 1, {}}};
     return rows;
@@ -55,7 +55,8 @@ void describe(QCommandLineParser &parser)
         "  sync [PROFILE]                    synchronise the files and folders of a profile\n"
         "  tools                             list the external tools: name, path, ok or not\n"
         "  profiles                          list the profiles; * marks the one opened at start-up\n\n"
-        "Exit status: 0 done, 1 failed or cancelled, 2 could not start, 64 wrong usage."_qs);
+        "Exit status: 0 done, 1 failed or cancelled, 2 could not start, or was not to\n"
+        "go on (see --yes), 64 wrong usage."_qs);
     parser.addOptions(
         {{{u"h"_qs, u"help"_qs}, u"Show this text."_qs},
          {u"password-file"_qs, u"Take the password from the first line of FILE; - is standard input."_qs,
@@ -64,7 +65,9 @@ void describe(QCommandLineParser &parser)
          {u"method"_qs, u"Decrypt by METHOD: aes, bf, 3d, smime, or auto, by the archive's name."_qs,
           u"METHOD"_qs},
          {u"yes"_qs,
-          u"Write into a folder that is not empty, and extract in spite of what seems to be missing."_qs},
+          u"Go on in spite of what is found before the run: archives that will be replaced, too little room, "
+          "files that will be deleted, and the like. What would lose files is refused all the same."_qs},
+         {u"json"_qs, u"Print the run's record on standard output when it has ended."_qs},
          {u"progress"_qs, u"Show progress even where no terminal is."_qs}});
     parser.addPositionalArgument(u"command"_qs, u"backup, extract, sync, tools or profiles."_qs);
     parser.addPositionalArgument(u"PROFILE"_qs,
@@ -114,6 +117,7 @@ ParsedArguments parseArguments(const QStringList &arguments)
                                                          : std::nullopt,
                     .archives = archives,
                     .yes = parser.isSet(u"yes"_qs),
+                    .json = parser.isSet(u"json"_qs),
                     .progress = parser.isSet(u"progress"_qs)},
             {},
             Done};

@@ -14,7 +14,8 @@ struct Options {
     QString folder;            ///< to extract into; empty: the profile's
     std::optional<int> method; ///< of decryption, by its place among the window's choices; none: by the name
     QStringList archives;      ///< to extract
-    bool yes = false;          ///< write into a folder that is not empty, and in spite of what seems missing
+    bool yes = false;          ///< go on in spite of what is found before the run
+    bool json = false;         ///< print the run's record
     bool progress = false;
 };
 

@@ -28,6 +28,19 @@ void waitUntil(IsOver isOver)
     loop.exec();
 }
 
+/// Prints how the run ended, for people and, where it is wanted, for programs.
+ExitStatus tellEnd(const QuillorentAppDelegate &delegate, const Options &options)
+{
+    const RunRecord record = delegate.lastRecord();
+    if (const QString console = delegate.consoleTextView01.text(); !console.isEmpty())
+        printError(console.trimmed());
+    printError(record.summary);
+    // Of this run and of those before it.
+    if (const QString clear = delegate.clearText01.text(); !clear.isEmpty()) printError(clear);
+    if (options.json) print(QString::fromUtf8(toJson(record)).trimmed());
+    return record.outcome == Outcome::Succeeded ? Done : RunFailed;
+}
+
 } // namespace
 
 PanelAnswers::PanelAnswers(QuillorentAppDelegate &delegate, bool yes) : m_delegate(delegate), m_yes(yes)
@@ -36,6 +49,9 @@ PanelAnswers::PanelAnswers(QuillorentAppDelegate &delegate, bool yes) : m_delega
         refuse(m_delegate.warningText01.text());
         m_delegate.warningPanel01Close();
     });
+    answerQuestion(
+        m_delegate.concernsPanel01, [this] { return m_delegate.concernsText01.text(); },
+        [this] { m_delegate.concernsPanel01GoOn(); }, [this] { m_delegate.concernsPanel01Stop(); });
 }
 
 void PanelAnswers::answer(outlets::Panel &panel, std::function<void()> answer)
@@ -53,10 +69,11 @@ void PanelAnswers::answerQuestion(outlets::Panel &panel, std::function<QString()
 {
     answer(panel, [this, text = std::move(text), goOn = std::move(goOn), stop = std::move(stop)] {
         if (m_yes) {
+            printError(text());
             goOn();
             return;
         }
-        refuse(text());
+        refuse(text() + u"\nSay --yes to go on all the same."_qs);
         stop();
     });
 }
@@ -96,15 +113,14 @@ ExitStatus runToEnd(QuillorentAppDelegate &delegate, const Options &options, con
     QObject::connect(&signals, &TerminationSignals::received, &signals,
                      [&] { delegate.buttonKill01(cancelButton); });
     start();
-    if (answers.refused()) return NotStarted;
     ProgressLine line(options.progress);
+    QString told;
     waitUntil([&] {
         line.show(delegate);
+        if (const QString atWork = delegate.toolsText01.text(); atWork != told && !atWork.isEmpty())
+            printError(told = atWork);
         return !delegate.isRunActive();
     });
-
-    const QString console = delegate.consoleTextView01.text();
-    if (!console.isEmpty()) printError(console.trimmed());
-    return console.isEmpty() && delegate.failure().isEmpty() && !delegate.isCancelledByUser() ? Done
-                                                                                              : RunFailed;
+    if (answers.refused()) return NotStarted;
+    return tellEnd(delegate, options);
 }

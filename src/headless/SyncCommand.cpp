@@ -6,9 +6,14 @@
 
 ExitStatus runSync(QuillorentAppDelegate &delegate, const Options &options)
 {
+    const bool deletes = delegate.checkBoxSync1.isOn() || delegate.checkBoxSync2.isOn();
+    if (deletes && !options.yes) {
+        printError(u"The profile deletes files, at the destination or here. Look at it in the window's "
+                   u"preview, then "
+                   "say --yes to do it."_qs);
+        return NotStarted;
+    }
+    delegate.asksBeforeDeleting = false;
     const PanelAnswers answers(delegate, options.yes);
-    const ExitStatus status =
-        runToEnd(delegate, options, answers, delegate.buttonCancel03, [&] { delegate.buttonLaunch03(); });
-    if (status != NotStarted) printError(delegate.outputText03.text());
-    return status;
+    return runToEnd(delegate, options, answers, delegate.buttonCancel03, [&] { delegate.buttonLaunch03(); });
 }

@@ -109,3 +109,25 @@ QString summarize(const Preview &preview)
     return u"%1. %2 would be copied."_qs.arg(
         parts.join(u"; "_qs), QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat));
 }
+
+QString askForDeletions(const Preview &preview)
+{
+    qsizetype there = 0;
+    qsizetype here = 0;
+    for (const PreviewRow &row : preview.rows) {
+        const bool isRemovedHere =
+            row.change == Change::Copy || row.change == Change::Replace || row.change == Change::RemoveHere;
+        if (row.change == Change::Delete) ++there;
+        if (preview.removesSources && isRemovedHere) ++here;
+    }
+    QStringList parts;
+    const auto files = [](qsizetype count) {
+        return count == 1 ? u"1 file"_qs : u"%1 files"_qs.arg(QLocale().toString(count));
+    };
+    if (there > 0) parts.append(u"delete %1 there"_qs.arg(files(there)));
+    if (here > 0) parts.append(u"remove %1 here"_qs.arg(files(here)));
+    if (parts.isEmpty()) return {};
+    QString question = parts.join(u", "_qs) + u'?';
+    question[0] = question[0].toUpper();
+    return question;
+}

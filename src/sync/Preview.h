@@ -28,3 +28,6 @@ struct Preview {
 
 /// How many of which, in one sentence.
 [[nodiscard]] QString summarize(const Preview &preview);
+
+/// A question that names how much would be deleted there and removed here; empty where nothing would be.
+[[nodiscard]] QString askForDeletions(const Preview &preview);

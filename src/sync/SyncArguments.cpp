@@ -61,31 +61,31 @@ QByteArray syncArguments::list(const QStringList &entries)
     return lines.join(u'\n').toUtf8();
 }
 
-QString syncArguments::destination(const SyncRequest &request)
+QString syncArguments::destination(const SyncOrder &order)
 {
-    if (!request.isRemote) return request.destination;
-    const QString user = request.user.isEmpty() ? u"@"_qs : QString();
-    const QString port = request.port.isEmpty() ? QString() : request.port + u':';
-    return user + request.server + u':' + port + request.destination;
+    if (!order.isRemote) return order.destination;
+    const QString user = order.user.isEmpty() ? u"@"_qs : QString();
+    const QString port = order.port.isEmpty() ? QString() : order.port + u':';
+    return user + order.server + u':' + port + order.destination;
 }
 
-QStringList syncArguments::transfer(const SyncRequest &request, const QString &listFile)
+QStringList syncArguments::transfer(const SyncOrder &order, const QString &listFile)
 {
-    if (!request.parameters) return {};
-    QStringList arguments{*request.parameters, request.mode == u"0"_qs ? u"-u"_qs : u"-c"_qs};
-    if (!request.excludes) return arguments;
-    return arguments << *request.excludes << (request.deletesExtra ? u"--delete"_qs : noOption)
-                     << (request.removesSources ? u"--remove-source-files"_qs : noOption)
-                     << u"--files-from="_qs + listFile << rootOf(request.entries) << destination(request);
+    if (!order.parameters) return {};
+    QStringList arguments{*order.parameters, order.mode == u"0"_qs ? u"-u"_qs : u"-c"_qs};
+    if (!order.excludes) return arguments;
+    return arguments << *order.excludes << (order.deletesExtra ? u"--delete"_qs : noOption)
+                     << (order.removesSources ? u"--remove-source-files"_qs : noOption)
+                     << u"--files-from="_qs + listFile << rootOf(order.entries) << destination(order);
 }
 
-QStringList syncArguments::preview(const SyncRequest &request, const QString &listFile)
+QStringList syncArguments::preview(const SyncOrder &order, const QString &listFile)
 {
     constexpr qsizetype behindOptions = 5;
-    QStringList arguments = transfer(request, listFile);
+    QStringList arguments = transfer(order, listFile);
     QStringList added{u"--dry-run"_qs, u"--itemize-changes"_qs, u"--out-format=%i\t%l\t%n"_qs};
     // A file that is at the destination already is removed as well; said twice, the option shows it.
-    if (request.removesSources) added.insert(1, u"--itemize-changes"_qs);
+    if (order.removesSources) added.insert(1, u"--itemize-changes"_qs);
     for (const QString &argument : added)
         arguments.insert(std::min(behindOptions, arguments.size()), argument);
     return arguments;

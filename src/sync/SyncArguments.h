@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sync/SyncRequest.h"
+#include "sync/SyncOrder.h"
 
 /// What rsync is told: the list of entries and the arguments.
 namespace syncArguments {
@@ -21,13 +21,13 @@ namespace syncArguments {
 
 /// The destination, behind the server where there is one. An "@" stands before it only while the user is
 /// empty; a port, if any, becomes the beginning of the path.
-[[nodiscard]] QString destination(const SyncRequest &request);
+[[nodiscard]] QString destination(const SyncOrder &order);
 
 /// The arguments of the transfer. They end before the first value that the settings lack.
-[[nodiscard]] QStringList transfer(const SyncRequest &request, const QString &listFile);
+[[nodiscard]] QStringList transfer(const SyncOrder &order, const QString &listFile);
 
 /// The same with a dry run that reports, a line each, what would be done: the kind of change, the size, the
 /// path, separated by tabs.
-[[nodiscard]] QStringList preview(const SyncRequest &request, const QString &listFile);
+[[nodiscard]] QStringList preview(const SyncOrder &order, const QString &listFile);
 
 } // namespace syncArguments

@@ -79,13 +79,13 @@ constexpr std::array explanations{
                 "ssh has noted the server's key, and what it said counts as a failure. Run it once more."},
 };
 
-bool applies(When when, const SyncRequest &request)
+bool applies(When when, const SyncOrder &order)
 {
     switch (when) {
     case When::WithPort:
-        return request.isRemote && !request.port.isEmpty();
+        return order.isRemote && !order.port.isEmpty();
     case When::WithoutUser:
-        return request.user.isEmpty();
+        return order.user.isEmpty();
     case When::Always:
         break;
     }
@@ -94,18 +94,18 @@ bool applies(When when, const SyncRequest &request)
 
 } // namespace
 
-QString explainSync(const QString &output, const SyncRequest &request)
+QString explainSync(const QString &output, const SyncOrder &order)
 {
     const auto known =
         std::find_if(explanations.begin(), explanations.end(), [&](const Explanation &explanation) {
             const QRegularExpression said(QString::fromUtf8(explanation.said),
                                           QRegularExpression::CaseInsensitiveOption);
-            return applies(explanation.when, request) && output.contains(said);
+            return applies(explanation.when, order) && output.contains(said);
         });
     QString text = known == explanations.end() ? u"rsync was not content; what it said follows."_qs
                                                : QString::fromUtf8(known->meaning)
-                                                     .replace(u"%1"_qs, request.server)
-                                                     .replace(u"%2"_qs, request.destination);
+                                                     .replace(u"%1"_qs, order.server)
+                                                     .replace(u"%2"_qs, order.destination);
     if (output.contains(u"skipping file deletion")) text += u" Nothing was deleted at the destination."_qs;
     return text;
 }

@@ -4,40 +4,40 @@
 
 namespace {
 
-QString whatIsCopied(const SyncRequest &request)
+QString whatIsCopied(const SyncOrder &order)
 {
-    if (request.mode == u"0"_qs)
+    if (order.mode == u"0"_qs)
         return u"Copies what is new or was changed here. Files that are newer at the destination "
                "stay as they are."_qs;
     return u"Copies every file whose content differs, also over a newer one at the destination. "
            "All files are read on both sides, which takes long."_qs;
 }
 
-QString whatIsDeleted(const SyncRequest &request)
+QString whatIsDeleted(const SyncOrder &order)
 {
-    if (request.deletesExtra && request.removesSources)
+    if (order.deletesExtra && order.removesSources)
         return u"MOVES the files: they are removed here once they are at the destination. And "
                "deletes at the destination, inside the listed folders, what is not here: a "
                "second run deletes there what the first one moved there, and then it is nowhere."_qs;
-    if (request.deletesExtra)
+    if (order.deletesExtra)
         return u"Deletes at the destination, inside the listed folders, everything that is not "
                "here any more."_qs;
-    if (request.removesSources)
+    if (order.removesSources)
         return u"MOVES the files: they are removed here once they are at the destination. Folders "
                "stay, empty."_qs;
     return u"Deletes nothing, neither here nor there."_qs;
 }
 
-QStringList trapsOfServer(const SyncRequest &request)
+QStringList trapsOfServer(const SyncOrder &order)
 {
     QStringList traps;
-    if (request.user.isEmpty())
+    if (order.user.isEmpty())
         traps.append(u"Without a user the server is sent an empty name, which it refuses: fill one in. "
                      "Which name is used is for ~/.ssh/config to say; otherwise it is your own."_qs);
-    if (!request.port.isEmpty())
+    if (!order.port.isEmpty())
         traps.append(u"The port becomes the beginning of the folder's path on the server. Leave it "
                      "empty, and put it into ~/.ssh/config."_qs);
-    if (request.entries.size() == 1)
+    if (order.entries.size() == 1)
         traps.append(
             u"The folder must exist on the server: a single file would be stored under its name instead."_qs);
     return traps;
@@ -48,15 +48,15 @@ bool isInside(const QString &path, const QString &folder)
     return path == folder || path.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
 }
 
-QStringList trapsOfEntries(const SyncRequest &request)
+QStringList trapsOfEntries(const SyncOrder &order)
 {
     QStringList traps;
-    for (const QString &entry : syncArguments::misnamedEntries(request.entries))
+    for (const QString &entry : syncArguments::misnamedEntries(order.entries))
         traps.append(u"\"%1\" will not be found: its path holds that of the common folder \"%2\" in "
                      "the wrong place. Synchronise it from a profile of its own."_qs.arg(
-                         entry, syncArguments::rootOf(request.entries)));
-    for (const QString &entry : request.entries)
-        if (!request.isRemote && isInside(request.destination, entry))
+                         entry, syncArguments::rootOf(order.entries)));
+    for (const QString &entry : order.entries)
+        if (!order.isRemote && isInside(order.destination, entry))
             traps.append(
                 u"The destination lies inside \"%1\", so that each run copies the copies of the last one."_qs
                     .arg(entry));
@@ -65,10 +65,10 @@ QStringList trapsOfEntries(const SyncRequest &request)
 
 } // namespace
 
-QString describeSync(const SyncRequest &request)
+QString describeSync(const SyncOrder &order)
 {
-    QStringList paragraphs{whatIsCopied(request), whatIsDeleted(request)};
-    if (request.isRemote) paragraphs += trapsOfServer(request);
-    paragraphs += trapsOfEntries(request);
+    QStringList paragraphs{whatIsCopied(order), whatIsDeleted(order)};
+    if (order.isRemote) paragraphs += trapsOfServer(order);
+    paragraphs += trapsOfEntries(order);
     return paragraphs.join(u'\n');
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "sync/SyncRequest.h"
+#include "sync/SyncOrder.h"
 
 /// What a synchronisation will do, in words for the person who is about to start it: one paragraph for what
 /// is copied, what is deleted, and each trap in the settings. Looks at no file.
-[[nodiscard]] QString describeSync(const SyncRequest &request);
+[[nodiscard]] QString describeSync(const SyncOrder &order);

@@ -1,135 +1,152 @@
 #include "sync/SyncRun.h"
 
-#include "app/Clock.h"
-#include "app/QuillorentAppDelegate.h"
+#include "runs/Clock.h"
+#include "runs/Run.h"
 #include "sync/ListFile.h"
-#include "sync/Preview.h"
 #include "sync/SyncArguments.h"
 #include "sync/SyncExplanation.h"
-#include "sync/SyncWatch.h"
-#include "tools/RegisteredTool.h"
-#include "tools/Threads.h"
+#include "sync/SyncFigures.h"
+#include "tools/ToolRun.h"
 
 namespace {
 
-void begin(const QString &what)
+class SyncRun : public Run {
+public:
+    enum class Kind { Transfer, Preview };
+    SyncRun(const SyncOrder &order, RunState &state, RunMonitor &monitor, SyncEvents &events, Kind kind);
+
+    void runRsync();
+
+protected:
+    void work() override;
+    [[nodiscard]] QString summary() const override;
+
+private:
+    [[nodiscard]] ToolResult rsync();
+    void showFailure(const ToolResult &result);
+    void noteSilentFailure(const ToolResult &result);
+    void readPreviewFrom(const ToolResult &result);
+
+    const SyncOrder &m_order;
+    SyncEvents &m_events;
+    const Kind m_kind;
+};
+
+const QString item = u"rsync"_qs;
+
+RunRecord recordOf(const SyncOrder &order, SyncRun::Kind kind)
 {
-    QuillorentAppDelegate &delegate = theDelegate();
-    delegate.setCancelFlag(false);
-    delegate.beginRun();
-    delegate.buttonCancel03.setTitle(u"Cancel"_qs);
-    delegate.outputText03.setText({});
-    delegate.progress03progressLabel01.setText(what);
-    delegate.progress03progressLabel02.setText(u"Time: "_qs + clockText({}));
-    delegate.progressPanel03.beginSheet();
-    delegate.consoleTextView01.setText({});
-    delegate.progress03progressIndicator01.setIndeterminate(true);
-    delegate.progress03progressIndicator01.startAnimation();
-    detachThread(u"sync-watch"_qs, watchSync);
+    return {.kind = kind == SyncRun::Kind::Preview ? QString() : u"sync"_qs,
+            .profile = order.profile,
+            .folder = syncArguments::destination(order),
+            .began = QDateTime::currentDateTimeUtc(),
+            .items = {{.path = item}}};
 }
 
-void end(const QString &summary)
+SyncRun::SyncRun(const SyncOrder &order, RunState &state, RunMonitor &monitor, SyncEvents &events, Kind kind)
+    : Run(state, monitor, recordOf(order, kind), {}), m_order(order), m_events(events), m_kind(kind)
 {
-    QuillorentAppDelegate &delegate = theDelegate();
-    delegate.progress03progressIndicator01.stopAnimation();
-    delegate.outputText03.setText(summary);
-    delegate.progressPanel03.close();
-    // Who cancelled knows why rsync complains.
-    if (!delegate.consoleTextView01.text().isEmpty() && !delegate.isCancelledByUser())
-        delegate.consolePanel01.orderFront();
-    delegate.endRun();
 }
 
-using Arguments = QStringList (*)(const SyncRequest &, const QString &);
-
-/// Writes the list, and gives rsync the arguments that `make` makes with it.
-ToolResult runRsync(const SyncRequest &request, Arguments make)
+void SyncRun::work()
 {
-    QuillorentAppDelegate &delegate = theDelegate();
-    if (delegate.cancelFlag()) return {u"Cancelled before it began.\n"_qs, false};
-    const ListFile list = makeListFile(syncArguments::list(request.entries));
+    // Measuring the destination takes long, and may outlive the run by a moment.
+    const SyncFigures figures(m_order, m_state);
+    if (!launchWorker(u"sync"_qs, item, [this] { runRsync(); })) return;
+    figures.watch([this](const QString &text) { m_events.sawFigures(text); });
+}
+
+void SyncRun::runRsync()
+{
+    m_state.setStage(item, m_kind == Kind::Preview ? u"comparing"_qs : u"copying"_qs);
+    const ToolResult result = rsync();
+    if (m_kind == Kind::Preview)
+        readPreviewFrom(result);
+    else if (!result.isSilent())
+        showFailure(result);
+    else
+        noteSilentFailure(result);
+    const QStringList misnamed = syncArguments::misnamedEntries(m_order.entries);
+    if (m_kind == Kind::Transfer && !misnamed.isEmpty())
+        m_state.setFailure(u"Not found"_qs, misnamed.join(u", "_qs));
+    journal().changeItem(0, [this](ItemRecord &record) {
+        record.outcome = m_state.failure().isEmpty() ? Outcome::Succeeded : Outcome::Failed;
+        record.reason = m_state.failure();
+    });
+    m_state.endItem(item);
+}
+
+/// Writes the list, and runs rsync on it.
+ToolResult SyncRun::rsync()
+{
+    if (isCancelled()) return {u"Cancelled before it began.\n"_qs, false};
+    const ListFile list = makeListFile(syncArguments::list(m_order.entries));
     if (!list.reason.isEmpty()) return {list.reason + u'\n', false};
-    delegate.tempFile.set(list.path);
-    return runRegisteredTool(u"RSync"_qs, make(request, list.path));
+    m_events.listed(list.path);
+    const auto arguments = m_kind == Kind::Preview ? syncArguments::preview : syncArguments::transfer;
+    return runTool(m_order.tool, arguments(m_order, list.path));
 }
 
 /// What rsync said on the console, below a sentence on what it means.
-void showFailure(const ToolResult &result, const SyncRequest &request)
+void SyncRun::showFailure(const ToolResult &result)
 {
-    QuillorentAppDelegate &delegate = theDelegate();
     QString explanation;
-    if (delegate.isCancelledByUser())
+    if (m_state.isCancelledByUser())
         explanation = u"Cancelled."_qs;
     else if (!result.output)
         explanation = u"rsync's message is not readable text."_qs;
     else if (result.wasStarted)
-        explanation = explainSync(result.text(), request);
-    delegate.consoleTextView01.setText({});
-    delegate.consoleTextView01.append(explanation + u"\nRSync ERROR : \n"_qs + result.text() +
-                                      u"\n *** ERROR! *** "_qs);
-    delegate.setFailure(u"rsync"_qs, explanation.isEmpty() ? result.text().trimmed() : explanation);
+        explanation = explainSync(result.text(), m_order);
+    m_events.failed(explanation + u"\nRSync ERROR : \n"_qs + result.text() + u"\n *** ERROR! *** "_qs);
+    m_state.setFailure(item, explanation.isEmpty() ? result.text().trimmed() : explanation);
 }
 
 /// Where nothing was said. What goes wrong on a server may end rsync before the words for it have arrived;
 /// its exit status tells even then.
-void noteSilentFailure(const ToolResult &result)
+void SyncRun::noteSilentFailure(const ToolResult &result)
 {
     if (result.exitStatus == 0) return;
-    theDelegate().setFailure(u"rsync"_qs,
-                             u"It ended with status %1 and did not say why; not everything is copied. "
+    m_state.setFailure(item, u"It ended with status %1 and did not say why; not everything is copied. "
                              "Run it again."_qs.arg(result.exitStatus));
 }
 
-QString summaryOfSync(const SyncRequest &request)
+void SyncRun::readPreviewFrom(const ToolResult &result)
 {
-    const QuillorentAppDelegate &delegate = theDelegate();
-    if (delegate.isCancelledByUser())
+    const auto preview = std::make_shared<const Preview>(
+        readPreview(result.wasStarted ? result.text() : QString(), m_order.removesSources));
+    if (!result.wasStarted || !result.output)
+        showFailure(result);
+    else if (!preview->complaints.isEmpty())
+        showFailure({preview->complaints});
+    else
+        noteSilentFailure(result);
+    m_events.previewed(preview);
+}
+
+QString SyncRun::summary() const
+{
+    if (m_kind == Kind::Preview) return m_state.isCancelledByUser() ? u"Preview cancelled."_qs : QString();
+    if (m_state.isCancelledByUser())
         return u"Cancelled. What was copied stays; the next run goes on from there."_qs;
-    if (!delegate.failure().isEmpty()) return u"Failed. "_qs + delegate.failure();
+    if (!m_state.failure().isEmpty()) return u"Failed. "_qs + m_state.failure();
     return u"Synchronised %1 in %2."_qs.arg(
-        request.entries.size() == 1 ? u"1 entry"_qs : u"%1 entries"_qs.arg(request.entries.size()),
-        clockText(delegate.elapsed()));
+        m_order.entries.size() == 1 ? u"1 entry"_qs : u"%1 entries"_qs.arg(m_order.entries.size()),
+        clockText(m_state.elapsed()));
 }
 
 } // namespace
 
-void quillorentLibrary::launchSync(const QString &)
+void runSync(const SyncOrder &order, RunState &state, RunMonitor &monitor, SyncEvents &events)
 {
-    QuillorentAppDelegate &delegate = theDelegate();
-    begin(u"Synchronising…"_qs);
-    runProcess3({delegate.syncTextSourcePath.text(), delegate.syncTextDestPath.text()});
-    end(summaryOfSync(readSyncRequest()));
+    SyncRun(order, state, monitor, events, SyncRun::Kind::Transfer).execute();
 }
 
-void quillorentLibrary::runProcess3(const QStringList &)
+void runPreview(const SyncOrder &order, RunState &state, RunMonitor &monitor, SyncEvents &events)
 {
-    const SyncRequest request = readSyncRequest();
-    const ToolResult result = runRsync(request, syncArguments::transfer);
-    if (!result.isSilent())
-        showFailure(result, request);
-    else
-        noteSilentFailure(result);
-    if (const QStringList misnamed = syncArguments::misnamedEntries(request.entries); !misnamed.isEmpty())
-        theDelegate().setFailure(u"Not found"_qs, misnamed.join(u", "_qs));
+    SyncRun(order, state, monitor, events, SyncRun::Kind::Preview).execute();
 }
 
-void quillorentLibrary::launchPreview(const QString &)
+void runRsyncAlone(const SyncOrder &order, RunState &state, RunMonitor &monitor, SyncEvents &events)
 {
-    QuillorentAppDelegate &delegate = theDelegate();
-    begin(u"Comparing both sides…"_qs);
-    const SyncRequest request = readSyncRequest();
-    const ToolResult result = runRsync(request, syncArguments::preview);
-    const auto preview = std::make_shared<const Preview>(
-        readPreview(result.wasStarted ? result.text() : QString(), request.removesSources));
-    if (!result.wasStarted || !result.output)
-        showFailure(result, request);
-    else if (!preview->complaints.isEmpty())
-        showFailure({preview->complaints}, request);
-    else
-        noteSilentFailure(result);
-    delegate.showPreview(preview);
-    const bool isCancelled = delegate.isCancelledByUser();
-    const bool hasResult = !preview->rows.empty() || delegate.failure().isEmpty();
-    end(isCancelled ? u"Preview cancelled."_qs : QString());
-    if (hasResult && !isCancelled) delegate.previewPanel01.beginSheet();
+    SyncRun(order, state, monitor, events, SyncRun::Kind::Transfer).runRsync();
 }

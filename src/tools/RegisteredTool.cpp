@@ -1,8 +1,25 @@
 #include "tools/RegisteredTool.h"
 
-#include "app/QuillorentAppDelegate.h"
+namespace {
+
+std::function<plist::Dictionary()> &toolSettings()
+{
+    static std::function<plist::Dictionary()> settings = [] { return plist::Dictionary(); };
+    return settings;
+}
+
+} // namespace
+
+void setToolSettings(std::function<plist::Dictionary()> settings) { toolSettings() = std::move(settings); }
+
+std::optional<QString> toolSetting(const QString &table, const QString &name)
+{
+    return toolSettings()().dictionary(table).string(name);
+}
+
+QString registeredTool(const QString &name) { return toolSetting(u"external"_qs, name).value_or(QString()); }
 
 ToolResult runRegisteredTool(const QString &name, const QStringList &arguments)
 {
-    return runTool(theDelegate().setting(u"external"_qs, name).value_or(QString()), arguments);
+    return runTool(registeredTool(name), arguments);
 }

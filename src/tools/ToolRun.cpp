@@ -87,12 +87,14 @@ private:
 };
 
 /// 0, or the error that kept the tool from starting.
-int spawn(pid_t &child, const ArgumentVector &arguments, int output)
+int spawn(pid_t &child, const ArgumentVector &arguments, int output, int inherited)
 {
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
     posix_spawn_file_actions_adddup2(&actions, output, STDERR_FILENO);
+    // Onto itself: that takes the mark from it which would close it.
+    if (inherited >= 0) posix_spawn_file_actions_adddup2(&actions, inherited, inherited);
 
     // What this program blocks or ignores is no business of the tool.
     sigset_t none;
@@ -122,10 +124,10 @@ class RunningTools {
 public:
     /// 0, or the error that kept the tool from starting. Starting and noting are one step: a tool that
     /// endTools() did not know of would stay.
-    int start(pid_t &child, const ArgumentVector &arguments, int output)
+    int start(pid_t &child, const ArgumentVector &arguments, int output, int inherited)
     {
         const std::lock_guard lock(m_mutex);
-        const int error = spawn(child, arguments, output);
+        const int error = spawn(child, arguments, output, inherited);
         if (!error) m_tools.push_back(child);
         return error;
     }
@@ -204,13 +206,14 @@ QString describeEnd(const QString &tool, int status)
 
 } // namespace
 
-ToolResult runTool(const QString &tool, const QStringList &arguments)
+ToolResult runTool(const QString &tool, const QStringList &arguments, int inherited)
 {
     OutputPipe pipe;
     if (pipe.error()) return notStarted(tool, pipe.error());
 
     pid_t child = 0;
-    const int error = runningTools().start(child, ArgumentVector(tool, arguments), pipe.writeEnd());
+    const int error =
+        runningTools().start(child, ArgumentVector(tool, arguments), pipe.writeEnd(), inherited);
     if (error) return notStarted(tool, error);
 
     pipe.closeWriteEnd();

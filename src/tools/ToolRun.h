@@ -28,8 +28,8 @@ struct ToolResult {
 
 /// Runs `tool` (an absolute path) to its end and blocks the calling thread. No shell takes part: each
 /// argument arrives as it is, empty ones too. The child has no controlling terminal, so that it can't stop
-/// for a prompt.
-[[nodiscard]] ToolResult runTool(const QString &tool, const QStringList &arguments);
+/// for a prompt. It inherits the descriptor `inherited` as it is, unless that is -1.
+[[nodiscard]] ToolResult runTool(const QString &tool, const QStringList &arguments, int inherited = -1);
 
 /// Ends every tool that runs, with all that it started: asks first, and kills what is still there after
 /// `grace`. Blocks until then at the longest. Any thread may call.

@@ -1,9 +1,7 @@
 #include "tools/Verification.h"
 
-#include "app/QuillorentAppDelegate.h"
 #include "files/Names.h"
-#include "tools/Threads.h"
-#include "tools/ToolRun.h"
+#include "tools/RegisteredTool.h"
 
 bool quillorentLibrary::test(const QString &launchPath, const QString &expectedHelp,
                              const QString &expectedName)
@@ -14,38 +12,8 @@ bool quillorentLibrary::test(const QString &launchPath, const QString &expectedH
 
 bool quillorentLibrary::testAll(const QString &name)
 {
-    const QuillorentAppDelegate &delegate = theDelegate();
-    const auto expectedName = delegate.setting(u"executables"_qs, name);
-    const auto expectedHelp = delegate.setting(u"verifiers"_qs, name);
-    const auto launchPath = delegate.setting(u"external"_qs, name);
+    const auto expectedName = toolSetting(u"executables"_qs, name);
+    const auto expectedHelp = toolSetting(u"verifiers"_qs, name);
+    const auto launchPath = toolSetting(u"external"_qs, name);
     return launchPath && expectedHelp && expectedName && test(*launchPath, *expectedHelp, *expectedName);
-}
-
-bool quillorentLibrary::compliance()
-{
-    QuillorentAppDelegate &delegate = theDelegate();
-    ++delegate.verifications;
-    delegate.compliant.set(0);
-    int tools = 0;
-    int passing = 0;
-    for (const QString &name : delegate.configPlist().dictionary(u"external"_qs).keys()) {
-        ++tools;
-        if (testAll(name)) ++passing;
-    }
-    delegate.compliant.set(passing);
-    delegate.compliantBase.set(tools);
-    --delegate.verifications;
-
-    // Counts are whole: both thresholds just below the maximum make anything less than all of them critical.
-    delegate.level01.setState({.value = double(passing),
-                               .maximum = double(tools),
-                               .warning = tools - 0.95,
-                               .critical = tools - 0.96});
-    delegate.pathTableView.reloadData();
-    return tools == passing;
-}
-
-void quillorentLibrary::updateCompliance()
-{
-    detachThread(u"verify-tools"_qs, [] { theDelegate().compliance.set(compliance()); });
 }

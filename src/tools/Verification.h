@@ -11,11 +11,4 @@ namespace quillorentLibrary {
 /// The same for a registered tool, by the settings. A tool without an entry for either text fails.
 [[nodiscard]] bool testAll(const QString &name);
 
-/// Verifies every registered tool, one after another on the calling thread, and shows the outcome: the
-/// controller's counts, the level indicator, the table. Says whether every tool passed.
-bool compliance();
-
-/// compliance() on a thread of its own; the controller's `compliance` takes the result.
-void updateCompliance();
-
 } // namespace quillorentLibrary

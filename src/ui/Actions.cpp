@@ -137,6 +137,9 @@ constexpr ActionRow table[] = {
     {"previewButton01"_name, send<&Controller::previewButton01Action>},
     {"buttonLaunch03"_name, send<&Controller::buttonLaunch03>},
 
+    {"toolsCancel01"_name, send<&Controller::toolsCancel01Action>},
+    {"clearRemove01"_name, send<&Controller::clearRemove01Action>},
+
     {"settingsSaveButton"_name, send<&Controller::saveSettings1Action>},
     {"consoleShowButton"_name, showConsole},
 
@@ -190,7 +193,7 @@ constexpr ActionRow table[] = {
     {"buttonLaunch02b"_name, send<&Controller::buttonLaunch02b>},
     {"concernsPanel01"_name, send<&Controller::concernsPanel01Stop>},
     {"concernsPanel01Stop"_name, send<&Controller::concernsPanel01Stop>},
-    {"buttonLaunch02c"_name, send<&Controller::buttonLaunch02c>},
+    {"concernsPanel01GoOn"_name, send<&Controller::concernsPanel01GoOn>},
     {"extractPanel01"_name, send<&Controller::stopProcess02b>},
     {"stopProcess02b"_name, send<&Controller::stopProcess02b>},
     {"consolePanel01"_name, closeConsole},

@@ -1,7 +1,7 @@
 #include "ui/ArchiveList.h"
 
+#include "app/extraction/ExtractTable.h"
 #include "extract/ArchiveName.h"
-#include "extract/ExtractTable.h"
 #include "ui/Appearance.h"
 
 #include <QFileInfo>

@@ -1,6 +1,7 @@
 #include "ui/Derived.h"
 
 #include "app/QuillorentAppDelegate.h"
+#include "app/synchronisation/SyncOrders.h"
 #include "keys/Strength.h"
 #include "sync/SyncMeaning.h"
 #include "ui/Protection.h"
@@ -79,8 +80,7 @@ void showFolders(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
 void showExtraction(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
 {
     enableBySelection(queue, all.extractTableView, *form.extractButton02);
-    // The end of a run is told there.
-    queue.watch(all.outputText02,
+    queue.watch(all.openFolderButton,
                 [&] { form.openFolderButton->setEnabled(!all.extractedFolder().isEmpty()); });
 }
 
@@ -106,11 +106,11 @@ void showSynchronisation(Controller &all, Ui::MainWindow &form, RefreshQueue &qu
     queue.watch({&all.syncTableView, &all.syncTextDestPath, &all.syncSelector01, &all.checkBoxSync1,
                  &all.checkBoxSync2, &all.syncCheck01, &all.syncUser, &all.syncServer, &all.syncPort},
                 [&] {
-                    const SyncRequest request = readSyncRequest();
+                    const SyncOrder order = readSyncOrder();
                     QFont font = form.syncMeaning->font();
-                    font.setBold(request.deletesExtra && request.removesSources);
+                    font.setBold(order.deletesExtra && order.removesSources);
                     form.syncMeaning->setFont(font);
-                    form.syncMeaning->setText(describeSync(request));
+                    form.syncMeaning->setText(describeSync(order));
                 });
 }
 

@@ -1,7 +1,7 @@
 #include "ui/ProgressFigures.h"
 
-#include "app/Clock.h"
-#include "app/RunState.h"
+#include "runs/Clock.h"
+#include "runs/RunState.h"
 #include "ui/Appearance.h"
 
 #include <QHeaderView>

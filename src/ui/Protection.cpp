@@ -1,6 +1,6 @@
 #include "ui/Protection.h"
 
-#include "keys/PasswordTab.h"
+#include "app/passwords/PasswordTab.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

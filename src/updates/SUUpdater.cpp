@@ -1,6 +1,5 @@
 #include "updates/SUUpdater.h"
 
-#include "app/QuillorentAppDelegate.h"
 #include "updates/Appcast.h"
 
 #include <QCoreApplication>
@@ -28,16 +27,6 @@ bool isTrustworthy(const QUrl &feed)
     return feed.scheme() == u"https" || (feed.scheme() == u"http" && QHostAddress(feed.host()).isLoopback());
 }
 
-void show(const Release &release)
-{
-    QuillorentAppDelegate &delegate = theDelegate();
-    delegate.updateText01.setText(
-        u"Version %1 is there. You have version %2."_qs.arg(release.version, ownVersion));
-    delegate.updateNotes01.setText(release.notes);
-    delegate.downloadButton01.setAlternateTitle(release.page.toString());
-    delegate.updatePanel01.orderFront();
-}
-
 } // namespace
 
 SUUpdater::SUUpdater(QObject *parent) : QObject(parent)
@@ -63,7 +52,7 @@ void SUUpdater::setAutomaticallyChecksForUpdates(bool automatically)
 
 void SUUpdater::checkForUpdatesInBackground()
 {
-    const QString address = theDelegate().setting(u"updates"_qs, u"feed"_qs).value_or(QString());
+    const QString address = m_client.feed();
     if (address.isEmpty()) return;
     const QUrl feed(address, QUrl::StrictMode);
     if (!isTrustworthy(feed)) {
@@ -94,10 +83,11 @@ void SUUpdater::readFeed(QNetworkReply &reply)
     judge(reply.readAll());
 }
 
-void SUUpdater::judge(const QByteArray &feed)
+void SUUpdater::judge(const QByteArray &feed) const
 {
     const AppcastContent content = readAppcast(feed);
     if (!content.reason.isEmpty())
         qCInfo(logUpdates).noquote() << "The feed of updates can't be read:" << content.reason;
-    if (content.newest && compareVersions(content.newest->version, ownVersion) > 0) show(*content.newest);
+    if (content.newest && compareVersions(content.newest->version, ownVersion) > 0)
+        m_client.showRelease(*content.newest);
 }

@@ -1,4 +1,4 @@
-#include "app/RunState.h"
+#include "runs/RunState.h"
 
 #include <gtest/gtest.h>
 #include <thread>

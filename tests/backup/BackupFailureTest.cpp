@@ -1,6 +1,6 @@
 #include "Stub.h"
 #include "TestProgram.h"
-#include "app/Pauses.h"
+#include "runs/Pauses.h"
 #include "tools/ToolRun.h"
 
 #include <gtest/gtest.h>

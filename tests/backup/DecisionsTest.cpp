@@ -1,4 +1,4 @@
-#include "backup/Decisions.h"
+#include "app/folders/Decisions.h"
 
 #include "TestProgram.h"
 

@@ -1,4 +1,4 @@
-#include "extract/Candidates.h"
+#include "app/extraction/ExtractDecisions.h"
 
 #include "ExtractionTest.h"
 

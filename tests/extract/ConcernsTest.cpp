@@ -2,7 +2,7 @@
 
 #include "ExtractionTest.h"
 
-#include "extract/Room.h"
+#include "files/Room.h"
 
 #include <QDir>
 

@@ -1,7 +1,7 @@
 #include "ExtractionTest.h"
 
 #include "Tree.h"
-#include "app/Pauses.h"
+#include "runs/Pauses.h"
 #include "tools/ToolRun.h"
 
 #include <QDir>

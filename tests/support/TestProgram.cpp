@@ -2,7 +2,7 @@
 
 #include "InMemoryKeychain.h"
 
-#include "app/Pauses.h"
+#include "runs/Pauses.h"
 #include "settings/Paths.h"
 #include "tools/Threads.h"
 

@@ -46,41 +46,41 @@ TEST(SyncList, NamesEntriesBelowTheirCommonFolder)
 
 TEST(SyncArguments, StandInTheirOrder)
 {
-    const SyncRequest plain{.entries = {u"/a/b"_qs},
+    const SyncOrder plain{.entries = {u"/a/b"_qs},
                             .destination = u"/d"_qs,
                             .mode = u"0"_qs,
                             .parameters = u"-ar"_qs,
                             .excludes = u"--exclude=x"_qs};
     struct Case {
-        std::function<void(SyncRequest &)> change;
+        std::function<void(SyncOrder &)> change;
         const char *arguments;
     };
     for (const Case &c : {
-             Case{[](SyncRequest &) {}, "-ar|-u|--exclude=x|-h|-h|--files-from=/l|/a|/d"},
-             Case{[](SyncRequest &r) { r.deletesExtra = true; },
+             Case{[](SyncOrder &) {}, "-ar|-u|--exclude=x|-h|-h|--files-from=/l|/a|/d"},
+             Case{[](SyncOrder &r) { r.deletesExtra = true; },
                   "-ar|-u|--exclude=x|--delete|-h|--files-from=/l|/a|/d"},
-             Case{[](SyncRequest &r) {
+             Case{[](SyncOrder &r) {
                       r.removesSources = true;
                       r.mode.reset();
                       r.excludes = u""_qs;
                   },
                   "-ar|-c||-h|--remove-source-files|--files-from=/l|/a|/d"},
-             Case{[](SyncRequest &r) { r.excludes.reset(); }, "-ar|-u"},
-             Case{[](SyncRequest &r) { r.parameters.reset(); }, ""},
-             Case{[](SyncRequest &r) {
+             Case{[](SyncOrder &r) { r.excludes.reset(); }, "-ar|-u"},
+             Case{[](SyncOrder &r) { r.parameters.reset(); }, ""},
+             Case{[](SyncOrder &r) {
                       r.isRemote = true;
                       r.user = u"u"_qs;
                       r.server = u"h"_qs;
                       r.port = u"22"_qs;
                   },
                   "-ar|-u|--exclude=x|-h|-h|--files-from=/l|/a|h:22:/d"},
-             Case{[](SyncRequest &r) {
+             Case{[](SyncOrder &r) {
                       r.isRemote = true;
                       r.server = u"h"_qs;
                   },
                   "-ar|-u|--exclude=x|-h|-h|--files-from=/l|/a|@h:/d"},
          }) {
-        SyncRequest request = plain;
+        SyncOrder request = plain;
         c.change(request);
         EXPECT_EQ(joined(syncArguments::transfer(request, u"/l"_qs)), c.arguments);
         // A preview has the same arguments in the same order, and never lacks the dry run.

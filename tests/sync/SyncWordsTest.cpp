@@ -6,14 +6,14 @@
 
 namespace {
 
-SyncRequest local()
+SyncOrder local()
 {
     return {.entries = {u"/a/b"_qs, u"/a/c"_qs}, .destination = u"/d"_qs, .mode = u"0"_qs};
 }
 
-SyncRequest remote()
+SyncOrder remote()
 {
-    SyncRequest request = local();
+    SyncOrder request = local();
     request.isRemote = true;
     request.user = u"me"_qs;
     request.server = u"box"_qs;
@@ -21,8 +21,8 @@ SyncRequest remote()
 }
 
 struct Change {
-    SyncRequest request;
-    std::function<void(SyncRequest &)> change;
+    SyncOrder request;
+    std::function<void(SyncOrder &)> change;
     QString words;
 };
 
@@ -31,23 +31,23 @@ struct Change {
 TEST(SyncWords, SayWhatTheSwitchesDo)
 {
     for (const Change &c : {
-             Change{local(), [](SyncRequest &) {}, u"Deletes nothing"_qs},
-             Change{local(), [](SyncRequest &) {}, u"newer at the destination stay"_qs},
-             Change{local(), [](SyncRequest &r) { r.mode = u"1"_qs; }, u"also over a newer one"_qs},
-             Change{local(), [](SyncRequest &r) { r.deletesExtra = true; },
+             Change{local(), [](SyncOrder &) {}, u"Deletes nothing"_qs},
+             Change{local(), [](SyncOrder &) {}, u"newer at the destination stay"_qs},
+             Change{local(), [](SyncOrder &r) { r.mode = u"1"_qs; }, u"also over a newer one"_qs},
+             Change{local(), [](SyncOrder &r) { r.deletesExtra = true; },
                     u"Deletes at the destination, inside the listed folders"_qs},
-             Change{local(), [](SyncRequest &r) { r.removesSources = true; }, u"removed here"_qs},
-             Change{local(), [](SyncRequest &r) { r.deletesExtra = r.removesSources = true; },
+             Change{local(), [](SyncOrder &r) { r.removesSources = true; }, u"removed here"_qs},
+             Change{local(), [](SyncOrder &r) { r.deletesExtra = r.removesSources = true; },
                     u"a second run deletes there what the first one moved there"_qs},
-             Change{local(), [](SyncRequest &r) { r.destination = u"/a/b/copy"_qs; },
+             Change{local(), [](SyncOrder &r) { r.destination = u"/a/b/copy"_qs; },
                     u"lies inside \"/a/b\""_qs},
-             Change{local(), [](SyncRequest &r) { r.entries.append(u"/x/a/y"_qs); },
+             Change{local(), [](SyncOrder &r) { r.entries.append(u"/x/a/y"_qs); },
                     u"\"/x/a/y\" will not be found"_qs},
-             Change{remote(), [](SyncRequest &r) { r.user.clear(); }, u"fill one in"_qs},
-             Change{remote(), [](SyncRequest &r) { r.port = u"22"_qs; }, u"The port becomes"_qs},
-             Change{remote(), [](SyncRequest &r) { r.entries.removeLast(); }, u"must exist on the server"_qs},
+             Change{remote(), [](SyncOrder &r) { r.user.clear(); }, u"fill one in"_qs},
+             Change{remote(), [](SyncOrder &r) { r.port = u"22"_qs; }, u"The port becomes"_qs},
+             Change{remote(), [](SyncOrder &r) { r.entries.removeLast(); }, u"must exist on the server"_qs},
          }) {
-        SyncRequest request = c.request;
+        SyncOrder request = c.request;
         EXPECT_EQ(describeSync(request).count(u'\n'), 1) << "a trap where there is none";
         c.change(request);
         EXPECT_TRUE(describeSync(request).contains(c.words)) << qPrintable(describeSync(request));
@@ -59,17 +59,17 @@ TEST(SyncWords, SayWhatIsMissing)
     EXPECT_EQ(whatIsMissing(local()), QString());
     EXPECT_EQ(whatIsMissing(remote()), QString());
     for (const Change &c : {
-             Change{local(), [](SyncRequest &r) { r.entries.clear(); }, u"list is empty"_qs},
-             Change{local(), [](SyncRequest &r) { r.entries.append(u"b/c"_qs); },
+             Change{local(), [](SyncOrder &r) { r.entries.clear(); }, u"list is empty"_qs},
+             Change{local(), [](SyncOrder &r) { r.entries.append(u"b/c"_qs); },
                     u"\"b/c\" is no absolute"_qs},
-             Change{local(), [](SyncRequest &r) { r.entries.append(u"/a/x\ny"_qs); }, u"line break"_qs},
-             Change{local(), [](SyncRequest &r) { r.entries.append(u"/a/x\ry"_qs); }, u"line break"_qs},
-             Change{local(), [](SyncRequest &r) { r.destination.clear(); }, u"No destination"_qs},
-             Change{local(), [](SyncRequest &r) { r.destination = u"-d"_qs; }, u"no absolute path"_qs},
-             Change{remote(), [](SyncRequest &r) { r.server.clear(); }, u"No server"_qs},
-             Change{remote(), [](SyncRequest &r) { r.server = u"-e sh"_qs; }, u"no server's name"_qs},
+             Change{local(), [](SyncOrder &r) { r.entries.append(u"/a/x\ny"_qs); }, u"line break"_qs},
+             Change{local(), [](SyncOrder &r) { r.entries.append(u"/a/x\ry"_qs); }, u"line break"_qs},
+             Change{local(), [](SyncOrder &r) { r.destination.clear(); }, u"No destination"_qs},
+             Change{local(), [](SyncOrder &r) { r.destination = u"-d"_qs; }, u"no absolute path"_qs},
+             Change{remote(), [](SyncOrder &r) { r.server.clear(); }, u"No server"_qs},
+             Change{remote(), [](SyncOrder &r) { r.server = u"-e sh"_qs; }, u"no server's name"_qs},
          }) {
-        SyncRequest request = c.request;
+        SyncOrder request = c.request;
         c.change(request);
         EXPECT_TRUE(whatIsMissing(request).contains(c.words)) << qPrintable(whatIsMissing(request));
     }
@@ -80,13 +80,13 @@ TEST(SyncWords, SayWhatIsMissing)
 // What can't be provoked on every machine, as the tools say it.
 TEST(SyncWords, ExplainWhatRsyncSays)
 {
-    const SyncRequest withPort = [] {
-        SyncRequest request = remote();
+    const SyncOrder withPort = [] {
+        SyncOrder request = remote();
         request.port = u"22"_qs;
         return request;
     }();
     struct Case {
-        SyncRequest request;
+        SyncOrder request;
         const char *output;
         QString words;
     };

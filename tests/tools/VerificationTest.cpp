@@ -1,8 +1,9 @@
-#include "tools/Verification.h"
+#include "app/tools/Compliance.h"
 
 #include "Stub.h"
 #include "TestProgram.h"
-#include "tools/PathTable.h"
+#include "app/tools/PathTable.h"
+#include "tools/Verification.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,145 @@
+#include "app/Start.h"
+#include "app/QuillorentAppDelegate.h"
+#include "app/SheetMonitor.h"
+#include "runs/Aftermath.h"
+#include "runs/Pauses.h"
+#include "tools/Threads.h"
+#include "tools/ToolRun.h"
+
+#include <QCoreApplication>
+#include <thread>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+QString sentences(const QStringList &list)
+{
+    constexpr qsizetype most = 12; // as many as a person reads
+    if (list.size() <= most) return list.join(u"\n\n"_qs);
+    return list.first(most).join(u"\n\n"_qs) + u"\n\n… and %1 more."_qs.arg(list.size() - most);
+}
+
+} // namespace
+
+/// Looks, asks and works; the body of the run's own thread.
+void QuillorentAppDelegate::carryOut(const RunStart &start)
+{
+    SheetMonitor monitor(*this, start.sheet);
+    // Most looks take no time, and a sheet that flashes up says nothing.
+    bool isShown = false;
+    const auto goesOn = [&] {
+        constexpr auto unnoticed = 300ms;
+        if (!isShown && elapsed() > unnoticed) {
+            isShown = true;
+            monitor.showSheet();
+        }
+        return !cancelFlag();
+    };
+    const Findings findings = start.look(goesOn);
+    if (isShown) start.sheet.sheet.close();
+    if (cancelFlag()) {
+        const QString summary = u"Cancelled before anything was done."_qs;
+        start.sheet.result.setText(summary);
+        lastRecord.set({.outcome = Outcome::Cancelled, .summary = summary});
+        endRun();
+        return;
+    }
+    if (!findings.obstacles.isEmpty()) {
+        warn(sentences(findings.obstacles + findings.concerns));
+        endRun();
+        return;
+    }
+    if (isWanted(start, findings)) {
+        start.work(monitor);
+    } else {
+        endRun();
+    }
+}
+
+bool QuillorentAppDelegate::isWanted(const RunStart &start, const Findings &findings)
+{
+    const bool mayOverwrite = start.mayOverwrite || findings.overwrites.isEmpty();
+    if (findings.concerns.isEmpty() && mayOverwrite) return true;
+    if (findings.concerns.isEmpty() && start.overwriteQuestion) {
+        start.showOverwrites(findings.overwrites);
+        return askToGoOn(*start.overwriteQuestion);
+    }
+    QStringList all = findings.concerns;
+    if (!mayOverwrite) all.append(findings.overwrites);
+    concernsText01.setText(sentences(all));
+    return askToGoOn(concernsPanel01);
+}
+
+bool QuillorentAppDelegate::askToGoOn(outlets::Panel &panel)
+{
+    m_goesOn = false;
+    panel.runModal();
+    window.orderFront();
+    return m_goesOn;
+}
+
+void QuillorentAppDelegate::answer(outlets::Panel &panel, bool goesOn)
+{
+    m_goesOn = goesOn;
+    closeSheet(panel);
+}
+
+void QuillorentAppDelegate::startRun(const QString &threadName, const std::function<RunStart()> &prepare)
+{
+    if (!tryBeginRun()) {
+        warn(u"The last run is still ending its tools. Try again in a moment."_qs);
+        return;
+    }
+    const auto go = [this, threadName, prepare] {
+        detachThread(threadName, [this, start = prepare()] { carryOut(start); });
+    };
+    if (!keychainIndicator01.isAnimating()) {
+        go();
+        return;
+    }
+    // What the keychain says may be the secret that is needed; and it may take its time.
+    detachThread(u"await-keychain"_qs, [this, go, profile = currentProfile()] {
+        while (keychainIndicator01.isAnimating() && !cancelFlag())
+            std::this_thread::sleep_for(pauses().poll);
+        QMetaObject::invokeMethod(QCoreApplication::instance(), [this, go, profile] {
+            if (!cancelFlag() && profile == currentProfile())
+                go();
+            else
+                endRun();
+        });
+    });
+}
+
+void QuillorentAppDelegate::concernsPanel01GoOn() { answer(concernsPanel01, true); }
+
+void QuillorentAppDelegate::concernsPanel01Stop() { answer(concernsPanel01, false); }
+
+void QuillorentAppDelegate::toolsCancel01Action()
+{
+    cancelByUser();
+    toolsText01.setText(u"Wait..."_qs);
+}
+
+void QuillorentAppDelegate::showLeftInClear()
+{
+    const QStringList left = aftermath::leftInClear();
+    clearText01.setText(left.isEmpty() ? QString()
+                                       : u"Left by a run that did not end well, and not encrypted: %1"_qs.arg(
+                                             left.join(u", "_qs)));
+    clearText01.setHidden(left.isEmpty());
+    clearRemove01.setHidden(left.isEmpty());
+}
+
+void QuillorentAppDelegate::clearRemove01Action()
+{
+    // A run may be making just these at the moment.
+    if (isRunActive()) {
+        warn(u"A run is at work. Remove them when it has ended."_qs);
+        return;
+    }
+    detachThread(u"remove-clear"_qs, [this] {
+        aftermath::removeLeftInClear();
+        showLeftInClear();
+    });
+}

@@ -1,0 +1,58 @@
+#include "app/QuillorentAppDelegate.h"
+#include "extract/Candidates.h"
+
+namespace {
+
+void removeFrom(const plist::Array &list, const QString &path)
+{
+    QList<int> equal;
+    const QStringList entries = list.strings();
+    for (int index = 0; index < entries.size(); ++index)
+        if (entries[index] == path) equal.append(index);
+    list.removeAt(equal);
+}
+
+} // namespace
+
+void QuillorentAppDelegate::extractButton01Action()
+{
+    const auto chosen = openPanel(
+        {.title = u"Add archives"_qs, .allowsMultipleSelection = true, .allowedFileTypes = {u"rar"_qs}});
+    addArchives(chosen.value_or(QStringList()));
+}
+
+void QuillorentAppDelegate::addArchives(const QStringList &paths)
+{
+    const QStringList archives = archivesAmong(paths);
+    extractFullList.append(archives);
+    extractList.append(filterForExtraction(archives));
+    extractTableView.reloadData();
+
+    if (paths.isEmpty()) return;
+    outputText02.setText(archives.isEmpty()
+                             ? u"There is no archive among them: archives end in \".rar\"."_qs
+                             : describeLeftOut(archives, extractFullList.strings(), extractList.strings()));
+}
+
+void QuillorentAppDelegate::extractButton02Action()
+{
+    const QStringList shown = extractFullList.strings();
+    for (const int row : extractTableView.selectedRows()) {
+        if (row >= shown.size()) continue;
+        removeFrom(extractFullList, shown[row]);
+        removeFrom(extractList, shown[row]);
+    }
+    extractTableView.reloadData();
+}
+
+void QuillorentAppDelegate::extractButton03Action()
+{
+    extractList.clear();
+    extractFullList.clear();
+    extractTableView.reloadData();
+}
+
+void QuillorentAppDelegate::extractPathButtonAction()
+{
+    chooseFolder(u"Choose where the archives are extracted to"_qs, extractPath, u"extractpath"_qs);
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "app/PathListTable.h"
+
+/// The folder list of the current profile.
+class listTable : public PathListTable {
+public:
+    explicit listTable(outlets::TableView &view) : PathListTable(u"folders"_qs, view) {}
+};

@@ -1,0 +1,127 @@
+#include "app/QuillorentAppDelegate.h"
+#include "keys/CertificateSummary.h"
+#include "keys/Certificates.h"
+#include "keys/Refusals.h"
+#include "tools/Threads.h"
+
+#include <QFileInfo>
+
+namespace {
+
+outlets::OpenPanel keyChooser(const QString &title)
+{
+    return {.title = title,
+            .allowedFileTypes = {u"cer"_qs, u"p12"_qs, u"p15"_qs, u"crt"_qs, u"der"_qs, u"pem"_qs, u"pfx"_qs,
+                                 u"cert"_qs, u"txt"_qs, u"rtf"_qs, u"pk12"_qs, u"pk15"_qs, u"pkcs12"_qs}};
+}
+
+void showOrHide(outlets::TextField &field, const QString &text)
+{
+    field.setText(text);
+    field.setHidden(text.isEmpty());
+}
+
+/// What a missing private key means; empty where there is one.
+QString keyWarning(const QString &key)
+{
+    const QString meaning = u"Nothing that is encrypted for this certificate can be opened without its "
+                            u"private key: make sure that you "
+                            "have it, and a copy in a safe place."_qs;
+    if (key.isEmpty()) return u"No private key is chosen. "_qs + meaning;
+    if (!QFileInfo(key).isFile()) return u"The private key is not where it was. "_qs + meaning;
+    return {};
+}
+
+/// What to tell of the chosen certificate.
+struct CertificateNotes {
+    QString summary{};
+    QString warning{};
+};
+
+CertificateNotes notesOn(const QString &certificate)
+{
+    if (certificate.isEmpty()) return {};
+    const auto summary = quillorentLibrary::readCertificateSummary(certificate);
+    if (!summary) return {.warning = quillorentLibrary::whyNoCertificate(certificate)};
+    return {quillorentLibrary::describeCertificate(*summary),
+            quillorentLibrary::validityWarning(*summary, QDateTime::currentDateTimeUtc())};
+}
+
+} // namespace
+
+// Files may lie on a slow disk, and tools take their time: what looks at them does so on a thread of its own.
+
+void QuillorentAppDelegate::certButton01Action()
+{
+    const auto chosen = openPanel(keyChooser(u"Choose a certificate"_qs));
+    if (!chosen) return;
+    const QString path = chosen->value(0);
+    detachThread(u"check-cert"_qs, [this, path, record = currentRecord()] {
+        if (path.isEmpty() || !quillorentLibrary::testCert(path, u"Validity"_qs)) {
+            certPanelText01.setText(quillorentLibrary::whyNoCertificate(path));
+            certPanel01.runModal();
+            return;
+        }
+        record.setValue(u"lastcertfile"_qs, path);
+        if (!record.isSameObject(currentRecord())) return; // another profile was opened in the meantime
+        certFile01.setText(path);
+        describeKeys();
+    });
+}
+
+void QuillorentAppDelegate::pkButton01Action()
+{
+    const auto chosen = openPanel(keyChooser(u"Choose the private key"_qs));
+    if (!chosen) return;
+    const QString path = chosen->value(0);
+    detachThread(u"check-key"_qs, [this, path, certificate = certFile01.text(), record = currentRecord()] {
+        if (path.isEmpty() || !quillorentLibrary::testKey(certificate, path)) {
+            pkPanelText01.setText(quillorentLibrary::whyNoKey(certificate, path));
+            pkPanel01.runModal();
+            return;
+        }
+        record.setValue(u"lastpkfile"_qs, path);
+        if (!record.isSameObject(currentRecord())) return;
+        pkFile01.setText(path);
+        describeKeys();
+    });
+}
+
+void QuillorentAppDelegate::certButton01ActionEnd() { closeSheet(certPanel01); }
+
+void QuillorentAppDelegate::pkButton01ActionEnd() { closeSheet(pkPanel01); }
+
+void QuillorentAppDelegate::certInfo01()
+{
+    const QString path = certFile01.text();
+    if (path.isEmpty()) return;
+    consolePanel01.orderFront();
+    consoleTextView01.setText({});
+    detachThread(u"show-cert"_qs,
+                 [this, path] { consoleTextView01.setText(quillorentLibrary::showCert(path)); });
+}
+
+void QuillorentAppDelegate::certInfo02()
+{
+    const QString path = pkFile01.text();
+    if (path.isEmpty()) return;
+    consolePanel01.orderFront();
+    detachThread(u"show-key"_qs, [this, path] {
+        consoleTextView01.setText(quillorentLibrary::showKey(path).value_or(QString()));
+    });
+}
+
+void QuillorentAppDelegate::describeKeys()
+{
+    const int request = m_keyDescriptions.begin();
+    detachThread(u"describe-keys"_qs,
+                 [this, request, certificate = certFile01.text(), key = pkFile01.text()] {
+                     const CertificateNotes notes = notesOn(certificate);
+                     const QString missing = certificate.isEmpty() ? QString() : keyWarning(key);
+                     m_keyDescriptions.apply(request, [&] {
+                         showOrHide(certSummary01, notes.summary);
+                         showOrHide(certWarning01, notes.warning);
+                         showOrHide(pkWarning01, missing);
+                     });
+                 });
+}

@@ -1,0 +1,116 @@
+#include "app/QuillorentAppDelegate.h"
+#include "app/profiles/Methods.h"
+#include "runs/Pauses.h"
+#include "settings/Store.h"
+#include "tools/Threads.h"
+
+#include <thread>
+
+namespace {
+
+void show(outlets::TextField &field, const std::optional<QString> &text)
+{
+    if (text) field.setText(*text);
+}
+
+void showUnlessEmpty(outlets::TextField &field, const std::optional<QString> &text)
+{
+    if (text && !text->isEmpty()) field.setText(*text);
+}
+
+} // namespace
+
+QString QuillorentAppDelegate::loadProfiles()
+{
+    listPlist.set(quillorentLibrary::readProfiles());
+    refreshProfileCombo();
+
+    const QStringList names = listPlist().keys();
+    const QString last = names.isEmpty() ? QString() : names.last();
+    profileCombo01.selectTitle(last);
+
+    const QString chosen =
+        configPlist().dictionary(u"resources"_qs).string(u"selectedprofile"_qs).value_or(QString());
+    return !chosen.isEmpty() && names.contains(chosen) ? chosen : last;
+}
+
+void QuillorentAppDelegate::refreshProfileCombo() { profileCombo01.setTitles(listPlist().keys()); }
+
+// Choosing a name applies nothing yet: that is what the button beside it is for.
+void QuillorentAppDelegate::profileCombo01Action() { listTableView.reloadData(); }
+
+void QuillorentAppDelegate::setterCurrentProfile(const QString &name)
+{
+    currentProfile.set(name);
+    profileCombo01.selectTitle(name);
+    currentProfileTextView.setText(name);
+
+    updatesCheck01.setOn(configPlist().dictionary(u"updates"_qs).isOn(u"automatic"_qs));
+    autosaveCheck01.setOn(configPlist().dictionary(u"resources"_qs).isOn(u"autosave"_qs));
+
+    forgetKeychainAnswers();
+    // No password typed for one profile may be seen in the next. The destination, the extraction folder and
+    // the volume size stay as they are where the new record has none.
+    for (outlets::TextField *field :
+         {&keychainPass, &keychainClear, &keychainUser, &secureText01a, &secureText01b, &pkFile01,
+          &certFile01, &syncTextDestPath, &syncTextSourcePath, &syncUser, &syncServer, &syncPort})
+        field->setText({});
+
+    applyRecord(currentRecord());
+    passCombo01Action();
+    listTableView.reloadData();
+    extractTableView.reloadData();
+    syncTableView.reloadData();
+}
+
+void QuillorentAppDelegate::applyRecord(const plist::Dictionary &record)
+{
+    show(fileText01, record.string(u"path"_qs));
+    show(keychainUser, record.string(u"lastkeychainuser"_qs));
+    show(certFile01, record.string(u"lastcertfile"_qs));
+    if (const auto source = record.integer(u"passtype"_qs)) passCombo01.selectIndex(int(*source));
+    show(pkFile01, record.string(u"lastpkfile"_qs));
+    show(extractPath, record.string(u"extractpath"_qs));
+    const auto method =
+        quillorentLibrary::symmetricMethods().indexOf(record.string(u"symencryption"_qs).value_or(QString()));
+    if (method >= 0) prefSelector01.selectIndex(int(method));
+    if (const auto part = record.string(u"part"_qs)) showPartSize(*part);
+    checkBox04.setOn(record.isOn(u"split"_qs));
+    checkBox05.setOn(record.isOn(u"keepdate"_qs));
+
+    // A record without these two reads as "not 0", unlike every other switch.
+    syncSelector01.selectIndex(record.string(u"rsyncmode"_qs) == u"0"_qs ? 0 : 1);
+    checkBoxSync1.setOn(record.isOn(u"rsyncdelete1"_qs));
+    checkBoxSync2.setOn(record.isOn(u"rsyncdelete2"_qs));
+    show(syncTextSourcePath, record.string(u"rsyncsrc"_qs));
+    show(syncTextDestPath, record.string(u"rsyncdst"_qs));
+    prefCheck02.setOn(record.string(u"emptydir"_qs) != u"0"_qs);
+
+    syncCheck01.setOn(record.isOn(u"isremotesync"_qs));
+    syncView.setHidden(!syncCheck01.isOn());
+    showUnlessEmpty(syncPort, record.string(u"remotesyncport"_qs));
+    showUnlessEmpty(syncServer, record.string(u"remotesyncserver"_qs));
+    showUnlessEmpty(syncUser, record.string(u"remotesyncuser"_qs));
+}
+
+void QuillorentAppDelegate::showPartSize(const QString &size)
+{
+    partSize.set(size);
+    prefStepper01.setValue(int(plist::Value(size).integer().value_or(0)));
+    prefText01.setText(size);
+}
+
+void QuillorentAppDelegate::profileButton02Action()
+{
+    const QString chosen = profileCombo01.selectedTitle();
+    if (chosen.isEmpty()) return;
+    indicator02.startAnimation();
+    setterCurrentProfile(chosen);
+    detachThread(u"load-profile"_qs, [this] {
+        std::this_thread::sleep_for(pauses().profileLoaded);
+        listTableView.reloadData();
+        extractTableView.reloadData();
+        syncTableView.reloadData();
+        indicator02.stopAnimation();
+    });
+}

@@ -1,0 +1,37 @@
+#include "app/QuillorentAppDelegate.h"
+#include "app/profiles/Methods.h"
+
+void QuillorentAppDelegate::profileButton05Action() { preferencesPanel01.runModal(); }
+
+void QuillorentAppDelegate::profileButton05ActionEnd() { closeSheet(preferencesPanel01); }
+
+void QuillorentAppDelegate::prefSelector01Action()
+{
+    const QString method = quillorentLibrary::symmetricMethods().value(prefSelector01.selectedIndex());
+    if (!method.isEmpty()) currentRecord().setValue(u"symencryption"_qs, method);
+}
+
+void QuillorentAppDelegate::prefSelector02Action() {} // one method: there is nothing to keep
+
+void QuillorentAppDelegate::prefCheck02Action()
+{
+    currentRecord().setSwitch(u"emptydir"_qs, prefCheck02.isOn());
+}
+
+void QuillorentAppDelegate::prefStepper01Action(const QString &senderText)
+{
+    showPartSize(senderText);
+    currentRecord().setValue(u"part"_qs, senderText);
+}
+
+void QuillorentAppDelegate::prefCheck01Action() { currentRecord().setSwitch(u"split"_qs, checkBox04.isOn()); }
+
+void QuillorentAppDelegate::checkBox05Action()
+{
+    currentRecord().setSwitch(u"keepdate"_qs, checkBox05.isOn());
+}
+
+void QuillorentAppDelegate::autosaveCheck01Action()
+{
+    configPlist().dictionary(u"resources"_qs).setSwitch(u"autosave"_qs, autosaveCheck01.isOn());
+}

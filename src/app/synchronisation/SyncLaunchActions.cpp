@@ -1,0 +1,102 @@
+#include "app/QuillorentAppDelegate.h"
+#include "app/Start.h"
+#include "app/synchronisation/SyncMonitor.h"
+#include "app/synchronisation/SyncOrders.h"
+#include "sync/Preview.h"
+#include "sync/SyncLook.h"
+
+namespace {
+
+Findings look(const SyncOrder &order)
+{
+    Findings findings;
+    lookAtSync(order, findings);
+    return findings;
+}
+
+bool deletes(const SyncOrder &order) { return order.deletesExtra || order.removesSources; }
+
+void transfer(QuillorentAppDelegate &delegate, const SyncOrder &order, RunMonitor &monitor)
+{
+    if (const QString reason = makeDestination(order); !reason.isEmpty()) {
+        delegate.warn(reason);
+        delegate.endRun();
+        return;
+    }
+    SyncDisplay display(delegate);
+    display.begin(u"Synchronising…"_qs);
+    runSync(order, delegate, monitor, display);
+}
+
+} // namespace
+
+/// Finds out what would be done and shows it, unless nothing of it is worth a look; what is shown can be done
+/// then.
+void QuillorentAppDelegate::previewFirst(const SyncOrder &order, RunMonitor &monitor, PreviewFor purpose)
+{
+    SyncDisplay display(*this);
+    display.begin(u"Comparing both sides…"_qs);
+    runPreview(order, *this, monitor, display);
+    const auto preview = display.preview();
+    if (!preview || isCancelledByUser()) return;
+    showPreview(preview);
+    if (preview->rows.empty() && !failure().isEmpty()) return;
+    const QString question = purpose == PreviewFor::Question ? askForDeletions(*preview) : QString();
+    if (purpose == PreviewFor::Question && question.isEmpty() && failure().isEmpty()) {
+        startRun(u"sync-run"_qs, [this, order] { return prepareTransfer(order); });
+        return;
+    }
+    if (!question.isEmpty()) previewText01.setText(question + u'\n' + previewText01.text());
+    m_previewedOrder.set(order);
+    previewPanel01.beginSheet();
+}
+
+/// The transfer alone: what there is to ask was asked.
+RunStart QuillorentAppDelegate::prepareTransfer(const SyncOrder &order)
+{
+    return {.sheet = syncSheet(*this),
+            .look = [](const std::function<bool()> &) { return Findings(); },
+            .work = [this, order](RunMonitor &monitor) { transfer(*this, order, monitor); }};
+}
+
+RunStart QuillorentAppDelegate::prepareSync(bool isPreview)
+{
+    const SyncOrder order = readSyncOrder();
+    const auto work = [this, order, isPreview](RunMonitor &monitor) {
+        if (isPreview)
+            previewFirst(order, monitor, PreviewFor::Looking);
+        else if (deletes(order) && asksBeforeDeleting)
+            previewFirst(order, monitor, PreviewFor::Question);
+        else
+            transfer(*this, order, monitor);
+    };
+    return {.sheet = syncSheet(*this),
+            .look = [order](const std::function<bool()> &) { return look(order); },
+            .work = work};
+}
+
+void QuillorentAppDelegate::buttonLaunch03()
+{
+    startRun(u"sync-run"_qs, [this] { return prepareSync(false); });
+}
+
+void QuillorentAppDelegate::previewButton01Action()
+{
+    startRun(u"preview-run"_qs, [this] { return prepareSync(true); });
+}
+
+void QuillorentAppDelegate::showPreview(const std::shared_ptr<const Preview> &preview)
+{
+    m_previewTable.setPreview(preview);
+    previewTableView.setSelectedRows({});
+    previewTableView.reloadData();
+    previewText01.setText(summarize(*preview));
+}
+
+void QuillorentAppDelegate::previewPanel01Close() { closeSheet(previewPanel01); }
+
+void QuillorentAppDelegate::previewPanel01Launch()
+{
+    previewPanel01Close();
+    startRun(u"sync-run"_qs, [this] { return prepareTransfer(m_previewedOrder()); });
+}

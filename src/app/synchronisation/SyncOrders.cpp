@@ -1,0 +1,43 @@
+#include "app/synchronisation/SyncOrders.h"
+
+#include "app/QuillorentAppDelegate.h"
+#include "app/synchronisation/SyncMonitor.h"
+#include "tools/RegisteredTool.h"
+
+SyncOrder readSyncOrder()
+{
+    const QuillorentAppDelegate &delegate = theDelegate();
+    const plist::Dictionary record = delegate.currentRecord();
+    return {.profile = delegate.currentProfile(),
+            .tool = registeredTool(u"RSync"_qs),
+            .entries = record.array(u"sync"_qs).strings(),
+            .destination = record.string(u"rsyncdst"_qs).value_or(QString()),
+            .mode = record.string(u"rsyncmode"_qs),
+            .deletesExtra = record.isOn(u"rsyncdelete1"_qs),
+            .removesSources = record.isOn(u"rsyncdelete2"_qs),
+            .isRemote = delegate.syncCheck01.isOn(),
+            .user = delegate.syncUser.text(),
+            .server = delegate.syncServer.text(),
+            .port = delegate.syncPort.text(),
+            .parameters = delegate.setting(u"sync"_qs, u"rsyncparams"_qs),
+            .excludes = delegate.setting(u"sync"_qs, u"rsyncexcludes"_qs)};
+}
+
+void quillorentLibrary::launchSync(const QString &)
+{
+    QuillorentAppDelegate &delegate = theDelegate();
+    const SyncOrder order = readSyncOrder();
+    SheetMonitor monitor(delegate, syncSheet(delegate));
+    SyncDisplay display(delegate);
+    if (!delegate.tryBeginRun()) return;
+    display.begin(u"Synchronising…"_qs);
+    runSync(order, delegate, monitor, display);
+}
+
+void quillorentLibrary::runProcess3(const QStringList &)
+{
+    QuillorentAppDelegate &delegate = theDelegate();
+    SheetMonitor monitor(delegate, syncSheet(delegate));
+    SyncDisplay display(delegate);
+    runRsyncAlone(readSyncOrder(), delegate, monitor, display);
+}

@@ -1,0 +1,34 @@
+#include "app/tools/Compliance.h"
+
+#include "app/QuillorentAppDelegate.h"
+#include "tools/Threads.h"
+#include "tools/Verification.h"
+
+bool quillorentLibrary::compliance()
+{
+    QuillorentAppDelegate &delegate = theDelegate();
+    ++delegate.verifications;
+    delegate.compliant.set(0);
+    int tools = 0;
+    int passing = 0;
+    for (const QString &name : delegate.configPlist().dictionary(u"external"_qs).keys()) {
+        ++tools;
+        if (testAll(name)) ++passing;
+    }
+    delegate.compliant.set(passing);
+    delegate.compliantBase.set(tools);
+    --delegate.verifications;
+
+    // Counts are whole: both thresholds just below the maximum make anything less than all of them critical.
+    delegate.level01.setState({.value = double(passing),
+                               .maximum = double(tools),
+                               .warning = tools - 0.95,
+                               .critical = tools - 0.96});
+    delegate.pathTableView.reloadData();
+    return tools == passing;
+}
+
+void quillorentLibrary::updateCompliance()
+{
+    detachThread(u"verify-tools"_qs, [] { theDelegate().compliance.set(compliance()); });
+}

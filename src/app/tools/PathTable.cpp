@@ -1,0 +1,40 @@
+#include "app/tools/PathTable.h"
+
+#include "app/QuillorentAppDelegate.h"
+#include "app/tools/Compliance.h"
+#include "tools/Verification.h"
+
+namespace {
+
+plist::Dictionary registry() { return theDelegate().configPlist().dictionary(u"external"_qs); }
+
+} // namespace
+
+int pathTable::numberOfRows() const { return int(registry().count()); }
+
+QVariant pathTable::objectValue(const QString &column, int row) const
+{
+    const QString tool = registry().keys().value(row);
+    if (column == u"c10") return tool;
+    if (column == u"c20") return registry().string(tool).value_or(QString());
+    if (column == u"c30") return quillorentLibrary::testAll(tool);
+    return QString();
+}
+
+void pathTable::setObjectValue(const QVariant &value, const QString &column, int row)
+{
+    const QString tool = registry().keys().value(row);
+    if (column != u"c20" || tool.isNull()) return;
+    registry().setValue(tool, value.toString());
+    theDelegate().pathTableView.reloadData();
+}
+
+void QuillorentAppDelegate::selectFile()
+{
+    const auto chosen =
+        openPanel({.title = u"Choose a tool"_qs, .directory = u"/usr/bin"_qs, .allowedFileTypes = {u""_qs}});
+    const QString tool = registry().keys().value(pathTableView.selectedRow());
+    if (chosen && !chosen->isEmpty() && !tool.isNull()) registry().setValue(tool, chosen->first());
+    quillorentLibrary::updateCompliance();
+    pathTableView.reloadData();
+}

@@ -1,0 +1,33 @@
+#include "app/QuillorentAppDelegate.h"
+#include "updates/Appcast.h"
+#include "updates/SUUpdater.h"
+
+void QuillorentAppDelegate::updatesCheck01Action()
+{
+    configPlist().dictionary(u"updates"_qs).setSwitch(u"automatic"_qs, updatesCheck01.isOn());
+    if (showsUpdates) SUUpdater::sharedUpdater().setAutomaticallyChecksForUpdates(updatesCheck01.isOn());
+}
+
+void QuillorentAppDelegate::checkForUpdatesAtStart()
+{
+    SUUpdater::sharedUpdater().setClient(
+        {.feed = [this] { return setting(u"updates"_qs, u"feed"_qs).value_or(QString()); },
+         .showRelease =
+             [this](const Release &release) {
+                 updateText01.setText(u"Version %1 is there. You have version %2."_qs.arg(
+                     release.version, QStringLiteral(QUILLORENT_VERSION)));
+                 updateNotes01.setText(release.notes);
+                 downloadButton01.setAlternateTitle(release.page.toString());
+                 updatePanel01.orderFront();
+             }});
+    if (!showsUpdates || !configPlist().dictionary(u"updates"_qs).isOn(u"automatic"_qs)) return;
+    SUUpdater::sharedUpdater().setAutomaticallyChecksForUpdates(true);
+    SUUpdater::sharedUpdater().checkForUpdatesInBackground();
+}
+
+void QuillorentAppDelegate::openBrowserAt(const outlets::Button &sender)
+{
+    if (!sender.alternateTitle().isEmpty()) openAddress(sender.alternateTitle());
+}
+
+void QuillorentAppDelegate::updatePanel01Close() { updatePanel01.orderOut(); }

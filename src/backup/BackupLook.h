@@ -1,0 +1,13 @@
+#pragma once
+
+#include "backup/BackupOrder.h"
+#include "files/FolderLock.h"
+#include "runs/Findings.h"
+
+#include <functional>
+
+/// Looks at the order and at the disk before anything is written. Takes hold of the destination, ends what
+/// runs that were killed left half done there, and measures the items, which takes long where they are large;
+/// gives up once `goesOn` says no. Runs no tool, unless the archive of a killed run is to be tested.
+[[nodiscard]] Findings lookAtBackup(BackupOrder &order, FolderLock &lock,
+                                    const std::function<bool()> &goesOn);

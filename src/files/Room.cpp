@@ -1,0 +1,43 @@
+#include "files/Room.h"
+
+#include <QFile>
+#include <QLocale>
+#include <QStorageInfo>
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <sys/vfs.h>
+#include <unistd.h>
+
+std::optional<qint64> roomFree(const QString &folder)
+{
+    const QStorageInfo disk(folder);
+    return disk.isValid() && disk.isReady() ? std::optional(disk.bytesAvailable()) : std::nullopt;
+}
+
+QString whyTooLittleRoom(const QString &folder, qint64 bytesNeeded)
+{
+    const std::optional<qint64> free = roomFree(folder);
+    if (!free || *free >= bytesNeeded) return {};
+    const auto size = [](qint64 bytes) {
+        return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
+    };
+    return u"There may not be enough room: about %1 are needed, and %2 are free in \"%3\"."_qs.arg(
+        size(bytesNeeded), size(*free), folder);
+}
+
+QString whyNotWritable(const QString &folder)
+{
+    if (access(QFile::encodeName(folder).constData(), W_OK | X_OK) == 0) return {};
+    return u"Nothing may be written into \"%1\": %2. Choose another folder, or change its permissions."_qs
+        .arg(folder, qt_error_string(errno));
+}
+
+bool ignoresCase(const QString &folder)
+{
+    // statfs(2): FAT, exFAT, and the two drivers of NTFS.
+    constexpr std::array systems{0x4d44L, 0x2011bab0L, 0x5346544eL, 0x7366746eL};
+    struct statfs status {};
+    if (statfs(QFile::encodeName(folder).constData(), &status) != 0) return false;
+    return std::find(systems.begin(), systems.end(), long(status.f_type)) != systems.end();
+}

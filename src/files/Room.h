@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+
+/// Free bytes on the disk of `folder`; none where that can't be found out.
+[[nodiscard]] std::optional<qint64> roomFree(const QString &folder);
+
+/// A sentence on how much is needed and how much is free; empty where there is enough, or nobody knows.
+[[nodiscard]] QString whyTooLittleRoom(const QString &folder, qint64 bytesNeeded);
+
+/// Why nothing may be written into the folder; empty where it may.
+[[nodiscard]] QString whyNotWritable(const QString &folder);
+
+/// Whether names that differ in upper and lower case only are one name in the folder's file system.
+[[nodiscard]] bool ignoresCase(const QString &folder);

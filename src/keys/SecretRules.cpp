@@ -1,0 +1,75 @@
+#include "keys/SecretRules.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <memory>
+#include <openssl/evp.h>
+#include <openssl/pem.h>
+#include <openssl/x509.h>
+
+namespace {
+
+constexpr qsizetype longestPassword = 1023; // bytes; the tool's buffer
+constexpr qint64 largestFile = 1024 * 1024; // a certificate has some kilobytes
+constexpr int shortestKey = 2048;           // bits
+
+struct FreeBio {
+    void operator()(BIO *bio) const { BIO_free(bio); }
+};
+struct FreeCertificate {
+    void operator()(X509 *certificate) const { X509_free(certificate); }
+};
+
+std::unique_ptr<X509, FreeCertificate> readCertificate(const QByteArray &pem)
+{
+    const std::unique_ptr<BIO, FreeBio> bio(BIO_new_mem_buf(pem.constData(), int(pem.size())));
+    return std::unique_ptr<X509, FreeCertificate>(
+        PEM_read_bio_X509_AUX(bio.get(), nullptr, nullptr, nullptr));
+}
+
+QString refusal(const QString &path, const QString &reason)
+{
+    return u"The certificate \"%1\" %2. Choose another one on the Passwords tab."_qs.arg(path, reason);
+}
+
+} // namespace
+
+QString whyBadPassword(const QString &password)
+{
+    if (password.isEmpty())
+        return u"No password is given. Type one on the Passwords tab; without a password nothing is backed up."_qs;
+    if (password.contains(QChar::Null))
+        return u"The password holds a zero byte (is its file perhaps UTF-16?), and all behind it would be "
+               u"lost. "
+               "Use a password of ordinary characters, in UTF-8."_qs;
+    if (password.contains(u'\n') || password.contains(u'\r'))
+        return u"The password holds a line break, and all behind it would be lost. Use one of a single line."_qs;
+    if (password.toUtf8().size() > longestPassword)
+        return u"The password is longer than %1 bytes, and would be cut. Use a shorter one."_qs.arg(
+            longestPassword);
+    return {};
+}
+
+CertificateJudgement judgeCertificate(const QString &path)
+{
+    if (path.isEmpty()) return {.obstacle = u"No certificate is chosen. Choose one on the Passwords tab."_qs};
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return {.obstacle = refusal(path, u"is not there, or can't be read"_qs)};
+    const QByteArray content = file.read(largestFile);
+    const auto certificate = readCertificate(content);
+    if (!certificate)
+        return {.obstacle = refusal(path, content.contains("PRIVATE KEY")
+                                              ? u"is a private key"_qs
+                                              : u"is no certificate in PEM, the text form"_qs)};
+    EVP_PKEY *key = X509_get0_pubkey(certificate.get());
+    if (!key || EVP_PKEY_get_base_id(key) != EVP_PKEY_RSA)
+        return {.obstacle =
+                    refusal(path, u"has no RSA key, and nothing can be encrypted to another kind"_qs)};
+    const int bits = EVP_PKEY_get_bits(key);
+    if (bits >= shortestKey) return {};
+    return {.concern =
+                u"The key of the certificate \"%1\" has %2 bits; less than %3 can be broken."_qs.arg(path)
+                    .arg(bits)
+                    .arg(shortestKey)};
+}

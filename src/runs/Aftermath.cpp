@@ -1,0 +1,139 @@
+#include "runs/Aftermath.h"
+
+#include "files/ArchiveFiles.h"
+#include "runs/RunJournal.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+
+namespace {
+
+bool isSameFolder(const QString &path, const QString &other)
+{
+    return path == other || (QFileInfo::exists(path) && QFileInfo(path) == QFileInfo(other));
+}
+
+/// The new archive's files: what has come under its names since they were given up.
+QStringList successorsOf(const ItemRecord &item)
+{
+    QList<FileIdentity> former;
+    for (const Aside &aside : item.former)
+        if (const auto there = entryAt(aside.to)) former.append(there->identity);
+    QStringList files;
+    for (const QString &archive : item.final)
+        for (const QString &path : filesOfArchive(archive)) {
+            const auto there = entryAt(path);
+            const bool isNew = there && there->isFile() && item.packingSince.isValid() &&
+                               there->changed >= item.packingSince.toSecsSinceEpoch();
+            const bool isFormer =
+                std::any_of(former.begin(), former.end(), [&](const FileIdentity &identity) {
+                    return there && identity.isSameFile(there->identity);
+                });
+            if (isNew && !isFormer) files.append(path);
+        }
+    return files;
+}
+
+void repairItem(ItemRecord &item, const aftermath::IsWhole &isWhole)
+{
+    const bool isAnySetAside = std::any_of(item.former.begin(), item.former.end(),
+                                           [](const Aside &aside) { return entryAt(aside.to).has_value(); });
+    if (!isAnySetAside) return;
+    const QStringList successors = successorsOf(item);
+    if (!successors.isEmpty() && isWhole(successors.first())) {
+        dropAside(item.former);
+        item.archives = successors;
+        return;
+    }
+    // Pieces of an archive that was never finished; those under a former one's name are written over.
+    for (const QString &path : successors)
+        if (std::none_of(item.former.begin(), item.former.end(),
+                         [&](const Aside &aside) { return aside.from == path; }))
+            QFile::remove(path);
+    static_cast<void>(putBack(item.former));
+}
+
+/// Of the files that may have been left, those that are there. One that can't be told from others that came
+/// to bear its name stays without identity.
+QList<LeftFile> stillThere(const ItemRecord &item)
+{
+    QList<LeftFile> left;
+    QStringList noted;
+    for (const LeftFile &file : item.left) {
+        const auto there = entryAt(file.path);
+        noted.append(file.path);
+        if (there && (!file.identity || *file.identity == there->identity)) left.append(file);
+    }
+    if (item.outcome != Outcome::Open) return left;
+    for (const QString &path : item.between)
+        if (!noted.contains(path) && entryAt(path)) left.append({path, path == item.clear});
+    return left;
+}
+
+void closeKilled(RunRecord &record, const aftermath::IsWhole &isWhole)
+{
+    for (ItemRecord &item : record.items) {
+        repairItem(item, isWhole);
+        item.left = stillThere(item);
+        if (item.outcome != Outcome::Open) continue;
+        item.outcome = Outcome::Failed;
+        item.reason = u"the program was ended in the middle of it"_qs;
+    }
+    record.outcome = Outcome::Failed;
+    record.summary = u"The program was ended before the run was."_qs;
+    record.ended = QDateTime::currentDateTimeUtc();
+}
+
+template <class Use>
+void forAllClear(Use use)
+{
+    for (KeptRecord &kept : keptRecords())
+        for (ItemRecord &item : kept.record.items)
+            for (const LeftFile &file : stillThere(item))
+                if (file.isClear) use(file.path);
+}
+
+} // namespace
+
+void aftermath::repair(const QString &folder, const IsWhole &isWhole)
+{
+    for (KeptRecord &kept : keptRecords()) {
+        if (kept.record.ended.isValid() || !isSameFolder(kept.record.folder, folder)) continue;
+        closeKilled(kept.record, isWhole);
+        rewrite(kept);
+    }
+}
+
+QList<LeftFile> aftermath::leftIn(const QString &folder)
+{
+    QList<LeftFile> all;
+    for (KeptRecord &kept : keptRecords()) {
+        if (!kept.record.ended.isValid() || !isSameFolder(kept.record.folder, folder)) continue;
+        bool isChanged = false;
+        for (ItemRecord &item : kept.record.items) {
+            const QList<LeftFile> left = stillThere(item);
+            isChanged = isChanged || left.size() != item.left.size();
+            item.left = left;
+            all += left;
+        }
+        if (isChanged) rewrite(kept);
+    }
+    return all;
+}
+
+QStringList aftermath::leftInClear()
+{
+    QStringList paths;
+    forAllClear([&](const QString &path) {
+        if (!paths.contains(path)) paths.append(path);
+    });
+    return paths;
+}
+
+QStringList aftermath::removeLeftInClear()
+{
+    for (const QString &path : leftInClear())
+        if (const auto there = entryAt(path); there && there->isFile()) QFile::remove(path);
+    return leftInClear();
+}

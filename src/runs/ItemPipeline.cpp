@@ -1,0 +1,152 @@
+#include "runs/ItemPipeline.h"
+
+#include "files/Names.h"
+#include "runs/Run.h"
+
+#include <QFile>
+#include <algorithm>
+
+namespace {
+
+ToolResult complaint(const QString &sentence) { return {.output = sentence, .wasStarted = false}; }
+
+ToolResult silence() { return {.output = QString()}; }
+
+} // namespace
+
+ItemPipeline::ItemPipeline(Run &run, qsizetype index, const QString &item, const QList<LeftFile> &known)
+    : m_run(run), m_index(index), m_item(item), m_known(known)
+{
+}
+
+bool ItemPipeline::isCancelled() const { return m_run.state().cancelFlag(); }
+
+void ItemPipeline::setStage(const QString &name) const { m_run.state().setStage(m_item, name); }
+
+void ItemPipeline::expect(const QStringList &between, const QString &clear, const QString &final)
+{
+    m_between = between;
+    m_clear = clear;
+    m_run.journal().changeItem(m_index, [&](ItemRecord &item) {
+        item.between = between;
+        item.clear = clear;
+        if (!final.isEmpty()) item.final = {final};
+    });
+}
+
+void ItemPipeline::noteBetween()
+{
+    QList<LeftFile> left;
+    for (const QString &path : m_between) {
+        const auto there = entryAt(path);
+        if (!there || !there->isFile()) continue;
+        m_made.insert(path, there->identity);
+        left.append({path, path == m_clear, there->identity});
+    }
+    m_run.journal().changeItem(m_index, [&](ItemRecord &item) { item.left = left; });
+}
+
+bool ItemPipeline::isKnown(const QString &path, const FileIdentity &identity) const
+{
+    return std::any_of(m_known.begin(), m_known.end(),
+                       [&](const LeftFile &left) { return left.path == path && left.identity == identity; });
+}
+
+QString ItemPipeline::moveAway(const QString &path)
+{
+    const auto plan = planAside({path}, u"kept"_qs);
+    if (!plan) return u"no other name is free for it"_qs;
+    m_run.journal().changeItem(m_index, [&](ItemRecord &item) { item.kept += *plan; });
+    const int error = renameToFree(plan->first().from, plan->first().to);
+    return error ? qt_error_string(error) : QString();
+}
+
+ToolResult ItemPipeline::makeWay(const QString &path)
+{
+    const auto there = entryAt(path);
+    if (!there) return silence();
+    if (there->kind == FileEntry::Kind::Folder)
+        return complaint(
+            u"\"%1\" is a folder, and a file of that name is needed for a while. Rename it."_qs.arg(path));
+    if (isKnown(path, there->identity)) {
+        QFile::remove(path);
+    } else if (const QString reason = moveAway(path); !reason.isEmpty()) {
+        return complaint(u"\"%1\" is in the way and can't be given another name: %2."_qs.arg(path, reason));
+    }
+    if (const auto again = entryAt(path))
+        return complaint(
+            u"Something puts %1 under the name \"%2\" again and again. Choose a folder that nobody "
+            "else writes to."_qs.arg(describeKind(again->kind), path));
+    return silence();
+}
+
+ToolResult ItemPipeline::checkInput(const QString &path) const
+{
+    const auto there = entryAt(path);
+    if (!there) return silence(); // a tool complains by itself of what is missing
+    const bool isOwn = there->isFile() && m_made.value(path).isSameFile(there->identity);
+    if (isOwn) return silence();
+    return complaint(u"\"%1\" has been replaced by %2 of somebody else's. Choose a folder that nobody else "
+                     "writes to."_qs.arg(path, describeKind(there->kind)));
+}
+
+void ItemPipeline::removeOwn(const QString &path)
+{
+    const auto there = entryAt(path);
+    if (there && there->isFile() && m_made.value(path).isSameFile(there->identity)) QFile::remove(path);
+}
+
+ToolResult ItemPipeline::runStage(const QString &tool, const QStringList &arguments) const
+{
+    return runTool(tool, arguments, m_run.lockDescriptor());
+}
+
+bool ItemPipeline::judge(const QString &line, const ToolResult &result, bool isMade, const QString &product)
+{
+    m_succeeded = result.isSilent();
+    m_log += line + (m_succeeded ? u" OK - "_qs : u" ERROR - "_qs) + m_item;
+    if (!m_succeeded) return false;
+    const QString stage = line.trimmed();
+    QString wrong;
+    if (result.exitStatus != 0)
+        wrong =
+            u"%1: the tool ended with status %2 and did not say why."_qs.arg(stage).arg(result.exitStatus);
+    else if (!isMade)
+        wrong = u"%1: the tool said nothing, and did not make \"%2\"."_qs.arg(stage, product);
+    if (m_distrust.isEmpty()) m_distrust = wrong;
+    return wrong.isEmpty();
+}
+
+void ItemPipeline::succeed(quint64 bytes)
+{
+    m_run.monitor().advanced(m_run.state().addDone(double(bytes)));
+    m_run.journal().changeItem(m_index, [&](ItemRecord &item) { item.bytes = bytes; });
+    // The log of a success is not shown: the console is for failures.
+    if (!m_distrust.isEmpty()) m_run.state().setFailure(m_item, m_distrust);
+}
+
+void ItemPipeline::fail(const QString &explanation, const QString &reason)
+{
+    m_log += u"\n *** ERROR! *** "_qs + m_item;
+    m_run.monitor().logged(explanation + m_log);
+    m_run.state().setFailure(m_item, reason);
+    m_run.journal().changeItem(m_index, [&](ItemRecord &item) { item.reason = reason; });
+    m_run.state().setCancelFlag(true);
+}
+
+void ItemPipeline::end(bool isComplete, const QStringList &archives)
+{
+    noteBetween();
+    m_run.journal().changeItem(m_index, [&](ItemRecord &item) {
+        if (!m_succeeded || !m_distrust.isEmpty())
+            item.outcome = Outcome::Failed;
+        else
+            item.outcome = isComplete ? Outcome::Succeeded : Outcome::Cancelled;
+        if (item.reason.isEmpty()) item.reason = m_distrust;
+        item.archives = archives;
+    });
+    // Told before the worker counts as gone: a new run may begin right after that.
+    const bool isLast = m_run.state().foldersDone() == m_run.state().foldersToDo();
+    if (isLast || !m_succeeded) m_run.state().setCancelFlag(true);
+    m_run.state().endItem(m_item);
+}

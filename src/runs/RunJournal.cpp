@@ -1,0 +1,108 @@
+#include "runs/RunJournal.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QLoggingCategory>
+#include <QSaveFile>
+#include <algorithm>
+#include <atomic>
+
+namespace {
+
+Q_LOGGING_CATEGORY(logRecords, "quillorent.records")
+
+constexpr qsizetype mostKept = 200;
+
+/// Empty where it is written.
+QString write(const QString &path, const RunRecord &record)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) return file.errorString();
+    // What doesn't fit may show only when the buffer is emptied, and commit() doesn't look at that.
+    const bool isWritten = file.write(toJson(record)) >= 0 && file.flush();
+    return isWritten && file.commit() ? QString() : file.errorString();
+}
+
+void writeOrLog(const QString &path, const RunRecord &record)
+{
+    if (const QString reason = write(path, record); !reason.isEmpty())
+        qCWarning(logRecords).noquote() << path << "can't be written:" << reason;
+}
+
+bool isDoneWith(const RunRecord &record)
+{
+    if (!record.ended.isValid()) return false;
+    return std::all_of(record.items.begin(), record.items.end(),
+                       [](const ItemRecord &item) { return item.left.isEmpty(); });
+}
+
+QString nameFor(const RunRecord &record)
+{
+    static std::atomic<int> count = 0;
+    return u"%1-%2-%3.json"_qs.arg(record.began.toUTC().toString(u"yyyyMMdd'T'hhmmsszzz"_qs))
+        .arg(QCoreApplication::applicationPid())
+        .arg(++count);
+}
+
+} // namespace
+
+QString recordsFolder()
+{
+    const QString configured = QFile::decodeName(qgetenv("XDG_STATE_HOME"));
+    const QString state =
+        QDir::isAbsolutePath(configured) ? configured : QDir::home().filePath(u".local/state"_qs);
+    return QDir::cleanPath(state + u"/quillorent/runs"_qs);
+}
+
+QString whyNoRecords()
+{
+    const QString folder = recordsFolder();
+    if (!QDir().mkpath(folder)) return u"the folder \"%1\" can't be made"_qs.arg(folder);
+    QSaveFile probe(folder + u"/probe"_qs);
+    if (probe.open(QIODevice::WriteOnly)) return {};
+    return u"\"%1\": %2"_qs.arg(folder, probe.errorString());
+}
+
+RunJournal::RunJournal(RunRecord record)
+    : m_path(recordsFolder() + u'/' + nameFor(record)), m_record(std::move(record))
+{
+}
+
+void RunJournal::change(const std::function<void(RunRecord &)> &step)
+{
+    const std::lock_guard lock(m_mutex);
+    step(m_record);
+    if (!m_record.kind.isEmpty()) writeOrLog(m_path, m_record);
+}
+
+void RunJournal::changeItem(qsizetype index, const std::function<void(ItemRecord &)> &step)
+{
+    change([&](RunRecord &record) { step(record.items[index]); });
+}
+
+RunRecord RunJournal::record() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_record;
+}
+
+QList<KeptRecord> keptRecords()
+{
+    QList<KeptRecord> records;
+    // The names begin with the time.
+    const QDir folder(recordsFolder(), u"*.json"_qs, QDir::Name, QDir::Files);
+    for (const QString &name : folder.entryList()) {
+        QFile file(folder.filePath(name));
+        if (!file.open(QIODevice::ReadOnly)) continue;
+        if (auto record = recordFromJson(file.readAll()))
+            records.append({file.fileName(), *std::move(record)});
+    }
+    qsizetype tooMany = records.size() - mostKept;
+    records.removeIf([&](const KeptRecord &kept) {
+        return tooMany > 0 && isDoneWith(kept.record) && (--tooMany, QFile::remove(kept.path));
+    });
+    return records;
+}
+
+void rewrite(const KeptRecord &kept) { writeOrLog(kept.path, kept.record); }

@@ -1,0 +1,155 @@
+#include "runs/RunRecord.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <array>
+#include <utility>
+
+namespace {
+
+constexpr std::array outcomeNames{
+    std::pair{Outcome::Open, "open"}, std::pair{Outcome::Succeeded, "succeeded"},
+    std::pair{Outcome::Failed, "failed"}, std::pair{Outcome::Skipped, "skipped"},
+    std::pair{Outcome::Cancelled, "cancelled"}};
+
+QString nameOf(Outcome outcome)
+{
+    for (const auto &[known, name] : outcomeNames)
+        if (known == outcome) return QString::fromLatin1(name);
+    return {};
+}
+
+Outcome outcomeOf(const QJsonValue &value)
+{
+    for (const auto &[known, name] : outcomeNames)
+        if (value.toString() == QLatin1StringView(name)) return known;
+    return Outcome::Open;
+}
+
+QString textOf(const QDateTime &time)
+{
+    return time.isValid() ? time.toUTC().toString(Qt::ISODateWithMs) : QString();
+}
+
+QDateTime timeOf(const QJsonValue &value)
+{
+    return QDateTime::fromString(value.toString(), Qt::ISODateWithMs);
+}
+
+// JSON's numbers are doubles to most readers, and an inode may be larger than those are exact.
+QString number(quint64 value) { return QString::number(value); }
+
+template <class T, class Make>
+QJsonArray arrayOf(const QList<T> &values, Make make)
+{
+    QJsonArray array;
+    for (const T &value : values)
+        array.append(make(value));
+    return array;
+}
+
+template <class T, class Read>
+QList<T> listOf(const QJsonValue &value, Read read)
+{
+    QList<T> list;
+    for (const QJsonValue &entry : value.toArray())
+        list.append(read(entry));
+    return list;
+}
+
+QJsonValue fromText(const QString &text) { return text; }
+QString readText(const QJsonValue &value) { return value.toString(); }
+
+QJsonValue fromAside(const Aside &aside)
+{
+    return QJsonObject{{u"from"_qs, aside.from}, {u"to"_qs, aside.to}};
+}
+
+Aside readAside(const QJsonValue &value) { return {value[u"from"].toString(), value[u"to"].toString()}; }
+
+QJsonValue fromLeft(const LeftFile &left)
+{
+    QJsonObject object{{u"path"_qs, left.path}, {u"clear"_qs, left.isClear}};
+    if (!left.identity) return object;
+    object[u"device"] = number(left.identity->device);
+    object[u"inode"] = number(left.identity->inode);
+    object[u"bytes"] = left.identity->bytes;
+    object[u"modified"] = number(quint64(left.identity->modified));
+    return object;
+}
+
+LeftFile readLeft(const QJsonValue &value)
+{
+    LeftFile left{.path = value[u"path"].toString(), .isClear = value[u"clear"].toBool()};
+    if (!value.toObject().contains(u"inode")) return left;
+    left.identity = FileIdentity{.device = value[u"device"].toString().toULongLong(),
+                                 .inode = value[u"inode"].toString().toULongLong(),
+                                 .bytes = value[u"bytes"].toInteger(),
+                                 .modified = qint64(value[u"modified"].toString().toULongLong())};
+    return left;
+}
+
+QJsonValue fromItem(const ItemRecord &item)
+{
+    QJsonObject object{{u"path"_qs, item.path},
+                       {u"outcome"_qs, nameOf(item.outcome)},
+                       {u"bytes"_qs, qint64(item.bytes)},
+                       {u"archives"_qs, arrayOf(item.archives, fromText)},
+                       {u"between"_qs, arrayOf(item.between, fromText)},
+                       {u"left"_qs, arrayOf(item.left, fromLeft)},
+                       {u"former"_qs, arrayOf(item.former, fromAside)},
+                       {u"final"_qs, arrayOf(item.final, fromText)},
+                       {u"kept"_qs, arrayOf(item.kept, fromAside)}};
+    if (!item.reason.isEmpty()) object[u"reason"] = item.reason;
+    if (!item.clear.isEmpty()) object[u"clear"] = item.clear;
+    if (item.packingSince.isValid()) object[u"packingSince"] = textOf(item.packingSince);
+    return object;
+}
+
+ItemRecord readItem(const QJsonValue &value)
+{
+    return {.path = value[u"path"].toString(),
+            .outcome = outcomeOf(value[u"outcome"]),
+            .reason = value[u"reason"].toString(),
+            .bytes = quint64(value[u"bytes"].toInteger()),
+            .archives = listOf<QString>(value[u"archives"], readText),
+            .between = listOf<QString>(value[u"between"], readText),
+            .clear = value[u"clear"].toString(),
+            .left = listOf<LeftFile>(value[u"left"], readLeft),
+            .former = listOf<Aside>(value[u"former"], readAside),
+            .final = listOf<QString>(value[u"final"], readText),
+            .packingSince = timeOf(value[u"packingSince"]),
+            .kept = listOf<Aside>(value[u"kept"], readAside)};
+}
+
+} // namespace
+
+QByteArray toJson(const RunRecord &record)
+{
+    QJsonObject object{{u"kind"_qs, record.kind},
+                       {u"profile"_qs, record.profile},
+                       {u"folder"_qs, record.folder},
+                       {u"began"_qs, textOf(record.began)},
+                       {u"items"_qs, arrayOf(record.items, fromItem)}};
+    if (record.ended.isValid()) {
+        object[u"ended"] = textOf(record.ended);
+        object[u"outcome"] = nameOf(record.outcome);
+        object[u"summary"] = record.summary;
+    }
+    return QJsonDocument(object).toJson();
+}
+
+std::optional<RunRecord> recordFromJson(const QByteArray &json)
+{
+    const QJsonObject object = QJsonDocument::fromJson(json).object();
+    if (!object[u"kind"].isString() || !object[u"folder"].isString()) return std::nullopt;
+    return RunRecord{.kind = object[u"kind"].toString(),
+                     .profile = object[u"profile"].toString(),
+                     .folder = object[u"folder"].toString(),
+                     .began = timeOf(object[u"began"]),
+                     .ended = timeOf(object[u"ended"]),
+                     .outcome = outcomeOf(object[u"outcome"]),
+                     .summary = object[u"summary"].toString(),
+                     .items = listOf<ItemRecord>(object[u"items"], readItem)};
+}

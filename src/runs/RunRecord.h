@@ -1,0 +1,57 @@
+#pragma once
+
+#include "files/Entry.h"
+#include "files/SetAside.h"
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+/// How a run, or one of its items, ended.
+enum class Outcome { Open, Succeeded, Failed, Skipped, Cancelled };
+
+/// A file that a run left behind although it was to go.
+struct LeftFile {
+    QString path;
+    bool isClear = false; ///< anybody who reads it reads what was to be encrypted
+    std::optional<FileIdentity>
+        identity{}; ///< none: the run ended before it could tell the file from another
+};
+
+/// What became of one item of a run.
+struct ItemRecord {
+    QString path; ///< what was backed up or extracted
+    Outcome outcome = Outcome::Open;
+    QString reason{};         ///< why it failed or was skipped
+    quint64 bytes = 0;        ///< of the item
+    QStringList archives{};   ///< files of the archive that was made
+    QStringList between{};    ///< paths of files of the run's own, that exist for a while
+    QString clear{};          ///< which of them is not encrypted
+    QList<LeftFile> left{};   ///< which of them are there
+    QList<Aside> former{};    ///< files of the archive that is being replaced
+    QStringList final{};      ///< names that the new archive may take, without those of its volumes
+    QDateTime packingSince{}; ///< when its making began; invalid before
+    QList<Aside> kept{};      ///< what was in the way and is not the run's: it stays under its other name
+};
+
+/// What a run leaves in writing: for the next run, which tidies up after one that was killed, and for people.
+/// No secret is ever in it.
+struct RunRecord {
+    QString kind{}; ///< "backup", "extract" or "sync"
+    QString profile{};
+    QString folder{}; ///< where it writes
+    QDateTime began{};
+    QDateTime ended{}; ///< invalid: it runs, or was killed
+    Outcome outcome = Outcome::Open;
+    QString summary{};
+    QList<ItemRecord> items{};
+};
+
+/// As JSON (RFC 8259), UTF-8; times as ISO 8601, numbers beyond 53 bits as texts.
+[[nodiscard]] QByteArray toJson(const RunRecord &record);
+
+/// None where the text is none of a record.
+[[nodiscard]] std::optional<RunRecord> recordFromJson(const QByteArray &json);

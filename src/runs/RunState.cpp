@@ -1,0 +1,147 @@
+#include "runs/RunState.h"
+
+#include <algorithm>
+
+namespace {
+
+template <class T>
+T read(std::mutex &mutex, const T &member)
+{
+    const std::lock_guard lock(mutex);
+    return member;
+}
+
+template <class T>
+void write(std::mutex &mutex, T &member, T value)
+{
+    const std::lock_guard lock(mutex);
+    member = std::move(value);
+}
+
+auto findItem(std::vector<RunState::Item> &items, const QString &path)
+{
+    return std::find_if(items.begin(), items.end(),
+                        [&](const RunState::Item &item) { return item.path == path; });
+}
+
+} // namespace
+
+double RunState::foldersToDo() const { return read(m_mutex, m_foldersToDo); }
+double RunState::foldersDone() const { return read(m_mutex, m_foldersDone); }
+double RunState::sizeToDo() const { return read(m_mutex, m_sizeToDo); }
+double RunState::sizeDone() const { return read(m_mutex, m_sizeDone); }
+std::vector<RunState::Item> RunState::itemsRunning() const { return read(m_mutex, m_running); }
+bool RunState::cancelFlag() const { return read(m_mutex, m_cancelFlag); }
+bool RunState::isRunActive() const { return read(m_mutex, m_runActive); }
+
+void RunState::setFoldersToDo(double count) { write(m_mutex, m_foldersToDo, count); }
+void RunState::setFoldersDone(double count) { write(m_mutex, m_foldersDone, count); }
+void RunState::setSizeToDo(double bytes) { write(m_mutex, m_sizeToDo, bytes); }
+void RunState::setSizeDone(double bytes) { write(m_mutex, m_sizeDone, bytes); }
+
+void RunState::cancelByUser()
+{
+    const std::lock_guard lock(m_mutex);
+    m_cancelFlag = true;
+    m_cancelledByUser = true;
+}
+
+void RunState::cancelForQuitting()
+{
+    const std::lock_guard lock(m_mutex);
+    m_quitting = true;
+    m_cancelFlag = true;
+    m_cancelledByUser = true;
+}
+
+void RunState::setCancelFlag(bool raised)
+{
+    const std::lock_guard lock(m_mutex);
+    m_cancelFlag = raised || m_quitting;
+}
+
+bool RunState::isCancelledByUser() const { return read(m_mutex, m_cancelledByUser); }
+
+QStringList RunState::threadsRunning() const
+{
+    QStringList paths;
+    for (const Item &item : itemsRunning())
+        paths.append(item.path);
+    return paths;
+}
+
+void RunState::setThreadsRunning(const QStringList &paths)
+{
+    std::vector<Item> items;
+    for (const QString &path : paths)
+        items.push_back({path, {}});
+    write(m_mutex, m_running, items);
+}
+
+void RunState::addToDo(double bytes)
+{
+    const std::lock_guard lock(m_mutex);
+    m_sizeToDo += bytes;
+    ++m_foldersToDo;
+}
+
+double RunState::addDone(double bytes)
+{
+    const std::lock_guard lock(m_mutex);
+    ++m_foldersDone;
+    return m_sizeDone += bytes;
+}
+
+void RunState::beginItem(const QString &path)
+{
+    const std::lock_guard lock(m_mutex);
+    m_running.push_back({path, {}});
+}
+
+void RunState::setStage(const QString &path, const QString &stage)
+{
+    const std::lock_guard lock(m_mutex);
+    if (const auto item = findItem(m_running, path); item != m_running.end()) item->stage = stage;
+}
+
+void RunState::endItem(const QString &path)
+{
+    const std::lock_guard lock(m_mutex);
+    if (const auto item = findItem(m_running, path); item != m_running.end()) m_running.erase(item);
+}
+
+QString RunState::failure() const { return read(m_mutex, m_failure); }
+
+void RunState::setFailure(const QString &path, const QString &reason)
+{
+    const std::lock_guard lock(m_mutex);
+    if (m_failure.isEmpty()) m_failure = path + u": "_qs + reason;
+}
+
+bool RunState::tryBeginRun()
+{
+    const std::lock_guard lock(m_mutex);
+    if (m_runActive) return false;
+    m_failure.clear();
+    m_running.clear();
+    m_runActive = true;
+    m_cancelFlag = m_quitting;
+    m_cancelledByUser = m_quitting;
+    m_foldersToDo = m_foldersDone = m_sizeToDo = m_sizeDone = 0;
+    m_began = std::chrono::steady_clock::now();
+    return true;
+}
+
+void RunState::endRun()
+{
+    const std::lock_guard lock(m_mutex);
+    m_runActive = false;
+    m_ended = std::chrono::steady_clock::now();
+}
+
+std::chrono::milliseconds RunState::elapsed() const
+{
+    const std::lock_guard lock(m_mutex);
+    const auto until = m_runActive ? std::chrono::steady_clock::now() : m_ended;
+    return std::chrono::duration_cast<std::chrono::milliseconds>(until - m_began);
+}

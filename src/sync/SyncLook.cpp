@@ -1,0 +1,62 @@
+#include "sync/SyncLook.h"
+
+#include "files/Names.h"
+#include "files/Paths.h"
+#include "sync/SyncArguments.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+bool isEmptyFolder(const QString &path)
+{
+    return QFileInfo(path).isDir() &&
+           QDir(path).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+}
+
+/// An unmounted disk leaves an empty folder in its place, and deleting what that lacks wipes the copy.
+void lookForEmptySources(const SyncOrder &order, Findings &findings)
+{
+    if (!order.deletesExtra) return;
+    const QString root = syncArguments::rootOf(order.entries);
+    for (const QString &entry : order.entries) {
+        if (!isEmptyFolder(entry)) continue;
+        const QString copy = order.destination + u'/' + syncArguments::lineOf(entry, root);
+        const bool mayHoldFiles = order.isRemote || (QFileInfo(copy).isDir() && !isEmptyFolder(copy));
+        if (mayHoldFiles)
+            findings.addConcern(u"\"%1\" is empty, and everything in its copy would be deleted. Is its disk "
+                                "connected?"_qs.arg(entry));
+    }
+}
+
+bool isInside(const QString &path, const QString &folder)
+{
+    return path == folder || path.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
+}
+
+void lookAtEntries(const SyncOrder &order, Findings &findings)
+{
+    const QString root = syncArguments::rootOf(order.entries);
+    for (const QString &entry : syncArguments::misnamedEntries(order.entries))
+        findings.addConcern(
+            u"\"%1\" does not lie under the common folder \"%2\" as the list is written, and will "
+            "not be found. Synchronise it from a profile of its own."_qs.arg(entry, root));
+    const QString destination = quillorentLibrary::standardizePath(order.destination);
+    for (const QString &entry : order.entries)
+        if (!order.isRemote && isInside(destination, quillorentLibrary::standardizePath(entry)))
+            findings.addConcern(
+                u"The destination lies inside \"%1\", so that each run copies the copies of the last "
+                "one. Choose another destination."_qs.arg(entry));
+}
+
+} // namespace
+
+void lookAtSync(const SyncOrder &order, Findings &findings)
+{
+    findings.addObstacle(whatIsMissing(order));
+    if (!findings.obstacles.isEmpty()) return;
+    findings.addObstacle(checkDestination(order));
+    lookAtEntries(order, findings);
+    lookForEmptySources(order, findings);
+}
