@@ -128,8 +128,7 @@ bool FaultHome::survives(const Stage &stage, const Fault &fault)
     expectNoTools(wasKilled);
     fs::permissions(target(), fs::perms::owner_all);
     expectSourcesUntouched();
-    // What stands under its name may keep the former one from coming back at once.
-    expectFormerOrNew(!wasKilled && fault.ends != Ends::Any);
+    expectFormerOrNew(wasKilled || contains(hit.errors, "former-docs"));
     expectClearFilesNamed(hit);
     if (hit.status != 0 || fault.ends != Ends::Killed) expectTruth(hit, fault.ends);
     expectNextRunRepairs(stage);
@@ -180,12 +179,12 @@ void FaultHome::expectSourcesUntouched() const
     EXPECT_EQ(readFile(target() / "notes.txt"), "the user's own");
 }
 
-/// `underItsName`: a run that ended by itself leaves nothing set aside.
-void FaultHome::expectFormerOrNew(bool underItsName) const
+/// `mayBeAside`: the run could not put it back, or has said where it is.
+void FaultHome::expectFormerOrNew(bool mayBeAside) const
 {
     if (m_kind == Kind::Extraction) return; // the archives are the sources
     for (const std::string prefix : {"", "former-"}) {
-        if (underItsName && !prefix.empty()) continue;
+        if (!mayBeAside && !prefix.empty()) continue;
         const std::optional<TreeSnapshot> tree = opened(prefix);
         if (tree && (treeDifference(m_former, *tree).empty() || treeDifference(m_new, *tree).empty())) return;
     }

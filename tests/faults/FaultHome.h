@@ -65,7 +65,7 @@ private:
     [[nodiscard]] std::vector<std::string> foreignNames() const;
 
     void expectSourcesUntouched() const;
-    void expectFormerOrNew(bool underItsName) const;
+    void expectFormerOrNew(bool mayBeAside) const;
     void expectClearFilesNamed(const CommandResult &hit) const;
     [[nodiscard]] bool isNew() const;
     void expectTruth(const CommandResult &hit, Ends ends) const;
