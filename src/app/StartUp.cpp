@@ -62,7 +62,7 @@ void QuillorentAppDelegate::applicationDidFinishLaunching()
     decryptionCombo01.selectIndex(automaticDecryption);
     defaultProfile.set(makeDefaultProfile());
     checkForUpdatesAtStart();
-    showLeftInClear();
+    detachThread(u"left-in-clear"_qs, [this] { showLeftInClear(); });
 
     consoleTextView01.append(describeUnreadable(quillorentLibrary::settingsPath(), configPlist()));
     consoleTextView01.append(describeUnreadable(quillorentLibrary::profilesPath(), listPlist()));

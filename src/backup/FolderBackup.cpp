@@ -4,6 +4,7 @@
 #include "files/ArchiveFiles.h"
 #include "files/Sizes.h"
 #include "runs/ItemPipeline.h"
+#include "runs/Looks.h"
 #include "runs/Run.h"
 
 #include <QFile>
@@ -60,7 +61,8 @@ void FolderBackup::run()
     if (goesOn() && m_isPacked && m_distrust.isEmpty()) removeOwn(m_paths.encrypted);
 
     if (m_succeeded)
-        succeed(quillorentLibrary::calculateSize(m_item));
+        succeed(
+            quillorentLibrary::calculateSize(m_item, [this] { return !m_run.state().isCancelledByUser(); }));
     else
         fail({}, m_reason + whatIsLeftInClear());
     end(m_isPacked, m_isPacked ? newFiles() : QStringList());
@@ -73,6 +75,7 @@ bool FolderBackup::judgeStage(const QString &stage, const ToolResult &result, co
     const bool isDone = judge(u"\n   "_qs + stage, result, isMade, product);
     if (logOutput == LogOutput::Yes || !result.wasStarted) m_log += u'\n' + result.text();
     if (!m_succeeded) m_reason = stage + u": "_qs + result.firstLine();
+    if (!m_succeeded && result.text().contains(u"deprecated key derivation")) m_reason = whyOtherOpenSsl();
     noteBetween();
     return isDone;
 }

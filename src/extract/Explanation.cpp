@@ -1,6 +1,7 @@
 #include "extract/Explanation.h"
 
 #include "files/Names.h"
+#include "runs/Looks.h"
 
 namespace {
 
@@ -115,6 +116,7 @@ QString explainDecryption(const FailedStage &stage)
     if (!stage.commandByName.isEmpty() && stage.commandByName != stage.decoderCommand)
         return u"\"%1\" can't be decrypted with the method that is chosen; its name tells another "
                "one. Choose the automatic method."_qs.arg(name);
+    if (says(stage, {u"deprecated key derivation"})) return whyOtherOpenSsl();
     if (says(stage, {u"bad decrypt", u"wrong final block"}))
         return u"The password is wrong: \"%1\" can't be decrypted with it. Type the one that the "
                "archive was made with."_qs.arg(name);

@@ -18,6 +18,13 @@ QString concernAboutRecords()
            "of your own."_qs.arg(reason);
 }
 
+QString whyOtherOpenSsl()
+{
+    return u"The OpenSSL that is registered derives keys from passwords in another way than the archives "
+           u"need. "
+           "Choose Quillorent's own on the Tools tab; the password may be right."_qs;
+}
+
 bool isWholeArchive(const QString &archiver, const QString &archive)
 {
     const ToolResult result = runTool(archiver, {u"t"_qs, u"-idq"_qs, archive});

@@ -11,4 +11,9 @@ namespace quillorentLibrary {
 /// The same for a registered tool, by the settings. A tool without an entry for either text fails.
 [[nodiscard]] bool testAll(const QString &name);
 
+/// Whether the OpenSSL tool at `launchPath` derives keys from passwords in its older way, and complains of
+/// it: by the rule that a tool which says something has failed, every backup and extraction by a password
+/// would fail.
+[[nodiscard]] bool warnsOfItsKeyDerivation(const QString &launchPath);
+
 } // namespace quillorentLibrary

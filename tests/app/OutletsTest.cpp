@@ -3,20 +3,8 @@
 
 #include <QTimer>
 #include <gtest/gtest.h>
-#include <semaphore>
 
 using namespace std::chrono_literals;
-
-TEST(Outlets, HaveNamesOfTheirOwn)
-{
-    TestProgram program;
-    QSet<QString> names;
-    for (const outlets::Outlet *outlet : program.delegate().outlets()) {
-        EXPECT_FALSE(names.contains(outlet->name())) << qPrintable(outlet->name());
-        names.insert(outlet->name());
-    }
-    EXPECT_GT(names.size(), 50);
-}
 
 TEST(Outlets, TellOnlyOfChanges)
 {
@@ -48,7 +36,7 @@ TEST(Outlets, ChooserForgetsATitleThatIsGone)
     EXPECT_EQ(chooser.selectedTitle(), u"b"_qs);
     chooser.setTitles({u"c"_qs});
     EXPECT_EQ(chooser.selectedTitle(), QString());
-    chooser.selectTitle(u"x"_qs);
+    chooser.selectTitle(u"b"_qs);
     EXPECT_EQ(chooser.selectedTitle(), QString());
 }
 
@@ -56,44 +44,29 @@ TEST(Panel, WaitsOnTheMainThreadInAnEventLoop)
 {
     TestProgram program;
     outlets::Panel &panel = program.delegate().warningPanel03;
-    bool looped = false;
     QTimer::singleShot(0, [&] {
-        looped = panel.place() == outlets::Panel::Place::Sheet;
+        EXPECT_EQ(panel.place(), outlets::Panel::Place::Sheet);
         program.delegate().buttonLaunch01Stop();
     });
     panel.runModal();
-    EXPECT_TRUE(looped);
     EXPECT_EQ(panel.place(), outlets::Panel::Place::Hidden);
+
+    // An answer may come between the moment that a panel shows and the moment that the waiting begins.
+    program.delegate().warn(u"text"_qs);
+    EXPECT_EQ(program.lastWarning(), u"text"_qs);
 }
 
 TEST(Panel, WaitsOnAnotherThreadAndWakesForQuitting)
 {
     TestProgram program;
     outlets::Panel &panel = program.delegate().progressPanel01;
-    std::counting_semaphore<2> answered{0};
-    const auto ask = [&] {
-        panel.runModal();
-        answered.release();
-    };
-
-    detachThread(u"asks"_qs, ask);
-    ASSERT_TRUE(TestProgram::waitUntil([&] { return panel.place() == outlets::Panel::Place::Sheet; }));
-    EXPECT_FALSE(answered.try_acquire_for(20ms));
-    panel.close();
-    EXPECT_TRUE(answered.try_acquire_for(30s));
-
-    detachThread(u"asks"_qs, ask);
-    ASSERT_TRUE(TestProgram::waitUntil([&] { return panel.place() == outlets::Panel::Place::Sheet; }));
-    program.delegate().endRuns();
-    EXPECT_TRUE(answered.try_acquire_for(30s));
+    const std::function<void()> endings[] = {[&] { panel.close(); }, [&] { program.delegate().endRuns(); }};
+    for (const auto &end : endings) {
+        detachThread(u"asks"_qs, [&] { panel.runModal(); });
+        ASSERT_TRUE(TestProgram::waitUntil([&] { return panel.place() == outlets::Panel::Place::Sheet; }));
+        EXPECT_FALSE(waitForThreads(20ms));
+        end();
+        EXPECT_TRUE(waitForThreads(30s));
+    }
     panel.runModal(); // and nobody waits from now on
-}
-
-// An answer may come between the moment that a panel shows and the moment that the waiting begins.
-TEST(Panel, TakesAnAnswerThatComesAtOnce)
-{
-    TestProgram program;
-    program.delegate().warn(u"text"_qs);
-    EXPECT_EQ(program.lastWarning(), u"text"_qs);
-    EXPECT_EQ(program.delegate().warningPanel01.place(), outlets::Panel::Place::Hidden);
 }

@@ -1,9 +1,7 @@
 #include "TestProgram.h"
-#include "settings/Paths.h"
+#include "settings/Store.h"
 
 #include <gtest/gtest.h>
-
-namespace fs = std::filesystem;
 
 TEST(StartUp, GivesANewUserAProfileAndFiles)
 {
@@ -14,27 +12,27 @@ TEST(StartUp, GivesANewUserAProfileAndFiles)
     EXPECT_EQ(delegate.consolePanel01.place(), outlets::Panel::Place::Hidden);
     EXPECT_EQ(delegate.decryptionCombo01.selectedIndex(), 4);
     EXPECT_FALSE(delegate.currentProfileTextView.isHidden());
-    EXPECT_EQ(delegate.defaultProfile().count(), 20);
-    EXPECT_FALSE(delegate.defaultProfile()
-                     .array(u"sync"_qs)
-                     .isSameObject(delegate.defaultProfile().array(u"folders"_qs)));
-    for (const char *name :
-         {"com.brolvanek.Quillorent.config.plist", "com.brolvanek.Quillorent.profiles.plist"})
-        EXPECT_EQ(fs::status(program.folder() / "config" / name).permissions(), fs::perms(0600)) << name;
+    const plist::Dictionary made = delegate.defaultProfile();
+    EXPECT_GT(made.count(), 15);
+    for (const QString &key : made.keys())
+        EXPECT_EQ(made.string(key), delegate.currentRecord().string(key)) << qPrintable(key);
+    EXPECT_TRUE(made.array(u"folders"_qs) && made.array(u"sync"_qs));
+    EXPECT_FALSE(made.array(u"sync"_qs).isSameObject(made.array(u"folders"_qs)));
 }
 
 TEST(StartUp, DoesNothingWithDamagedFilesButSay)
 {
     TestProgram program;
-    writeFile(program.folder() / "config/com.brolvanek.Quillorent.config.plist", "<plist>half");
-    writeFile(program.folder() / "config/com.brolvanek.Quillorent.profiles.plist", "<plist>half");
+    const QString files[] = {quillorentLibrary::settingsPath(), quillorentLibrary::profilesPath()};
+    for (const QString &file : files)
+        writeFile(file.toStdString(), "<plist>half");
     QuillorentAppDelegate &delegate = program.delegate();
     delegate.applicationDidFinishLaunching();
     EXPECT_FALSE(delegate.configPlist());
     EXPECT_TRUE(delegate.currentProfile().isEmpty());
     EXPECT_TRUE(delegate.profileCombo01.titles().isEmpty());
-    for (const QString &path : {quillorentLibrary::settingsPath(), quillorentLibrary::profilesPath()})
-        EXPECT_TRUE(delegate.consoleTextView01.text().contains(path)) << qPrintable(path);
+    for (const QString &file : files)
+        EXPECT_TRUE(delegate.consoleTextView01.text().contains(file)) << qPrintable(file);
     EXPECT_EQ(delegate.consolePanel01.place(), outlets::Panel::Place::Window);
     EXPECT_FALSE(delegate.checkBox04.isOn());
 
@@ -44,7 +42,8 @@ TEST(StartUp, DoesNothingWithDamagedFilesButSay)
     delegate.profileButton02Action();
     delegate.setterDefaultProfile();
     delegate.applicationWillTerminate();
-    EXPECT_EQ(readFile(program.folder() / "config/com.brolvanek.Quillorent.profiles.plist"), "<plist>half");
+    for (const QString &file : files)
+        EXPECT_EQ(readFile(file.toStdString()), "<plist>half");
 }
 
 TEST(Quitting, SavesOnlyWhereTheSettingsSaySo)
@@ -52,12 +51,13 @@ TEST(Quitting, SavesOnlyWhereTheSettingsSaySo)
     for (const bool autosave : {true, false}) {
         TestProgram program;
         program.start();
-        program.delegate().autosaveCheck01.setOn(autosave);
-        program.delegate().autosaveCheck01Action();
-        program.delegate().addFolders({u"/remember/me"_qs});
-        program.delegate().applicationWillTerminate();
-        const std::string saved =
-            readFile(program.folder() / "config/com.brolvanek.Quillorent.profiles.plist");
-        EXPECT_EQ(saved.find("/remember/me") != std::string::npos, autosave);
+        QuillorentAppDelegate &delegate = program.delegate();
+        const plist::Dictionary resources = delegate.configPlist().dictionary(u"resources"_qs);
+        resources.setSwitch(u"autosave"_qs, autosave);
+        resources.setValue(u"changed"_qs, u"");
+        delegate.addFolders({u"/remember/me"_qs});
+        delegate.applicationWillTerminate();
+        EXPECT_EQ(quillorentLibrary::readSettings() == delegate.configPlist(), autosave);
+        EXPECT_EQ(quillorentLibrary::readProfiles() == delegate.listPlist(), autosave);
     }
 }

@@ -6,8 +6,9 @@
 #include "TemporaryFolder.h"
 #include "Tree.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
-#include <set>
+#include <map>
 #include <sstream>
 
 namespace fs = std::filesystem;
@@ -16,57 +17,29 @@ namespace {
 
 const std::string password = "correct horse ä";
 
-std::set<std::string> wordsOf(const std::string &line)
+using Commands = std::map<std::string, std::string>;
+
+/// The page's commands for each sample, in the page's order. Before each block of them stands, in a comment,
+/// with which samples it is to be tested.
+Commands readPage()
 {
-    std::istringstream stream(line);
-    return {std::istream_iterator<std::string>(stream), {}};
+    Commands commands;
+    const std::string text = readFile(QUILLORENT_RECOVERY);
+    const std::string fence = "\n```sh\n";
+    for (std::size_t at = text.find(fence); at != std::string::npos; at = text.find(fence, at + 1)) {
+        const std::string before = text.substr(text.rfind('\n', at - 1) + 1, at);
+        const std::size_t start = at + fence.size();
+        const std::string mark = "<!-- test: ";
+        EXPECT_TRUE(before.starts_with(mark)) << "no test of " << text.substr(start, 80);
+        std::istringstream samples(before.substr(mark.size(), before.find(" -->") - mark.size()));
+        for (std::string sample; samples >> sample;)
+            commands[sample] += text.substr(start, text.find("\n```", start) - start) + "\n";
+    }
+    return commands;
 }
 
-/// The page's blocks of commands. Before each stands, in a comment, what it is to be tested with.
-class Page {
-public:
-    Page()
-    {
-        const std::string text = readFile(QUILLORENT_RECOVERY);
-        const std::string fence = "\n```sh\n";
-        for (std::size_t at = text.find(fence); at != std::string::npos; at = text.find(fence, at + 1)) {
-            const std::string before = text.substr(text.rfind('\n', at - 1) + 1, at);
-            const std::size_t start = at + fence.size();
-            const std::string mark = "<!-- test: ";
-            EXPECT_TRUE(before.starts_with(mark)) << "no test of " << text.substr(start, 80);
-            const std::string samples = before.substr(mark.size(), before.find(" -->") - mark.size());
-            m_blocks.emplace_back(wordsOf(samples), text.substr(start, text.find("\n```", start) - start));
-        }
-    }
-
-    /// All commands for a sample, in the page's order.
-    [[nodiscard]] std::string commands(const std::string &sample) const
-    {
-        std::string all;
-        for (const auto &[samples, block] : m_blocks)
-            if (samples.contains(sample)) all += block + "\n";
-        return all;
-    }
-    [[nodiscard]] std::set<std::string> samples() const
-    {
-        std::set<std::string> all;
-        for (const auto &[samples, block] : m_blocks)
-            all.insert(samples.begin(), samples.end());
-        return all;
-    }
-
-private:
-    std::vector<std::pair<std::set<std::string>, std::string>> m_blocks;
-};
-
-struct Sample {
-    std::string name;
-    std::string making; ///< shell commands that turn Docs.rar into what the machine gets
-};
-
-std::ostream &operator<<(std::ostream &stream, const Sample &sample) { return stream << sample.name; }
-
-std::vector<Sample> samples()
+/// By name, what turns Docs.rar into what the machine gets.
+Commands samples()
 {
     const std::string options = " -a -salt -in Docs.rar -pass env:password -out Docs.rar";
     const std::string aes = "\"$front\" aes-256-cbc" + options + ".aes; ";
@@ -87,7 +60,7 @@ std::vector<Sample> samples()
 }
 
 /// A machine that has the archives and nothing else of ours.
-class Recovery : public testing::TestWithParam<Sample> {
+class Recovery : public testing::TestWithParam<Commands::value_type> {
 protected:
     void SetUp() override
     {
@@ -117,20 +90,20 @@ protected:
     TemporaryFolder temporary;
     const fs::path source = temporary / "home/Docs";
     const fs::path machine = temporary / "machine";
-    const Page page;
+    Commands page = readPage();
 };
 
 TEST_P(Recovery, GivesEverythingBack)
 {
-    run(GetParam().making);
+    run(GetParam().second);
     fs::remove(machine / "Docs.rar");
-    const CommandResult result = run(page.commands(GetParam().name));
+    const CommandResult result = run(page[GetParam().first]);
     ASSERT_EQ(result.status, 0) << result.output + result.errors;
     EXPECT_EQ(treeDifference(source, machine / source.relative_path(), {.nanoseconds = false}), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Page, Recovery, testing::ValuesIn(samples()), [](const auto &each) {
-    std::string name = each.param.name;
+    std::string name = each.param.first;
     std::erase(name, '-');
     return name;
 });
@@ -144,17 +117,18 @@ TEST_F(Recovery, FindsThePasswordInTheKeychain)
                          {.input = password})
                   .status,
               0);
-    EXPECT_EQ(run(page.commands("keychain")).output, password);
-    const CommandResult all = run(page.commands("keychain-all"));
+    EXPECT_EQ(run(page["keychain"]).output, password);
+    const CommandResult all = run(page["keychain-all"]);
     EXPECT_NE(all.output.find("secret = " + password), std::string::npos) << all.output;
 }
 
 TEST(RecoveryPage, HasATestForEverySample)
 {
-    std::set<std::string> known{"keychain", "keychain-all"};
-    for (const Sample &sample : samples())
-        known.insert(sample.name);
-    EXPECT_EQ(Page().samples(), known);
+    Commands known = samples();
+    known.insert({{"keychain", {}}, {"keychain-all", {}}});
+    const Commands page = readPage();
+    EXPECT_TRUE(std::equal(known.begin(), known.end(), page.begin(), page.end(),
+                           [](const auto &one, const auto &other) { return one.first == other.first; }));
 }
 
 } // namespace

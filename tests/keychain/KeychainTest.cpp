@@ -1,44 +1,39 @@
-// What every keychain does, and the items on top of it.
+// The desktop's keychain, in the states that a desktop brings it into, and the items on top of it.
 
-#include "InMemoryKeychain.h"
+#include "Command.h"
 #include "SecretService.h"
 #include "keychain/EMGenericKeychainItem.h"
 #include "keychain/EMInternetKeychainItem.h"
 #include "keychain/SecretServiceKeychain.h"
 
+#include <future>
 #include <gtest/gtest.h>
 #include <thread>
 
+using namespace std::chrono_literals;
 using Generic = EMGenericKeychainItem;
 using Internet = EMInternetKeychainItem;
+using Keyring = SecretService::Keyring;
 using Status = KeychainStatus;
 
 namespace {
 
 const QString service = u"com.brolvanek.Quillorent.encrypt"_qs;
 
-enum class Kind { InMemory, SecretService };
-
-class KeychainTest : public testing::TestWithParam<Kind> {
+class KeychainTest : public testing::Test {
 protected:
-    void SetUp() override
+    KeychainTest()
     {
-        if (GetParam() == Kind::InMemory) {
-            setKeychain(std::make_shared<InMemoryKeychain>());
-            return;
-        }
-        m_session = std::make_unique<SecretService>();
-        m_session->start();
+        session.start();
         setKeychain(std::make_shared<SecretServiceKeychain>());
     }
-    void TearDown() override
+    ~KeychainTest() override
     {
         setKeychain(nullptr);
         Generic::setLogsErrors(false);
     }
 
-private:
-    std::unique_ptr<SecretService> m_session;
+    SecretService session;
 };
 
 std::shared_ptr<Generic> add(const QString &account, const QString &password, Status *status = nullptr)
@@ -46,17 +41,50 @@ std::shared_ptr<Generic> add(const QString &account, const QString &password, St
     return Generic::addGenericKeychainItemForService(service, account, password, status);
 }
 
-/// A null string where there is none.
-QString stored(const QString &account, const QString &ofService = service)
+/// "none" where there is none.
+QString stored(const QString &account, const QString &ofService = service, Status *status = nullptr)
 {
-    const auto item = Generic::genericKeychainItemForService(ofService, account);
-    return item ? item->password() : QString();
+    const auto item = Generic::genericKeychainItemForService(ofService, account, status);
+    return !item || item->password().isNull() ? u"none"_qs : u"it is "_qs + item->password();
 }
 
-std::string described(const QString &text) { return text.isNull() ? "none" : '"' + text.toStdString() + '"'; }
+Status statusOf(const QString &account)
+{
+    Status status{};
+    stored(account, service, &status);
+    return status;
+}
+
+Status statusOfAdding(const QString &account, const QString &password = u"pw"_qs)
+{
+    Status status{};
+    add(account, password, &status);
+    return status;
+}
+
+std::shared_ptr<Internet> addInternet(const QString &server, const QString &path, int port, quint32 protocol)
+{
+    return Internet::addInternetKeychainItemForServer(server, u"alice"_qs, u"of "_qs + server, path, port,
+                                                      protocol);
+}
+
+std::shared_ptr<Internet> findInternet(const QString &server, const QString &path, int port, quint32 protocol)
+{
+    return Internet::internetKeychainItemForServer(server, u"alice"_qs, path, port, protocol);
+}
 
 /// The same characters in another place.
 QString equalCopy(const QString &text) { return QString(text.constData(), text.size()); }
+
+std::string failureOf(const std::function<void()> &action)
+{
+    try {
+        action();
+    } catch (const KeychainAssertionFailure &caught) {
+        return std::string(caught.sourceFile) + ": " + caught.what();
+    }
+    return "none";
+}
 
 QStringList &logged()
 {
@@ -68,60 +96,39 @@ void keepLog(QtMsgType, const QMessageLogContext &, const QString &text) { logge
 
 } // namespace
 
-TEST_P(KeychainTest, GivesBackWhatItKeeps)
+TEST_F(KeychainTest, GivesBackWhatItKeepsAndOverwritesNothing)
 {
-    const QStringList passwords{u"correct horse"_qs, u""_qs, u"pâss wörd ✓ \U0001F511"_qs,
-                                u" two\nlines\t"_qs, QString(5000, u'x')};
-    for (const QString &password : passwords) {
-        const QString account = u"account %1 ü"_qs.arg(passwords.indexOf(password));
-        EXPECT_EQ(described(stored(account)), "none");
+    for (const QString &password : {u"correct horse"_qs, u""_qs, u"pâss wörd ✓ \U0001F511"_qs,
+                                    u" two\nlines\t"_qs, QString(5000, u'x')}) {
+        const QString account = u"account %1 ü"_qs.arg(password.size());
+        EXPECT_EQ(stored(account), u"none"_qs);
         const auto added = add(account, password);
         ASSERT_TRUE(added);
-        EXPECT_EQ(added->username(), account);
-        EXPECT_EQ(added->serviceName(), service);
+        EXPECT_EQ(added->username() + added->serviceName(), account + service);
         EXPECT_TRUE(added->label().isNull());
-        EXPECT_TRUE(stored(account) == password && !stored(account).isNull()) << account.toStdString();
-        EXPECT_EQ(described(stored(account, u"other"_qs)), "none");
+        EXPECT_EQ(statusOfAdding(account, u"another"_qs), Status::DuplicateItem);
+        EXPECT_EQ(stored(account), u"it is "_qs + password);
+        EXPECT_EQ(stored(account, u"other"_qs), u"none"_qs);
     }
-}
-
-TEST_P(KeychainTest, NeverOverwrites)
-{
-    ASSERT_TRUE(add(u"alice"_qs, u"first"_qs));
-    Status status{};
-    EXPECT_FALSE(add(u"alice"_qs, u"second"_qs, &status));
-    EXPECT_EQ(status, Status::DuplicateItem);
-    EXPECT_EQ(described(stored(u"alice"_qs)), "\"first\"");
-
-    const auto addInternet = [&](const QString &path) {
-        return Internet::addInternetKeychainItemForServer(u"host"_qs, u"alice"_qs, u"pw"_qs, path, 22,
-                                                          fourCharacterCode("ssh "), &status);
-    };
-    ASSERT_TRUE(addInternet({}));
-    EXPECT_FALSE(addInternet(u""_qs)) << "a null path is the empty one";
-    EXPECT_EQ(status, Status::DuplicateItem);
-    EXPECT_TRUE(addInternet(u"/other"_qs));
+    EXPECT_TRUE(addInternet(u"host"_qs, {}, 22, fourCharacterCode("ssh ")));
+    EXPECT_FALSE(addInternet(u"host"_qs, u""_qs, 22, fourCharacterCode("ssh ")))
+        << "a null path is the empty one";
+    EXPECT_TRUE(addInternet(u"host"_qs, u"/other"_qs, 22, fourCharacterCode("ssh ")));
 
     // Nor does a change make two of what can't be told apart.
     const auto bob = add(u"bob"_qs, u"bob's"_qs);
-    ASSERT_TRUE(bob);
+    ASSERT_TRUE(add(u"alice"_qs, u"pw"_qs) && bob);
     bob->setUsername(u"alice"_qs);
-    EXPECT_EQ(described(stored(u"bob"_qs)), "\"bob's\"");
+    EXPECT_EQ(stored(u"bob"_qs), u"it is bob's"_qs);
 }
 
-TEST_P(KeychainTest, FindsInternetPasswordsByAllTheirParts)
+TEST_F(KeychainTest, FindsInternetPasswordsByAllTheirParts)
 {
     const quint32 ftp = keychainProtocol::ftp;
     const quint32 ftpAccount = keychainProtocol::ftpAccount;
-    const auto find = [](const QString &server, const QString &path, int port, quint32 protocol) {
-        return Internet::internetKeychainItemForServer(server, u"alice"_qs, path, port, protocol);
-    };
-    for (const auto &[server, path, port, protocol] :
-         {std::tuple(u"plain"_qs, QString(), 70000, ftpAccount), std::tuple(u"deep"_qs, u"/a b"_qs, 21, ftp),
-          std::tuple(u"odd"_qs, u""_qs, 65536, quint32{1})})
-        ASSERT_TRUE(Internet::addInternetKeychainItemForServer(server, u"alice"_qs, server + u"'s"_qs, path,
-                                                               port, protocol));
-
+    ASSERT_TRUE(addInternet(u"plain"_qs, {}, 70000, ftpAccount));
+    ASSERT_TRUE(addInternet(u"deep"_qs, u"/a b"_qs, 21, ftp));
+    ASSERT_TRUE(addInternet(u"odd"_qs, u""_qs, 65536, 1));
     struct Case {
         QString server;
         QString path;
@@ -141,112 +148,97 @@ TEST_P(KeychainTest, FindsInternetPasswordsByAllTheirParts)
              Case{u"odd"_qs, {}, 0, 1, 1},
          }) {
         SCOPED_TRACE(testing::Message() << c.server.toStdString() << ' ' << c.port << ' ' << c.protocol);
-        const auto item = find(c.server, c.path, c.port, c.protocol);
+        const auto item = findInternet(c.server, c.path, c.port, c.protocol);
         ASSERT_EQ(item != nullptr, c.foundProtocol != 0);
         if (!item) continue;
         EXPECT_EQ(item->protocol(), c.foundProtocol);
         EXPECT_EQ(item->port(), c.port);
         EXPECT_EQ(item->path().isNull(), c.path.isNull());
-        EXPECT_EQ(described(item->password()), described(c.server + u"'s"_qs));
+        EXPECT_EQ(item->password(), u"of "_qs + c.server);
     }
 }
 
-TEST_P(KeychainTest, WritesEachPropertyAtOnce)
+TEST_F(KeychainTest, WritesEachPropertyAtOnce)
 {
     const auto item = add(u"alice"_qs, u"old"_qs);
     ASSERT_TRUE(item);
+    session.start(); // it knows its items by their attributes
     item->setUsername(u"bob"_qs);
     item->setServiceName(u"elsewhere"_qs);
-    item->setLabel(u"a label"_qs);
     item->setPassword(u"new"_qs);
-    EXPECT_EQ(described(stored(u"bob"_qs, u"elsewhere"_qs)), "\"new\"");
-    EXPECT_EQ(described(stored(u"alice"_qs)), "none");
+    EXPECT_EQ(stored(u"bob"_qs, u"elsewhere"_qs), u"it is new"_qs);
+    EXPECT_EQ(stored(u"alice"_qs), u"none"_qs);
     item->setPassword({});
-    EXPECT_EQ(described(stored(u"bob"_qs, u"elsewhere"_qs)), "\"new\"");
+    EXPECT_EQ(stored(u"bob"_qs, u"elsewhere"_qs), u"it is new"_qs);
     EXPECT_TRUE(item->password().isNull());
 
-    const auto remote = Internet::addInternetKeychainItemForServer(u"host"_qs, u"alice"_qs, u"pw"_qs, {}, 21,
-                                                                   keychainProtocol::ftp);
+    const auto remote = addInternet(u"host"_qs, {}, 21, keychainProtocol::ftp);
     ASSERT_TRUE(remote);
     remote->setServer(u"server"_qs);
-    remote->setUsername(u"bob"_qs);
     remote->setPath(u"/path"_qs);
     remote->setPort(2121);
     remote->setProtocol(fourCharacterCode("ftps"));
-    EXPECT_TRUE(Internet::internetKeychainItemForServer(u"server"_qs, u"bob"_qs, u"/path"_qs, 2121,
-                                                        fourCharacterCode("ftps")));
+    EXPECT_TRUE(findInternet(u"server"_qs, u"/path"_qs, 2121, fourCharacterCode("ftps")));
+
+    // The same object says that nothing changed; an equal one is written.
+    const auto one = add(equalCopy(u"carol"_qs), u"pw"_qs);
+    const auto other = Generic::genericKeychainItemForService(service, u"carol"_qs);
+    ASSERT_TRUE(one && other);
+    other->setUsername(u"dave"_qs);
+    one->setUsername(one->username());
+    EXPECT_EQ(stored(u"carol"_qs), u"none"_qs);
+    one->setUsername(equalCopy(one->username()));
+    EXPECT_EQ(stored(u"carol"_qs), u"it is pw"_qs);
 }
 
-TEST_P(KeychainTest, LeavesTheKeychainAloneForTheSameObject)
-{
-    const auto item = add(equalCopy(u"alice"_qs), u"pw"_qs);
-    const auto other = Generic::genericKeychainItemForService(service, u"alice"_qs);
-    ASSERT_TRUE(item && other);
-    other->setUsername(u"bob"_qs);
-    item->setUsername(item->username());
-    EXPECT_EQ(described(stored(u"alice"_qs)), "none") << "the same object was written";
-    item->setUsername(equalCopy(item->username()));
-    EXPECT_EQ(described(stored(u"alice"_qs)), "\"pw\"") << "an equal object was not written";
-}
-
-TEST_P(KeychainTest, RemovesAnItemOnce)
+TEST_F(KeychainTest, RemovesAnItemOnceAndNoneWhileItIsLocked)
 {
     const auto item = add(u"alice"_qs, u"pw"_qs);
     ASSERT_TRUE(item);
+    ASSERT_EQ(Generic::lockKeychain(), Status::Success);
+    item->setUsername(u"carol"_qs);
     item->removeFromKeychain();
-    EXPECT_EQ(described(stored(u"alice"_qs)), "none");
+    EXPECT_EQ(item->username(), u"carol"_qs);
+    EXPECT_EQ(failureOf([&] { item->setUsername(u"alice"_qs); }), "none") << "the item is not gone";
+    session.start();
+    EXPECT_EQ(stored(u"alice"_qs), u"it is pw"_qs);
 
-    const auto failure = [](const std::function<void()> &action) -> std::string {
-        try {
-            action();
-        } catch (const KeychainAssertionFailure &caught) {
-            return std::string(caught.sourceFile) + ": " + caught.what();
-        }
-        return "none";
-    };
+    item->removeFromKeychain();
+    EXPECT_EQ(statusOf(u"alice"_qs), Status::ItemNotFound);
     EXPECT_EQ(
-        failure([&] { item->removeFromKeychain(); }),
+        failureOf([&] { item->removeFromKeychain(); }),
         "EMKeychainItem: Core keychain item is nil. You cannot remove a keychain item that is not in the "
         "keychain already.");
-    EXPECT_EQ(
-        failure([&] { item->setUsername(u"bob"_qs); }),
-        "EMKeychainItem: Core keychain item is nil. You cannot modify a keychain item that is not in the "
-        "keychain.");
-    EXPECT_EQ(item->username(), u"bob"_qs);
-    EXPECT_EQ(failure([&] { item->setUsername(equalCopy(u"carol"_qs)); }).substr(0, 14), "EMKeychainItem")
-        << "the failure before left the item locked";
-    EXPECT_EQ(failure([&] { item->setPassword(u"new"_qs); }), "none");
+    for (const QString &name :
+         {u"bob"_qs, u"carol"_qs}) { // twice: the failure before must not leave it locked
+        EXPECT_EQ(
+            failureOf([&] { item->setUsername(name); }),
+            "EMKeychainItem: Core keychain item is nil. You cannot modify a keychain item that is not in "
+            "the keychain.");
+        EXPECT_EQ(item->username(), name);
+    }
+    EXPECT_EQ(failureOf([&] { item->setPassword(u"new"_qs); }), "none");
     EXPECT_EQ(item->password(), u"new"_qs);
 }
 
-TEST_P(KeychainTest, SaysWhyALookUpFailed)
+TEST_F(KeychainTest, RefusesWhatNoItemHasAndSaysWhy)
 {
     Generic::setLogsErrors(true);
     logged().clear();
     const QtMessageHandler before = qInstallMessageHandler(keepLog);
-    Status status{};
-    const auto find = [&](const QString &account) {
-        EXPECT_FALSE(Generic::genericKeychainItemForService(service, account, &status));
-        return status;
-    };
-    EXPECT_EQ(find({}), Status::InvalidValue);
-    EXPECT_FALSE(add(u"alice"_qs, {}, &status));
-    EXPECT_FALSE(Internet::internetKeychainItemForServer({}, u"alice"_qs, {}, 0, 0));
+    EXPECT_EQ(statusOf({}), Status::InvalidValue);
+    EXPECT_EQ(statusOfAdding(u"alice"_qs, {}), Status::InvalidValue);
+    EXPECT_FALSE(findInternet({}, {}, 0, 0));
     EXPECT_TRUE(logged().isEmpty()) << "an argument that is missing is no error";
-
-    EXPECT_EQ(find(u"alice"_qs), Status::ItemNotFound);
-    EXPECT_EQ(find(u"nul\0l"_qs), Status::InvalidValue);
-    EXPECT_FALSE(add(u"nul\0l"_qs, u"sesame"_qs, &status));
-    EXPECT_EQ(status, Status::InvalidValue);
+    EXPECT_EQ(statusOf(u"alice"_qs), Status::ItemNotFound);
+    EXPECT_EQ(statusOf(u"nul\0l"_qs), Status::InvalidValue);
+    EXPECT_EQ(statusOfAdding(u"nul\0l"_qs, u"sesame"_qs), Status::InvalidValue);
     qInstallMessageHandler(before);
     ASSERT_EQ(logged().size(), 3);
     EXPECT_EQ(logged().first(), u"Error (genericKeychainItemForService:withUsername:) - %1"_qs.arg(
                                     keychain()->statusText(Status::ItemNotFound)));
     EXPECT_FALSE(logged().join(u' ').contains(u"sesame"));
-}
 
-TEST_P(KeychainTest, RefusesWhatNoItemHas)
-{
     const auto added = keychain()->addGenericPassword({"service", "account"}, Secret("pw"));
     ASSERT_EQ(added.status, Status::Success);
     const auto modify = [&](const KeychainItemHandle &item, KeychainTag tag, const QByteArray &value) {
@@ -262,23 +254,7 @@ TEST_P(KeychainTest, RefusesWhatNoItemHas)
     EXPECT_EQ(modify(added.item, KeychainTag::Account, "bob"), Status::ItemNotFound);
 }
 
-TEST_P(KeychainTest, ChangesNothingWhileItIsLocked)
-{
-    const auto item = add(u"alice"_qs, u"pw"_qs);
-    ASSERT_TRUE(item);
-    ASSERT_EQ(Generic::lockKeychain(), Status::Success);
-    Status status{};
-    EXPECT_FALSE(Generic::genericKeychainItemForService(service, u"alice"_qs, &status));
-    EXPECT_EQ(status, Status::Locked);
-    EXPECT_FALSE(add(u"bob"_qs, u"pw"_qs, &status));
-    EXPECT_EQ(status, Status::Locked);
-    item->setUsername(u"carol"_qs);
-    item->removeFromKeychain();
-    EXPECT_EQ(item->username(), u"carol"_qs);
-    EXPECT_NO_THROW(item->setUsername(u"dave"_qs)) << "a refused removal must keep the item";
-}
-
-TEST_P(KeychainTest, IsUsedByTwoThreadsAtOnce)
+TEST_F(KeychainTest, IsUsedByTwoThreadsAtOnce)
 {
     std::atomic<int> added = 0;
     const auto work = [&](const QString &own) {
@@ -287,7 +263,7 @@ TEST_P(KeychainTest, IsUsedByTwoThreadsAtOnce)
             const auto item = add(own + QString::number(round), own);
             ASSERT_TRUE(item);
             item->setPassword(own + u'!');
-            EXPECT_EQ(stored(own + QString::number(round)), own + u'!');
+            EXPECT_EQ(stored(own + QString::number(round)), u"it is "_qs + own + u'!');
         }
     };
     std::thread one(work, u"one"_qs);
@@ -297,7 +273,85 @@ TEST_P(KeychainTest, IsUsedByTwoThreadsAtOnce)
     EXPECT_EQ(added, 5) << "each shared name is one thread's alone";
 }
 
-INSTANTIATE_TEST_SUITE_P(, KeychainTest, testing::Values(Kind::InMemory, Kind::SecretService),
-                         [](const auto &kind) {
-                             return kind.param == Kind::InMemory ? "InMemory" : "SecretService";
-                         });
+TEST_F(KeychainTest, SaysInWhichStateTheServiceIs)
+{
+    struct Case {
+        std::string name;
+        std::function<void()> enter;
+        Status find;
+        Status add;
+        Status unlock;
+    };
+    const std::string bus = session.environment().at("DBUS_SESSION_BUS_ADDRESS");
+    const Status noService = Status::NoService;
+    const Status noKeyring = Status::NoDefaultKeychain;
+    for (const Case &c : {
+             Case{"no service", [&] { session.stop(); }, noService, noService, noService},
+             Case{"no keyring", [&] { session.start(Keyring::None); }, noKeyring, noKeyring, noKeyring},
+             Case{"unlocked", [&] { session.start(); }, Status::ItemNotFound, Status::Success,
+                  Status::Success},
+             Case{"locked", [&] { session.start(Keyring::Locked); }, Status::Locked, Status::Locked,
+                  Status::UnlockDeclined},
+             Case{"again", [&] { session.start(); }, Status::Success, Status::DuplicateItem, Status::Success},
+             Case{"no bus", [] { setenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere/bus", 1); },
+                  noService, noService, noService},
+         }) {
+        SCOPED_TRACE(c.name);
+        c.enter();
+        EXPECT_EQ(statusOf(u"alice"_qs), c.find);
+        EXPECT_EQ(statusOfAdding(u"alice"_qs), c.add);
+        EXPECT_EQ(keychain()->unlock(), c.unlock);
+    }
+    setenv("DBUS_SESSION_BUS_ADDRESS", bus.c_str(), 1);
+}
+
+TEST_F(KeychainTest, DoesNotWaitForAServiceThatIsSilent)
+{
+    setKeychain(std::make_shared<SecretServiceKeychain>(300ms));
+    const auto item = keychain()->addGenericPassword({"service", "bob"}, Secret("pw")).item;
+    session.freeze();
+    for (const Status status :
+         {statusOf(u"alice"_qs), statusOfAdding(u"alice"_qs), keychain()->deleteItem(item),
+          keychain()->modifyAttributesAndData(item, {}, Secret("new")), keychain()->lock(),
+          keychain()->unlock()})
+        EXPECT_EQ(status, Status::NotAnswering);
+    session.thaw();
+    setKeychain(std::make_shared<SecretServiceKeychain>());
+    EXPECT_EQ(statusOf(u"alice"_qs), Status::ItemNotFound)
+        << "what was given up has been stored all the same";
+    EXPECT_EQ(stored(u"bob"_qs, u"service"_qs), u"it is pw"_qs);
+
+    // Nor is it waited for when the program quits.
+    setKeychain(std::make_shared<SecretServiceKeychain>(10min));
+    session.freeze();
+    auto asked = std::async(std::launch::async, [] { return statusOf(u"alice"_qs); });
+    while (asked.wait_for(10ms) != std::future_status::ready)
+        keychain()->giveUp();
+    EXPECT_EQ(asked.get(), Status::Cancelled);
+    session.thaw();
+}
+
+TEST_F(KeychainTest, SharesItsPasswordsWithOtherPrograms)
+{
+    const auto remote = Internet::addInternetKeychainItemForServer(
+        u"example.org"_qs, u"alice"_qs, u"sésame"_qs, u"/files"_qs, 2121, keychainProtocol::ftp);
+    ASSERT_TRUE(remote);
+    const auto search = [] {
+        const CommandResult shown = runCommand({"secret-tool", "search", "--all", "server", "example.org"});
+        return shown.output + shown.errors;
+    };
+    for (const char *line : {"label = Quillorent password of alice at example.org\n", "secret = sésame\n",
+                             "attribute.account = alice\n", "attribute.path = /files\n",
+                             "attribute.port = 2121\n", "attribute.protocol = ftp\n"})
+        EXPECT_NE(search().find(line), std::string::npos) << line << "is not in\n" << search();
+    remote->setLabel(u"Our files"_qs);
+    EXPECT_NE(search().find("label = Our files\n"), std::string::npos);
+
+    for (const auto &[account, password, read] :
+         {std::tuple{"bob", "pw", u"it is pw"_qs}, {"carol", "\xff\xfe", u"none"_qs}}) { // that are no text
+        const std::vector<std::string> command{"secret-tool", "store",   "--label=mine", "service",
+                                               "service",     "account", account};
+        ASSERT_EQ(runCommand(command, {.input = password}).status, 0);
+        EXPECT_EQ(stored(QString::fromLatin1(account), u"service"_qs), read);
+    }
+}

@@ -1,20 +1,22 @@
+// Certificates and private keys: which are taken, what is said of the others, and what is told of those
+// taken.
+
 #include "keys/Certificates.h"
 
 #include "Credentials.h"
+#include "ProgramTest.h"
 #include "Stub.h"
-#include "TestProgram.h"
 #include "keys/CertificateSummary.h"
-#include "keys/Refusals.h"
-
-#include <gtest/gtest.h>
+#include "tools/Threads.h"
 
 using namespace quillorentLibrary;
+using namespace std::chrono_literals;
 namespace fs = std::filesystem;
 
 namespace {
 
 /// Files of every kind that people take for a certificate or a key.
-class Certificates : public testing::Test {
+class Certificates : public ProgramTest {
 protected:
     static void SetUpTestSuite()
     {
@@ -23,18 +25,16 @@ protected:
         makeCredentials(path(), "bert");
         makeCredentials(path(), "old", Validity::EndedIn2021);
         makeCredentials(path(), "soon", Validity::FiveDays);
-        runOpenSsl(path(), "rsa -in anna-key.pem -aes128 -passout pass:x -out encrypted-key.pem");
-        runOpenSsl(path(),
-                   "rsa -in anna-key.pem -aes128 -passout pass:x -traditional -out old-encrypted-key.pem");
-        runOpenSsl(
-            path(),
-            "req -x509 -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 -nodes -keyout ec-key.pem -out "
-            "ec.pem -subj /CN=ec");
-        runOpenSsl(path(), "x509 -in anna.pem -outform DER -out anna.der");
-        runOpenSsl(path(), "pkcs12 -export -in anna.pem -inkey anna-key.pem -passout pass:x -out anna.p12");
-        runOpenSsl(path(), "rsa -in anna-key.pem -pubout -out public.pem");
-        runOpenSsl(path(),
-                   "req -x509 -key anna-key.pem -days 9 -subj /O=Other/CN=Grüße -utf8 -out same-key.pem");
+        for (const char *words :
+             {"rsa -in anna-key.pem -aes128 -passout pass:x -out encrypted-key.pem",
+              "rsa -in anna-key.pem -aes128 -passout pass:x -traditional -out old-encrypted-key.pem",
+              "req -x509 -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 -nodes -keyout ec-key.pem -out "
+              "ec.pem -subj /CN=ec",
+              "x509 -in anna.pem -outform DER -out anna.der",
+              "pkcs12 -export -in anna.pem -inkey anna-key.pem -passout pass:x -out anna.p12",
+              "rsa -in anna-key.pem -pubout -out public.pem",
+              "req -x509 -key anna-key.pem -days 9 -subj /O=Other/CN=Grüße -utf8 -out same-key.pem"})
+            runOpenSsl(path(), words);
         const std::string anna = readFile(path() / "anna.pem");
         writeFile(path() / "chain.pem", anna + readFile(path() / "bert.pem"));
         writeFile(path() / "both.pem", readFile(path() / "anna-key.pem") + anna);
@@ -46,60 +46,121 @@ protected:
     static void TearDownTestSuite() { s_folder.reset(); }
 
     static const fs::path &path() { return s_folder->path(); }
-    static QString file(const char *name) { return toQString(path() / name); }
+    static QString file(const QString &name) { return toQString(path()) + u'/' + name; }
 
-    void SetUp() override { m_program.start(); }
+    /// Chooses a file ("-": none), and gives what the sheet says that the choice brings up; empty where none
+    /// comes.
+    QString choose(const QString &name, void (QuillorentAppDelegate::*action)())
+    {
+        delegate.openPanel = [&](const outlets::OpenPanel &panel) {
+            EXPECT_EQ(panel.allowedFileTypes.join(u' '),
+                      u"cer p12 p15 crt der pem pfx cert txt rtf pk12 pk15 pkcs12"_qs);
+            return name == u"-" ? QStringList() : QStringList{file(name)};
+        };
+        (delegate.*action)();
+        QString shown;
+        EXPECT_TRUE(TestProgram::waitUntil([&] {
+            if (delegate.certPanel01.place() == outlets::Panel::Place::Sheet) {
+                shown = delegate.certPanelText01.text();
+                delegate.certButton01ActionEnd();
+            }
+            if (delegate.pkPanel01.place() == outlets::Panel::Place::Sheet) {
+                shown = delegate.pkPanelText01.text();
+                delegate.pkButton01ActionEnd();
+            }
+            return waitForThreads(1ms);
+        }));
+        return shown;
+    }
+    QString chooseCertificate(const QString &name)
+    {
+        return choose(name, &QuillorentAppDelegate::certButton01Action);
+    }
+    QString chooseKey(const QString &name) { return choose(name, &QuillorentAppDelegate::pkButton01Action); }
 
     static std::unique_ptr<TemporaryFolder> s_folder;
-    TestProgram m_program;
 };
 
 std::unique_ptr<TemporaryFolder> Certificates::s_folder;
 
 } // namespace
 
-TEST_F(Certificates, AreReadAsPemOnly)
+TEST_F(Certificates, AreKeptWhereTheyAreOfUseAndRefusedWithTheReason)
 {
-    for (const char *good : {"anna.pem", "ec.pem", "old.pem", "chain.pem", "both.pem"})
-        EXPECT_TRUE(testCert(file(good), u"Validity"_qs)) << good;
-    for (const char *bad : {"anna.der", "anna.p12", "anna-key.pem", "public.pem", "damaged.pem", "notes.txt",
-                            "empty.pem", "missing.pem", ""})
-        EXPECT_FALSE(testCert(file(bad), u"Validity"_qs)) << bad;
-    EXPECT_TRUE(showCert(file("anna.pem")).contains(u"CN = anna"));
-    EXPECT_FALSE(showCert(file("notes.txt")).isEmpty());
-}
-
-// A name can make the tool's complaint look like a certificate's text; what is told of the file is not
-// fooled.
-TEST_F(Certificates, ATextThatLiesIsFoundOut)
-{
-    EXPECT_FALSE(readCertificateSummary(file("Validity.txt")));
-    EXPECT_TRUE(whyNoCertificate(file("Validity.txt")).contains(u"no PEM certificate"));
+    QString last;
+    struct Case {
+        const char *name;
+        const char *words; ///< of the refusal; empty where there is none
+    };
+    for (const auto &[name, words] :
+         {Case{"anna.pem", ""}, Case{"ec.pem", ""}, Case{"chain.pem", ""}, Case{"both.pem", ""},
+          Case{"old.pem", ""}, Case{"-", "No file"}, Case{"", "folder"},
+          Case{"missing.pem", "can't be read: No such file"}, Case{"empty.pem", "empty"},
+          Case{"anna.der", "-inform DER"}, Case{"anna.p12", "openssl pkcs12"},
+          Case{"anna-key.pem", "holds a private key"}, Case{"public.pem", "no PEM certificate"},
+          Case{"damaged.pem", "damaged"}, Case{"notes.txt", "no PEM certificate"}}) {
+        const QString refusal = chooseCertificate(QLatin1String(name));
+        EXPECT_EQ(refusal.isEmpty(), *words == '\0') << name;
+        EXPECT_TRUE(refusal.contains(QLatin1String(words))) << name << ": " << qPrintable(refusal);
+        if (refusal.isEmpty()) last = file(QLatin1String(name));
+        EXPECT_EQ(kept(u"lastcertfile"_qs), last);
+        EXPECT_EQ(delegate.certFile01.text(), last);
+    }
 }
 
 TEST_F(Certificates, TakeTheKeyThatBelongsToThem)
 {
+    EXPECT_TRUE(chooseKey(u"anna-key.pem"_qs).contains(u"No certificate is chosen yet"));
+    QString last;
     struct Case {
         const char *certificate;
         const char *key;
-        bool belongs;
+        const char *words;
     };
-    for (const auto &[certificate, key, belongs] :
-         {Case{"anna.pem", "anna-key.pem", true}, Case{"same-key.pem", "anna-key.pem", true},
-          Case{"chain.pem", "anna-key.pem", true}, Case{"both.pem", "both.pem", true},
-          Case{"chain.pem", "bert-key.pem", false}, Case{"anna.pem", "bert-key.pem", false},
-          Case{"ec.pem", "ec-key.pem", false}, Case{"anna.pem", "encrypted-key.pem", false},
-          Case{"anna.pem", "old-encrypted-key.pem", false}, Case{"anna.pem", "anna.pem", false},
-          Case{"anna.pem", "missing.pem", false}, Case{"notes.txt", "notes.txt", false},
-          Case{"", "anna-key.pem", false}})
-        EXPECT_EQ(testKey(file(certificate), file(key)), belongs) << certificate << ' ' << key;
-    EXPECT_TRUE(showKey(file("anna-key.pem"))->contains(u"PRIVATE KEY-----"));
+    for (const auto &[certificate, key, words] :
+         {Case{"anna.pem", "anna-key.pem", ""}, Case{"same-key.pem", "anna-key.pem", ""},
+          Case{"chain.pem", "anna-key.pem", ""}, Case{"both.pem", "both.pem", ""},
+          Case{"chain.pem", "bert-key.pem", "does not belong"},
+          Case{"anna.pem", "bert-key.pem", "does not belong"}, Case{"ec.pem", "ec-key.pem", "not an RSA key"},
+          Case{"anna.pem", "encrypted-key.pem", "pass phrase"},
+          Case{"anna.pem", "old-encrypted-key.pem", "pass phrase"},
+          Case{"anna.pem", "bert.pem", "holds a certificate"}, Case{"anna.pem", "anna.p12", "-nocerts"},
+          Case{"anna.pem", "notes.txt", "no private key"}, Case{"anna.pem", "missing.pem", "can't be read"},
+          Case{"ec.pem", "both.pem", "does not belong"}, Case{"anna.pem", "-", "No file"},
+          Case{"missing.pem", "anna-key.pem", "certificate itself"},
+          Case{"notes.txt", "notes.txt", "certificate itself"}}) {
+        delegate.certFile01.setText(file(QLatin1String(certificate)));
+        const QString refusal = chooseKey(QLatin1String(key));
+        EXPECT_EQ(refusal.isEmpty(), *words == '\0') << certificate << ' ' << key;
+        EXPECT_TRUE(refusal.contains(QLatin1String(words))) << key << ": " << qPrintable(refusal);
+        if (refusal.isEmpty()) last = file(QLatin1String(key));
+        EXPECT_EQ(kept(u"lastpkfile"_qs), last);
+        EXPECT_EQ(delegate.pkFile01.text(), last);
+    }
 
-    const Stub stub(m_program.folder(), "openssl", "bad-bytes");
-    m_program.useTool(u"OpenSSL"_qs, stub.path());
-    EXPECT_FALSE(showKey(file("anna-key.pem")));
-    EXPECT_EQ(showCert(file("anna.pem")), QString());
-    EXPECT_FALSE(testKey(file("anna.pem"), file("anna-key.pem")));
+    const Stub stub(program.folder(), "openssl", "bad-bytes");
+    program.useTool(u"OpenSSL"_qs, stub.path());
+    EXPECT_FALSE(showKey(file(u"anna-key.pem"_qs)));
+    EXPECT_EQ(showCert(file(u"anna.pem"_qs)), QString());
+    EXPECT_FALSE(testKey(file(u"anna.pem"_qs), file(u"anna-key.pem"_qs)));
+}
+
+TEST_F(Certificates, AnAnswerThatComesLateStaysWithItsProfile)
+{
+    const QString first = delegate.currentProfile();
+    delegate.listPlist().setValue(u"other"_qs, plist::Dictionary::make());
+    delegate.openPanel = [](const outlets::OpenPanel &) { return QStringList{file(u"anna.pem"_qs)}; };
+    // The file is looked at while the other profile is opened.
+    const fs::path tool = program.folder() / "openssl";
+    writeFile(tool, "#!/bin/sh\nuntil [ -e \"$0.go-on\" ]; do sleep 0.01; done\nexec openssl \"$@\"\n");
+    fs::permissions(tool, fs::perms::owner_all);
+    program.useTool(u"OpenSSL"_qs, tool);
+    delegate.certButton01Action();
+    delegate.setterCurrentProfile(u"other"_qs);
+    writeFile(tool.string() + ".go-on", "");
+    ASSERT_TRUE(waitForThreads(60s));
+    EXPECT_EQ(delegate.certFile01.text(), QString());
+    EXPECT_EQ(delegate.listPlist().dictionary(first).string(u"lastcertfile"_qs), file(u"anna.pem"_qs));
 }
 
 TEST_F(Certificates, PublicKeyStandsBetweenItsMarkers)
@@ -114,47 +175,52 @@ TEST_F(Certificates, PublicKeyStandsBetweenItsMarkers)
     EXPECT_EQ(trimPubKey(begin + u"a"_qs + end + begin + u"b"_qs + end), u"a"_qs);
 }
 
-TEST_F(Certificates, EachRefusalSaysWhy)
-{
-    struct Case {
-        QString why;
-        const char *words;
-    };
-    const QString anna = file("anna.pem");
-    for (const auto &[why, words] :
-         {Case{whyNoCertificate({}), "No file"},
-          Case{whyNoCertificate(file("missing.pem")), "can't be read: No such file"},
-          Case{whyNoCertificate(file("")), "folder"}, Case{whyNoCertificate(file("empty.pem")), "empty"},
-          Case{whyNoCertificate(file("anna.der")), "-inform DER"},
-          Case{whyNoCertificate(file("anna.p12")), "openssl pkcs12"},
-          Case{whyNoCertificate(file("anna-key.pem")), "holds a private key"},
-          Case{whyNoCertificate(file("damaged.pem")), "damaged"},
-          Case{whyNoCertificate(file("notes.txt")), "no PEM certificate"},
-          Case{whyNoKey({}, file("anna-key.pem")), "No certificate is chosen yet"},
-          Case{whyNoKey(file("missing.pem"), file("anna-key.pem")), "certificate itself"},
-          Case{whyNoKey(anna, {}), "No file"}, Case{whyNoKey(anna, file("encrypted-key.pem")), "pass phrase"},
-          Case{whyNoKey(anna, file("old-encrypted-key.pem")), "pass phrase"},
-          Case{whyNoKey(file("ec.pem"), file("ec-key.pem")), "not an RSA key"},
-          Case{whyNoKey(anna, file("bert.pem")), "holds a certificate"},
-          Case{whyNoKey(anna, file("anna.p12")), "-nocerts"},
-          Case{whyNoKey(anna, file("notes.txt")), "no private key"},
-          Case{whyNoKey(anna, file("bert-key.pem")), "does not belong"}})
-        EXPECT_TRUE(why.contains(QString::fromLatin1(words))) << words << ": " << qPrintable(why);
-}
-
 TEST_F(Certificates, TellWhomTheyAreForAndHowLong)
 {
-    const auto now = QDateTime::currentDateTimeUtc();
+    const auto summary = [](const char *name) { return *readCertificateSummary(file(QLatin1String(name))); };
     const auto warning = [&](const char *name) {
-        return validityWarning(*readCertificateSummary(file(name)), now);
+        return validityWarning(summary(name), QDateTime::currentDateTimeUtc());
     };
-    EXPECT_EQ(readCertificateSummary(file("same-key.pem"))->subject, u"CN=Grüße,O=Other"_qs);
-    EXPECT_TRUE(describeCertificate(*readCertificateSummary(file("old.pem"))).contains(u"2021-01-01"));
+    EXPECT_EQ(summary("same-key.pem").subject, u"CN=Grüße,O=Other"_qs);
+    EXPECT_TRUE(describeCertificate(summary("old.pem")).contains(u"2021-01-01"));
     EXPECT_EQ(warning("anna.pem"), QString());
     EXPECT_TRUE(warning("old.pem").contains(u"has expired"));
     EXPECT_TRUE(warning("soon.pem").contains(u"in 4 days") || warning("soon.pem").contains(u"in 5 days"));
-    const auto anna = *readCertificateSummary(file("anna.pem"));
+    const auto anna = summary("anna.pem");
     EXPECT_TRUE(validityWarning(anna, anna.notBefore.addSecs(-1)).contains(u"not valid before"));
     EXPECT_TRUE(validityWarning(anna, anna.notAfter.addSecs(-1)).contains(u"today"));
-    EXPECT_FALSE(readCertificateSummary(file("anna.der")));
+    // A name that makes the tool's complaint look like a certificate's text.
+    for (const QString &none : {u"anna.der"_qs, u"Validity.txt"_qs})
+        EXPECT_FALSE(readCertificateSummary(file(none))) << qPrintable(none);
+
+    chooseCertificate(u"anna.pem"_qs);
+    EXPECT_TRUE(delegate.certSummary01.text().startsWith(u"CN=anna"));
+    EXPECT_TRUE(delegate.certWarning01.isHidden());
+    EXPECT_TRUE(delegate.pkWarning01.text().contains(u"No private key"));
+    chooseKey(u"anna-key.pem"_qs);
+    EXPECT_TRUE(delegate.pkWarning01.isHidden());
+    delegate.pkFile01.setText(file(u"missing.pem"_qs));
+    delegate.describeKeys();
+    ASSERT_TRUE(waitForThreads(60s));
+    EXPECT_TRUE(delegate.pkWarning01.text().contains(u"not where it was"));
+}
+
+TEST_F(Certificates, AreShownInTheConsole)
+{
+    delegate.consoleTextView01.setText(u"before"_qs);
+    delegate.certInfo01();
+    delegate.certInfo02();
+    EXPECT_EQ(delegate.consoleTextView01.text(), u"before"_qs);
+    EXPECT_EQ(delegate.consolePanel01.place(), outlets::Panel::Place::Hidden);
+
+    delegate.certFile01.setText(file(u"anna.pem"_qs));
+    delegate.pkFile01.setText(file(u"anna-key.pem"_qs));
+    for (const auto &[action, words] : {std::pair{&QuillorentAppDelegate::certInfo01, u"Certificate:"_qs},
+                                        {&QuillorentAppDelegate::certInfo02, u"PRIVATE KEY-----"_qs}}) {
+        (delegate.*action)();
+        EXPECT_EQ(delegate.consolePanel01.place(), outlets::Panel::Place::Window);
+        ASSERT_TRUE(waitForThreads(60s));
+        EXPECT_TRUE(delegate.consoleTextView01.text().contains(words));
+        EXPECT_FALSE(delegate.consoleTextView01.text().contains(u"before"));
+    }
 }

@@ -1,9 +1,8 @@
-#include "InMemoryKeychain.h"
-#include "TestProgram.h"
+#include "ProgramTest.h"
+#include "SecretService.h"
 #include "keychain/EMGenericKeychainItem.h"
+#include "keys/Strength.h"
 #include "tools/Threads.h"
-
-#include <gtest/gtest.h>
 
 using namespace std::chrono_literals;
 
@@ -11,31 +10,32 @@ namespace {
 
 const QString service = u"com.brolvanek.Quillorent.encrypt"_qs;
 
-class PasswordActions : public testing::Test {
+/// The program beside a keychain.
+class PasswordActions : public ProgramTest {
 protected:
-    PasswordActions()
-    {
-        m_program.start();
-        setKeychain(m_keychain);
-    }
-    ~PasswordActions() override { setKeychain(nullptr); }
+    PasswordActions() { session.start(); }
 
-    /// Lets what was asked of the keychain come to its end.
-    void settle() { ASSERT_TRUE(waitForThreads(60s)); }
+    /// Does something that asks the keychain, and gives what the tab says of it.
+    QString answerTo(void (QuillorentAppDelegate::*action)())
+    {
+        (delegate.*action)();
+        EXPECT_TRUE(waitForThreads(60s));
+        return delegate.keychainText01.text();
+    }
     static QString stored(const QString &account)
     {
         const auto item = EMGenericKeychainItem::genericKeychainItemForService(service, account);
         return item ? item->password() : QString();
     }
-    QString kept(const QString &key) const
+    static void store(const QString &account, const QString &password)
     {
-        return delegate.currentRecord().string(key).value_or(QString());
+        ASSERT_TRUE(EMGenericKeychainItem::addGenericKeychainItemForService(service, account, password));
     }
-    bool offersUnlocking() const { return !delegate.keychainUnlock01.isHidden(); }
 
-    TestProgram m_program;
-    QuillorentAppDelegate &delegate = m_program.delegate();
-    std::shared_ptr<InMemoryKeychain> m_keychain = std::make_shared<InMemoryKeychain>();
+    static constexpr auto fetching = &QuillorentAppDelegate::passButton01Action;
+    static constexpr auto storing = &QuillorentAppDelegate::passButton02Action;
+    static constexpr auto unlocking = &QuillorentAppDelegate::keychainUnlock01Action;
+    SecretService session;
 };
 
 } // namespace
@@ -63,10 +63,6 @@ TEST_F(PasswordActions, EachSourceHasItsText)
         EXPECT_EQ(delegate.pkeySelector(), source != 2) << source;
     }
     delegate.passCombo01.selectIndex(PasswordTab::Certificate);
-    delegate.passCombo01Action();
-    EXPECT_EQ(delegate.currentRecord().integer(u"passtype"_qs), 2);
-    EXPECT_EQ(delegate.passTabs.selectedIndex(), 2);
-    EXPECT_FALSE(delegate.pkView.isHidden());
     delegate.certFile01.setText(u"/keys/anna.pem"_qs);
     EXPECT_TRUE(delegate.pkeySelector());
     EXPECT_EQ(delegate.passwordSelector(), u"/keys/anna.pem"_qs);
@@ -76,89 +72,87 @@ TEST_F(PasswordActions, StoresAndFetchesByTheShownField)
 {
     delegate.keychainUser.setText(u"holiday"_qs);
     delegate.keychainPass.setText(u"fjord ¤ 7"_qs);
-    delegate.passButton02Action();
-    settle();
+    EXPECT_TRUE(answerTo(storing).contains(u"was stored"));
     EXPECT_EQ(stored(u"holiday"_qs), u"fjord ¤ 7"_qs);
     EXPECT_EQ(kept(u"lastkeychainuser"_qs), u"holiday"_qs);
-    EXPECT_TRUE(delegate.keychainText01.text().contains(u"was stored"));
 
     delegate.checkBox02.setOn(false);
     delegate.checkBox02Action();
     EXPECT_TRUE(delegate.keychainPass.isHidden());
+    EXPECT_FALSE(delegate.keychainClear.isHidden());
     EXPECT_EQ(delegate.keychainClear.text(), u"fjord ¤ 7"_qs);
     delegate.keychainClear.setText(u"another one"_qs);
-    delegate.passButton02Action();
-    settle();
+    EXPECT_TRUE(answerTo(storing).contains(u"already"));
     EXPECT_EQ(stored(u"holiday"_qs), u"fjord ¤ 7"_qs) << "an add must never replace";
-    EXPECT_TRUE(delegate.keychainText01.text().contains(u"already"));
-
-    delegate.passButton01Action();
-    settle();
+    answerTo(fetching);
     EXPECT_EQ(delegate.keychainClear.text(), u"fjord ¤ 7"_qs);
 
     delegate.keychainUser.setText(u"nobody"_qs);
-    delegate.passButton01Action();
-    settle();
+    EXPECT_TRUE(answerTo(fetching).contains(u"no password of \"nobody\""));
     EXPECT_EQ(delegate.keychainClear.text(), QString());
-    EXPECT_TRUE(delegate.keychainText01.text().contains(u"no password of \"nobody\""));
     EXPECT_EQ(kept(u"lastkeychainuser"_qs), u"nobody"_qs);
 }
 
 TEST_F(PasswordActions, OpeningAProfileFetchesItsPassword)
 {
-    EMGenericKeychainItem::addGenericKeychainItemForService(service, u"holiday"_qs, u"fjord"_qs);
+    store(u"holiday"_qs, u"fjord"_qs);
     const QString first = delegate.currentProfile();
-    plist::Dictionary record = delegate.currentRecord().deepCopy();
+    const plist::Dictionary record = delegate.currentRecord().deepCopy();
     record.setValue(u"passtype"_qs, PasswordTab::KeychainPassword);
     record.setValue(u"lastkeychainuser"_qs, u"holiday"_qs);
     delegate.listPlist().setValue(u"Second"_qs, record);
-
     delegate.setterCurrentProfile(u"Second"_qs);
-    settle();
+    EXPECT_TRUE(delegate.keychainIndicator01.isAnimating());
+    ASSERT_TRUE(waitForThreads(60s));
+    EXPECT_FALSE(delegate.keychainIndicator01.isAnimating());
     EXPECT_EQ(delegate.passwordSelector(), u"fjord"_qs);
-    EXPECT_TRUE(delegate.pkView.isHidden());
 
     // What was asked for the profile before must not come out in the next.
+    session.freeze();
     delegate.setterCurrentProfile(u"Second"_qs);
     delegate.setterCurrentProfile(first);
-    settle();
+    session.thaw();
+    ASSERT_TRUE(waitForThreads(60s));
     EXPECT_EQ(delegate.keychainPass.text(), QString());
     EXPECT_EQ(delegate.keychainText01.text(), QString());
 }
 
 TEST_F(PasswordActions, SaysWhatIsTheMatterWithTheKeychain)
 {
-    EMGenericKeychainItem::addGenericKeychainItemForService(service, u"holiday"_qs, u"fjord"_qs);
+    using Keyring = SecretService::Keyring;
+    const auto offersUnlocking = [&] { return !delegate.keychainUnlock01.isHidden(); };
+    store(u"holiday"_qs, u"fjord"_qs);
     delegate.keychainUser.setText(u"holiday"_qs);
-    for (const KeychainStatus status :
-         {KeychainStatus::NoService, KeychainStatus::NotAnswering, KeychainStatus::Refused}) {
-        m_keychain->failure = status;
-        delegate.passButton01Action();
-        settle();
-        EXPECT_EQ(delegate.keychainText01.text(), m_keychain->statusText(status));
-        EXPECT_FALSE(offersUnlocking());
-    }
-    m_keychain->failure = KeychainStatus::Success;
-
-    EMKeychainItem::lockKeychain();
-    delegate.passButton01Action();
-    settle();
+    session.start(Keyring::Locked);
+    EXPECT_TRUE(answerTo(fetching).contains(u"is locked"));
     EXPECT_TRUE(offersUnlocking());
-    m_keychain->unlocking = KeychainStatus::UnlockDeclined;
-    delegate.keychainUnlock01Action();
-    settle();
+    EXPECT_TRUE(answerTo(unlocking).contains(u"still locked")); // nobody is there to be asked
     EXPECT_TRUE(offersUnlocking());
-    m_keychain->unlocking = KeychainStatus::Success;
-    delegate.keychainUnlock01Action();
-    settle();
+    session.start(Keyring::Unlocked);
+    EXPECT_TRUE(answerTo(unlocking).contains(u"was fetched"));
     EXPECT_FALSE(offersUnlocking());
     EXPECT_EQ(delegate.keychainPass.text(), u"fjord"_qs);
 
-    EMKeychainItem::lockKeychain();
+    session.start(Keyring::Locked);
     delegate.keychainPass.setText(u"typed to be stored"_qs);
-    delegate.passButton02Action();
-    settle();
-    delegate.keychainUnlock01Action();
-    settle();
+    EXPECT_TRUE(answerTo(storing).contains(u"is locked"));
+    session.start(Keyring::Unlocked);
+    EXPECT_TRUE(answerTo(unlocking).contains(u"is unlocked"));
     EXPECT_EQ(delegate.keychainPass.text(), u"typed to be stored"_qs);
+
+    session.stop();
+    EXPECT_TRUE(answerTo(fetching).contains(u"No keychain service runs"));
+    EXPECT_FALSE(offersUnlocking());
+}
+
+TEST(Strength, TellsWhatIsGuessedFromWhatIsNot)
+{
+    EXPECT_EQ(estimateStrength({}), Strength::None);
+    for (const char *weak : {"secret", "Passw0rd!", "qwertyuiop12", "aaaaaaaaaaaaaaaaaaaaaaaa", "20031987"})
+        EXPECT_EQ(estimateStrength(QString::fromLatin1(weak)), Strength::Weak) << weak;
+    EXPECT_EQ(estimateStrength(u"rain otter violin"_qs), Strength::Fair);
+    for (const QString &strong :
+         {u"w7#Kq9!vZp2$Lm"_qs, u"rain otter violin magnet crispy dune"_qs, u"žluťoučký kůň úpěl"_qs})
+        EXPECT_EQ(estimateStrength(strong), Strength::Strong) << qPrintable(strong);
+    EXPECT_EQ(estimateStrength(QString(100'000, u'x') + u"w7#Kq9!vZp2$Lm"_qs), Strength::Weak);
 }

@@ -3,8 +3,10 @@
 
 #include "TemporaryFolder.h"
 
+#include <csignal>
 #include <gtest/gtest.h>
 #include <limits>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace fs = std::filesystem;
@@ -73,6 +75,7 @@ TEST_F(PlistFile, RefusesMalformedDocumentsWithTheFileAndAReason)
         {"\n<!DOCTYPE plist [<!ATTLIST plist a CDATA \"b\">]>" + document(""), ":2: declarations"},
         {"<plist version=\">\"" + repeated(" a=\"\"", 300000) + "/>", "a tag of more than"},
         {valued(repeated("<array>", 1000000)), "deeper than 64"},
+        {valued(repeated("<array>", 64) + repeated("</array>", 64)), "deeper than 64"},
     };
     for (const auto &[malformed, reason] : documentsAndReasons) {
         SCOPED_TRACE(malformed.substr(0, 200));
@@ -91,13 +94,11 @@ TEST_F(PlistFile, RefusesWhatIsNoRegularFile)
     fs::create_symlink("nowhere", folder / "dangling");
     writeFile(folder / "large", head + tail);
     fs::resize_file(folder / "large", std::uintmax_t{plist::maximumFileSize} + 1);
-    const std::vector<std::pair<fs::path, QString>> placesAndReasons{
-        {folder.path(), u"not a regular file"_s},
-        {folder / "pipe", u"not a regular file"_s},
-        {folder / "dangling", u"no such file"_s},
-        {folder / "large", u"larger than 64 MiB"_s}};
-    for (const auto &[place, reason] : placesAndReasons) {
-        const plist::FileContent content = plist::readFile(toQString(place));
+    for (const auto &[name, reason] : {std::pair{".", u"not a regular file"_s},
+                                       {"pipe", u"not a regular file"_s},
+                                       {"dangling", u"no such file"_s},
+                                       {"large", u"larger than 64 MiB"_s}}) {
+        const plist::FileContent content = plist::readFile(toQString(folder / name));
         EXPECT_FALSE(content.dictionary);
         EXPECT_TRUE(content.reason.endsWith(reason)) << content.reason.toStdString();
     }
@@ -129,6 +130,12 @@ TEST_F(PlistFile, IsReadBackAsItWas)
              QByteArray("\0\r\xff", 3), QByteArray(""),
              QDateTime(QDate(2024, 2, 29), QTime(23, 59, 58), Qt::UTC), Array::make()})
         values.append(value);
+    Array deepest = values; // on the third level
+    for (int level = 4; level <= plist::maximumDepth; ++level) {
+        const Array deeper = Array::make();
+        deepest.append(deeper);
+        deepest = deeper;
+    }
     const Dictionary nested = Dictionary::make();
     nested.setValue(u"b"_s, values);
     nested.setValue(u"a"_s, u"");
@@ -164,6 +171,27 @@ TEST_F(PlistFile, RefusesToWriteWhatItCouldNotReadBackAndKeepsTheOldFile)
     inItself.clear(); // or it would keep itself alive
     EXPECT_NE(plist::writeFile(path, Dictionary{}), QString());
     EXPECT_EQ(readFile(file), "old");
+}
+
+TEST_F(PlistFile, KeepsTheOldFileWhereTheNewOneIsNotWhole)
+{
+    // No file may grow beyond this, as on a full disk.
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit full{500, before.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    for (const int size : {1'000, 100'000}) { // what fits into a buffer fails at the very end
+        const Dictionary dictionary = Dictionary::make();
+        dictionary.setValue(u"text"_s, QString(size, u'x'));
+        writeFile(file, "old");
+        setrlimit(RLIMIT_FSIZE, &full);
+        const QString reason = plist::writeFile(path, dictionary);
+        setrlimit(RLIMIT_FSIZE, &before);
+        EXPECT_TRUE(reason.startsWith(path)) << reason.toStdString();
+        EXPECT_EQ(readFile(file), "old");
+        EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 1) << "a part of it lies there";
+    }
+    std::signal(SIGXFSZ, handler);
 }
 
 TEST_F(PlistFile, IsWrittenThroughLinksForTheUserAlone)

@@ -1,116 +1,88 @@
-#include "plist/File.h"
-#include "plist/Value.h"
 #include "settings/Upgrade.h"
 
-#include "TemporaryFolder.h"
+#include "plist/Value.h"
 
 #include <gtest/gtest.h>
+#include <sstream>
 
 using namespace Qt::Literals::StringLiterals;
+using plist::Array;
 using plist::Dictionary;
 
 namespace {
 
-/// The dictionary that the elements stand for.
-Dictionary parsed(const std::string &elements)
+/// The dictionary that the words stand for: text=value, list[ of texts ], table{ … }, number#, truth!
+Dictionary parsed(std::istream &words)
 {
-    const TemporaryFolder folder;
-    writeFile(folder / "list", "<plist version=\"1.0\"><dict>" + elements + "</dict></plist>");
-    const plist::FileContent content = plist::readFile(QString::fromStdString((folder / "list").string()));
-    EXPECT_EQ(content.reason, QString());
-    return content.dictionary;
+    const Dictionary dictionary = Dictionary::make();
+    for (std::string word; words >> word && word != "}";) {
+        const QString key =
+            QString::fromStdString(word.substr(0, word.find_first_of("=[{#!"))).replace(u'_', u' ');
+        const std::string rest = word.substr(static_cast<std::size_t>(key.size()));
+        if (rest == "{") dictionary.setValue(key, parsed(words));
+        if (rest == "#") dictionary.setValue(key, 1);
+        if (rest == "!") dictionary.setValue(key, true);
+        if (rest.starts_with('=')) dictionary.setValue(key, QString::fromStdString(rest.substr(1)));
+        if (rest != "[") continue;
+        dictionary.setValue(key, Array::make());
+        while (words >> word && word != "]")
+            dictionary.array(key).append(QString::fromStdString(word));
+    }
+    return dictionary;
 }
 
-std::string text(const std::string &key, const std::string &value)
+Dictionary parsed(const std::string &words)
 {
-    return "<key>" + key + "</key><string>" + value + "</string>";
+    std::istringstream stream(words);
+    return parsed(stream);
 }
-
-std::string list(const std::string &key, const std::vector<std::string> &values)
-{
-    std::string elements;
-    for (const std::string &value : values)
-        elements += "<string>" + value + "</string>";
-    return "<key>" + key + "</key><array>" + elements + "</array>";
-}
-
-std::string table(const std::string &key, const std::string &entries)
-{
-    return "<key>" + key + "</key><dict>" + entries + "</dict>";
-}
-
-struct Merge {
-    const char *name;
-    QString type;
-    std::string user;
-    std::string newDict;
-    std::string expected;
-};
-
-void PrintTo(const Merge &merge, std::ostream *stream) { *stream << merge.name; }
-
-class MergeData : public testing::TestWithParam<Merge> {};
-
-const QString config = u"config"_s;
-const QString profile = u"profile"_s;
-const std::string number = "<key>n</key><integer>1</integer>";
 
 } // namespace
 
-TEST_P(MergeData, AddsWhatIsMissing)
+TEST(MergeData, AddsWhatIsMissing)
 {
-    const Dictionary user = parsed(GetParam().user);
-    const Dictionary merged =
-        quillorentLibrary::mergeData(user, parsed(GetParam().newDict), u"2"_s, GetParam().type);
-    EXPECT_TRUE(merged.isSameObject(user));
-    const Dictionary expected = parsed(GetParam().expected);
-    EXPECT_EQ(merged, expected);
-    EXPECT_EQ(merged.keys(), expected.keys());
+    struct Merge {
+        const char *type;
+        const char *user;
+        const char *newDict;
+        const char *expected;
+    };
+    for (const Merge &merge : {
+             Merge{"config", "b=user", "a=new b=new", "b=user a=new"},
+             Merge{"config", "version=1", "version=2", "version=2"},
+             Merge{"config", "", "version=2 a=", "a="},
+             Merge{"config", "l[ x ]", "l[ a b ]", "l[ x l l ]"},
+             Merge{"config", "mustdo[ a ]", "mustdo[ a b ]", "mustdo[ a mustdo ]"},
+             Merge{"config", "l[ ]", "l[ a l ]", "l[ l ]"},
+             Merge{"config", "t{ a=user }", "t{ a=1 b=2 }", "t{ a=user t{ a=1 b=2 } }"},
+             Merge{"config", "t{ b=own a=user } l[ a b ]", "t{ a=1 } l[ b a ]", "t{ b=own a=user } l[ a b ]"},
+             Merge{"config", "", "n# b!", ""},
+             Merge{"config", "l= t=", "l[ a ] t{ a= }", "l= t="},
+             Merge{"Config", "version=1", "version=2 a=", "version=1"}, // no type that is known
+             Merge{"profile", "P{ part=5 } Q{ }", "Default_profile{ part=1 path= n# }",
+                   "P{ part=5 path= } Q{ part=1 path= }"},
+             Merge{"profile", "P{ l[ a ] } Q{ }", "Default_profile{ l[ b ] }", "P{ l[ a l ] } Q{ l[ b ] }"},
+             Merge{"profile", "P{ t{ } } Q{ }", "Default_profile{ t{ a=1 } }", "P{ t{ } } Q{ t{ a=1 } }"},
+             Merge{"profile", "P{ t{ } }", "Default_profile{ t{ a=1 } } t{ b=2 }", "P{ t{ t{ b=2 } } }"},
+             Merge{"profile", "", "Default_profile{ part=1 }", ""},
+             Merge{"profile", "version=1", "Default_profile{ part=1 }", "version=1"},
+         }) {
+        SCOPED_TRACE(std::string(merge.user) + " and " + merge.newDict);
+        const Dictionary user = parsed(merge.user);
+        const Dictionary merged = quillorentLibrary::mergeData(user, parsed(merge.newDict), u"2"_s,
+                                                               QString::fromLatin1(merge.type));
+        EXPECT_TRUE(merged.isSameObject(user));
+        EXPECT_EQ(merged, parsed(merge.expected));
+        EXPECT_EQ(merged.keys(), parsed(merge.expected).keys());
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Rules, MergeData,
-    testing::Values(
-        Merge{"texts", config, text("b", "user"), text("a", "new") + text("b", "new"),
-              text("b", "user") + text("a", "new")},
-        Merge{"version", config, text("version", "1"), text("version", "2"), text("version", "2")},
-        Merge{"noVersion", config, "", text("version", "2") + text("a", ""), text("a", "")},
-        Merge{"missingElement", config, list("mustdo", {"a"}), list("mustdo", {"a", "b"}),
-              list("mustdo", {"a", "mustdo"})},
-        Merge{"missingElements", config, list("l", {"x"}), list("l", {"a", "b"}), list("l", {"x", "l", "l"})},
-        Merge{"elementNamedLikeTheList", config, list("l", {}), list("l", {"a", "l"}), list("l", {"l"})},
-        Merge{"missingEntry", config, table("t", text("a", "user")),
-              table("t", text("a", "1") + text("b", "2")),
-              table("t", text("a", "user") + table("t", text("a", "1") + text("b", "2")))},
-        Merge{"otherKinds", config, "", number + "<key>b</key><true/>", ""},
-        Merge{"otherKindInThePlace", config, text("l", "") + text("t", ""),
-              list("l", {"a"}) + table("t", text("a", "")), text("l", "") + text("t", "")},
-        Merge{"unknownType", u"Config"_s, text("version", "1"), text("version", "2") + text("a", ""),
-              text("version", "1")},
-        Merge{"profileTexts", profile, table("P", text("part", "5")) + table("Q", ""),
-              table("Default profile", text("part", "1") + text("path", "") + number),
-              table("P", text("part", "5") + text("path", "")) +
-                  table("Q", text("part", "1") + text("path", ""))},
-        Merge{"profileLists", profile, table("P", list("l", {"a"})) + table("Q", ""),
-              table("Default profile", list("l", {"b"})),
-              table("P", list("l", {"a", "l"})) + table("Q", list("l", {"b"}))},
-        Merge{"profileTable", profile, table("P", table("t", "")) + table("Q", ""),
-              table("Default profile", table("t", text("a", "1"))),
-              table("P", table("t", "")) + table("Q", table("t", text("a", "1")))},
-        Merge{"profileTableAndTopLevelOne", profile, table("P", table("t", "")),
-              table("Default profile", table("t", text("a", "1"))) + table("t", text("b", "2")),
-              table("P", table("t", table("t", text("b", "2"))))},
-        Merge{"noProfileIsAdded", profile, "", table("Default profile", text("part", "1")), ""},
-        Merge{"profileVersion", profile, text("version", "1"), table("Default profile", text("part", "1")),
-              text("version", "1")}),
-    [](const auto &test) { return std::string(test.param.name); });
 
 TEST(MergeData, StoresTheTemplatesOwnObjects)
 {
     const Dictionary user = Dictionary::make();
-    const Dictionary newDict = parsed(list("l", {"a"}) + table("t", ""));
-    quillorentLibrary::mergeData(user, newDict, u"2"_s, config);
+    const Dictionary newDict = parsed("l[ a ] t{ }");
+    quillorentLibrary::mergeData(user, newDict, u"2"_s, u"config"_s);
     EXPECT_TRUE(user.array(u"l"_s).isSameObject(newDict.array(u"l"_s)));
     EXPECT_TRUE(user.dictionary(u"t"_s).isSameObject(newDict.dictionary(u"t"_s)));
-    EXPECT_FALSE(quillorentLibrary::mergeData({}, newDict, u"2"_s, config));
+    EXPECT_FALSE(quillorentLibrary::mergeData({}, newDict, u"2"_s, u"config"_s));
 }

@@ -37,23 +37,18 @@ public:
     explicit OrdinaryUser(const fs::path &folder)
     {
         if (getuid() != 0) return;
+        EXPECT_EQ(lchown(folder.c_str(), nobody, nobody), 0);
         for (const auto &entry : fs::recursive_directory_iterator(folder))
             EXPECT_EQ(lchown(entry.path().c_str(), nobody, nobody), 0);
-        EXPECT_EQ(lchown(folder.c_str(), nobody, nobody), 0);
         EXPECT_EQ(setresuid(nobody, nobody, 0), 0);
-        m_wasRoot = true;
     }
-    ~OrdinaryUser()
-    {
-        if (!m_wasRoot) return;
-        EXPECT_EQ(setresuid(0, 0, 0), 0);
-    }
+    ~OrdinaryUser() { EXPECT_EQ(setresuid(m_before, m_before, m_before), 0); }
     OrdinaryUser(const OrdinaryUser &) = delete;
     OrdinaryUser &operator=(const OrdinaryUser &) = delete;
 
 private:
     static constexpr uid_t nobody = 65534;
-    bool m_wasRoot = false;
+    const uid_t m_before = getuid();
 };
 
 class Store : public testing::Test {
@@ -82,6 +77,8 @@ protected:
     fs::path damaged = config / (settingsName + ".damaged");
 };
 
+QString toQString(const fs::path &path) { return QString::fromStdString(path.string()); }
+
 Dictionary someSettings()
 {
     const Dictionary settings = Dictionary::make();
@@ -91,7 +88,7 @@ Dictionary someSettings()
 
 } // namespace
 
-TEST_F(Store, StartsFromTheTemplates)
+TEST_F(Store, StartsFromTheTemplatesForTheUserAlone)
 {
     fs::permissions(templates / "config.plist", fs::perms{0444});
     EXPECT_EQ(readSettings().keys(), (QStringList{u"version"_s, u"new"_s}));
@@ -106,51 +103,45 @@ TEST_F(Store, LiesInTheFolderThatTheEnvironmentNames)
 {
     const QByteArray home = qgetenv("HOME");
     qputenv("HOME", "/home/of/one");
-    const std::vector<std::pair<QByteArray, QString>> cases{{"/some/where/", u"/some/where"_s},
-                                                            {"relative", u"/home/of/one/.config"_s},
-                                                            {"", u"/home/of/one/.config"_s}};
-    for (const auto &[configured, expected] : cases) {
+    for (const char *configured : {"/some/where/", "relative", ""}) {
         qputenv("XDG_CONFIG_HOME", configured);
-        EXPECT_EQ(settingsPath(), expected + u'/' + QString::fromStdString(settingsName));
-        EXPECT_EQ(profilesPath(), expected + u'/' + QString::fromStdString(profilesName));
+        const std::string expected = *configured == '/' ? configured : "/home/of/one/.config/";
+        EXPECT_EQ(settingsPath().toStdString(), expected + settingsName);
+        EXPECT_EQ(profilesPath().toStdString(), expected + profilesName);
     }
     qputenv("HOME", home);
 }
 
 TEST_F(Store, IsBroughtUpToDateWhereTheVersionDiffers)
 {
-    struct Case {
-        std::string version;
-        bool isMerged;
-        QString versionAfter;
-    };
-    const std::vector<Case> cases{{versionElement("1"), true, u"2"_s}, // older
-                                  {versionElement("3"), true, u"2"_s}, // newer
-                                  {versionElement("2"), false, u"2"_s},
-                                  {"", true, {}}};
-    for (const Case &test : cases) {
-        writeFile(settings, document(test.version));
+    for (const auto &[version, isMerged] :
+         {std::pair{"1", true}, {"3", true}, {"2", false}, {"", true}}) { // older, newer, the same, none
+        SCOPED_TRACE(version);
+        writeFile(settings, document(*version ? versionElement(version) : ""));
         writeFile(profiles, document("<key>Mine</key><dict/>"));
         const Dictionary read = readSettings();
-        EXPECT_EQ(read.contains(u"new"_s), test.isMerged) << test.version;
-        EXPECT_EQ(read.string(u"version"_s).value_or(QString()), test.versionAfter) << test.version;
-        EXPECT_EQ(readProfiles().dictionary(u"Mine"_s).contains(u"new"_s), test.isMerged) << test.version;
-        EXPECT_EQ(readProfiles().keys(), (QStringList{u"Mine"_s})) << test.version;
+        EXPECT_EQ(read.contains(u"new"_s), isMerged);
+        EXPECT_EQ(read.string(u"version"_s).value_or(QString()), *version ? u"2"_s : QString());
+        EXPECT_EQ(readProfiles().dictionary(u"Mine"_s).contains(u"new"_s), isMerged);
+        EXPECT_EQ(readProfiles().keys(), (QStringList{u"Mine"_s}));
     }
 }
 
 TEST_F(Store, KeepsWhatCannotBeReadWhenItIsSavedOver)
 {
-    for (const std::string &content : {halfWritten, std::string("other"), halfWritten, std::string()}) {
+    const std::string other(halfWritten.size(), 'x');
+    for (const std::string &content : {halfWritten, other, halfWritten, std::string()}) {
         writeFile(settings, content);
         EXPECT_FALSE(readSettings());
+        EXPECT_FALSE(areSettingsSaved(someSettings()));
         EXPECT_EQ(readFile(settings), content);
-        saveSettings(someSettings());
+        EXPECT_EQ(saveSettings(someSettings()), QString());
+        EXPECT_TRUE(areSettingsSaved(someSettings()));
         EXPECT_EQ(readSettings(), someSettings());
     }
     // The second "halfWritten" is kept already, and nothing is not worth keeping.
     EXPECT_EQ(readFile(damaged), halfWritten);
-    EXPECT_EQ(readFile(damaged.string() + ".1"), "other");
+    EXPECT_EQ(readFile(damaged.string() + ".1"), other);
     EXPECT_FALSE(fs::exists(damaged.string() + ".2"));
     EXPECT_EQ(fs::status(damaged).permissions(), fs::perms{0600});
 
@@ -162,45 +153,42 @@ TEST_F(Store, LeavesWhatStandsInItsPlaceAndIsNoFile)
 {
     writeFile(settings / "precious", "x");
     EXPECT_FALSE(readSettings());
-    saveSettings(someSettings());
+    EXPECT_TRUE(saveSettings(someSettings()).contains(toQString(settings)));
+    EXPECT_FALSE(areSettingsSaved(someSettings()));
     EXPECT_EQ(readFile(settings / "precious"), "x");
     EXPECT_TRUE(readProfiles());
 }
 
 TEST_F(Store, ReplacesAFileThatMayNotBeWrittenAndKeepsIt)
 {
-    for (const std::string &content :
-         {versionElement("old"), versionElement("older"), versionElement("old")}) {
-        writeFile(settings, document(content));
+    const std::string old = document(versionElement("old"));
+    const std::string older = document(versionElement("older"));
+    for (const std::string &content : {old, older, old, std::string()}) { // nothing is not worth keeping
+        writeFile(settings, content);
         fs::permissions(settings, fs::perms{0400});
         const OrdinaryUser user(folder.path());
         EXPECT_EQ(readSettings().string(u"version"_s), u"2");
     }
-    EXPECT_EQ(readFile(damaged), document(versionElement("old")));
-    EXPECT_EQ(readFile(damaged.string() + ".1"), document(versionElement("older")));
+    EXPECT_EQ(readFile(damaged), old);
+    EXPECT_EQ(readFile(damaged.string() + ".1"), older);
     EXPECT_FALSE(fs::exists(damaged.string() + ".2"));
     EXPECT_EQ(fs::status(settings).permissions(), fs::perms{0600});
 }
 
 TEST_F(Store, LeavesAFileThatMayNotBeWrittenWhereNothingCanReplaceIt)
 {
-    struct Case {
-        const char *name;
-        fs::perms folder;
-        bool hasTemplate;
-    };
-    for (const Case &test :
-         {Case{"folder", fs::perms{0500}, true}, Case{"template", fs::perms{0700}, false}}) {
+    // A folder that may not be written, then a template that is gone.
+    for (const bool hasTemplate : {true, false}) {
         writeFile(settings, document(versionElement("old")));
         writeFile(profiles, document(""));
         fs::permissions(settings, fs::perms{0400});
-        fs::permissions(config, test.folder);
-        if (!test.hasTemplate) fs::remove(templates / "config.plist");
+        if (hasTemplate) fs::permissions(config, fs::perms{0500});
+        if (!hasTemplate) fs::remove(templates / "config.plist");
         const OrdinaryUser user(folder.path());
-        EXPECT_EQ(readSettings().string(u"version"_s), u"old") << test.name;
-        saveSettings(someSettings());
-        EXPECT_EQ(readFile(settings), document(versionElement("old"))) << test.name;
-        EXPECT_FALSE(fs::exists(damaged)) << test.name;
+        EXPECT_EQ(readSettings().string(u"version"_s), u"old");
+        EXPECT_NE(saveSettings(someSettings()), QString());
+        EXPECT_EQ(readFile(settings), document(versionElement("old")));
+        EXPECT_FALSE(fs::exists(damaged));
         fs::permissions(config, fs::perms{0700});
         fs::permissions(settings, fs::perms{0600});
     }
@@ -217,13 +205,15 @@ TEST_F(Store, FollowsLinks)
     saveSettings(someSettings());
     EXPECT_TRUE(fs::is_symlink(settings));
     EXPECT_TRUE(fs::is_symlink(profiles));
-    EXPECT_EQ(plist::readFile(QString::fromStdString(kept.string())).dictionary, someSettings());
+    EXPECT_EQ(plist::readFile(toQString(kept)).dictionary, someSettings());
 
+    // The link is what is kept, though its content was kept before.
+    fs::copy_file(kept, damaged);
     fs::permissions(kept, fs::perms{0400});
     const OrdinaryUser user(folder.path());
     EXPECT_TRUE(readSettings().contains(u"new"_s));
-    EXPECT_EQ(fs::read_symlink(damaged), "../../kept.plist");
-    EXPECT_EQ(plist::readFile(QString::fromStdString(kept.string())).dictionary, someSettings());
+    EXPECT_EQ(fs::read_symlink(damaged.string() + ".1"), "../../kept.plist");
+    EXPECT_EQ(plist::readFile(toQString(kept)).dictionary, someSettings());
 }
 
 TEST_F(Store, NeedsItsTemplates)
@@ -260,21 +250,19 @@ TEST_F(Store, MayBeSavedByManyThreads)
 TEST(Templates, FitTogether)
 {
     setResourceFolder(QStringLiteral(QUILLORENT_TEMPLATES));
-    const plist::FileContent settings = plist::readFile(settingsTemplatePath());
-    const plist::FileContent profiles = plist::readFile(profilesTemplatePath());
+    const auto [settings, settingsReason] = plist::readFile(settingsTemplatePath());
+    const auto [profiles, profilesReason] = plist::readFile(profilesTemplatePath());
     setResourceFolder({});
-    ASSERT_EQ(settings.reason + profiles.reason, QString());
+    ASSERT_EQ(settingsReason + profilesReason, QString());
 
-    const QStringList tools = settings.dictionary.dictionary(u"external"_s).keys();
-    EXPECT_EQ(settings.dictionary.dictionary(u"executables"_s).keys(), tools);
-    EXPECT_EQ(settings.dictionary.dictionary(u"verifiers"_s).keys(), tools);
+    const QStringList tools = settings.dictionary(u"external"_s).keys();
+    EXPECT_EQ(settings.dictionary(u"executables"_s).keys(), tools);
+    EXPECT_EQ(settings.dictionary(u"verifiers"_s).keys(), tools);
     for (const QString &tool : tools)
-        EXPECT_TRUE(settings.dictionary.dictionary(u"external"_s).string(tool)->startsWith(u'/'))
-            << tool.toStdString();
+        EXPECT_TRUE(settings.dictionary(u"external"_s).string(tool)->startsWith(u'/')) << tool.toStdString();
 
-    const Dictionary record = profiles.dictionary.dictionary(u"Default profile"_s);
-    const QStringList methods = settings.dictionary.dictionary(u"encparam"_s).keys();
-    EXPECT_EQ(QStringList{u"RAR"_s} + methods, settings.dictionary.dictionary(u"extensions"_s).keys());
-    EXPECT_TRUE(methods.contains(record.string(u"symencryption"_s).value_or(QString())));
-    EXPECT_TRUE(methods.contains(record.string(u"asymencryption"_s).value_or(QString())));
+    const QStringList methods = settings.dictionary(u"encparam"_s).keys();
+    EXPECT_EQ(QStringList{u"RAR"_s} + methods, settings.dictionary(u"extensions"_s).keys());
+    for (const QString &key : {u"symencryption"_s, u"asymencryption"_s})
+        EXPECT_TRUE(methods.contains(*profiles.dictionary(u"Default profile"_s).string(key)));
 }

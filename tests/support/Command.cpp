@@ -5,9 +5,10 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
-#include <poll.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <system_error>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -39,29 +40,33 @@ struct Pipe {
     }
 };
 
-/// Appends what is there to read; closes the end when the writer is gone.
-void drain(int &end, std::string &into)
+/// Reads until the last writer is gone.
+void readAll(int end, std::string &into)
 {
     std::array<char, 65536> buffer;
-    const ssize_t count = read(end, buffer.data(), buffer.size());
-    if (count > 0)
-        into.append(buffer.data(), static_cast<std::size_t>(count));
-    else if (count == 0 || errno != EINTR)
-        Pipe::closeEnd(end);
+    for (ssize_t count = 1; count > 0 || (count < 0 && errno == EINTR);) {
+        count = read(end, buffer.data(), buffer.size());
+        if (count > 0) into.append(buffer.data(), static_cast<std::size_t>(count));
+    }
 }
 
-void feed(int &end, const std::string &input, std::size_t &written)
+/// Writes all, as far as the reader takes it.
+void writeAll(Pipe &pipe, const std::string &bytes)
 {
-    const ssize_t count = write(end, input.data() + written, input.size() - written);
-    if (count > 0)
-        written += static_cast<std::size_t>(count);
-    else if (errno != EINTR && errno != EAGAIN)
-        written = input.size(); // the reader went away
-    if (written == input.size()) Pipe::closeEnd(end);
+    for (std::size_t written = 0; written < bytes.size();) {
+        const ssize_t count = write(pipe.write, bytes.data() + written, bytes.size() - written);
+        if (count < 0 && errno != EINTR) break; // it went away
+        if (count > 0) written += static_cast<std::size_t>(count);
+    }
+    Pipe::closeEnd(pipe.write);
 }
 
-[[noreturn]] void becomeProgram(const std::vector<std::string> &arguments, const CommandOptions &options)
+/// In the child of a fork.
+[[noreturn]] void becomeProgram(const std::vector<std::string> &arguments, const CommandOptions &options,
+                                std::array<int, 3> descriptors)
 {
+    for (int standard = 0; standard < 3; ++standard)
+        dup2(descriptors[static_cast<std::size_t>(standard)], standard);
     if (!options.folder.empty() && chdir(options.folder.c_str()) != 0) _exit(126);
     for (const auto &[name, value] : options.environment)
         setenv(name.c_str(), value.c_str(), 1);
@@ -73,42 +78,67 @@ void feed(int &end, const std::string &input, std::size_t &written)
     _exit(127);
 }
 
+pid_t forkOrThrow()
+{
+    const pid_t child = fork();
+    if (child < 0) throw std::system_error(errno, std::generic_category(), "fork");
+    return child;
+}
+
 } // namespace
+
+BackgroundProgram::BackgroundProgram(const std::vector<std::string> &arguments, const CommandOptions &options,
+                                     const std::string &log)
+{
+    Pipe input; // what is written must fit into it
+    writeAll(input, options.input);
+    const int output = open(log.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600);
+    m_process = forkOrThrow();
+    if (m_process == 0) {
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        becomeProgram(arguments, options, {input.read, output, output});
+    }
+    close(output);
+}
+
+BackgroundProgram::~BackgroundProgram()
+{
+    if (m_process <= 0) return;
+    kill(m_process, SIGKILL);
+    waitpid(m_process, nullptr, 0);
+}
+
+bool BackgroundProgram::hasEnded()
+{
+    if (m_process > 0 && waitpid(m_process, nullptr, WNOHANG) == m_process) m_process = -1;
+    return m_process < 0;
+}
+
+void BackgroundProgram::signal(int number) const
+{
+    if (m_process > 0) kill(m_process, number);
+}
 
 CommandResult runCommand(const std::vector<std::string> &arguments, const CommandOptions &options)
 {
     Pipe input;
     Pipe output;
     Pipe errors;
-    const pid_t child = fork();
-    if (child < 0) throw std::system_error(errno, std::generic_category(), "fork");
-    if (child == 0) {
-        dup2(input.read, STDIN_FILENO);
-        dup2(output.write, STDOUT_FILENO);
-        dup2(errors.write, STDERR_FILENO);
-        becomeProgram(arguments, options);
-    }
-    Pipe::closeEnd(input.read);
+    const pid_t child = forkOrThrow();
+    if (child == 0) becomeProgram(arguments, options, {input.read, output.write, errors.write});
     Pipe::closeEnd(output.write);
     Pipe::closeEnd(errors.write);
 
-    // A blocking write of more than the pipe holds would keep the program's output waiting, and so the
-    // program.
-    fcntl(input.write, F_SETFL, O_NONBLOCK);
+    Pipe::closeEnd(input.read);
 
     // A program that does not read its input must not end the test.
     signal(SIGPIPE, SIG_IGN);
 
     CommandResult result;
-    std::size_t written = 0;
-    if (options.input.empty()) Pipe::closeEnd(input.write);
-    while (output.read >= 0 || errors.read >= 0 || input.write >= 0) {
-        std::array<pollfd, 3> ends{pollfd{output.read, POLLIN, 0}, pollfd{errors.read, POLLIN, 0},
-                                   pollfd{input.write, POLLOUT, 0}};
-        if (poll(ends.data(), ends.size(), -1) < 0 && errno != EINTR) break;
-        if (ends[0].revents) drain(output.read, result.output);
-        if (ends[1].revents) drain(errors.read, result.errors);
-        if (ends[2].revents) feed(input.write, options.input, written);
+    {
+        const std::jthread feeding([&] { writeAll(input, options.input); });
+        const std::jthread listening([&] { readAll(errors.read, result.errors); });
+        readAll(output.read, result.output);
     }
     int status = 0;
     while (waitpid(child, &status, 0) < 0 && errno == EINTR) {

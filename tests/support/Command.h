@@ -2,6 +2,7 @@
 
 #include <map>
 #include <string>
+#include <sys/types.h>
 #include <vector>
 
 /// What a program did: its exit status (128 + the signal's number where a signal ended it) and what it wrote.
@@ -15,6 +16,24 @@ struct CommandOptions {
     std::string folder{};                             ///< working directory; empty: the test's own
     std::map<std::string, std::string> environment{}; ///< set on top of the test's own
     std::string input{};                              ///< standard input
+};
+
+/// A program that goes on beside the test; it is killed with the object, or when the thread that made it
+/// ends.
+class BackgroundProgram {
+public:
+    /// Its input must fit into a pipe; what it writes goes at the end of the log.
+    BackgroundProgram(const std::vector<std::string> &arguments, const CommandOptions &options,
+                      const std::string &log);
+    ~BackgroundProgram();
+    BackgroundProgram(const BackgroundProgram &) = delete;
+    BackgroundProgram &operator=(const BackgroundProgram &) = delete;
+
+    [[nodiscard]] bool hasEnded();
+    void signal(int number) const;
+
+private:
+    pid_t m_process = -1;
 };
 
 /// Runs a program (looked up in PATH) to its end, without a shell. Throws std::system_error where it can't be

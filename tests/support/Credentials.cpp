@@ -3,7 +3,6 @@
 #include "Command.h"
 #include "TemporaryFolder.h"
 
-#include <sstream>
 #include <stdexcept>
 
 namespace {
@@ -26,11 +25,7 @@ void signForThePast(const std::filesystem::path &folder, const std::string &name
 
 void runOpenSsl(const std::filesystem::path &folder, const std::string &words)
 {
-    std::vector<std::string> arguments{"openssl"};
-    std::istringstream stream(words);
-    for (std::string word; stream >> word;)
-        arguments.push_back(word);
-    const CommandResult result = runCommand(arguments, {.folder = folder});
+    const CommandResult result = runCommand({"sh", "-c", "openssl " + words}, {.folder = folder});
     if (result.status != 0) throw std::runtime_error("openssl " + words + ": " + result.errors);
 }
 

@@ -1,18 +1,11 @@
 #include "SecretService.h"
 
-#include "Command.h"
-
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
-#include <fcntl.h>
 #include <functional>
-#include <spawn.h>
 #include <stdexcept>
-#include <sys/wait.h>
-#include <system_error>
 #include <thread>
-#include <unistd.h>
 
 using namespace std::chrono_literals;
 namespace fs = std::filesystem;
@@ -38,14 +31,6 @@ void waitUntil(const std::string &what, const std::function<bool()> &condition)
     }
 }
 
-void endProcess(pid_t &process)
-{
-    if (process <= 0) return;
-    kill(process, SIGKILL);
-    waitpid(process, nullptr, 0);
-    process = -1;
-}
-
 } // namespace
 
 SecretService::SecretService()
@@ -65,7 +50,7 @@ SecretService::SecretService()
                      {"WAYLAND_DISPLAY", ""}};
 
     writeFile(m_folder / "bus.conf", busConfiguration(m_folder / "bus"));
-    m_bus = spawn({"dbus-daemon", "--nofork", "--config-file=" + (m_folder / "bus.conf").string()});
+    m_bus = run({"dbus-daemon", "--nofork", "--config-file=" + (m_folder / "bus.conf").string()});
     waitUntil("the bus", [this] { return fs::exists(m_folder / "bus"); });
 
     if (const char *own = getenv(address.c_str())) m_replaced[address] = own;
@@ -74,12 +59,17 @@ SecretService::SecretService()
 
 SecretService::~SecretService()
 {
-    endProcess(m_daemon);
-    endProcess(m_bus);
     if (m_replaced.contains(address))
         setenv(address.c_str(), m_replaced[address].c_str(), 1);
     else
         unsetenv(address.c_str());
+}
+
+std::unique_ptr<BackgroundProgram> SecretService::run(const std::vector<std::string> &arguments,
+                                                      const std::string &input) const
+{
+    return std::make_unique<BackgroundProgram>(
+        arguments, CommandOptions{.environment = m_environment, .input = input}, m_folder / "log");
 }
 
 void SecretService::start(Keyring keyring)
@@ -94,11 +84,11 @@ void SecretService::start(Keyring keyring)
         launch({}, {});
 }
 
-void SecretService::stop() { endProcess(m_daemon); }
+void SecretService::stop() { m_daemon.reset(); }
 
-void SecretService::freeze() const { kill(m_daemon, SIGSTOP); }
+void SecretService::freeze() const { m_daemon->signal(SIGSTOP); }
 
-void SecretService::thaw() const { kill(m_daemon, SIGCONT); }
+void SecretService::thaw() const { m_daemon->signal(SIGCONT); }
 
 void SecretService::launch(const std::vector<std::string> &more, const std::string &input)
 {
@@ -116,34 +106,6 @@ void SecretService::launch(const std::vector<std::string> &more, const std::stri
     std::vector<std::string> arguments{"gnome-keyring-daemon", "--foreground", "--components=secrets",
                                        "--control-directory=" + (m_folder / "control").string()};
     arguments.insert(arguments.end(), more.begin(), more.end());
-    m_daemon = spawn(arguments, input);
+    m_daemon = run(arguments, input);
     waitUntil("the service", isThere);
-}
-
-pid_t SecretService::spawn(const std::vector<std::string> &arguments, const std::string &input)
-{
-    // It ends with the test, however that ends.
-    std::vector<std::string> texts{"setpriv", "--pdeathsig", "KILL", "env"};
-    for (const auto &[name, value] : m_environment)
-        texts.push_back(name + '=' + value);
-    texts.insert(texts.end(), arguments.begin(), arguments.end());
-    std::vector<char *> argv;
-    for (std::string &text : texts)
-        argv.push_back(text.data());
-    argv.push_back(nullptr);
-
-    const std::string inputFile = m_folder / "input";
-    const std::string log = m_folder / "log";
-    writeFile(inputFile, input);
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, inputFile.c_str(), O_RDONLY, 0);
-    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, log.c_str(), O_WRONLY | O_CREAT | O_APPEND,
-                                     0600);
-    posix_spawn_file_actions_adddup2(&actions, STDOUT_FILENO, STDERR_FILENO);
-    pid_t process = -1;
-    const int error = posix_spawnp(&process, argv.front(), &actions, nullptr, argv.data(), environ);
-    posix_spawn_file_actions_destroy(&actions);
-    if (error) throw std::system_error(error, std::generic_category(), arguments.front());
-    return process;
 }

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "Command.h"
 #include "TemporaryFolder.h"
 
 #include <map>
+#include <memory>
 #include <string>
-#include <sys/types.h>
 #include <vector>
 
 /// A D-Bus session with a real Secret Service (gnome-keyring) in a home of its own. While it lives, the
@@ -32,12 +33,13 @@ public:
     [[nodiscard]] const std::map<std::string, std::string> &environment() const { return m_environment; }
 
 private:
-    pid_t spawn(const std::vector<std::string> &arguments, const std::string &input = {});
+    [[nodiscard]] std::unique_ptr<BackgroundProgram> run(const std::vector<std::string> &arguments,
+                                                         const std::string &input = {}) const;
     void launch(const std::vector<std::string> &more, const std::string &input);
 
     TemporaryFolder m_folder;
     std::map<std::string, std::string> m_environment;
     std::map<std::string, std::string> m_replaced; ///< of the test's own environment
-    pid_t m_bus = -1;
-    pid_t m_daemon = -1;
+    std::unique_ptr<BackgroundProgram> m_bus;
+    std::unique_ptr<BackgroundProgram> m_daemon;
 };

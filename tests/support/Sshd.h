@@ -1,8 +1,10 @@
 #pragma once
 
+#include "Command.h"
+
 #include <filesystem>
+#include <memory>
 #include <string>
-#include <sys/types.h>
 
 /// An ssh server of the test's own on the loopback interface. It lets in whoever runs the test, by a key.
 class Sshd {
@@ -10,9 +12,6 @@ public:
     /// Its keys and its log lie in the folder. `command`, where there is one, runs in place of what a client
     /// asks for; that is in SSH_ORIGINAL_COMMAND then.
     explicit Sshd(const std::filesystem::path &folder, const std::string &command = {});
-    ~Sshd();
-    Sshd(const Sshd &) = delete;
-    Sshd &operator=(const Sshd &) = delete;
 
     enum class Client { Welcome, WithoutKey, NewToTheServer, AtAClosedPort };
 
@@ -22,5 +21,5 @@ public:
 private:
     const std::filesystem::path m_folder;
     int m_port = 0;
-    pid_t m_process = -1;
+    std::unique_ptr<BackgroundProgram> m_server;
 };

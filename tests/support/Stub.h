@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-/// A copy of the stub tool in a test's folder, under a name of its own; StubTool.cpp lists its behaviours.
+/// A copy of the stub tool in a test's folder, under a name of its own; stub-tool.sh lists its behaviours.
 class Stub {
 public:
     Stub(const std::filesystem::path &folder, const std::string &name, const std::string &behaviour);

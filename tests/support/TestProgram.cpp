@@ -1,6 +1,6 @@
 #include "TestProgram.h"
 
-#include "InMemoryKeychain.h"
+#include "keychain/Keychain.h"
 
 #include "runs/Pauses.h"
 #include "settings/Paths.h"
@@ -23,7 +23,9 @@ TestProgram::TestProgram()
     qputenv("XDG_CONFIG_HOME", (m_folder / "config").string().c_str());
     quillorentLibrary::setResourceFolder(QStringLiteral(QUILLORENT_TEMPLATES));
     pauses() = {.beforeMeasuring = 20ms, .settingsSaved = 20ms, .profilesSaved = 20ms, .profileLoaded = 20ms};
-    setKeychain(std::make_shared<InMemoryKeychain>()); // never that of whoever runs the tests
+    // Never the keychain of whoever runs the tests; a test that needs one brings a session of its own.
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
+    setKeychain(nullptr);
     m_delegate = std::make_unique<QuillorentAppDelegate>();
     m_delegate->warningPanel01.observe([this] {
         if (!closesWarnings || m_delegate->warningPanel01.place() == outlets::Panel::Place::Hidden) return;

@@ -21,7 +21,6 @@ public:
 
     [[nodiscard]] const std::filesystem::path &folder() const { return m_folder.path(); }
     [[nodiscard]] QString path(const std::string &name) const; ///< of something in the test's folder
-    [[nodiscard]] QString configFolder() const { return path("config"); }
 
     /// Fills the profile: what is backed up, whereto ("archives" in the test's folder, made here), by which
     /// password.

@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <functional>
 #include <random>
+#include <sstream>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -57,34 +58,16 @@ std::string printable(const std::string &bytes)
     return text;
 }
 
-std::string timeText(const TreeEntry &entry)
+/// As far as the comparison looks at it.
+std::string describe(const TreeEntry &entry, const TreeComparison &comparison)
 {
-    return std::to_string(entry.seconds) + " s " + std::to_string(entry.nanoseconds) + " ns";
-}
-
-/// What differs between two entries of the same path, as "kind expected/actual" items.
-std::string entryDifference(const TreeEntry &expected, const TreeEntry &actual,
-                            const TreeComparison &comparison)
-{
-    std::string text;
-    const auto note = [&text](const std::string &what, const std::string &left, const std::string &right) {
-        if (left != right) text += "; " + what + " " + left + " became " + right;
-    };
-    note("type", std::string(1, expected.type), std::string(1, actual.type));
-    note("target", printable(expected.target), printable(actual.target));
-    note("size", std::to_string(expected.size), std::to_string(actual.size));
-    if (text.empty() && expected.contentHash != actual.contentHash) text += "; the content differs";
-    const auto octal = [](unsigned mode) {
-        char digits[16];
-        std::snprintf(digits, sizeof digits, "%04o", mode);
-        return std::string(digits);
-    };
-    if (comparison.modes) note("mode", octal(expected.mode), octal(actual.mode));
-    const bool sameTime = expected.seconds == actual.seconds &&
-                          (!comparison.nanoseconds || expected.nanoseconds == actual.nanoseconds);
-    const bool timeMatters = expected.type != 'l' || comparison.linkTimes;
-    if (timeMatters && !sameTime) note("time", timeText(expected), timeText(actual));
-    return text;
+    std::ostringstream text;
+    text << entry.type << ' ' << printable(entry.target) << entry.size << " bytes #" << entry.contentHash;
+    if (comparison.modes) text << std::oct << " 0" << entry.mode << std::dec;
+    if (entry.type == 'l' && !comparison.linkTimes) return text.str();
+    text << ' ' << entry.seconds << " s";
+    if (comparison.nanoseconds) text << ' ' << entry.nanoseconds << " ns";
+    return text.str();
 }
 
 void setTime(const fs::path &path, std::int64_t seconds, std::int64_t nanoseconds)
@@ -100,38 +83,15 @@ void setMode(const fs::path &path, mode_t mode)
 
 void makeOddNames(const fs::path &folder)
 {
-    // The last ones: characters beyond ASCII, bytes that are no UTF-8, and characters that may stand for
-    // such.
-    for (const std::string name : {"plain.txt",
-                                   "with space.txt",
-                                   " leading space",
-                                   "trailing space ",
-                                   "line\nbreak",
-                                   "-leading",
-                                   "--",
-                                   "*",
-                                   "*.txt",
-                                   "?",
-                                   "[a-z]",
-                                   "@list",
-                                   "#comment",
-                                   ";semicolon",
-                                   "$HOME",
-                                   "back\\slash",
-                                   "quote'\"",
-                                   "tab\there",
-                                   "~",
-                                   "...",
-                                   ".hidden",
-                                   "stra\xC3\x9F\x65 gr\xC3\xBCn.txt",
-                                   "\xE6\x97\xA5\xE6\x9C\xAC.txt",
-                                   "latin1 caf\xE9",
-                                   "\xFF\xFEraw",
-                                   "cut\xC3",
-                                   "\xEF\xBF\xBE marker",
-                                   "\xEE\x83\xBF private",
-                                   "private \xEE\x83\xA9 and \xE9",
-                                   "surrogate \xED\xA0\x80"})
+    // Between the slashes; the last line has characters beyond ASCII, bytes that are no UTF-8, and characters
+    // that may stand for such.
+    std::istringstream names(
+        "plain.txt/with space.txt/ leading space/trailing space "
+        "/line\nbreak/-leading/--/*/*.txt/?/[a-z]/@list/"
+        "#comment/;semicolon/$HOME/back\\slash/quote'\"/tab\there/~/.../.hidden/"
+        "stra\xC3\x9F\x65 gr\xC3\xBCn.txt/\xE6\x97\xA5\xE6\x9C\xAC.txt/latin1 caf\xE9/\xFF\xFEraw/cut\xC3/"
+        "\xEF\xBF\xBE marker/\xEE\x83\xBF private/private \xEE\x83\xA9 and \xE9/surrogate \xED\xA0\x80");
+    for (std::string name; std::getline(names, name, '/');)
         writeFile(folder / name, "content of " + name);
     writeFile(folder / std::string(255, 'n'), "the longest name");
 }
@@ -154,9 +114,9 @@ std::string treeDifference(const TreeSnapshot &expected, const TreeSnapshot &act
     for (const auto &[path, entry] : expected) {
         if (path == "." && !comparison.root) continue;
         const auto found = actual.find(path);
-        const std::string difference =
-            found == actual.end() ? "; is missing" : entryDifference(entry, found->second, comparison);
-        if (!difference.empty()) text += printable(path) + ":" + difference.substr(1) + "\n";
+        const std::string was = describe(entry, comparison);
+        const std::string is = found == actual.end() ? "nothing" : describe(found->second, comparison);
+        if (was != is) text += printable(path) + ": " + was + " became " + is + "\n";
     }
     for (const auto &[path, entry] : actual)
         if (!expected.contains(path)) text += printable(path) + ": was not expected\n";

@@ -6,7 +6,7 @@
 
 #include <csignal>
 #include <gtest/gtest.h>
-#include <thread>
+#include <semaphore>
 
 using namespace std::chrono_literals;
 namespace fs = std::filesystem;
@@ -50,13 +50,10 @@ TEST(RunTool, JudgesByWhatTheToolSays)
 TEST(RunTool, PassesArgumentsAsTheyAre)
 {
     const TemporaryFolder folder;
-    const Stub stub(folder.path(), "tool", "arguments");
     const QStringList arguments{u""_qs,      u"a b"_qs, u"$HOME `id` \"'"_qs, u"*"_qs, u"line\nbreak"_qs,
                                 u"naïve"_qs, u""_qs};
-    QString expected;
-    for (const QString &argument : arguments)
-        expected += u'[' + argument + u']';
-    EXPECT_EQ(runStub(stub, arguments).output, expected);
+    EXPECT_EQ(runStub(Stub(folder.path(), "tool", "arguments"), arguments).output,
+              u'[' + arguments.join(u"]["_qs) + u']');
 }
 
 TEST(RunTool, SaysWhyAToolCanNotStart)
@@ -74,14 +71,11 @@ TEST(RunTool, SaysWhyAToolCanNotStart)
         EXPECT_TRUE(result.text().contains(path)) << qPrintable(result.text());
     }
     EXPECT_FALSE(runTool({}, {}).isSilent());
-}
 
-TEST(RunTool, DoesNotTakeACrashForSuccess)
-{
-    const TemporaryFolder folder;
-    const ToolResult result = runStub(Stub(folder.path(), "tool", "crash"));
-    EXPECT_FALSE(result.isSilent());
-    EXPECT_TRUE(result.text().contains(u"signal 9"_qs)) << qPrintable(result.text());
+    // Nor is a crash a success.
+    const ToolResult crash = runStub(Stub(folder.path(), "tool", "crash"));
+    EXPECT_FALSE(crash.isSilent());
+    EXPECT_TRUE(crash.text().contains(u"signal 9"_qs)) << qPrintable(crash.text());
 }
 
 TEST(EndTools, LeavesNoToolBehind)
@@ -98,4 +92,15 @@ TEST(EndTools, LeavesNoToolBehind)
     EXPECT_EQ(toolsRunning(), 0);
     for (const int process : processes)
         EXPECT_FALSE(isAlive(process));
+}
+
+TEST(DetachThread, IsWaitedForAndSurvivesExceptions)
+{
+    std::binary_semaphore mayEnd{0};
+    detachThread(u"waits"_qs, [&] { mayEnd.acquire(); });
+    detachThread(u"a name far longer than the system takes"_qs, [] { throw std::runtime_error("escaped"); });
+    detachThread(u"throws"_qs, [] { throw 42; });
+    EXPECT_FALSE(waitForThreads(50ms)) << "one of them still waits";
+    mayEnd.release();
+    EXPECT_TRUE(waitForThreads(30s));
 }

@@ -1,4 +1,5 @@
 #include "Credentials.h"
+#include "SecretService.h"
 #include "TestWindow.h"
 
 #include "ui/Actions.h"
@@ -6,13 +7,9 @@
 #include "ui/OpenPanelDialog.h"
 #include "ui/StepperButtons.h"
 
-#include <QAbstractButton>
-#include <QCheckBox>
-#include <QComboBox>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QToolButton>
 
 namespace {
 
@@ -23,24 +20,11 @@ protected:
     {
         return delegate.currentRecord().string(key).value_or(QString());
     }
-
-    /// Controls that a form names and a person can press or choose from.
-    QList<QWidget *> controls()
-    {
-        QList<QWidget *> found;
-        for (QWidget *root : window.roots())
-            for (QWidget *control : root->findChildren<QWidget *>())
-                if ((qobject_cast<QAbstractButton *>(control) || qobject_cast<QComboBox *>(control)) &&
-                    !qobject_cast<QToolButton *>(control) && !control->objectName().startsWith(u"qt_") &&
-                    !control->objectName().isEmpty() && !found.contains(control))
-                    found.append(control);
-        return found;
-    }
 };
 
 } // namespace
 
-TEST_F(ActionsTest, EveryControlNamesAnAction)
+TEST_F(ActionsTest, EveryControlHasAnActionAndANameForThoseWhoDoNotSee)
 {
     // Read when something begins, kept nowhere.
     QSet<QString> known{u"checkBox03"_qs, u"mustDos01"_qs, u"decryptionCombo01"_qs};
@@ -49,63 +33,77 @@ TEST_F(ActionsTest, EveryControlNamesAnAction)
         EXPECT_FALSE(known.contains(QString(row.control))) << row.control.data() << " stands twice";
         known.insert(QString(row.control));
     }
-    ASSERT_GT(controls().size(), 20);
-    for (const QWidget *control : controls())
-        EXPECT_TRUE(known.contains(control->objectName())) << control->objectName().toStdString();
-}
-
-TEST_F(ActionsTest, EveryControlCanBeNamedToThoseWhoDoNotSee)
-{
     QSet<const QWidget *> labelled;
+    QSet<const QWidget *> pressed;
     for (QWidget *root : window.roots())
-        for (const QLabel *label : root->findChildren<QLabel *>())
-            labelled.insert(label->buddy());
-
+        for (const QWidget *widget : root->findChildren<QWidget *>()) {
+            if (const auto *label = qobject_cast<const QLabel *>(widget)) labelled.insert(label->buddy());
+            if ((widget->inherits("QAbstractButton") && !widget->inherits("QToolButton")) ||
+                widget->inherits("QComboBox"))
+                pressed.insert(widget);
+        }
+    ASSERT_GT(pressed.size(), 20);
     for (QWidget *root : window.roots())
-        for (const QWidget *control : root->findChildren<QWidget *>()) {
-            if (control->focusPolicy() == Qt::NoFocus || control->objectName().startsWith(u"qt_")) continue;
-            if (control->objectName().isEmpty() || control->inherits("QTabWidget") ||
-                control->inherits("QStackedWidget") || control->inherits("QLabel"))
-                continue;
-            const bool named =
-                !control->accessibleName().isEmpty() || !control->property("text").toString().isEmpty();
-            EXPECT_TRUE(named || labelled.contains(control)) << control->objectName().toStdString();
+        for (const QWidget *widget : root->findChildren<QWidget *>()) {
+            const QString name = widget->objectName();
+            if (name.isEmpty() || name.startsWith(u"qt_")) continue;
+            EXPECT_TRUE(known.contains(name) || !pressed.contains(widget)) << name.toStdString();
+            const bool isControl = widget->focusPolicy() != Qt::NoFocus && !widget->inherits("QTabWidget") &&
+                                   !widget->inherits("QStackedWidget") && !widget->inherits("QLabel");
+            const QString text = widget->accessibleName() + widget->property("text").toString();
+            EXPECT_TRUE(!isControl || !text.isEmpty() || labelled.contains(widget)) << name.toStdString();
         }
 }
 
-TEST_F(ActionsTest, SwitchesAndFieldsAreKept)
+// What each action does with the outlet, the controller's own tests know; here, that the key reaches the
+// right one.
+TEST_F(ActionsTest, SwitchesAndChoosersWriteTheirOwnKey)
 {
+    const auto table = [&](const QString &name) { return delegate.configPlist().dictionary(name); };
+    const plist::Dictionary record = delegate.currentRecord();
+    delegate.prefCheck01Action(); // all keys are there from now on
     struct Case {
-        QString control;
-        QString key;
+        const char *control;
+        Qt::Key press;
+        plist::Dictionary keptIn;
+        const char *key;
     };
-    for (const auto &[control, key] :
-         {Case{u"checkBox04"_qs, u"split"_qs}, Case{u"checkBox05"_qs, u"keepdate"_qs}}) {
-        const bool before = widget<QCheckBox>(control).isChecked();
-        widget(control).setFocus();
-        QTest::keyClick(&widget(control), Qt::Key_Space);
+    for (const auto &[control, press, keptIn, key] :
+         {Case{"checkBox04", Qt::Key_Space, record, "split"},
+          Case{"checkBox05", Qt::Key_Space, record, "keepdate"},
+          Case{"prefCheck02", Qt::Key_Space, record, "emptydir"},
+          Case{"checkBoxSync1", Qt::Key_Space, record, "rsyncdelete1"},
+          Case{"checkBoxSync2", Qt::Key_Space, record, "rsyncdelete2"},
+          Case{"syncCheck01", Qt::Key_Space, record, "isremotesync"},
+          Case{"syncSelector01", Qt::Key_Down, record, "rsyncmode"},
+          Case{"prefSelector01", Qt::Key_Down, record, "symencryption"},
+          Case{"passCombo01", Qt::Key_Down, record, "passtype"},
+          Case{"autosaveCheck01", Qt::Key_Space, table(u"resources"_qs), "autosave"},
+          Case{"updatesCheck01", Qt::Key_Space, table(u"updates"_qs), "automatic"}}) {
+        const plist::Dictionary before = keptIn.deepCopy();
+        QTest::keyClick(&widget(QLatin1String(control)), press);
         settle();
-        EXPECT_EQ(kept(key), before ? u"0"_qs : u"1"_qs) << key.toStdString();
+        EXPECT_NE(keptIn.string(QLatin1String(key)), before.string(QLatin1String(key))) << control;
+        before.setValue(QLatin1String(key), keptIn.value(QLatin1String(key)));
+        EXPECT_TRUE(keptIn == before) << control << " writes another key, too";
     }
-    click(u"autosaveCheck01"_qs);
-    EXPECT_EQ(delegate.setting(u"resources"_qs, u"autosave"_qs), u"0"_qs);
+}
 
-    delegate.checkBox04.setOn(true);
-    settle();
+TEST_F(ActionsTest, TheVolumeSizeIsTypedAndStepped)
+{
     auto &size = widget<QLineEdit>(u"prefText01"_qs);
     size.selectAll();
     QTest::keyClicks(&size, u"500"_qs);
     settle();
     EXPECT_EQ(kept(u"part"_qs), u"500"_qs);
     EXPECT_EQ(widget<QLabel>(u"volumeHint"_qs).text(), u"= 500.0 kB"_qs);
-    QTest::keyClick(&size, Qt::Key_Up);
-    settle();
-    EXPECT_EQ(kept(u"part"_qs), u"1500"_qs);
-    EXPECT_EQ(size.text(), u"1500"_qs);
-    for (int press = 0; press < 2; ++press)
-        QTest::keyClick(&size, Qt::Key_Down);
-    settle();
-    EXPECT_EQ(kept(u"part"_qs), u"1"_qs);
+    for (const auto &[key, expected] :
+         {std::pair{Qt::Key_Up, u"1500"_qs}, {Qt::Key_Down, u"500"_qs}, {Qt::Key_Down, u"1"_qs}}) {
+        QTest::keyClick(&size, key);
+        settle();
+        EXPECT_EQ(kept(u"part"_qs), expected);
+        EXPECT_EQ(size.text(), expected);
+    }
 }
 
 TEST_F(ActionsTest, FoldersComeAndGo)
@@ -118,14 +116,11 @@ TEST_F(ActionsTest, FoldersComeAndGo)
     auto &list = widget<ui::FolderListView>(u"listTableView"_qs);
     EXPECT_FALSE(widget(u"folderButton02"_qs).isEnabled());
     list.selectRows({0, 2});
-    settle();
     list.setFocus();
+    settle();
     QTest::keyClick(&list, Qt::Key_Delete);
     settle();
     EXPECT_EQ(folders(), QStringList{three[1]});
-    EXPECT_EQ(list.outletModel().rowCount(), 1);
-    EXPECT_EQ(list.selectedRows(), QList<int>{0});
-
     drop(list, {QUrl::fromLocalFile(program.path("home")), QUrl(u"http://localhost/page"_qs)});
     EXPECT_EQ(folders(), (QStringList{three[1], program.path("home")}));
 
@@ -137,95 +132,100 @@ TEST_F(ActionsTest, FoldersComeAndGo)
     EXPECT_FALSE(toolTip(1).contains(u"not found"));
 }
 
-TEST_F(ActionsTest, PasswordSourceShowsItsPageAndWhatIsMissing)
+TEST_F(ActionsTest, PasswordsAreTypedAndShown)
 {
     const auto &protection = widget<QLabel>(u"protectionText"_qs);
     click(u"protectionButton"_qs);
     EXPECT_TRUE(widget(u"passwordsPage"_qs).isVisible());
     EXPECT_TRUE(protection.text().contains(u"not entered"));
-
     QTest::keyClicks(&widget(u"secureText01a"_qs), u"se<cret"_qs);
     settle();
     EXPECT_EQ(delegate.passwordSelector(), u"se<cret"_qs);
     EXPECT_TRUE(widget<QLabel>(u"strengthHint"_qs).text().startsWith(u"Easy to guess"));
-    EXPECT_FALSE(protection.text().contains(u"not entered"));
-    EXPECT_FALSE(protection.text().contains(u"se<cret"));
+    EXPECT_FALSE(protection.text().contains(u"not entered") || protection.text().contains(u"se<cret"));
     click(u"checkBox01"_qs);
     EXPECT_FALSE(widget(u"secureText01a"_qs).isVisible());
     EXPECT_TRUE(widget(u"secureText01b"_qs).isVisible());
     EXPECT_EQ(widget<QLineEdit>(u"secureText01b"_qs).text(), u"se<cret"_qs);
-
-    widget(u"passCombo01"_qs).setFocus();
-    for (const int source : {PasswordTab::KeychainPassword, PasswordTab::Certificate}) {
-        QTest::keyClick(&widget(u"passCombo01"_qs), Qt::Key_Down);
-        settle();
-        EXPECT_EQ(kept(u"passtype"_qs), QString::number(source));
-    }
 }
 
-TEST_F(ActionsTest, CertificateIsCheckedAndToldOf)
+TEST_F(ActionsTest, TheKeychainIsAskedWhileTheWindowGoesOn)
+{
+    SecretService session;
+    session.start();
+    showTab(u"passwordsPage"_qs);
+    delegate.passCombo01.selectIndex(PasswordTab::KeychainPassword);
+    delegate.passCombo01Action();
+    settle();
+    const auto says = [&](const QString &words) {
+        return waitUntil([&] { return widget<QLabel>(u"keychainText01"_qs).text().contains(words); });
+    };
+    EXPECT_FALSE(widget(u"passButton01"_qs).isEnabled()) << "without an account there is nothing to fetch";
+    QTest::keyClicks(&widget(u"keychainUser"_qs), u"holiday"_qs);
+    QTest::keyClicks(&widget(u"keychainPass"_qs), u"fjord & 7"_qs);
+    settle();
+    click(u"passButton02"_qs);
+    EXPECT_TRUE(says(u"was stored"_qs));
+    session.freeze();
+    click(u"passButton01"_qs);
+    QTest::keyClicks(&widget(u"keychainUser"_qs), u" typed meanwhile"_qs);
+    EXPECT_EQ(delegate.keychainUser.text(), u"holiday typed meanwhile"_qs);
+    session.thaw();
+    EXPECT_TRUE(says(u"was fetched"_qs));
+    EXPECT_TRUE(widget<QLabel>(u"protectionText"_qs).text().contains(u"account holiday"));
+
+    // Seen, changed, and then not the text that counts: nobody may overlook that.
+    click(u"checkBox02"_qs);
+    EXPECT_FALSE(widget(u"keychainConflict"_qs).isVisible());
+    QTest::keyClicks(&widget(u"keychainClear"_qs), u"!"_qs);
+    settle();
+    EXPECT_TRUE(widget(u"keychainConflict"_qs).isVisible());
+    EXPECT_TRUE(widget<QLabel>(u"protectionText"_qs).text().contains(u"look at the Passwords tab"));
+}
+
+TEST_F(ActionsTest, ACertificateIsCheckedAndToldOf)
 {
     const Credentials keys = makeCredentials(program.folder(), "old", Validity::EndedIn2021);
     showTab(u"passwordsPage"_qs);
     delegate.passCombo01.selectIndex(PasswordTab::Certificate);
     delegate.passCombo01Action();
     settle();
-    QString chosen = toQString(keys.key);
-    delegate.openPanel = [&](const outlets::OpenPanel &) { return QStringList{chosen}; };
-
-    clickAndAnswer(u"certButton01"_qs, u"certPanel01"_qs, [&] {
-        EXPECT_TRUE(widget<QLabel>(u"certPanelText01"_qs).text().contains(u"holds a private key"));
-        click(u"certPanel01CloseButton"_qs);
-    });
-    clickAndAnswer(u"pkButton01"_qs, u"pkPanel01"_qs,
-                   [&] { QTest::keyClick(&widget(u"pkPanel01"_qs), Qt::Key_Escape); });
-    EXPECT_TRUE(waitUntil([&] { return !widget(u"pkPanel01"_qs).isVisible(); }));
-
-    chosen = toQString(keys.certificate);
+    delegate.openPanel = [&](const outlets::OpenPanel &) { return QStringList{toQString(keys.key)}; };
+    clickAndAnswer(u"certButton01"_qs, u"certPanel01"_qs, [&] { click(u"certPanel01CloseButton"_qs); });
+    delegate.openPanel = [&](const outlets::OpenPanel &) { return QStringList{toQString(keys.certificate)}; };
     click(u"certButton01"_qs);
     EXPECT_TRUE(waitUntil([&] { return widget(u"certWarning01"_qs).isVisible(); }));
     EXPECT_TRUE(widget<QLabel>(u"certSummary01"_qs).text().startsWith(u"CN=old"));
     EXPECT_TRUE(widget<QLabel>(u"protectionText"_qs).text().endsWith(u"old.pem"));
-    click(u"certInfoButton01"_qs);
-    EXPECT_TRUE(waitUntil([&] { return delegate.consoleTextView01.text().startsWith(u"Certificate:"); }));
-    EXPECT_TRUE(widget(u"consolePanel01"_qs).isVisible());
+    clickAndAnswer(u"certInfoButton01"_qs, u"consolePanel01"_qs, [] {});
 }
 
-TEST_F(ActionsTest, ChooserTakesFilesAndFoldersTogether)
+TEST_F(ActionsTest, ChoosersTakeFilesAndFoldersTogetherAndToolsWithoutExtension)
 {
-    writeFile(program.folder() / "pick" / "file.txt", "x");
-    std::filesystem::create_directories(program.folder() / "pick" / "folder");
-    const auto dialog = ui::makeOpenPanelDialog(
-        {.canChooseDirectories = true, .allowsMultipleSelection = true, .directory = program.path("pick")},
-        &window);
-    dialog->show();
-    auto *list = dialog->findChild<QAbstractItemView *>(u"listView"_qs);
-    ASSERT_TRUE(waitUntil([&] { return list->model()->rowCount(list->rootIndex()) == 2; }));
-    list->selectAll();
-    settle();
-    QTest::keyClick(dialog.get(), Qt::Key_Return);
-    EXPECT_EQ(dialog->result(), QDialog::Accepted);
-    QStringList chosen = dialog->selectedFiles();
-    chosen.sort();
-    EXPECT_EQ(chosen, (QStringList{program.path("pick/file.txt"), program.path("pick/folder")}));
-}
-
-TEST_F(ActionsTest, ChooserOfToolsShowsFilesWithoutExtension)
-{
-    for (const char *name : {"tool", "notes.txt"})
-        writeFile(program.folder() / "pick" / name, "x");
-    std::filesystem::create_directories(program.folder() / "pick" / "folder.d");
-    const auto dialog =
-        ui::makeOpenPanelDialog({.directory = program.path("pick"), .allowedFileTypes = {u""_qs}}, &window);
-    dialog->show();
-    const auto *list = dialog->findChild<QAbstractItemView *>(u"listView"_qs);
-    const auto names = [&] {
+    for (const char *name : {"pick/tool", "pick/notes.txt", "pick/folder.d/inside"})
+        writeFile(program.folder() / name, "x");
+    const auto names = [](const QFileDialog &dialog) {
+        const auto *list = dialog.findChild<QAbstractItemView *>(u"listView"_qs);
         QStringList found;
         for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row)
             found.append(list->model()->index(row, 0, list->rootIndex()).data().toString());
         return found;
     };
+    const auto tools =
+        ui::makeOpenPanelDialog({.directory = program.path("pick"), .allowedFileTypes = {u""_qs}}, &window);
+    tools->show();
     EXPECT_TRUE(waitUntil([&] {
-        return names() == QStringList{u"folder.d"_qs, u"tool"_qs};
-    })) << names().join(u' ').toStdString();
+        return names(*tools) == QStringList{u"folder.d"_qs, u"tool"_qs};
+    })) << names(*tools).join(u' ').toStdString();
+
+    const auto all = ui::makeOpenPanelDialog(
+        {.canChooseDirectories = true, .allowsMultipleSelection = true, .directory = program.path("pick")},
+        &window);
+    all->show();
+    ASSERT_TRUE(waitUntil([&] { return names(*all).size() == 3; }));
+    all->findChild<QAbstractItemView *>(u"listView"_qs)->selectAll();
+    settle();
+    QTest::keyClick(all.get(), Qt::Key_Return);
+    EXPECT_EQ(all->result(), QDialog::Accepted);
+    EXPECT_EQ(all->selectedFiles().size(), 3);
 }

@@ -26,12 +26,12 @@ void onAnotherThread(Work work)
 
 TEST_F(BindingTest, EveryOutletHasOneWidget)
 {
-    QStringList wrong;
+    QSet<QString> names;
     for (const outlets::Outlet *outlet : delegate.outlets()) {
-        const auto widgets = ui::widgetsNamed(outlet->name(), window.roots()).size();
-        if (widgets != 1) wrong.append(outlet->name());
+        EXPECT_EQ(ui::widgetsNamed(outlet->name(), window.roots()).size(), 1) << outlet->name().toStdString();
+        EXPECT_FALSE(names.contains(outlet->name())) << outlet->name().toStdString() << " is there twice";
+        names.insert(outlet->name());
     }
-    EXPECT_EQ(wrong.join(u' ').toStdString(), "");
 }
 
 TEST_F(BindingTest, ManyChangesAreShownOnceAndByTheLastValue)
@@ -98,14 +98,11 @@ TEST_F(BindingTest, TypingWritesTheOutletAndKeepsTheCursor)
 
 TEST_F(BindingTest, EscapeAsksThePanelsClosingAction)
 {
-    struct Case {
-        outlets::Panel &panel;
-        bool asSheet;
-    };
-    for (const auto &[panel, asSheet] :
-         {Case{delegate.warningPanel01, true}, Case{delegate.warningPanel03, true},
-          Case{delegate.warningPanel02, true}, Case{delegate.concernsPanel01, true},
-          Case{delegate.extractPanel01, true}, Case{delegate.consolePanel01, false}}) {
+    for (outlets::Panel *const each :
+         {&delegate.warningPanel01, &delegate.warningPanel03, &delegate.warningPanel02,
+          &delegate.concernsPanel01, &delegate.extractPanel01, &delegate.consolePanel01}) {
+        outlets::Panel &panel = *each;
+        const bool asSheet = each != &delegate.consolePanel01;
         SCOPED_TRACE(panel.name().toStdString());
         asSheet ? panel.beginSheet() : panel.orderFront();
         settle();

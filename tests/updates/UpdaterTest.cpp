@@ -1,10 +1,9 @@
+#include "ProgramTest.h"
+#include "updates/Appcast.h"
 #include "updates/SUUpdater.h"
-
-#include "TestProgram.h"
 
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -33,20 +32,21 @@ private:
     const QByteArray m_body;
 };
 
-QByteArray feedOf(const QByteArray &version)
+QByteArray feed(const QByteArray &items)
 {
-    return "<rss version=\"2.0\"><channel><item><title>Version " + version +
-           "</title><link>https://localhost/download</link><description>Better</description></item></"
-           "channel></rss>";
+    return "<?xml version=\"1.0\"?><rss version=\"2.0\" xmlns:x=\"urn:x\"><channel><title>Releases</title>" +
+           items + "</channel></rss>";
 }
 
-class Updater : public testing::Test {
+QByteArray feedOf(const QByteArray &version)
+{
+    return feed("<item><title>Version " + version +
+                "</title><link>https://localhost/download</link><description>Better</description></item>");
+}
+
+class Updater : public ProgramTest {
 protected:
-    Updater()
-    {
-        m_program.start();
-        delegate.showsUpdates = true;
-    }
+    Updater() { delegate.showsUpdates = true; }
     ~Updater() override { SUUpdater::sharedUpdater().setAutomaticallyChecksForUpdates(false); }
 
     void useFeed(const QString &address) const
@@ -62,9 +62,6 @@ protected:
             [&] { return server.requests > before && SUUpdater::sharedUpdater().children().isEmpty(); }));
         return delegate.updatePanel01.place() != outlets::Panel::Place::Hidden;
     }
-
-    TestProgram m_program;
-    QuillorentAppDelegate &delegate = m_program.delegate();
 };
 
 } // namespace
@@ -101,7 +98,6 @@ TEST_F(Updater, AsksOnlyWhereItMayAndShould)
     useFeed(server.address());
     delegate.updatesCheck01.setOn(true);
     delegate.updatesCheck01Action();
-    EXPECT_EQ(delegate.setting(u"updates"_qs, u"automatic"_qs), u"1"_qs);
     EXPECT_TRUE(SUUpdater::sharedUpdater().automaticallyChecksForUpdates());
     delegate.checkForUpdatesAtStart();
     EXPECT_TRUE(TestProgram::waitUntil([&] { return server.requests == 1; }));
@@ -113,4 +109,44 @@ TEST_F(Updater, AsksOnlyWhereItMayAndShould)
     delegate.updatesCheck01.setOn(false);
     delegate.updatesCheck01Action();
     EXPECT_FALSE(SUUpdater::sharedUpdater().automaticallyChecksForUpdates());
+}
+
+TEST(Appcast, VersionsAreComparedNumberByNumber)
+{
+    const QStringList ascending{u"0.9.9"_qs, u"1"_qs,       u"1.0.1"_qs,   u"1.9"_qs,
+                                u"1.10"_qs,  u"2.0-rc1"_qs, u"2.0-rc2"_qs, u"2.0"_qs};
+    for (int newer = 0; newer < ascending.size(); ++newer)
+        for (int older = 0; older < newer; ++older) {
+            EXPECT_TRUE(compareVersions(ascending[older], ascending[newer]) < 0) << older << ' ' << newer;
+            EXPECT_TRUE(compareVersions(ascending[newer], ascending[older]) > 0) << older << ' ' << newer;
+        }
+    EXPECT_TRUE(compareVersions(u"2.0b1"_qs, u"2.0"_qs) < 0);
+    EXPECT_TRUE(compareVersions(u"1.0"_qs, u"1"_qs) == 0);
+}
+
+TEST(Appcast, TheNewestOfItsItemsCounts)
+{
+    const AppcastContent content = readAppcast(
+        feed("<item><title>Version 1.9</title><link>https://localhost/19</link></item>"
+             "<item><title>News</title><x:shortVersionString>1.10</x:shortVersionString><x:version>4711</"
+             "x:version>"
+             "<link>https://localhost/110</link><description><![CDATA[<ul><li>Faster &amp; "
+             "safer</li><li>New</li></ul>]]>"
+             "</description></item>"
+             "<item><title>No page 9.0</title></item><item><title>A file "
+             "9.1</title><link>file:///etc/passwd</link></item>"
+             "<item><enclosure url=\"https://localhost/1.2.tgz\" x:version=\"1.2\" length=\"1\"/></item>"));
+    ASSERT_TRUE(content.newest) << qPrintable(content.reason);
+    EXPECT_EQ(content.newest->version, u"1.10"_qs);
+    EXPECT_EQ(content.newest->page, QUrl(u"https://localhost/110"_qs));
+    EXPECT_EQ(content.newest->notes, u"Faster & safer\nNew"_qs);
+}
+
+TEST(Appcast, WhatIsNoFeedSaysWhy)
+{
+    for (const QByteArray &bad :
+         {QByteArray(), QByteArray("<html><body>Not found</body></html>"), QByteArray("\0\1", 2),
+          feed("<item><title>9.9</title>").left(120), QByteArray("<rss><channel><item>&x;")})
+        EXPECT_FALSE(readAppcast(bad).reason.isEmpty()) << bad.constData();
+    EXPECT_FALSE(readAppcast(feed({})).newest);
 }

@@ -85,3 +85,5 @@ void quillorentLibrary::runProcess2(const ExtractJob &job)
     SheetMonitor monitor(delegate, extractSheet(delegate));
     runExtractionOfOne(*order, delegate, monitor);
 }
+
+void quillorentLibrary::stopProcess02() {}

@@ -30,4 +30,8 @@ void launchExtract(const QString &profile);
 /// The extraction of one archive, with what the settings and the controls say at this moment. Blocks.
 void runProcess2(const ExtractJob &job);
 
+/// Does nothing: a run is ended by its cancel flag alone. Kept as the place where another way to end it would
+/// go.
+void stopProcess02();
+
 } // namespace quillorentLibrary

@@ -70,3 +70,5 @@ void quillorentLibrary::runProcess1(const BackupJob &job)
     SheetMonitor monitor(delegate, backupSheet(delegate));
     runBackupOfOne(*order, delegate, monitor);
 }
+
+void quillorentLibrary::stopProcess01() {}

@@ -24,4 +24,8 @@ void launchBackup(const QString &profile);
 /// The backup of one folder, with what the profile and the settings say at this moment. Blocks.
 void runProcess1(const BackupJob &job);
 
+/// Does nothing: a run is ended by its cancel flag alone. Kept as the place where another way to end it would
+/// go.
+void stopProcess01();
+
 } // namespace quillorentLibrary

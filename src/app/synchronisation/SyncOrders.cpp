@@ -41,3 +41,5 @@ void quillorentLibrary::runProcess3(const QStringList &)
     SyncDisplay display(delegate);
     runRsyncAlone(readSyncOrder(), delegate, monitor, display);
 }
+
+void quillorentLibrary::stopProcess03() {}

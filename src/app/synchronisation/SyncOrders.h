@@ -15,4 +15,8 @@ void launchSync(const QString &profile);
 /// paths are not looked at.
 void runProcess3(const QStringList &paths);
 
+/// Does nothing: a run is ended by its cancel flag alone. Kept as the place where another way to end it would
+/// go.
+void stopProcess03();
+
 } // namespace quillorentLibrary

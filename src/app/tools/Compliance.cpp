@@ -1,8 +1,21 @@
 #include "app/tools/Compliance.h"
 
 #include "app/QuillorentAppDelegate.h"
+#include "tools/RegisteredTool.h"
 #include "tools/Threads.h"
 #include "tools/Verification.h"
+
+namespace {
+
+QString hintOnOpenSsl()
+{
+    if (!quillorentLibrary::warnsOfItsKeyDerivation(registeredTool(u"OpenSSL"_qs))) return {};
+    return u"This OpenSSL can't be used by itself: it derives keys from passwords in another way than "
+           u"archives of this "
+           "program need, and complains of it. Choose Quillorent's own \"openssl\", which uses it."_qs;
+}
+
+} // namespace
 
 bool quillorentLibrary::compliance()
 {
@@ -25,6 +38,8 @@ bool quillorentLibrary::compliance()
                                .warning = tools - 0.95,
                                .critical = tools - 0.96});
     delegate.pathTableView.reloadData();
+    delegate.toolsHint01.setText(hintOnOpenSsl());
+    delegate.toolsHint01.setHidden(delegate.toolsHint01.text().isEmpty());
     return tools == passing;
 }
 

@@ -1,0 +1,110 @@
+#include "files/Paths.h"
+
+#include "Command.h"
+#include "ProgramTest.h"
+#include "Tree.h"
+#include "app/folders/Decisions.h"
+#include "files/Names.h"
+#include "files/Sizes.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QRegularExpression>
+
+namespace fs = std::filesystem;
+using namespace quillorentLibrary;
+
+class Files : public ProgramTest {};
+
+TEST_F(Files, NamesakesAreToldApart)
+{
+    struct Case {
+        QString path;
+        QStringList paths;
+        QString name;
+    };
+    for (const Case &c : {
+             Case{u"/a/docs"_qs, {u"/a/docs"_qs}, u"docs"_qs},
+             Case{u"/a/docs"_qs, {u"/a/docs"_qs, u"/b/docs"_qs}, u"docs-0"_qs},
+             Case{u"/b/docs/"_qs, {u"/a/docs"_qs, u"/b/docs/"_qs}, u"docs-1"_qs},
+             Case{u"/a/docs"_qs, {u"/x"_qs, u"/a/docs"_qs, u"/a/docs"_qs}, u"docs-1"_qs},
+             Case{u"/c/docs"_qs, {u"/a/docs"_qs, u"/b/docs"_qs}, u"docs--1"_qs},
+             Case{u"/c/docs"_qs, {u"/a/docs"_qs}, u"docs"_qs},
+             Case{u"/a/Docs"_qs, {u"/a/Docs"_qs, u"/b/docs"_qs}, u"Docs"_qs},
+         })
+        EXPECT_EQ(nameRepeated(c.path, c.paths), c.name) << qPrintable(c.path + c.paths.join(u' '));
+    for (const auto &[path, name] : {std::pair{u"/a/b.c"_qs, u"b.c"_qs},
+                                     {u"/a/b//"_qs, u"b"_qs},
+                                     {u"b"_qs, u"b"_qs},
+                                     {u"/"_qs, u"/"_qs},
+                                     {QString(), QString()}})
+        EXPECT_EQ(lastPathComponent(path), name);
+}
+
+TEST_F(Files, TemporaryNamesCountMillisecondsFromTheReferenceDate)
+{
+    const QDateTime reference(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC);
+    const qint64 before = reference.msecsTo(QDateTime::currentDateTimeUtc());
+    const QString name = createTempFileName();
+    const qint64 after = reference.msecsTo(QDateTime::currentDateTimeUtc());
+    const QRegularExpressionMatch match =
+        QRegularExpression(u"^(.*/)Quillorent_(\\d+)\\.txt$"_qs).match(name);
+    EXPECT_EQ(match.captured(1), QDir::tempPath() + u'/') << qPrintable(name);
+    EXPECT_TRUE(before <= match.captured(2).toLongLong() && match.captured(2).toLongLong() <= after);
+}
+
+TEST_F(Files, AFolderIsEmptyWhereNothingButHiddenFilesAreInIt)
+{
+    delegate.prefCheck02.setOn(false);
+    for (const char *name : {"hidden/.trash/file", "filled/file", "with space/file", "percent%41/file"})
+        writeFile(program.folder() / name, "x");
+    for (const char *name : {"empty", "nested/folder", "dangling"})
+        fs::create_directories(program.folder() / name);
+    fs::create_symlink("nowhere", program.folder() / "dangling/link");
+    for (const char *empty : {"empty", "hidden", "missing"})
+        EXPECT_TRUE(folderIsEmpty(program.path(empty))) << empty;
+    for (const char *filled : {"filled", "nested", "dangling", "with space", "percent%41"})
+        EXPECT_FALSE(folderIsEmpty(program.path(filled))) << filled;
+    delegate.prefCheck02.setOn(true);
+    EXPECT_TRUE(folderIsEmpty(program.path("filled")));
+}
+
+TEST_F(Files, PathsAndLinksAreFollowedAsFarAsTheyMay)
+{
+    writeFile(program.folder() / "home/Documents/file", "x");
+    fs::create_symlink("/usr/bin/env", program.folder() / "absolute");
+    fs::create_directory_symlink("home", program.folder() / "relative");
+    for (const auto &[path, exists] : {std::pair{program.path("home"), true},
+                                       {program.path("relative"), true},
+                                       {program.path("absolute"), false},
+                                       {program.path("missing"), false},
+                                       {QString(), false}})
+        EXPECT_EQ(folderExists(path), exists) << qPrintable(path);
+
+    EXPECT_EQ(translatePath({u"~/Documents"_qs, program.path("home/../home//Documents/./file"),
+                             program.path("missing"), u"~"_qs}),
+              (QStringList{program.path("home/Documents"), program.path("home/Documents/file"),
+                           program.path("home")}));
+
+    EXPECT_EQ(stringByConditionallyResolvingSymlink(program.path("absolute")), u"/usr/bin/env"_qs);
+    EXPECT_EQ(stringByConditionallyResolvingSymlink(program.path("relative")), std::nullopt);
+    EXPECT_EQ(stringByConditionallyResolvingSymlink(program.path("home")), program.path("home"));
+    EXPECT_EQ(stringByConditionallyResolvingAlias(program.path("absolute")), std::nullopt);
+}
+
+TEST_F(Files, SizesAddUpEverythingBelowAndFollowNoLink)
+{
+    makeSampleTree(program.folder() / "tree");
+    fs::create_directory_symlink(program.folder(), program.folder() / "tree/loop");
+    // The same figure by another tool.
+    const std::string folder = program.folder() / "tree";
+    const quint64 expected = std::stoull(
+        runCommand({"sh", "-c", "echo $((0$(find \"$0\" -mindepth 1 -printf +%s)))", folder}).output);
+    ASSERT_GT(expected, 1'500'000U);
+    for (const auto &[name, size] : {std::pair{"tree", expected},
+                                     {"tree/", expected},
+                                     {"tree/one byte", 1U},
+                                     {"tree/dangling link", 14U},
+                                     {"missing", 0U}})
+        EXPECT_EQ(calculateSize(program.path(name)), size) << name;
+}
