@@ -103,6 +103,10 @@ TEST(Extraction, LosesNoVolumes)
 TEST(Backup, IsKilledAtEveryChange)
 {
     killAtEachChange(Kind::Backup, {"program", "", "backup", "docs.rar"}, Ends::Killed);
+}
+
+TEST(Backup, LosesItsArchiverAtEveryChange)
+{
     killAtEachChange(Kind::Backup, stagesOf(Kind::Backup).back(), Ends::Any);
 }
 
