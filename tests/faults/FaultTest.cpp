@@ -1,0 +1,170 @@
+#include "FaultHome.h"
+#include "Parallel.h"
+
+#include <atomic>
+#include <csignal>
+#include <functional>
+#include <gtest/gtest.h>
+#include <map>
+#include <set>
+#include <sstream>
+
+namespace {
+
+using Kind = FaultHome::Kind;
+
+const std::vector<Stage> &stagesOf(Kind kind)
+{
+    static const std::vector<Stage> backup{{"first pass", "rar", "-m0", "docs.rar"},
+                                           {"encoder", "openssl", "-encrypt", "docs.rar.smime"},
+                                           {"second pass", "rar", "-m5", "docs.rar.smime.rar"}};
+    static const std::vector<Stage> extraction{{"unpacking", "rar", "e", "docs.rar.smime"},
+                                               {"decoding", "openssl", "-decrypt", "docs.rar"},
+                                               {"restoring", "rar", "x", ""}};
+    return kind == Kind::Backup ? backup : extraction;
+}
+
+std::string signalled(const std::string &deed, int signal) { return deed + "\n" + std::to_string(signal); }
+
+const std::vector<Fault> &faults()
+{
+    static const std::vector<Fault> all{
+        {"program killed, tool lives on", "start", signalled("parent", SIGKILL), Ends::Killed},
+        {"program killed between stages", "end", signalled("parent", SIGKILL), Ends::Killed},
+        {"program terminated", "start", signalled("parent", SIGTERM), Ends::Cancelled},
+        {"program interrupted", "start", signalled("parent", SIGINT), Ends::Cancelled},
+        {"tool killed", "start", signalled("kill", SIGKILL), Ends::Fails},
+        {"tool terminated", "end", signalled("kill", SIGTERM), Ends::Fails},
+        {"tool interrupted", "start", signalled("kill", SIGINT), Ends::Fails},
+        {"tool crashes in the middle", "start", "limit\n5000", Ends::Fails},
+        {"write error", "start", "full\n5000", Ends::Fails},
+        {"status 1 and no word", "start", "exit\n1", Ends::Fails},
+        {"status 1 and no word, work done", "end", "exit\n1", Ends::Fails},
+        {"status 0 and no product", "start", "exit\n0", Ends::Fails},
+        {"hangs until it is cancelled", "start", signalled("hang", SIGTERM), Ends::Cancelled},
+        {"noise", "start", "say\nI am a tool", Ends::Fails},
+        {"name taken by a folder", "start", "folder\n@PRODUCT", Ends::Any},
+        {"name taken by a FIFO", "start", "fifo\n@PRODUCT", Ends::Any},
+        {"name taken by a link", "start", "link\n@PRODUCT\n@VICTIM", Ends::Any},
+    };
+    return all;
+}
+
+using Prepare = std::function<bool(FaultHome &)>;
+
+void strike(
+    Kind kind, bool splits, const std::vector<Stage> &stages, const std::vector<Fault> &table,
+    const Prepare &prepare = [](FaultHome &) { return true; })
+{
+    const auto make = [&] {
+        auto home = std::make_unique<FaultHome>(kind, splits);
+        return prepare(*home) ? std::move(home) : nullptr;
+    };
+    inParallel(stages.size() * table.size(), make, [&](FaultHome &home, std::size_t row) {
+        const Stage &stage = stages[row % stages.size()];
+        const Fault &fault = table[row / stages.size()];
+        SCOPED_TRACE((splits ? "volumes, " : "") + stage.name + ": " + fault.name);
+        EXPECT_TRUE(home.survives(stage, fault) || fault.ends == Ends::Any) << "nothing was hit";
+    });
+}
+
+/// Kills before every change of names, until there are no more.
+void killAtEachChange(Kind kind, const Stage &stage, Ends ends)
+{
+    std::atomic<bool> isOver = false;
+    const auto make = [&] { return std::make_unique<FaultHome>(kind, true); };
+    inParallel(80, make, [&](FaultHome &home, std::size_t row) {
+        if (isOver) return;
+        const std::string moment = "change " + std::to_string(row + 1);
+        SCOPED_TRACE(stage.name + ", " + moment);
+        if (!home.survives(stage, {moment, moment, signalled("kill", SIGKILL), ends})) isOver = true;
+    });
+    EXPECT_TRUE(isOver);
+}
+
+} // namespace
+
+TEST(Backup, LosesNothing) { strike(Kind::Backup, false, stagesOf(Kind::Backup), faults()); }
+
+TEST(Backup, LosesNoVolumes)
+{
+    Stage last = stagesOf(Kind::Backup).back();
+    last.product = "docs.rar.smime.part1.rar";
+    strike(Kind::Backup, true, {last}, faults());
+}
+
+TEST(Extraction, LosesNothing) { strike(Kind::Extraction, false, stagesOf(Kind::Extraction), faults()); }
+
+TEST(Extraction, LosesNoVolumes)
+{
+    strike(Kind::Extraction, true, {stagesOf(Kind::Extraction).front()}, faults());
+}
+
+TEST(Backup, IsKilledAtEveryChange)
+{
+    killAtEachChange(Kind::Backup, {"program", "", "backup", "docs.rar"}, Ends::Killed);
+}
+
+TEST(Backup, LosesItsArchiverAtEveryChange)
+{
+    killAtEachChange(Kind::Backup, stagesOf(Kind::Backup).back(), Ends::Any);
+}
+
+TEST(Extraction, IsKilledAtEveryChange)
+{
+    killAtEachChange(Kind::Extraction, {"program", "", "extract", "docs.rar"}, Ends::Killed);
+}
+
+TEST(Disk, IsFullAtEachStage)
+{
+    for (const Kind kind : {Kind::Backup, Kind::Extraction}) {
+        std::atomic<bool> isAllowed = true;
+        strike(kind, false, stagesOf(kind), {{"full disk", "start", "fill\n@FOLDER", Ends::Fails}},
+               [&](FaultHome &home) { return isAllowed = home.mountSmallDisk(); });
+        if (!isAllowed) GTEST_SKIP() << "file systems can't be mounted here, the disk was not full";
+    }
+}
+
+TEST(Permission, GoesAtEachStage)
+{
+    for (const Kind kind : {Kind::Backup, Kind::Extraction})
+        strike(kind, false, stagesOf(kind), {{"permission", "start", "mode\n500\n@FOLDER", Ends::Fails}},
+               [](FaultHome &home) {
+                   home.becomeOrdinaryUser();
+                   return true;
+               });
+}
+
+// A file system may write names before contents: what is not safe when its predecessor goes can be lost with
+// it.
+TEST(PowerCut, FindsTheSuccessorOfWhatIsGone)
+{
+    for (const bool splits : {false, true}) {
+        FaultHome home(Kind::Backup, splits);
+        std::set<std::string> safe;
+        std::map<std::string, std::string> named;
+        std::vector<std::string> gone;
+        for (const std::string &line : home.orderOfChanges()) {
+            std::istringstream words(line);
+            std::string event, inode, path;
+            words >> event >> inode >> path;
+            if (event == "safe") safe.insert(inode);
+            if (event == "named") named[path] = inode;
+            if (event != "gone") continue;
+            gone.push_back(path);
+            // Of a set, any volume may be the first to go: all that has come into its place has to be there.
+            const std::string successor = path == "docs.rar"            ? "docs.rar.smime"
+                                          : path == "docs.rar.smime"    ? "docs.rar.smime."
+                                          : path.starts_with("former-") ? "docs.rar.smime."
+                                                                        : "";
+            std::size_t found = 0;
+            for (const auto &[name, file] : named) {
+                if (name != successor && !(successor.ends_with('.') && name.starts_with(successor))) continue;
+                ++found;
+                EXPECT_TRUE(safe.contains(file)) << path << " is gone before " << name << " is safe";
+            }
+            EXPECT_TRUE(found > 0 || successor.empty()) << path << " has no successor yet";
+        }
+        EXPECT_GE(gone.size(), 3U) << "the two in between, and the former archive";
+    }
+}

@@ -1,0 +1,163 @@
+#include "ProgramHome.h"
+
+#include "Credentials.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string element(const std::string &name, const std::string &text)
+{
+    std::string escaped;
+    for (const char c : text)
+        escaped += c == '&' ? "&amp;" : c == '<' ? "&lt;" : std::string(1, c);
+    return "<" + name + ">" + escaped + "</" + name + ">";
+}
+
+std::string list(const std::string &key, const std::vector<std::string> &values)
+{
+    std::string strings;
+    for (const std::string &value : values)
+        strings += element("string", value);
+    return element("key", key) + "<array>" + strings + "</array>";
+}
+
+} // namespace
+
+ProgramHome::ProgramHome(std::string program) : m_program(std::move(program))
+{
+    for (const char *name : {"archives", "config", "out", "state", "tmp"})
+        fs::create_directories(m_folder / name);
+    writeFile(m_folder / "docs/file", "content");
+    writeFile(m_folder / "password", "from a file\nsecond line");
+    folders = entries = {text("docs")};
+    record = {{"path", text("archives")},
+              {"extractpath", text("out")},
+              {"emptydir", "0"},
+              {"symencryption", "OpenSSL-AES"},
+              {"asymencryption", "OpenSSL-SMIME"},
+              {"rsyncdst", text("copy")},
+              {"split", "0"},
+              {"part", "10000"},
+              {"passtype", "0"}};
+    environment = {{"HOME", path().string()},
+                   {"XDG_CONFIG_HOME", text("config")},
+                   {"XDG_STATE_HOME", text("state")},
+                   {"TMPDIR", text("tmp")}};
+    fs::remove(profiles());
+    runCommand({m_program, "profiles"}, {.environment = environment}); // writes the settings
+}
+
+void ProgramHome::writeProfile() const
+{
+    std::string values = list("folders", folders) + list("sync", entries);
+    for (const auto &[key, value] : record)
+        values += element("key", key) + element(key == "passtype" ? "integer" : "string", value);
+    writeFile(profiles(), "<plist version=\"1.0\"><dict>" + element("key", "Default profile") + "<dict/>" +
+                              element("key", "Mine") + "<dict>" + values + "</dict></dict></plist>");
+}
+
+CommandResult ProgramHome::run(const std::vector<std::string> &arguments, const std::string &input) const
+{
+    writeProfile();
+    // A run that hangs is a finding and must not keep the others from being found.
+    std::vector<std::string> words{"setsid", "timeout", "--kill-after=5", "60"};
+    words.insert(words.end(), launcher.begin(), launcher.end());
+    words.push_back(m_program);
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    return runCommand(words, {.environment = environment, .input = input});
+}
+
+CommandResult ProgramHome::backUp(const std::vector<std::string> &more) const
+{
+    std::vector<std::string> arguments{"backup", "Mine"};
+    if (record.at("passtype") == "0")
+        arguments.insert(arguments.end(), {"--password-file", text("password")});
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    return run(arguments);
+}
+
+CommandResult ProgramHome::extract(const std::vector<std::string> &archives,
+                                   const std::vector<std::string> &more) const
+{
+    std::vector<std::string> arguments{"extract", "Mine"};
+    if (record.at("passtype") == "0")
+        arguments.insert(arguments.end(), {"--password-file", text("password")});
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    arguments.emplace_back("--");
+    arguments.insert(arguments.end(), archives.begin(), archives.end());
+    return run(arguments);
+}
+
+void ProgramHome::encryptForCertificate()
+{
+    const Credentials keys = makeCredentials(m_folder / "keys", "anna");
+    record["passtype"] = "2";
+    record["lastcertfile"] = keys.certificate.string();
+    record["lastpkfile"] = keys.key.string();
+}
+
+void ProgramHome::becomeOrdinaryUser()
+{
+    if (geteuid() != 0) return;
+    writeProfile();
+    const auto give = [](const fs::path &path) {
+        if (lchown(path.c_str(), 65534, 65534) != 0) throw std::runtime_error("can't give " + path.string());
+    };
+    give(path());
+    for (const auto &entry : fs::recursive_directory_iterator(path()))
+        give(entry.path());
+    launcher = {"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups", "--"};
+}
+
+void ProgramHome::changeSettings(const std::string &from, const std::string &to) const
+{
+    std::string text = readFile(settings());
+    for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos; at += to.size())
+        text.replace(at, from.size(), to);
+    writeFile(settings(), text);
+}
+
+std::string ProgramHome::lastRecord() const
+{
+    fs::path last;
+    std::error_code ignored;
+    for (const auto &entry : fs::directory_iterator(m_folder / "state/quillorent/runs", ignored))
+        if (entry.path().extension() == ".json" &&
+            (last.empty() || entry.last_write_time() > fs::last_write_time(last)))
+            last = entry.path();
+    return last.empty() ? "" : readFile(last);
+}
+
+std::vector<int> ProgramHome::processes() const
+{
+    std::vector<int> found;
+    for (const auto &entry : fs::directory_iterator("/proc")) {
+        const std::string name = entry.path().filename().string();
+        if (name.find_first_not_of("0123456789") != std::string::npos) continue;
+        try {
+            if (contains(readFile(entry.path() / "cmdline"), path().string()))
+                found.push_back(std::stoi(name));
+        } catch (const std::exception &) { // it ended in the meantime
+        }
+    }
+    return found;
+}
+
+bool contains(const std::string &text, const std::string &part)
+{
+    return text.find(part) != std::string::npos;
+}
+
+std::vector<std::string> namesIn(const fs::path &folder)
+{
+    std::vector<std::string> names;
+    for (const auto &entry : fs::directory_iterator(folder))
+        names.push_back(entry.path().filename().string());
+    std::sort(names.begin(), names.end());
+    return names;
+}

@@ -1,0 +1,204 @@
+// A library that is loaded before all others into a program and the tools it runs, and does one deed in one
+// of them, at one moment. QUILLORENT_TRIPWIRE holds, in lines: the executable's path; a word that is among
+// its arguments; the moment; the deed; what the deed needs.
+//   start, end     before main(), at exit
+//   change N       before the N-th call that changes names or makes changes durable
+// Deeds:
+//   kill SIGNAL            the process itself
+//   parent SIGNAL          the process that started it, which for a tool is the program
+//   hang SIGNAL            the same, then it waits for ever
+//   exit STATUS            without a word
+//   say TEXT               on standard error
+//   limit BYTES, full BYTES  a file that grows over them ends the process by a signal, or gives a write error
+//   fill FOLDER            leaves no room on its file system; the file is called "filler"
+//   folder PATH, fifo PATH, link PATH TARGET  puts such a thing there, in place of a file
+//   mode OCTAL PATH        takes permissions away
+//
+// QUILLORENT_TRIPWIRE_LOG names a file that tells in which order all of them did what matters when the power
+// fails: "safe INODE", "named INODE PATH" and "gone INODE PATH", a line each.
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <string>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+struct Plan {
+    std::string moment;
+    std::string deed;
+    std::string first;
+    std::string second;
+};
+
+Plan *plan = nullptr; // stays for the whole process: it is looked at until the last moment
+
+std::vector<std::string> linesOf(const char *text)
+{
+    std::vector<std::string> lines(1);
+    for (; *text; ++text)
+        if (*text == '\n')
+            lines.emplace_back();
+        else
+            lines.back() += *text;
+    lines.resize(6);
+    return lines;
+}
+
+void limitFiles(const std::string &bytes, void (*onSignal)(int))
+{
+    const rlimit limit{std::stoul(bytes), std::stoul(bytes)};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, onSignal);
+}
+
+void fill(const std::string &folder)
+{
+    const int file = open((folder + "/filler").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+    static const std::array<char, 4096> block{};
+    while (write(file, block.data(), block.size()) > 0) {
+    }
+    close(file);
+}
+
+void act()
+{
+    const std::string &deed = plan->deed;
+    const char *path = plan->first.c_str();
+    const auto number = [] { return std::stoi(plan->first); };
+    if (deed == "kill") std::signal(number(), SIG_DFL), raise(number());
+    if (deed == "parent" || deed == "hang") kill(getppid(), number());
+    while (deed == "hang")
+        pause();
+    if (deed == "exit") _exit(number());
+    if (deed == "say" && write(STDERR_FILENO, path, plan->first.size()) < 0) _exit(1);
+    if (deed == "limit") limitFiles(plan->first, SIG_DFL);
+    if (deed == "full") limitFiles(plan->first, SIG_IGN);
+    if (deed == "fill") fill(plan->first);
+    if (deed == "mode") chmod(plan->second.c_str(), mode_t(std::stoul(plan->first, nullptr, 8)));
+    if (deed == "folder" || deed == "fifo" || deed == "link") unlink(path);
+    if (deed == "folder") mkdir(path, 0700);
+    if (deed == "fifo") mkfifo(path, 0600);
+    if (deed == "link" && symlink(plan->second.c_str(), path) != 0) _exit(1);
+}
+
+void actAt(const std::string &moment)
+{
+    if (plan && plan->moment == moment) act();
+}
+
+void countChange()
+{
+    static int count = 0;
+    if (plan && plan->moment.starts_with("change")) actAt("change " + std::to_string(++count));
+}
+
+std::string pathOf(int folder, const char *name)
+{
+    std::array<char, 4096> path{};
+    const std::string link = "/proc/self/fd/" + std::to_string(folder);
+    if (name[0] == '/' || readlink(link.c_str(), path.data(), path.size() - 1) < 0) return name;
+    return std::string(path.data()) + "/" + name;
+}
+
+/// `newName`: what the line is about, where it isn't the file's own name.
+void note(const char *event, int folder, const char *name, int flags, const std::string &newName = {})
+{
+    const char *log = getenv("QUILLORENT_TRIPWIRE_LOG");
+    struct stat status {};
+    if (!log || fstatat(folder, name, &status, flags) != 0) return;
+    const std::string line = std::string(event) + " " + std::to_string(status.st_ino) + " " +
+                             (newName.empty() ? pathOf(folder, name) : newName) + "\n";
+    const int file = open(log, O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0600);
+    if (write(file, line.data(), line.size()) < 0) _exit(1);
+    close(file);
+}
+
+/// Calls the function that this library stands in front of.
+template <class Result, class... Types>
+Result passOn(const char *name, Types... values)
+{
+    countChange();
+    return reinterpret_cast<Result (*)(Types...)>(dlsym(RTLD_NEXT, name))(values...);
+}
+
+__attribute__((constructor)) void begin(int argc, char **argv)
+{
+    const char *text = getenv("QUILLORENT_TRIPWIRE");
+    std::array<char, 4096> self{};
+    if (!text || readlink("/proc/self/exe", self.data(), self.size() - 1) < 0) return;
+    const std::vector<std::string> lines = linesOf(text);
+    if (lines[0] != self.data()) return;
+    for (int i = 1; i < argc; ++i)
+        if (lines[1] == argv[i]) plan = new Plan{lines[2], lines[3], lines[4], lines[5]};
+    actAt("start");
+}
+
+__attribute__((destructor)) void end() { actAt("end"); }
+
+} // namespace
+
+extern "C" {
+// NOLINTBEGIN: the C library's own names
+int rename(const char *a, const char *b) noexcept
+{
+    note("named", AT_FDCWD, a, AT_SYMLINK_NOFOLLOW, b);
+    return passOn<int>("rename", a, b);
+}
+int renameat(int a, const char *b, int c, const char *d) noexcept
+{
+    note("named", a, b, AT_SYMLINK_NOFOLLOW, pathOf(c, d));
+    return passOn<int>("renameat", a, b, c, d);
+}
+int renameat2(int a, const char *b, int c, const char *d, unsigned e) noexcept
+{
+    note("named", a, b, AT_SYMLINK_NOFOLLOW, pathOf(c, d));
+    return passOn<int>("renameat2", a, b, c, d, e);
+}
+int link(const char *a, const char *b) noexcept
+{
+    note("named", AT_FDCWD, a, 0, b);
+    return passOn<int>("link", a, b);
+}
+int linkat(int a, const char *b, int c, const char *d, int e) noexcept
+{
+    note("named", a, b, e & AT_EMPTY_PATH, pathOf(c, d));
+    return passOn<int>("linkat", a, b, c, d, e);
+}
+int unlink(const char *a) noexcept
+{
+    note("gone", AT_FDCWD, a, AT_SYMLINK_NOFOLLOW);
+    return passOn<int>("unlink", a);
+}
+int unlinkat(int a, const char *b, int c) noexcept
+{
+    note("gone", a, b, AT_SYMLINK_NOFOLLOW);
+    return passOn<int>("unlinkat", a, b, c);
+}
+int remove(const char *a) noexcept
+{
+    note("gone", AT_FDCWD, a, AT_SYMLINK_NOFOLLOW);
+    return passOn<int>("remove", a);
+}
+int mkdir(const char *a, mode_t b) noexcept { return passOn<int>("mkdir", a, b); }
+int mkdirat(int a, const char *b, mode_t c) noexcept { return passOn<int>("mkdirat", a, b, c); }
+int fsync(int a)
+{
+    note("safe", a, "", AT_EMPTY_PATH);
+    return passOn<int>("fsync", a);
+}
+int fdatasync(int a)
+{
+    note("safe", a, "", AT_EMPTY_PATH);
+    return passOn<int>("fdatasync", a);
+}
+// NOLINTEND
+}
