@@ -70,10 +70,12 @@ bool Destination::descend(const std::string &name)
     const int from = last();
     base::FileDescriptor folder(openat(from, name.c_str(), folderFlags | O_NOFOLLOW));
     if (!folder && errno == ENOENT) {
-        if (mkdirat(from, name.c_str(), 0700) != 0) return false;
+        // Another archive that is extracted here at the same time may have the same folder.
+        const bool isMade = mkdirat(from, name.c_str(), 0700) == 0;
+        if (!isMade && errno != EEXIST) return false;
         folder = base::FileDescriptor(openat(from, name.c_str(), folderFlags | O_NOFOLLOW));
         if (!folder) return false;
-        ++m_made;
+        if (isMade) ++m_made;
     }
     if (!folder || !m_chain.push(std::move(folder))) return false;
     m_names.push_back(name);

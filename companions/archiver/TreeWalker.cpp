@@ -126,7 +126,12 @@ bool TreeWalker::walk(const std::string &source)
     while (m_path.size() > 1 && m_path.back() == '/')
         m_path.pop_back();
     m_name = storedPath(m_path);
-    bool goesOn = visit({AT_FDCWD, m_path, DT_UNKNOWN});
+    // A slash behind a link leads through it, as everywhere.
+    struct stat status {};
+    const bool leadsThrough =
+        m_path.size() < source.size() && lstat(m_path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+    bool goesOn =
+        leadsThrough ? visit({AT_FDCWD, m_path + '/', DT_DIR}) : visit({AT_FDCWD, m_path, DT_UNKNOWN});
     while (goesOn && !m_levels.empty())
         goesOn = goOn();
     return goesOn;

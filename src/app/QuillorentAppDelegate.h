@@ -66,10 +66,11 @@ public:
     Guarded<RunRecord> lastRecord; ///< of the run that ended last; without a kind before one has
     /// Where the last extraction went; empty unless all of it succeeded.
     [[nodiscard]] QString extractedFolder() const { return openFolderButton.alternateTitle(); }
-    bool asksBeforeDeleting =
-        true;                 ///< off: whoever starts a synchronisation has been asked; set before it starts
-    Guarded<bool> compliance; ///< every registered tool is the right one
-    Guarded<int> compliant;   ///< how many are
+    /// On: a synchronisation that deletes shows first what. Off: it is a concern like others. Set before it
+    /// starts.
+    bool previewsDeletions = true;
+    Guarded<bool> compliance;           ///< every registered tool is the right one
+    Guarded<int> compliant;             ///< how many are
     Guarded<int> compliantBase;         ///< how many are registered
     std::atomic<int> verifications = 0; ///< that run: until they end, the three above say nothing
 

@@ -182,9 +182,11 @@ void FolderBackup::settleFormer()
         for (const QString &path : made)
             if (const auto there = entryAt(path); there && there->isFile()) QFile::remove(path);
         const QString reason = putBack(m_former);
-        if (!reason.isEmpty())
-            m_reason += u"\nThe former archive is \"%1\" now: %2."_qs.arg(m_former.first().to, reason);
         m_isPacked = false;
+        if (!reason.isEmpty()) {
+            m_reason += u"\nThe former archive is called \"%1\" now: %2."_qs.arg(m_former.first().to, reason);
+            return; // the record still knows, so the next run tries again
+        }
     }
     m_run.journal().changeItem(m_index, [](ItemRecord &item) { item.former.clear(); });
 }

@@ -105,7 +105,11 @@ QString setAside(const QList<Aside> &files)
 
 QString putBack(const QList<Aside> &files)
 {
-    QString reason;
+    // All or none: half a set opens as little as none does, and has two names to look for.
+    for (const Aside &aside : files)
+        if (const auto there = entryAt(aside.from); there && there->kind == FileEntry::Kind::Folder)
+            return u"\"%1\" is a folder"_qs.arg(aside.from);
+    QList<Aside> back;
     for (const Aside &aside : files) {
         if (!isTaken(aside.to)) continue;
         // Two names of one file: rename() would leave both.
@@ -113,10 +117,15 @@ QString putBack(const QList<Aside> &files)
             unlink(encoded(aside.to).constData());
             continue;
         }
-        if (rename(encoded(aside.to).constData(), encoded(aside.from).constData()) != 0 && reason.isEmpty())
-            reason = qt_error_string(errno);
+        if (rename(encoded(aside.to).constData(), encoded(aside.from).constData()) != 0) {
+            const QString reason = qt_error_string(errno);
+            for (const Aside &done : back)
+                rename(encoded(done.from).constData(), encoded(done.to).constData());
+            return reason;
+        }
+        back.append(aside);
     }
-    return reason;
+    return {};
 }
 
 void dropAside(const QList<Aside> &files)

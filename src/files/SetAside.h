@@ -24,7 +24,8 @@ struct Aside {
 [[nodiscard]] QString setAside(const QList<Aside> &files);
 
 /// Gives the files their names back, over what may have come there in the meantime; those that are not under
-/// their other names any more stay as they are. The reason of the first failure, else empty.
+/// their other names any more stay as they are. The reason where that failed, else empty; then all keep their
+/// other names.
 [[nodiscard]] QString putBack(const QList<Aside> &files);
 
 /// Removes what was set aside, and whose successor is whole.

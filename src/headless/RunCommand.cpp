@@ -28,6 +28,13 @@ void waitUntil(IsOver isOver)
     loop.exec();
 }
 
+/// Those of this run and of the ones before it.
+void tellOfClearFiles(const QuillorentAppDelegate &delegate)
+{
+    if (const QString clear = delegate.clearText01.text(); !clear.isEmpty())
+        printError(clear + u"\nBack up again, or remove them."_qs);
+}
+
 /// Prints how the run ended, for people and, where it is wanted, for programs.
 ExitStatus tellEnd(const QuillorentAppDelegate &delegate, const Options &options)
 {
@@ -35,8 +42,7 @@ ExitStatus tellEnd(const QuillorentAppDelegate &delegate, const Options &options
     if (const QString console = delegate.consoleTextView01.text(); !console.isEmpty())
         printError(console.trimmed());
     printError(record.summary);
-    // Of this run and of those before it.
-    if (const QString clear = delegate.clearText01.text(); !clear.isEmpty()) printError(clear);
+    tellOfClearFiles(delegate);
     if (options.json) print(QString::fromUtf8(toJson(record)).trimmed());
     return record.outcome == Outcome::Succeeded ? Done : RunFailed;
 }
@@ -121,6 +127,7 @@ ExitStatus runToEnd(QuillorentAppDelegate &delegate, const Options &options, con
             printError(told = atWork);
         return !delegate.isRunActive();
     });
-    if (answers.refused()) return NotStarted;
-    return tellEnd(delegate, options);
+    if (!answers.refused()) return tellEnd(delegate, options);
+    tellOfClearFiles(delegate);
+    return NotStarted;
 }

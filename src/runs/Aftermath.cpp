@@ -39,10 +39,14 @@ void repairItem(ItemRecord &item, const aftermath::IsWhole &isWhole)
 {
     const bool isAnySetAside = std::any_of(item.former.begin(), item.former.end(),
                                            [](const Aside &aside) { return entryAt(aside.to).has_value(); });
-    if (!isAnySetAside) return;
+    if (!isAnySetAside) {
+        item.former.clear();
+        return;
+    }
     const QStringList successors = successorsOf(item);
     if (!successors.isEmpty() && isWhole(successors.first())) {
         dropAside(item.former);
+        item.former.clear();
         item.archives = successors;
         return;
     }
@@ -51,7 +55,18 @@ void repairItem(ItemRecord &item, const aftermath::IsWhole &isWhole)
         if (std::none_of(item.former.begin(), item.former.end(),
                          [&](const Aside &aside) { return aside.from == path; }))
             QFile::remove(path);
-    static_cast<void>(putBack(item.former));
+    if (putBack(item.former).isEmpty()) item.former.clear();
+}
+
+/// Of a run that ended, and could not give a former archive its name back. False where there is none.
+bool repairFormer(RunRecord &record, const aftermath::IsWhole &isWhole)
+{
+    bool isAny = false;
+    for (ItemRecord &item : record.items) {
+        isAny = isAny || !item.former.isEmpty();
+        repairItem(item, isWhole);
+    }
+    return isAny;
 }
 
 /// Of the files that may have been left, those that are there. One that can't be told from others that came
@@ -99,8 +114,11 @@ void forAllClear(Use use)
 void aftermath::repair(const QString &folder, const IsWhole &isWhole)
 {
     for (KeptRecord &kept : keptRecords()) {
-        if (kept.record.ended.isValid() || !isSameFolder(kept.record.folder, folder)) continue;
-        closeKilled(kept.record, isWhole);
+        if (!isSameFolder(kept.record.folder, folder)) continue;
+        if (!kept.record.ended.isValid())
+            closeKilled(kept.record, isWhole);
+        else if (!repairFormer(kept.record, isWhole))
+            continue;
         rewrite(kept);
     }
 }

@@ -35,7 +35,7 @@ bool isDoneWith(const RunRecord &record)
 {
     if (!record.ended.isValid()) return false;
     return std::all_of(record.items.begin(), record.items.end(),
-                       [](const ItemRecord &item) { return item.left.isEmpty(); });
+                       [](const ItemRecord &item) { return item.left.isEmpty() && item.former.isEmpty(); });
 }
 
 QString nameFor(const RunRecord &record)

@@ -7,14 +7,18 @@
 
 namespace {
 
-Findings look(const SyncOrder &order)
+bool deletes(const SyncOrder &order) { return order.deletesExtra || order.removesSources; }
+
+Findings look(const SyncOrder &order, bool deletesUnseen)
 {
     Findings findings;
+    if (deletesUnseen)
+        findings.addConcern(
+            u"The profile deletes files, at the destination or here. The window's preview shows "
+            "which."_qs);
     lookAtSync(order, findings);
     return findings;
 }
-
-bool deletes(const SyncOrder &order) { return order.deletesExtra || order.removesSources; }
 
 void transfer(QuillorentAppDelegate &delegate, const SyncOrder &order, RunMonitor &monitor)
 {
@@ -62,17 +66,19 @@ RunStart QuillorentAppDelegate::prepareTransfer(const SyncOrder &order)
 RunStart QuillorentAppDelegate::prepareSync(bool isPreview)
 {
     const SyncOrder order = readSyncOrder();
+    const bool deletesUnseen = !isPreview && deletes(order) && !previewsDeletions;
     const auto work = [this, order, isPreview](RunMonitor &monitor) {
         if (isPreview)
             previewFirst(order, monitor, PreviewFor::Looking);
-        else if (deletes(order) && asksBeforeDeleting)
+        else if (deletes(order) && previewsDeletions)
             previewFirst(order, monitor, PreviewFor::Question);
         else
             transfer(*this, order, monitor);
     };
-    return {.sheet = syncSheet(*this),
-            .look = [order](const std::function<bool()> &) { return look(order); },
-            .work = work};
+    return {
+        .sheet = syncSheet(*this),
+        .look = [order, deletesUnseen](const std::function<bool()> &) { return look(order, deletesUnseen); },
+        .work = work};
 }
 
 void QuillorentAppDelegate::buttonLaunch03()
