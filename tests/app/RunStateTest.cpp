@@ -40,13 +40,14 @@ TEST(RunState, KeepsTheFlagUpWhileQuitting)
 {
     RunState state;
     state.cancelByUser();
-    state.beginRun();
+    EXPECT_TRUE(state.tryBeginRun());
     state.setCancelFlag(false);
     EXPECT_FALSE(state.cancelFlag());
     EXPECT_FALSE(state.isCancelledByUser());
 
+    state.endRun();
     state.cancelForQuitting();
-    state.beginRun();
+    EXPECT_TRUE(state.tryBeginRun());
     state.setCancelFlag(false);
     EXPECT_TRUE(state.cancelFlag());
     EXPECT_TRUE(state.isCancelledByUser());

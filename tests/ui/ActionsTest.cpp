@@ -174,7 +174,7 @@ TEST_F(ActionsTest, CertificateIsCheckedAndToldOf)
     delegate.openPanel = [&](const outlets::OpenPanel &) { return QStringList{chosen}; };
 
     clickAndAnswer(u"certButton01"_qs, u"certPanel01"_qs, [&] {
-        EXPECT_TRUE(widget<QLabel>(u"certPanelText01"_qs).text().contains(u"holds a private key"));
+        EXPECT_TRUE(delegate.certPanelText01.text().contains(u"holds a private key"));
         click(u"certPanel01CloseButton"_qs);
     });
     clickAndAnswer(u"pkButton01"_qs, u"pkPanel01"_qs,

@@ -40,7 +40,7 @@ protected:
         QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
             if (!widget(u"warningPanel04"_qs).isVisible()) return;
             refused = true;
-            EXPECT_TRUE(widget<QLabel>(u"warningText04"_qs).text().contains(reason)) << reason.toStdString();
+            EXPECT_TRUE(delegate.warningText04.text().contains(reason)) << reason.toStdString();
             EXPECT_FALSE(widget(panel).isVisible());
             click(u"warningPanel04CloseButton"_qs);
         });
@@ -174,7 +174,7 @@ TEST_F(ProfilesTest, WhatCanNotBeSavedIsTold)
     ASSERT_TRUE(QFile::remove(path) && QDir().mkpath(path + u"/taken"_qs));
     delegate.addFolders({u"/one more"_qs});
     clickAndAnswer(u"profileButton01"_qs, u"warningPanel01"_qs, [&] {
-        EXPECT_TRUE(widget<QLabel>(u"warningText01"_qs).text().contains(path));
+        EXPECT_TRUE(delegate.warningText01.text().contains(path));
         click(u"warningPanel01CloseButton"_qs);
     });
     delegate.autosaveCheck01.setOn(false);
