@@ -22,9 +22,8 @@ TextArea::TextArea(QWidget *parent) : QTextEdit(parent)
     connect(document(), &QTextDocument::contentsChanged, this, [this] { updateGeometry(); });
     // The keyboard stops here only where it can do something.
     setFocusPolicy(Qt::ClickFocus);
-    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, [this](int, int maximum) {
-        setFocusPolicy(maximum > 0 ? Qt::StrongFocus : Qt::ClickFocus);
-    });
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this,
+            [this](int, int maximum) { setFocusPolicy(maximum > 0 ? Qt::StrongFocus : Qt::ClickFocus); });
 }
 
 int TextArea::heightForWidth(int width) const

@@ -4,8 +4,8 @@
 
 namespace ui {
 
-/// Sentences of any number and length, which nobody edits: as high as they need, up to its maximum height, and
-/// scrolled beyond that. Paths are broken wherever they have to be, which a label can't.
+/// Sentences of any number and length, which nobody edits: as high as they need, up to its maximum height,
+/// and scrolled beyond that. Paths are broken wherever they have to be, which a label can't.
 class TextArea : public QTextEdit {
     Q_OBJECT
 
