@@ -10,8 +10,7 @@ namespace {
 
 /// An order whose destination is the folder "there", which exists, on the test's own server.
 struct RemoteSync : SyncSample {
-    explicit RemoteSync(const std::string &command = {})
-        : server(folder / "ssh", command), window(folder / "tools", "askpass", "relay /bin/true")
+    RemoteSync() : server(folder / "ssh"), window(folder / "tools", "askpass", "relay /bin/true")
     {
         // A desktop on which ssh could ask in a window.
         prepareProcess();
@@ -19,7 +18,7 @@ struct RemoteSync : SyncSample {
         qputenv("SSH_ASKPASS", window.path().c_str());
         std::filesystem::create_directories(folder / "there");
         writeFile(folder / "src/d/x", "x");
-        add("d");
+        list({"d"});
         order.destination = path("there");
         order.isRemote = true;
         order.user = u"somebody"_qs; // any name: it only keeps an empty one from being sent
@@ -85,17 +84,4 @@ TEST(SyncRemote, EndsWithASentenceAndWithoutAPrompt)
             << qPrintable(console);
         EXPECT_TRUE(fs::is_empty(sync.folder / "there"));
     }
-}
-
-TEST(SyncRemote, TellsOfAServerWithoutRoom)
-{
-    RemoteSync sync("trap '' XFSZ; ulimit -f 20; eval $SSH_ORIGINAL_COMMAND");
-    writeFile(sync.folder / "src/d/big", randomBytes(100'000));
-    // Its words may get lost on the way; then the summary at least does not speak of success.
-    const QString console = QString::fromStdString(sync.run());
-    EXPECT_TRUE(console.startsWith(u"A file is larger than the destination can take") || console.isEmpty())
-        << qPrintable(console);
-    EXPECT_TRUE(sync.summary.contains(console.isEmpty() ? u"status 11"_qs : u"larger than"_qs))
-        << qPrintable(sync.summary);
-    EXPECT_FALSE(fs::exists(sync.folder / "there/d/big"));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OrderOf.h"
 #include "TemporaryFolder.h"
 #include "TestProgram.h"
 #include "Tree.h"
@@ -31,11 +32,7 @@ inline std::string filesIn(const std::filesystem::path &folder)
 /// An order to synchronise from "src" to "dst" in a folder of its own, and what its runs tell.
 struct SyncSample : private RunMonitor, private SyncEvents {
     TemporaryFolder folder;
-    SyncOrder order{.tool = u"/usr/bin/rsync"_qs,
-                    .destination = path("dst"),
-                    .mode = u"0"_qs,
-                    .parameters = u"-ar"_qs,
-                    .excludes = u"--exclude=.DS_Store"_qs};
+    SyncOrder order = orderOf({}, path("src"), path("dst"));
     RunState state;
     QString console;
     QString summary;
@@ -55,7 +52,12 @@ struct SyncSample : private RunMonitor, private SyncEvents {
     }
 
     [[nodiscard]] QString path(const std::string &name) const { return toQString(folder / name); }
-    void add(const std::string &name) { order.entries.append(path("src/" + name)); }
+    void list(const std::vector<std::string> &names)
+    {
+        order.entries.clear();
+        for (const std::string &name : names)
+            order.entries.append(path("src/" + name));
+    }
 
     /// Gives what is on the console at the end.
     std::string run() { return runAs(runSync); }

@@ -39,11 +39,10 @@ protected:
         return QDir(program.path("archives")).entryList(QDir::Files | QDir::Hidden, QDir::Name);
     }
 
-    bool waitForEnd()
+    void waitForEnd()
     {
-        const bool ended = waitUntil([this] { return !delegate.isRunActive(); });
+        program.waitForEnd();
         settle();
-        return ended;
     }
 
     QPushButton *button(const QString &title)
@@ -67,7 +66,7 @@ TEST_F(BackupTest, AWholeBackupByClicks)
     QObject::connect(&widget<ui::PanelDialog>(u"progressPanel01"_qs), &ui::PanelDialog::visibilityChanged,
                      &window, [&](bool visible) { sheetSeen |= visible; });
     click(u"buttonLaunch01"_qs);
-    ASSERT_TRUE(waitForEnd());
+    waitForEnd();
     EXPECT_TRUE(sheetSeen);
     EXPECT_FALSE(widget(u"progressPanel01"_qs).isVisible());
     EXPECT_FALSE(widget(u"consolePanel01"_qs).isVisible()) << delegate.consoleTextView01.text().toStdString();
@@ -80,7 +79,7 @@ TEST_F(BackupTest, AWholeBackupByClicks)
         EXPECT_EQ(widget<QLineEdit>(u"folderNotEmptyText02"_qs).text(), program.path("archives"));
         QTest::keyClick(&widget(u"warningPanel03"_qs), Qt::Key_Escape);
     });
-    ASSERT_TRUE(waitForEnd());
+    waitForEnd();
     EXPECT_EQ(archives(), volumes);
 }
 
@@ -98,7 +97,7 @@ TEST_F(BackupTest, ManyConcernsStayOnTheScreen)
         EXPECT_EQ(text.horizontalScrollBar()->maximum(), 0) << "a path is cut off";
         QTest::keyClick(&widget(u"concernsPanel01"_qs), Qt::Key_Escape);
     });
-    ASSERT_TRUE(waitForEnd());
+    waitForEnd();
     EXPECT_EQ(archives(), QStringList());
 
     delegate.concernsText01.setText(u"Short."_qs);
@@ -115,7 +114,7 @@ TEST_F(BackupTest, WhatIsLeftInClearIsShownUntilItIsRemoved)
     const Stub failing(program.folder(), "openssl", "complain no");
     program.useTool(u"OpenSSL"_qs, failing.path());
     click(u"buttonLaunch01"_qs);
-    ASSERT_TRUE(waitForEnd());
+    waitForEnd();
     click(u"consoleCloseButton"_qs);
     EXPECT_EQ(archives(), QStringList{u"docs.rar"_qs});
     EXPECT_TRUE(widget(u"clearText01"_qs).isVisible());
