@@ -124,9 +124,10 @@ void QuillorentAppDelegate::toolsCancel01Action()
 void QuillorentAppDelegate::showLeftInClear()
 {
     const QStringList left = aftermath::leftInClear();
-    clearText01.setText(left.isEmpty() ? QString()
-                                       : u"Left by a run that did not end well, and not encrypted: %1"_qs.arg(
-                                             left.join(u", "_qs)));
+    clearText01.setText(
+        left.isEmpty()
+            ? QString()
+            : u"Left by a run that did not end well, and not encrypted:\n%1"_qs.arg(left.join(u'\n')));
     clearText01.setHidden(left.isEmpty());
     clearRemove01.setHidden(left.isEmpty());
 }

@@ -120,14 +120,11 @@ QString askForDeletions(const Preview &preview)
         if (row.change == Change::Delete) ++there;
         if (preview.removesSources && isRemovedHere) ++here;
     }
-    QStringList parts;
     const auto files = [](qsizetype count) {
         return count == 1 ? u"1 file"_qs : u"%1 files"_qs.arg(QLocale().toString(count));
     };
-    if (there > 0) parts.append(u"delete %1 there"_qs.arg(files(there)));
-    if (here > 0) parts.append(u"remove %1 here"_qs.arg(files(here)));
-    if (parts.isEmpty()) return {};
-    QString question = parts.join(u", "_qs) + u'?';
-    question[0] = question[0].toUpper();
-    return question;
+    if (there > 0 && here > 0)
+        return u"Delete %1 there, remove %2 here?"_qs.arg(files(there), QLocale().toString(here));
+    if (there > 0) return u"Delete %1 there?"_qs.arg(files(there));
+    return here > 0 ? u"Remove %1 here?"_qs.arg(files(here)) : QString();
 }

@@ -2,10 +2,12 @@
 
 #include "files/Names.h"
 #include "files/Paths.h"
+#include "runs/Looks.h"
 #include "sync/SyncArguments.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <filesystem>
 
 namespace {
 
@@ -30,6 +32,15 @@ void lookForEmptySources(const SyncOrder &order, Findings &findings)
     }
 }
 
+/// With links resolved as far as there is anything: the destination may not be made yet.
+QString resolved(const QString &path)
+{
+    const QString standardized = quillorentLibrary::standardizePath(path);
+    std::error_code failure;
+    const auto real = std::filesystem::weakly_canonical(standardized.toStdU16String(), failure);
+    return failure ? standardized : QString::fromStdU16String(real.u16string());
+}
+
 bool isInside(const QString &path, const QString &folder)
 {
     return path == folder || path.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
@@ -42,9 +53,9 @@ void lookAtEntries(const SyncOrder &order, Findings &findings)
         findings.addConcern(
             u"\"%1\" does not lie under the common folder \"%2\" as the list is written, and will "
             "not be found. Synchronise it from a profile of its own."_qs.arg(entry, root));
-    const QString destination = quillorentLibrary::standardizePath(order.destination);
+    const QString destination = resolved(order.destination);
     for (const QString &entry : order.entries)
-        if (!order.isRemote && isInside(destination, quillorentLibrary::standardizePath(entry)))
+        if (!order.isRemote && QFileInfo(entry).isDir() && isInside(destination, resolved(entry)))
             findings.addConcern(
                 u"The destination lies inside \"%1\", so that each run copies the copies of the last "
                 "one. Choose another destination."_qs.arg(entry));
@@ -59,4 +70,5 @@ void lookAtSync(const SyncOrder &order, Findings &findings)
     findings.addObstacle(checkDestination(order));
     lookAtEntries(order, findings);
     lookForEmptySources(order, findings);
+    findings.addConcern(concernAboutRecords());
 }

@@ -11,6 +11,7 @@
 #include "ui/PanelDialog.h"
 #include "ui/Spinner.h"
 #include "ui/StepperButtons.h"
+#include "ui/TextArea.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -50,6 +51,14 @@ void connectWidget(RefreshQueue &queue, outlets::TextField &field, QLabel &label
     // A label whose text stands in the form keeps it until the program has another.
     if (field.text().isEmpty()) field.setText(label.text());
     queue.watch(field, [&field, &label] { label.setText(field.text()); });
+}
+
+void connectWidget(RefreshQueue &queue, outlets::TextField &field, TextArea &area)
+{
+    queue.watch(field, [&field, &area] {
+        // Set anew, it would forget how far it is scrolled and what is selected.
+        if (area.text() != field.text()) area.setPlainText(field.text());
+    });
 }
 
 void connectWidget(RefreshQueue &queue, outlets::CheckBox &outlet, QCheckBox &box)
@@ -199,6 +208,7 @@ bool tie(RefreshQueue &queue, outlets::Outlet &outlet, QWidget &widget)
     using namespace outlets;
     return tieAs<TextField, QLineEdit>(queue, outlet, widget) ||
            tieAs<TextField, QLabel>(queue, outlet, widget) ||
+           tieAs<TextField, TextArea>(queue, outlet, widget) ||
            tieAs<CheckBox, QCheckBox>(queue, outlet, widget) ||
            tieAs<Button, QPushButton>(queue, outlet, widget) ||
            tieAs<Stepper, StepperButtons>(queue, outlet, widget) ||

@@ -72,8 +72,6 @@ void Window::finishForm()
     QFont bold = m_form->currentProfileTextView->font();
     bold.setBold(true);
     m_form->currentProfileTextView->setFont(bold);
-    for (QLabel *output : {m_form->outputText01, m_form->outputText02})
-        output->setMinimumHeight(output->fontMetrics().height());
 }
 
 void Window::addShortcuts()

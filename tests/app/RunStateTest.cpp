@@ -35,13 +35,14 @@ TEST(RunState, KeepsTheFlagUpWhileQuitting)
 {
     RunState state;
     state.cancelByUser();
-    ASSERT_TRUE(state.tryBeginRun());
+    EXPECT_TRUE(state.tryBeginRun());
     state.setCancelFlag(false);
     EXPECT_FALSE(state.cancelFlag());
     EXPECT_FALSE(state.isCancelledByUser());
 
+    state.endRun();
     state.cancelForQuitting();
-    ASSERT_TRUE(state.tryBeginRun());
+    EXPECT_TRUE(state.tryBeginRun());
     state.setCancelFlag(false);
     EXPECT_TRUE(state.cancelFlag());
     EXPECT_TRUE(state.isCancelledByUser());

@@ -1,6 +1,6 @@
 #include "Sshd.h"
 #include "Stub.h"
-#include "SyncProgram.h"
+#include "SyncSample.h"
 
 #include "app/Process.h"
 
@@ -8,34 +8,29 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// A profile whose destination is the folder "there", which exists, on the test's own server.
-struct RemoteSync : SyncProgram {
-    explicit RemoteSync(const std::string &command = {})
-        : server(program.folder() / "ssh", command)
-        , window(program.folder() / "tools", "askpass", "relay /bin/true")
+/// An order whose destination is the folder "there", which exists, on the test's own server.
+struct RemoteSync : SyncSample {
+    RemoteSync() : server(folder / "ssh"), window(folder / "tools", "askpass", "relay /bin/true")
     {
         // A desktop on which ssh could ask in a window.
         prepareProcess();
         qputenv("DISPLAY", ":0");
         qputenv("SSH_ASKPASS", window.path().c_str());
-        fs::create_directories(program.folder() / "there");
-        writeFile(program.folder() / "src/d/x", "x");
-        addEntries({"d"});
-        setDestination(program.path("there"));
-        delegate.syncCheck01.setOn(true);
-        delegate.syncUser.setText(u"somebody"_qs); // any name: it only keeps an empty one from being sent
-        delegate.syncServer.setText(u"server"_qs);
+        std::filesystem::create_directories(folder / "there");
+        writeFile(folder / "src/d/x", "x");
+        list({"d"});
+        order.destination = path("there");
+        order.isRemote = true;
+        order.user = u"somebody"_qs; // any name: it only keeps an empty one from being sent
+        order.server = u"server"_qs;
         connectAs(Sshd::Client::Welcome);
     }
-    ~RemoteSync()
+    ~RemoteSync() override
     {
         EXPECT_FALSE(fs::exists(window.path().string() + ".record")) << "ssh asked somebody";
         for (const char *name : {"RSYNC_RSH", "DISPLAY", "SSH_ASKPASS"})
             qunsetenv(name);
     }
-    RemoteSync(const RemoteSync &) = delete;
-    RemoteSync &operator=(const RemoteSync &) = delete;
-
     void connectAs(Sshd::Client client) const { qputenv("RSYNC_RSH", server.client(client).c_str()); }
 
     Sshd server;
@@ -47,16 +42,16 @@ struct RemoteSync : SyncProgram {
 TEST(SyncRemote, CopiesAndDeletesWithAKey)
 {
     RemoteSync sync;
-    makeSampleTree(sync.program.folder() / "src/d/tree");
-    EXPECT_EQ(sync.run().toStdString(), "");
-    EXPECT_EQ(treeDifference(sync.program.folder() / "src", sync.program.folder() / "there", sameSecond), "");
+    makeSampleTree(sync.folder / "src/d/tree");
+    EXPECT_EQ(sync.run(), "");
+    EXPECT_EQ(treeDifference(sync.folder / "src", sync.folder / "there", sameSecond), "");
 
-    sync.setSwitches(false, true, false);
-    writeFile(sync.program.folder() / "there/d/extra", "x");
-    EXPECT_EQ(sync.preview().toStdString(), "");
-    EXPECT_EQ(sync.previewed(u"deleted"_qs), QStringList{u"d/extra"_qs});
-    EXPECT_EQ(sync.run().toStdString(), "");
-    EXPECT_FALSE(fs::exists(sync.program.folder() / "there/d/extra"));
+    sync.order.deletesExtra = true;
+    writeFile(sync.folder / "there/d/extra", "x");
+    EXPECT_EQ(sync.preview(), "");
+    EXPECT_EQ(sync.previewed(PreviewRow::Change::Delete), QStringList{u"d/extra"_qs});
+    EXPECT_EQ(sync.run(), "");
+    EXPECT_FALSE(fs::exists(sync.folder / "there/d/extra"));
 }
 
 TEST(SyncRemote, EndsWithASentenceAndWithoutAPrompt)
@@ -74,34 +69,19 @@ TEST(SyncRemote, EndsWithASentenceAndWithoutAPrompt)
                   u"ssh does not know the server \"server\" yet"_qs, u"Host key verification failed"_qs},
              Case{"refused", [](RemoteSync &s) { s.connectAs(Sshd::Client::AtAClosedPort); },
                   u"The server \"server\" refuses the connection"_qs, u"Connection refused"_qs},
-             Case{"empty user", [](RemoteSync &s) { s.delegate.syncUser.setText({}); },
+             Case{"empty user", [](RemoteSync &s) { s.order.user.clear(); },
                   u"since it was sent an empty user name"_qs, u"Permission denied ("_qs},
-             Case{"unknown folder", [](RemoteSync &s) { s.setDestination(s.program.path("no/such")); },
+             Case{"unknown folder", [](RemoteSync &s) { s.order.destination = s.path("no/such"); },
                   u"does not exist"_qs, u"No such file or directory"_qs},
-             Case{"port", [](RemoteSync &s) { s.delegate.syncPort.setText(u"22"_qs); }, u"took the port"_qs,
-                  u"22:"_qs},
+             Case{"port", [](RemoteSync &s) { s.order.port = u"22"_qs; }, u"took the port"_qs, u"22:"_qs},
          }) {
         SCOPED_TRACE(c.name);
         RemoteSync sync;
         c.spoil(sync);
-        const QString console = sync.run();
+        const QString console = QString::fromStdString(sync.run());
         EXPECT_TRUE(console.section(u'\n', 0, 0).contains(c.sentence)) << qPrintable(console);
         EXPECT_TRUE(console.contains(u"\nRSync ERROR : \n"_qs) && console.contains(c.said))
             << qPrintable(console);
-        EXPECT_TRUE(fs::is_empty(sync.program.folder() / "there"));
+        EXPECT_TRUE(fs::is_empty(sync.folder / "there"));
     }
-}
-
-TEST(SyncRemote, TellsOfAServerWithoutRoom)
-{
-    RemoteSync sync("trap '' XFSZ; ulimit -f 20; eval $SSH_ORIGINAL_COMMAND");
-    writeFile(sync.program.folder() / "src/d/big", randomBytes(100'000));
-    // Its words may get lost on the way; then the summary at least does not speak of success.
-    const QString console = sync.run();
-    const QString summary = sync.delegate.outputText03.text();
-    EXPECT_TRUE(console.startsWith(u"A file is larger than the destination can take") || console.isEmpty())
-        << qPrintable(console);
-    EXPECT_TRUE(summary.contains(console.isEmpty() ? u"status 11"_qs : u"larger than"_qs))
-        << qPrintable(summary);
-    EXPECT_FALSE(fs::exists(sync.program.folder() / "there/d/big"));
 }

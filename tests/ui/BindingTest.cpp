@@ -2,6 +2,7 @@
 
 #include "ui/PanelDialog.h"
 #include "ui/RefreshQueue.h"
+#include "ui/TextArea.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -72,9 +73,7 @@ TEST_F(BindingTest, ChangesOfOtherThreadsShow)
     onAnotherThread([this] { delegate.consoleTextView01.append(u"second"_qs); });
     settle();
 
-    const auto &label = widget<QLabel>(u"outputText01"_qs);
-    EXPECT_EQ(label.text(), u"<b>done</b>"_qs);
-    EXPECT_EQ(label.textFormat(), Qt::PlainText);
+    EXPECT_EQ(widget<ui::TextArea>(u"outputText01"_qs).text(), u"<b>done</b>"_qs);
     EXPECT_FALSE(widget<QCheckBox>(u"checkBox05"_qs).isChecked());
     EXPECT_EQ(widget<QComboBox>(u"profileCombo01"_qs).currentText(), u"two"_qs);
     EXPECT_EQ(widget<QStackedWidget>(u"passTabs"_qs).currentIndex(), 2);
