@@ -279,7 +279,12 @@ void FaultHome::expectNextRunRepairs(const Stage &stage) const
 
     const CommandResult next = launch({"--yes"});
     EXPECT_EQ(next.status, 0) << next.errors;
-    EXPECT_EQ(foreignNames(), std::vector<std::string>());
+    // A file that came after the program's death can't be told from the user's own: it is kept, and named.
+    std::vector<std::string> foreign = foreignNames();
+    std::erase_if(foreign, [&](const std::string &name) {
+        return name.starts_with("kept-") && contains(next.errors, name);
+    });
+    EXPECT_EQ(foreign, std::vector<std::string>());
     EXPECT_TRUE(isNew()) << next.errors;
     expectSourcesUntouched();
 }
