@@ -73,7 +73,7 @@ bool FolderBackup::judgeStage(const QString &stage, const ToolResult &result, co
     const bool isDone = judge(u"\n   "_qs + stage, result, isMade, product);
     if (logOutput == LogOutput::Yes || !result.wasStarted) m_log += u'\n' + result.text();
     if (!m_succeeded) m_reason = stage + u": "_qs + result.firstLine();
-    noteBetween();
+    noteBetween(product);
     return isDone;
 }
 
@@ -118,7 +118,7 @@ void FolderBackup::dateEncryptedFile()
     if (date.isValid() && encrypted.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
         encrypted.setFileTime(date, QFileDevice::FileModificationTime);
     encrypted.close();
-    noteBetween();
+    noteBetween(m_paths.encrypted);
 }
 
 void FolderBackup::removeStored()
