@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QSaveFile>
 #include <algorithm>
@@ -73,7 +74,10 @@ void RunJournal::change(const std::function<void(RunRecord &)> &step)
 {
     const std::lock_guard lock(m_mutex);
     step(m_record);
-    if (!m_record.kind.isEmpty()) writeOrLog(m_path, m_record);
+    if (m_record.kind.isEmpty()) return;
+    // Nobody has looked for it before a run that starts without a look.
+    QDir().mkpath(QFileInfo(m_path).path());
+    writeOrLog(m_path, m_record);
 }
 
 void RunJournal::changeItem(qsizetype index, const std::function<void(ItemRecord &)> &step)
