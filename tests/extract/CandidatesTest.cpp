@@ -1,16 +1,19 @@
 #include "app/extraction/ExtractDecisions.h"
 
-#include "ExtractionTest.h"
-
+#include "TestProgram.h"
 #include "extract/ArchiveName.h"
 
-#include <QDir>
-
-namespace fs = std::filesystem;
+#include <gtest/gtest.h>
 
 namespace {
 
-class Candidates : public ExtractionTest {};
+class Candidates : public testing::Test {
+protected:
+    Candidates() { program.start(); }
+
+    TestProgram program;
+    QuillorentAppDelegate &delegate = program.delegate();
+};
 
 } // namespace
 
@@ -85,9 +88,7 @@ TEST_F(Candidates, ComeAndGo)
     EXPECT_EQ(taken(), (QStringList{volumes[0], volumes[3], volumes[0], volumes[3]}));
     const auto *table = dynamic_cast<extractTable *>(delegate.extractTableView.dataSource());
     EXPECT_EQ(table->objectValue(u"c10"_qs, 1), volumes[1]);
-    EXPECT_EQ(table->objectValue(u"c20"_qs, 1), QString());
-    EXPECT_TRUE(table->isExtracted(0));
-    EXPECT_FALSE(table->isExtracted(1));
+    EXPECT_TRUE(table->isExtracted(0) && !table->isExtracted(1));
 
     delegate.extractTableView.setSelectedRows({1, 3});
     delegate.extractButton02Action();
@@ -115,9 +116,6 @@ TEST_F(Candidates, AVolumeWithoutItsFirstIsTold)
 {
     delegate.addArchives({u"/x/a.part2.rar"_qs});
     EXPECT_TRUE(delegate.outputText02.text().contains(u"first volume is missing"));
-    delegate.buttonLaunch02b();
-    EXPECT_TRUE(program.lastWarning().contains(u"first volume is missing"))
-        << qPrintable(program.lastWarning());
     delegate.addArchives({u"/x/a.part1.rar"_qs});
     EXPECT_EQ(delegate.outputText02.text(), QString());
     delegate.addArchives({u"/Departments/report2.rar"_qs});
