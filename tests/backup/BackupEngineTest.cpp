@@ -1,14 +1,8 @@
 #include "EngineRun.h"
 
 #include "Credentials.h"
-#include "backup/BackupArguments.h"
 #include "runs/Run.h"
-#include "tools/Threads.h"
 
-#include <QRegularExpression>
-#include <thread>
-
-using namespace std::chrono_literals;
 namespace fs = std::filesystem;
 
 namespace {
@@ -87,17 +81,6 @@ TEST_F(BackupEngine, OpensAgainWithStockTools)
     EXPECT_EQ(runCommand({"bsdtar", "-xOf", inner}).output, "for your eyes only");
 }
 
-// Whoever owns another archiver gets exactly these, too.
-TEST(BackupArguments, AreThoseThatArchiversKnow)
-{
-    using namespace backupArguments;
-    EXPECT_EQ(firstPass(u""_qs, u"/a.rar"_qs, u"/a"_qs).join(u'|'), u"a|-r|-ol|-o+|-m0||-t|-idq|/a.rar|/a");
-    EXPECT_EQ(secondPass(u"-tl"_qs, u"-v10"_qs, u"/a.aes.rar"_qs, u"/a.aes"_qs).join(u'|'),
-              u"a|-m5|-o+|-t|-idq|-tl|-v10|-ep|/a.aes.rar|/a.aes");
-    EXPECT_EQ(encryptByPassword(u"bf-cbc"_qs, u"/a.rar"_qs, u"/a.bf"_qs, u"p w"_qs).join(u'|'),
-              u"bf-cbc|-a|-salt|-in|/a.rar|-out|/a.bf|-pass|pass:p w");
-}
-
 // Each with an archive of an earlier run, which must still be there afterwards, and the next run goes well.
 TEST_F(BackupEngine, SaysWhichStageFailed)
 {
@@ -149,7 +132,7 @@ TEST_F(BackupEngine, SaysWhichStageFailed)
         const bool isSilent = console.empty();
         const std::string whole = "\nSTART processing fileSOURCE" + console + "\n *** ERROR! *** SOURCE";
         EXPECT_EQ(shown, isSilent ? "" : whole);
-        EXPECT_EQ(state->foldersDone(), isSilent ? 1 : 0);
+        EXPECT_EQ(monitor->state.foldersDone(), isSilent ? 1 : 0);
         EXPECT_EQ(monitor->record.outcome, Outcome::Failed);
         EXPECT_EQ(monitor->record.items.first().outcome, Outcome::Failed);
         EXPECT_TRUE(QString::fromStdString(summary()).startsWith(u"Failed: "_qs)) << summary();
@@ -171,18 +154,10 @@ TEST_F(BackupEngine, AFailureStopsTheOthers)
     run(std::move(order));
     EXPECT_LE(monitor->console.count(u"START processing"_qs), workerLimit());
 
-    FolderLock lock;
-    order = backupOrder(sources);
-    ASSERT_TRUE(lookAtBackup(order, lock, [] { return true; }).obstacles.isEmpty());
-    state = std::make_unique<RunState>();
-    ASSERT_TRUE(state->tryBeginRun());
-    std::thread worker([&] { runBackup(order, *state, *monitor, std::move(lock)); });
-    qsizetype most = 0;
-    for (; state->isRunActive(); std::this_thread::sleep_for(1ms))
-        most = std::max(most, state->threadsRunning().size());
-    worker.join();
-    EXPECT_EQ(state->foldersDone(), double(sources.size()));
-    EXPECT_TRUE(most > 0 && most <= workerLimit()) << most;
+    backUp(sources);
+    expectSuccess();
+    EXPECT_EQ(monitor->state.foldersDone(), double(sources.size()));
+    EXPECT_TRUE(monitor->most > 0 && monitor->most <= workerLimit()) << monitor->most;
 }
 
 TEST_F(BackupEngine, CountsEachEntryOnceAndTellsThemApart)
@@ -192,8 +167,8 @@ TEST_F(BackupEngine, CountsEachEntryOnceAndTellsThemApart)
     const fs::path pipe = folder / "pipe";
     ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
     backUp({one, two, one, folder / "gone", pipe});
-    EXPECT_EQ(state->foldersToDo(), 5);
-    EXPECT_EQ(state->foldersDone(), 3);
+    EXPECT_EQ(monitor->state.foldersToDo(), 5);
+    EXPECT_EQ(monitor->state.foldersDone(), 3);
     EXPECT_EQ(namesIn(archives), "docs-0.rar.aes.rar\ndocs-1.rar.aes.rar");
     EXPECT_EQ(monitor->console, QString());
     QList<Outcome> outcomes;
@@ -228,8 +203,10 @@ TEST_F(BackupEngine, WritesThroughNothingThatWasPlanted)
              Case{"cp " + victim.string() + " " + encrypted, "", nullptr,
                   "docs.rar.aes.rar\nkept-docs.rar.aes"},
              Case{"", link + encrypted + ".rar", nullptr, "docs.rar.aes.rar"},
-             Case{"", "mv " + stored + " moved; cp " + victim.string() + " " + stored, nullptr,
-                  "docs.rar\ndocs.rar.aes.rar"},
+             Case{"",
+                  "mv " + stored + " " + (folder / "moved").string() + "; cp " + victim.string() + " " +
+                      stored,
+                  nullptr, "docs.rar\ndocs.rar.aes.rar"},
              Case{"mkdir " + encrypted, "", "docs.rar.aes\" is a folder", nullptr},
              Case{"rm " + stored + "; " + link + stored, "", "docs.rar\" has been replaced by a link",
                   nullptr},

@@ -88,60 +88,52 @@ protected:
 TEST_F(BackupStart, NothingReachesARunThatHasBegun)
 {
     QStringList sources{toQString(docs)};
-    for (int i = 0; i < workerLimit(); ++i)
-        sources.append(toQString(sample("more" + std::to_string(i), "content")));
-    delegate.addFolders(sources.mid(1));
-    for (const auto &[fromKeychain, tool] : {std::pair{false, realRar}, {true, realOpenSsl}}) {
-        SCOPED_TRACE(tool.toStdString() + (fromKeychain ? " keychain" : " typed"));
-        for (const fs::path &path : {here, go, program.folder() / "archives", out})
+    Paths made{program.folder() / "archives/docs.rar.aes.rar"};
+    for (int i = 0; i < workerLimit(); ++i) {
+        const std::string name = "more" + std::to_string(i);
+        sources.append(toQString(sample(name)));
+        made.push_back(program.folder() / "archives" / (name + ".rar.aes.rar"));
+    }
+    const QString profile = delegate.currentProfile();
+    slow->answers = true;
+    for (const auto &[isFetched, tool] : {std::pair{false, realRar}, {true, realOpenSsl}}) {
+        SCOPED_TRACE(tool.toStdString());
+        for (const fs::path &path : {here, go, out})
             fs::remove_all(path);
-        fs::create_directories(program.folder() / "archives");
         fs::create_directories(out);
-        const auto profile = delegate.currentProfile();
-        const QString kept = toQString(program.folder() / "archives");
-        delegate.secureText01a.setText(u"correct horse"_qs);
-        delegate.keychainPass.setText(u"correct horse"_qs);
-        delegate.passCombo01.selectIndex(fromKeychain ? PasswordTab::KeychainPassword
-                                                      : PasswordTab::TypedPassword);
+        delegate.setterCurrentProfile(profile);
+        delegate.currentRecord().array(u"folders"_qs).clear();
+        program.setUpBackup(sources);
+        delegate.checkBox04.setOn(false);
         delegate.currentRecord().setValue(u"symencryption"_qs, u"OpenSSL-AES");
         program.useTool(u"RAR"_qs, realRar.toStdString());
-        program.useTool(u"OpenSSL"_qs, realOpenSsl.toStdString());
         program.useTool(tool == realRar ? u"RAR"_qs : u"OpenSSL"_qs, gate(tool).toStdString());
+        const auto fetch = [&](bool isKnown) {
+            slow->knows = isKnown;
+            fetchFromKeychain();
+            return TestProgram::waitUntil([&] { return !delegate.keychainIndicator01.isAnimating(); });
+        };
+        ASSERT_TRUE(!isFetched || fetch(true));
         delegate.buttonLaunch01b();
         ASSERT_TRUE(TestProgram::waitUntil([&] { return fs::exists(here); }));
 
-        slow->answers = true;
-        slow->knows = false;
-        if (fromKeychain) fetchFromKeychain(); // the answer empties the field
-        ASSERT_TRUE(TestProgram::waitUntil([&] { return !delegate.keychainIndicator01.isAnimating(); }));
+        ASSERT_TRUE(fetch(false)); // the answer empties the field
         delegate.secureText01a.setText({});
         program.useTool(u"RAR"_qs, "/nowhere/rar");
         program.useTool(u"OpenSSL"_qs, "/nowhere/openssl");
         delegate.currentRecord().setValue(u"symencryption"_qs, u"OpenSSL-BF");
         delegate.prefStepper01Action(u"none"_qs);
         delegate.checkBox04.setOn(true);
-        delegate.fileText01.setText(u"/nowhere"_qs);
         delegate.currentRecord().setValue(u"path"_qs, u"/nowhere");
         delegate.addFolders({u"/nowhere"_qs});
         delegate.buttonLaunch01b();
         switchProfile();
         writeFile(go, "");
         program.waitForEnd();
-
-        EXPECT_EQ(delegate.outputText01.text().section(u' ', 0, 4).toStdString(),
-                  "Backed up " + std::to_string(sources.size()) + " of " + std::to_string(sources.size()));
-        Paths all;
-        for (const QString &source : sources)
-            all.push_back(program.folder() / "archives" /
-                          (fs::path(source.toStdString()).filename().string() + ".rar.aes.rar"));
-        extract(all);
+        const QString count = QString::number(sources.size());
+        EXPECT_TRUE(delegate.outputText01.text().startsWith(u"Backed up %1 of %1 "_qs.arg(count)));
+        extract(made);
         expectSuccess();
-        delegate.setterCurrentProfile(profile);
-        delegate.currentRecord().array(u"folders"_qs).clear();
-        delegate.addFolders(sources);
-        delegate.currentRecord().setValue(u"path"_qs, kept);
-        delegate.fileText01.setText(kept);
-        delegate.checkBox04.setOn(false);
     }
 }
 
@@ -212,9 +204,7 @@ TEST_F(BackupStart, TellsWhichToolsOfAFailedRunStillWork)
     EXPECT_NE(kill(process, 0), 0);
     EXPECT_EQ(toolsRunning(), 0);
     EXPECT_TRUE(delegate.toolsText01.isHidden() && delegate.toolsCancel01.isHidden());
-    EXPECT_TRUE(delegate.outputText01.text().startsWith(u"Failed: "_qs + program.path("")) ||
-                delegate.outputText01.text().startsWith(u"Failed: "_qs))
-        << qPrintable(delegate.outputText01.text());
+    EXPECT_TRUE(delegate.outputText01.text().endsWith(u"RAR 1st: no"_qs)) << "not \"Cancelled\"";
 }
 
 TEST_F(BackupStart, NamesWhatIsLeftInClear)
@@ -236,43 +226,37 @@ TEST_F(BackupStart, NamesWhatIsLeftInClear)
     EXPECT_EQ(made(), "own.rar");
 }
 
-TEST_F(BackupStart, SaysWhatIsMissing)
+TEST_F(BackupStart, SaysWhatIsMissingAndAsks)
 {
     struct Case {
+        QString said;
         std::function<void()> spoil;
-        QString text;
     };
-    for (const Case &c : std::vector<Case>{
-             {[&] { delegate.currentRecord().remove(u"path"_qs); }, u"not this profile's own"_qs},
-             {[&] { delegate.fileText01.setText({}); }, u"No destination"_qs},
-             {[&] { delegate.currentRecord().array(u"folders"_qs).clear(); }, u"no folders"_qs},
-             {[&] { delegate.secureText01a.setText({}); }, u"password"_qs},
-             {[&] { delegate.passCombo01.selectIndex(PasswordTab::Certificate); }, u"certificate"_qs},
+    for (const auto &[said, spoil] : std::vector<Case>{
+             {u"not this profile's own"_qs, [&] { delegate.currentRecord().remove(u"path"_qs); }},
+             {u"No destination"_qs, [&] { delegate.fileText01.setText({}); }},
+             {u"no folders"_qs, [&] { delegate.currentRecord().array(u"folders"_qs).clear(); }},
+             {u"password"_qs, [&] { delegate.secureText01a.setText({}); }},
+             {u"certificate"_qs, [&] { delegate.passCombo01.selectIndex(PasswordTab::Certificate); }},
          }) {
         program.setUpBackup({toQString(docs)});
-        c.spoil();
+        spoil();
         delegate.buttonLaunch01();
         program.waitForEnd();
-        EXPECT_TRUE(program.lastWarning().contains(c.text)) << qPrintable(program.lastWarning());
+        EXPECT_TRUE(program.lastWarning().contains(said)) << qPrintable(program.lastWarning());
         EXPECT_EQ(made(), "");
     }
-}
-
-TEST_F(BackupStart, AsksBeforeItWritesBesideOtherFiles)
-{
+    program.setUpBackup({toQString(docs)});
     writeFile(program.folder() / "archives/holiday.jpg", "x");
     for (const bool goesOn : {false, true}) {
-        bool asked = false;
         delegate.warningPanel03.observe([&] {
             if (delegate.warningPanel03.place() == outlets::Panel::Place::Hidden) return;
-            asked = true;
             EXPECT_EQ(delegate.folderNotEmptyText02.text(), program.path("archives"));
             EXPECT_TRUE(delegate.overwritesText02.text().contains(u"What is there stays"));
             goesOn ? delegate.buttonLaunch01b() : delegate.buttonLaunch01Stop();
         });
         delegate.buttonLaunch01();
         program.waitForEnd();
-        EXPECT_TRUE(asked);
         EXPECT_EQ(made(), goesOn ? "docs.rar.aes.rar\nholiday.jpg" : "holiday.jpg");
     }
 }
@@ -281,23 +265,21 @@ TEST_F(BackupStart, ListsFoldersAndTheDestination)
 {
     const auto rows = [&] { return delegate.currentRecord().array(u"folders"_qs).strings().join(u'|'); };
     delegate.currentRecord().array(u"folders"_qs).clear();
-    delegate.openPanel = [](const outlets::OpenPanel &panel) {
-        EXPECT_TRUE(panel.canChooseDirectories && panel.allowsMultipleSelection == panel.canChooseFiles);
-        return panel.canChooseFiles ? QStringList{u"/a"_qs, u"/b"_qs, u"/a"_qs, u"/c"_qs}
-                                    : QStringList{u"/d"_qs};
-    };
-    delegate.folderButton01Action();
-    EXPECT_EQ(delegate.listTableView.dataSource()->objectValue(u"c10"_qs, 1), u"/b"_qs);
-    delegate.folderButton02Action();
-    EXPECT_EQ(rows(), u"/a|/b|/a|/c") << "nothing is selected";
-    delegate.listTableView.setSelectedRows({0, 3});
+    for (const bool isCancelled : {false, true}) {
+        delegate.openPanel = [&](const outlets::OpenPanel &panel) -> std::optional<QStringList> {
+            EXPECT_TRUE(panel.canChooseDirectories && panel.allowsMultipleSelection == panel.canChooseFiles);
+            if (isCancelled) return std::nullopt;
+            return panel.canChooseFiles ? QStringList{u"/a"_qs, u"/b"_qs, u"/a"_qs} : QStringList{u"/d"_qs};
+        };
+        delegate.folderButton01Action();
+        delegate.fileButton01Action();
+        delegate.folderButton02Action(); // nothing is selected
+        EXPECT_EQ(rows(), u"/a|/b|/a");
+    }
+    delegate.listTableView.setSelectedRows({0});
     delegate.folderButton02Action();
     EXPECT_EQ(rows(), u"/b|/a");
-    delegate.fileButton01Action();
-    delegate.openPanel = [](const outlets::OpenPanel &) { return std::nullopt; };
-    delegate.folderButton01Action();
-    delegate.fileButton01Action();
-    EXPECT_EQ(rows(), u"/b|/a");
+    EXPECT_EQ(delegate.listTableView.dataSource()->objectValue(u"c10"_qs, 0), u"/b"_qs);
     EXPECT_EQ(delegate.fileText01.text(), u"/d"_qs);
     EXPECT_EQ(delegate.currentRecord().string(u"path"_qs), u"/d"_qs);
 }

@@ -99,27 +99,23 @@ TEST_F(Candidates, ComeAndGo)
     EXPECT_TRUE(taken().isEmpty());
 }
 
-TEST_F(Candidates, AFolderStandsForItsArchives)
+TEST_F(Candidates, AFolderStandsForItsArchivesAndWhatIsLeftOutIsTold)
 {
     for (const char *name : {"a.part9.rar", "a.part10.rar", "a.part1.rar", "notes.txt", "below/b.rar"})
         writeFile(program.folder() / "drop" / name, "x");
-    delegate.addArchives({program.path("drop"), program.path("drop/notes.txt")});
+    delegate.addArchives({program.path("drop")});
     EXPECT_EQ(delegate.extractFullList.strings(),
               (QStringList{program.path("drop/a.part1.rar"), program.path("drop/a.part9.rar"),
                            program.path("drop/a.part10.rar")}));
     EXPECT_EQ(delegate.outputText02.text(), QString());
-    delegate.addArchives({program.path("drop/notes.txt")});
-    EXPECT_TRUE(delegate.outputText02.text().contains(u"no archive"));
-}
-
-TEST_F(Candidates, AVolumeWithoutItsFirstIsTold)
-{
-    delegate.addArchives({u"/x/a.part2.rar"_qs});
-    EXPECT_TRUE(delegate.outputText02.text().contains(u"first volume is missing"));
-    delegate.addArchives({u"/x/a.part1.rar"_qs});
-    EXPECT_EQ(delegate.outputText02.text(), QString());
-    delegate.addArchives({u"/Departments/report2.rar"_qs});
-    EXPECT_TRUE(delegate.outputText02.text().contains(u"Move or rename"));
+    for (const auto &[path, said] : {std::pair{program.path("drop/notes.txt"), u"no archive"_qs},
+                                     {u"/x/b.part2.rar"_qs, u"first volume is missing"_qs},
+                                     {u"/x/b.part1.rar"_qs, QString()},
+                                     {u"/Departments/report2.rar"_qs, u"Move or rename"_qs}}) {
+        delegate.addArchives({path});
+        EXPECT_TRUE(delegate.outputText02.text().contains(said)) << qPrintable(said);
+        EXPECT_EQ(delegate.outputText02.text().isEmpty(), said.isEmpty());
+    }
 }
 
 TEST_F(Candidates, AreDecryptedByChoiceOrByName)

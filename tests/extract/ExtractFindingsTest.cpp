@@ -121,82 +121,68 @@ TEST_F(ExtractFindings, OverruledTheyCostNothing)
 
 TEST_F(ExtractFindings, AreShownAndMayBeOverruled)
 {
+    backUp({docs});
+    const fs::path renamed = archives / "holiday.rar";
+    const fs::path cut = archives / "cut.rar.aes.rar";
+    for (const fs::path &copy : {renamed, cut})
+        fs::copy_file(archive, copy);
+    fs::resize_file(cut, 100);
+    writeFile(out / "other", "x");
     TestProgram program;
     program.start();
     QuillorentAppDelegate &delegate = program.delegate();
-    program.setUpBackup({toQString(docs)});
-    delegate.checkBox04.setOn(false);
-    program.backUp();
-    fs::create_directories(program.folder() / "out");
+    QString asked;
+    bool goesOn = false;
+    const auto answer = [&](outlets::Panel &panel, const outlets::TextField &words, auto yes, auto no) {
+        panel.observe([&asked, &goesOn, &panel, &words, yes, no] {
+            if (panel.place() == outlets::Panel::Place::Hidden) return;
+            asked += words.text();
+            goesOn ? yes() : no();
+        });
+    };
+    answer(
+        delegate.warningPanel02, delegate.folderNotEmptyText01, [&] { delegate.buttonLaunch02b(); },
+        [&] { delegate.buttonLaunch02Stop(); });
+    answer(
+        delegate.concernsPanel01, delegate.concernsText01, [&] { delegate.concernsPanel01GoOn(); },
+        [&] { delegate.concernsPanel01Stop(); });
+    const auto close = [&] { delegate.stopProcess02b(); };
+    answer(delegate.extractPanel01, delegate.extractReasonText01, close, close);
     struct Case {
+        fs::path listed;
+        QString said;
         std::function<void()> spoil;
-        QString text; ///< of a warning; null: nothing is wrong
+        bool isOverruled = false;
     };
-    const auto prepare = [&](const QString &listed) {
-        delegate.extractPath.setText(program.path("out"));
-        delegate.currentRecord().setValue(u"extractpath"_qs, program.path("out"));
-        delegate.secureText01a.setText(u"correct horse"_qs);
-        delegate.extractButton03Action();
-        delegate.addArchives({listed});
-    };
-    for (const auto &[spoil, text] : std::vector<Case>{
-             {[&] { delegate.extractPath.setText({}); }, u"No extraction folder"_qs},
-             {[&] { delegate.currentRecord().remove(u"extractpath"_qs); }, u"not this profile's own"_qs},
-             {[&] { delegate.extractButton03Action(); }, u"No archives"_qs},
-             {[&] { delegate.secureText01a.setText({}); }, u"No password"_qs},
-             {[&] { delegate.passCombo01.selectIndex(PasswordTab::Certificate); }, u"No certificate"_qs},
+    for (const auto &[listed, said, spoil, isOverruled] : std::vector<Case>{
+             {archive, u"No extraction folder"_qs, [&] { delegate.extractPath.setText({}); }},
+             {archive, u"not this profile's own"_qs,
+              [&] { delegate.currentRecord().remove(u"extractpath"_qs); }},
+             {archive, u"No archives"_qs, [&] { delegate.extractButton03Action(); }},
+             {archive, u"No password"_qs, [&] { delegate.secureText01a.setText({}); }},
+             {archive, u"No certificate"_qs, [&] { delegate.passCombo01.selectIndex(2); }},
+             {archive, text(out), [] {}},
+             {archive, text(out), [] {}, true},
+             {renamed, u"does not tell how"_qs, [] {}},
+             {renamed, u"does not tell how"_qs, [] {}, true},
+             {cut, u"cut short"_qs, [] {}, true},
          }) {
-        prepare(program.path("archives/docs.rar.aes.rar"));
+        SCOPED_TRACE(said.toStdString());
+        fs::remove_all(out / docs.relative_path());
+        delegate.extractPath.setText(text(out));
+        delegate.currentRecord().setValue(u"extractpath"_qs, text(out));
+        delegate.secureText01a.setText(u"correct horse"_qs);
+        delegate.passCombo01.selectIndex(PasswordTab::TypedPassword);
+        delegate.extractButton03Action();
+        delegate.addArchives({text(listed)});
         spoil();
+        asked.clear();
+        goesOn = isOverruled;
         delegate.buttonLaunch02();
         program.waitForEnd();
-        EXPECT_TRUE(program.lastWarning().contains(text)) << qPrintable(program.lastWarning());
+        EXPECT_TRUE((asked.isEmpty() ? program.lastWarning() : asked).contains(said)) << qPrintable(asked);
+        const bool isExtracted = isOverruled && listed != cut;
+        EXPECT_EQ(fs::exists(extracted(docs) / "file"), isExtracted);
+        EXPECT_EQ(delegate.extractedFolder(), isExtracted ? text(out) : QString());
     }
-    delegate.passCombo01.selectIndex(PasswordTab::TypedPassword);
-
-    // A question of its own where the folder is not empty, and one for all where there is more to say.
-    const fs::path renamed = program.folder() / "holiday.rar";
-    fs::copy_file(program.folder() / "archives/docs.rar.aes.rar", renamed);
-    writeFile(program.folder() / "out/other", "x");
-    const fs::path file = program.folder() / "out" / (docs / "file").relative_path();
-    for (const bool isNamed : {true, false})
-        for (const bool goesOn : {false, true}) {
-            SCOPED_TRACE(int(isNamed) * 2 + int(goesOn));
-            outlets::Panel &panel = isNamed ? delegate.warningPanel02 : delegate.concernsPanel01;
-            int asked = 0;
-            panel.observe([&] {
-                if (panel.place() == outlets::Panel::Place::Hidden) return;
-                ++asked;
-                const QString said =
-                    isNamed ? delegate.folderNotEmptyText01.text() : delegate.concernsText01.text();
-                EXPECT_TRUE(said.contains(program.path("out")) &&
-                            (isNamed || said.contains(u"does not tell how")));
-                if (isNamed)
-                    goesOn ? delegate.buttonLaunch02b() : delegate.buttonLaunch02Stop();
-                else
-                    goesOn ? delegate.concernsPanel01GoOn() : delegate.concernsPanel01Stop();
-            });
-            prepare(isNamed ? program.path("archives/docs.rar.aes.rar") : toQString(renamed));
-            delegate.buttonLaunch02();
-            program.waitForEnd();
-            EXPECT_EQ(asked, 1);
-            EXPECT_EQ(fs::exists(file), goesOn);
-            EXPECT_EQ(delegate.extractedFolder(), goesOn ? program.path("out") : QString());
-            fs::remove(file);
-        }
-
-    // One that is damaged is shown, and nothing is extracted.
-    fs::resize_file(program.folder() / "archives/docs.rar.aes.rar", 100);
-    QString shown;
-    delegate.extractPanel01.observe([&] {
-        if (delegate.extractPanel01.place() == outlets::Panel::Place::Hidden) return;
-        shown = delegate.extractPanelText01.text() + delegate.extractReasonText01.text();
-        delegate.stopProcess02b();
-    });
-    prepare(program.path("archives/docs.rar.aes.rar"));
-    delegate.buttonLaunch02b();
-    program.waitForEnd();
-    EXPECT_TRUE(shown.startsWith(program.path("archives/docs.rar.aes.rar")) && shown.contains(u"cut short"));
-    EXPECT_TRUE(delegate.outputText02.text().startsWith(u"Failed: "));
-    EXPECT_FALSE(fs::exists(file));
 }

@@ -55,10 +55,6 @@ TEST_F(Hostile, NothingLeavesTheFolder)
     };
     for (const Case &c : {
              Case{"name", {archiveOf("a", {storedFile("../outside/file", "bad")})}, true},
-             Case{"absolute name", {archiveOf("a", {storedFile(file, "inside")})}, false},
-             Case{"link on the way",
-                  {archiveOf("a", {symbolicLink("door", outside), storedFile("door/file", "bad")})},
-                  true},
              Case{"link of the archive before",
                   {archiveOf("a", {symbolicLink("door", "../outside")}),
                    archiveOf("b", {storedFile("door/file", "bad")})},
@@ -73,10 +69,6 @@ TEST_F(Hostile, NothingLeavesTheFolder)
              Case{"link in the place of the inner archive",
                   {outer("a", {storedFile("a.rar.aes", good), symbolicLink("a.rar", file)})},
                   false},
-             Case{"path in the place of the encrypted file's name",
-                  {outer("a", {storedFile("../outside/file", good)})},
-                  true},
-             Case{"parent as the only name", {outer("a", {storedFile("..", good)})}, true},
              Case{
                  "no encrypted file", {outer("a", {storedFile("one", good), storedFile("two", good)})}, true},
          }) {

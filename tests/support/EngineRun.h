@@ -26,26 +26,30 @@ inline QString writeScript(const std::filesystem::path &path, const std::string 
     return QString::fromStdString(path.string());
 }
 
-/// Notes what a run tells.
+/// Notes what a run tells, and how far it is.
 class NotingMonitor : public RunMonitor {
 public:
     void began() override {}
     void measured(double) override {}
-    void advanced(double) override {}
+    void advanced(double) override
+    {
+        const std::lock_guard lock(mutex);
+        most = std::max(most, state.threadsRunning().size());
+    }
     void logged(const QString &text) override
     {
-        const std::lock_guard lock(m_mutex);
+        const std::lock_guard lock(mutex);
         console += text;
     }
     void ended(const QString &) override {}
     void toolsStillRun(const QStringList &) override {}
     void concluded(const RunRecord &ended) override { record = ended; }
 
+    RunState state;
     QString console;
     RunRecord record;
-
-private:
-    std::mutex m_mutex;
+    qsizetype most = 0; ///< workers at once
+    std::mutex mutex;
 };
 
 /// The engines with the build's own tools, "archives" and "out" in a folder of the test's own, and no program
@@ -125,14 +129,14 @@ protected:
     {
         FolderLock lock;
         if (begin(lookAtBackup(order, lock, [] { return true; })))
-            runBackup(order, *state, *monitor, std::move(lock));
+            runBackup(order, monitor->state, *monitor, std::move(lock));
     }
     void run(ExtractOrder order)
     {
         FolderLock lock;
         damaged.clear();
         if (begin(lookAtExtraction(order, lock)))
-            runExtraction(order, *state, *monitor, std::move(lock),
+            runExtraction(order, monitor->state, *monitor, std::move(lock),
                           [&](const QString &archive, const QString &) { damaged = archive; });
     }
     void backUp(const Paths &sources, int volume = 0) { run(backupOrder(sources, volume)); }
@@ -142,7 +146,7 @@ protected:
     {
         EXPECT_EQ(findings.obstacles.join(u'\n').toStdString() + monitor->console.toStdString(), "");
         EXPECT_EQ(monitor->record.outcome, Outcome::Succeeded) << summary();
-        EXPECT_FALSE(state->isRunActive());
+        EXPECT_FALSE(monitor->state.isRunActive());
     }
     [[nodiscard]] std::string summary() const { return monitor->record.summary.toStdString(); }
 
@@ -171,8 +175,7 @@ protected:
     const std::filesystem::path out = folder / "out";
     const QString realRar = QStringLiteral(QUILLORENT_LIBEXEC "/rar");
     const QString realOpenSsl = QStringLiteral(QUILLORENT_LIBEXEC "/openssl");
-    Findings findings; ///< of the last look
-    std::unique_ptr<RunState> state = std::make_unique<RunState>();
+    Findings findings;                                                          ///< of the last look
     std::unique_ptr<NotingMonitor> monitor = std::make_unique<NotingMonitor>(); ///< of the last run
     QString damaged; ///< the archive that failed its test
 
@@ -180,8 +183,7 @@ private:
     bool begin(const Findings &found)
     {
         findings = found;
-        state = std::make_unique<RunState>();
         monitor = std::make_unique<NotingMonitor>();
-        return findings.obstacles.isEmpty() && state->tryBeginRun();
+        return findings.obstacles.isEmpty() && monitor->state.tryBeginRun();
     }
 };
