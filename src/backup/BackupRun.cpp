@@ -91,10 +91,10 @@ QString BackupRun::summary() const
     const QLocale locale;
     const auto number = [&](double value) { return locale.toString(qint64(value)); };
     QStringList sentences;
-    if (m_state.isCancelledByUser())
-        sentences.append(u"Cancelled."_qs);
-    else if (!m_state.failure().isEmpty())
+    if (!m_state.failure().isEmpty())
         sentences.append(u"Failed: "_qs + m_state.failure());
+    else if (m_state.isCancelledByUser())
+        sentences.append(u"Cancelled."_qs);
     else
         sentences.append(u"Backed up %1 of %2 (%3)."_qs.arg(
             number(m_state.foldersDone()), number(m_state.foldersToDo()),

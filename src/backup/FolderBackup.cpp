@@ -76,7 +76,7 @@ bool FolderBackup::judgeStage(const QString &stage, const ToolResult &result, co
     if (logOutput == LogOutput::Yes || !result.wasStarted) m_log += u'\n' + result.text();
     if (!m_succeeded) m_reason = stage + u": "_qs + result.firstLine();
     if (!m_succeeded && result.text().contains(u"deprecated key derivation")) m_reason = whyOtherOpenSsl();
-    noteBetween();
+    noteBetween(product);
     return isDone;
 }
 
@@ -121,7 +121,7 @@ void FolderBackup::dateEncryptedFile()
     if (date.isValid() && encrypted.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
         encrypted.setFileTime(date, QFileDevice::FileModificationTime);
     encrypted.close();
-    noteBetween();
+    noteBetween(m_paths.encrypted);
 }
 
 void FolderBackup::removeStored()

@@ -6,11 +6,14 @@
 #include "files/Room.h"
 #include "files/Sizes.h"
 #include "runs/ItemPipeline.h"
+#include "runs/Pauses.h"
 #include "runs/Run.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
+#include <thread>
 
 namespace {
 
@@ -26,7 +29,9 @@ public:
 
 private:
     void unpackOuter();
-    [[nodiscard]] ToolResult makeWayForEntries();
+    [[nodiscard]] bool hold(const QStringList &paths);
+    void letGo();
+    [[nodiscard]] ToolResult makeWayForEntries(const QStringList &entries);
     void takeRenamedEntry();
     void decrypt();
     [[nodiscard]] ToolResult runDecoder();
@@ -41,6 +46,7 @@ private:
     const ExtractOrder &m_order;
     ExtractShared &m_shared;
     const ExtractItem &m_paths;
+    QStringList m_held;  ///< paths that no other archive writes to as long as this one is on its way
     QString m_entryName; ///< of the encrypted file in the archive, where it is another than expected
     QString m_command;
     bool m_isDecrypted = false;
@@ -95,6 +101,7 @@ void ArchiveExtraction::run()
         const QString explanation = explainFailure();
         fail(u'\n' + explanation, explanation);
     }
+    letGo();
     end(m_isExtracted, {});
 }
 
@@ -104,7 +111,7 @@ void ArchiveExtraction::judgeStage(FailedStage::Kind kind, const QString &line, 
     m_stage = kind;
     m_result = result;
     judge(line, result, isMade, product);
-    noteBetween();
+    noteBetween(product);
 }
 
 QStringList ArchiveExtraction::entriesOf(const QString &archive) const
@@ -113,14 +120,34 @@ QStringList ArchiveExtraction::entriesOf(const QString &archive) const
     return result.text().split(u'\n', Qt::SkipEmptyParts);
 }
 
+/// Waits until no other archive writes to one of the paths. False where the run was cancelled by then.
+bool ArchiveExtraction::hold(const QStringList &paths)
+{
+    const auto isTaken = [this](const QString &path) { return m_shared.underWay.contains(path); };
+    for (; !isCancelled(); std::this_thread::sleep_for(pauses().poll)) {
+        const std::lock_guard lock(m_shared.mutex);
+        if (std::any_of(paths.begin(), paths.end(), isTaken)) continue;
+        m_held = paths;
+        m_shared.underWay.unite({paths.begin(), paths.end()});
+        return true;
+    }
+    return false;
+}
+
+void ArchiveExtraction::letGo()
+{
+    const std::lock_guard lock(m_shared.mutex);
+    for (const QString &path : m_held)
+        m_shared.underWay.remove(path);
+}
+
 /// Nothing that is in the folder may be written over by a file that the archive holds under another name than
 /// its own. Where the archiver knows no listing, its words are no file's name.
-ToolResult ArchiveExtraction::makeWayForEntries()
+ToolResult ArchiveExtraction::makeWayForEntries(const QStringList &entries)
 {
     for (const QString &path : {m_paths.paths.encrypted, m_paths.paths.leftover})
         if (ToolResult result = makeWay(path); !result.isSilent()) return result;
-    for (const QString &entry : entriesOf(m_item)) {
-        const QString path = joined(m_order.folder, lastPathComponent(entry));
+    for (const QString &path : entries) {
         if (whatIsAt(path) == Place::Nothing || whatIsAt(path) == Place::Folder) continue;
         if (ToolResult result = makeWay(path); !result.isSilent()) return result;
     }
@@ -131,7 +158,13 @@ void ArchiveExtraction::unpackOuter()
 {
     if (isCancelled()) return;
     setStage(u"unpacking"_qs);
-    ToolResult result = makeWayForEntries();
+    // An archive that was renamed holds its encrypted file under the old name, which another's may have, too.
+    QStringList entries;
+    for (const QString &entry : entriesOf(m_item))
+        entries.append(joined(m_order.folder, lastPathComponent(entry)));
+    const ExtractPaths &paths = m_paths.paths;
+    if (!hold(QStringList{paths.encrypted, paths.inner, paths.leftover} + entries)) return;
+    ToolResult result = makeWayForEntries(entries);
     if (result.isSilent())
         result = runStage(m_order.archiver, extractArguments::unpackOuter(m_item, m_order.folder));
     // Whether the encrypted file is there is for the next stage to say: its name may be another one.
@@ -148,7 +181,7 @@ void ArchiveExtraction::takeRenamedEntry()
     const QString entry = joined(m_order.folder, name);
     if (whatIsAt(entry) == Place::File && renameToFree(entry, m_paths.paths.encrypted) == 0)
         m_entryName = name;
-    noteBetween();
+    noteBetween(m_paths.paths.encrypted);
 }
 
 void ArchiveExtraction::decrypt()

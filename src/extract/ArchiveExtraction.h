@@ -3,6 +3,8 @@
 #include "extract/BroughtBack.h"
 #include "extract/ExtractOrder.h"
 
+#include <QSet>
+
 class Run;
 
 /// What the items of one extraction share.
@@ -10,6 +12,7 @@ struct ExtractShared {
     BroughtBack names;
     std::mutex mutex;
     QStringList ownFolders; ///< of archives whose entries have the names of another's; guarded by `mutex`
+    QSet<QString> underWay; ///< paths that the archives on their way write to for a while; guarded by `mutex`
 };
 
 /// Turns one archive of the order back into what it was made of: takes the encrypted file out of it, decrypts

@@ -141,10 +141,10 @@ QString ExtractRun::summary() const
 {
     const QLocale locale;
     QStringList sentences;
-    if (m_state.isCancelledByUser())
-        sentences.append(u"Cancelled. Files left in the extraction folder may be incomplete."_qs);
-    else if (!m_state.failure().isEmpty())
+    if (!m_state.failure().isEmpty())
         sentences.append(u"Failed: "_qs + m_state.failure());
+    else if (m_state.isCancelledByUser())
+        sentences.append(u"Cancelled. Files left in the extraction folder may be incomplete."_qs);
     else
         sentences.append(
             u"Extracted %1 of %2 into \"%3\"."_qs.arg(locale.toString(qint64(m_state.foldersDone())),

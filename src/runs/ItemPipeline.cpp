@@ -28,19 +28,20 @@ void ItemPipeline::expect(const QStringList &between, const QString &clear, cons
     m_between = between;
     m_clear = clear;
     m_run.journal().changeItem(m_index, [&](ItemRecord &item) {
-        item.between = between;
-        item.clear = clear;
         if (!final.isEmpty()) item.final = {final};
     });
 }
 
-void ItemPipeline::noteBetween()
+void ItemPipeline::noteBetween(const QString &product)
 {
     QList<LeftFile> left;
     for (const QString &path : m_between) {
         const auto there = entryAt(path);
         if (!there || !there->isFile()) continue;
-        m_made.insert(path, there->identity);
+        if (path == product)
+            m_made.insert(path, there->identity);
+        else if (!m_made.value(path).isSameFile(there->identity))
+            continue;
         left.append({path, path == m_clear, there->identity});
     }
     m_run.journal().changeItem(m_index, [&](ItemRecord &item) { item.left = left; });
@@ -61,7 +62,25 @@ QString ItemPipeline::moveAway(const QString &path)
     return error ? qt_error_string(error) : QString();
 }
 
+/// From now on what comes under the name is this item's, even where the run ends before it can be told from
+/// others. Not earlier: until then it may be the user's.
+void ItemPipeline::claim(const QString &path)
+{
+    if (!m_between.contains(path)) return;
+    m_run.journal().changeItem(m_index, [&](ItemRecord &item) {
+        if (!item.between.contains(path)) item.between.append(path);
+        if (path == m_clear) item.clear = path;
+    });
+}
+
 ToolResult ItemPipeline::makeWay(const QString &path)
+{
+    ToolResult result = clear(path);
+    if (result.isSilent()) claim(path);
+    return result;
+}
+
+ToolResult ItemPipeline::clear(const QString &path)
 {
     const auto there = entryAt(path);
     if (!there) return silence();

@@ -25,8 +25,9 @@ protected:
 
     /// The files of the run's own that will exist for a while; `clear` is the one that is not encrypted.
     void expect(const QStringList &between, const QString &clear, const QString &final = {});
-    /// Notes which of them exist now, so that the next run knows them again.
-    void noteBetween();
+    /// Notes which of them exist now, so that the next run knows them again: `product`, which a stage has
+    /// just made, and what is still the file that was noted before.
+    void noteBetween(const QString &product = {});
 
     /// Makes sure that nothing is under a name that the next stage writes to. What an earlier run left goes,
     /// anything else gets another name and stays. The result tells where something is still there; else it is
@@ -62,6 +63,8 @@ protected:
 private:
     [[nodiscard]] bool isKnown(const QString &path, const FileIdentity &identity) const;
     [[nodiscard]] QString moveAway(const QString &path);
+    [[nodiscard]] ToolResult clear(const QString &path);
+    void claim(const QString &path);
 
     const QList<LeftFile> m_known;
     QStringList m_between;

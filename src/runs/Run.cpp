@@ -60,9 +60,9 @@ void Run::conclude()
             m_state.failure().isEmpty() &&
             std::all_of(record.items.begin(), record.items.end(),
                         [](const ItemRecord &item) { return item.outcome == Outcome::Succeeded; });
-        record.outcome = m_state.isCancelledByUser() ? Outcome::Cancelled
-                         : succeeded                 ? Outcome::Succeeded
-                                                     : Outcome::Failed;
+        // What had failed before the user cancelled what was left of it has failed.
+        const bool isCancelled = m_state.isCancelledByUser() && m_state.failure().isEmpty();
+        record.outcome = isCancelled ? Outcome::Cancelled : succeeded ? Outcome::Succeeded : Outcome::Failed;
         record.summary = text;
         record.ended = QDateTime::currentDateTimeUtc();
     });

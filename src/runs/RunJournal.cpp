@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QSaveFile>
 #include <algorithm>
@@ -74,6 +75,8 @@ void RunJournal::begin()
 {
     const std::lock_guard lock(m_mutex);
     if (m_record.kind.isEmpty()) return;
+    // Nobody has looked for it before a run that starts without a look.
+    QDir().mkpath(QFileInfo(m_path).path());
     m_file.setFileName(m_path);
     const bool isOpen = m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered,
                                     QFileDevice::ReadOwner | QFileDevice::WriteOwner);

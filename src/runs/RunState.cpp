@@ -115,7 +115,8 @@ QString RunState::failure() const { return read(m_mutex, m_failure); }
 void RunState::setFailure(const QString &path, const QString &reason)
 {
     const std::lock_guard lock(m_mutex);
-    if (m_failure.isEmpty()) m_failure = path + u": "_qs + reason;
+    // Tools that a person has ended complain of that.
+    if (m_failure.isEmpty() && !m_cancelledByUser) m_failure = path + u": "_qs + reason;
 }
 
 bool RunState::tryBeginRun()

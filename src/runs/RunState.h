@@ -61,7 +61,7 @@ public:
 
     /// The first failure of the run: which item, and why. Empty where none failed.
     [[nodiscard]] QString failure() const;
-    void setFailure(const QString &path, const QString &reason); ///< later ones are dropped
+    void setFailure(const QString &path, const QString &reason); ///< dropped after another, or a cancel
 
     /// Since the last run began; stands still after it ended.
     [[nodiscard]] std::chrono::milliseconds elapsed() const;

@@ -1,14 +1,13 @@
-#include "ExtractionTest.h"
+#include "EngineRun.h"
 
 #include "Rar.h"
-#include "Tree.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
 /// Archives of this program's kind whose makers wish to write outside of the extraction folder.
-class Hostile : public ExtractionTest {
+class Hostile : public EngineTest {
 protected:
     Hostile()
     {
@@ -20,29 +19,27 @@ protected:
     std::string encrypted(const std::string &content) const
     {
         writeFile(inner, content);
-        const fs::path text = program.folder() / "made/encrypted";
-        EXPECT_EQ(runCommand({libexec + "/openssl", "aes-256-cbc", "-a", "-salt", "-in", inner, "-out", text,
-                              "-pass", "pass:correct horse"})
-                      .errors,
-                  "");
-        return readFile(text);
+        const fs::path made = folder / "made/encrypted";
+        runCommand({realOpenSsl.toStdString(), "aes-256-cbc", "-a", "-salt", "-in", inner, "-out", made,
+                    "-pass", "pass:correct horse"});
+        return readFile(made);
     }
 
-    QString outer(const std::string &name, const std::vector<HandmadeEntry> &entries)
+    fs::path outer(const std::string &name, const std::vector<HandmadeEntry> &entries)
     {
-        const fs::path path = program.folder() / std::to_string(++made) / (name + ".rar.aes.rar");
+        const fs::path path = folder / std::to_string(++count) / (name + ".rar.aes.rar");
         writeFile(path, handmadeArchive(entries));
-        return toQString(path);
+        return path;
     }
 
-    QString archiveOf(const std::string &name, const std::vector<HandmadeEntry> &contents)
+    fs::path archiveOf(const std::string &name, const std::vector<HandmadeEntry> &contents)
     {
         return outer(name, {storedFile(name + ".rar.aes", encrypted(handmadeArchive(contents)))});
     }
 
-    const fs::path outside = program.folder() / "outside";
-    const fs::path inner = program.folder() / "made/inner";
-    int made = 0;
+    const fs::path outside = folder / "outside";
+    const fs::path inner = folder / "made/inner";
+    int count = 0;
 };
 
 } // namespace
@@ -53,15 +50,11 @@ TEST_F(Hostile, NothingLeavesTheFolder)
     const std::string good = encrypted(handmadeArchive({storedFile("good", "1")}));
     struct Case {
         const char *name;
-        QStringList archives; ///< extracted one after the other
+        Paths listed; ///< extracted one after the other
         bool fails;
     };
     for (const Case &c : {
              Case{"name", {archiveOf("a", {storedFile("../outside/file", "bad")})}, true},
-             Case{"absolute name", {archiveOf("a", {storedFile(file, "inside")})}, false},
-             Case{"link on the way",
-                  {archiveOf("a", {symbolicLink("door", outside), storedFile("door/file", "bad")})},
-                  true},
              Case{"link of the archive before",
                   {archiveOf("a", {symbolicLink("door", "../outside")}),
                    archiveOf("b", {storedFile("door/file", "bad")})},
@@ -76,19 +69,15 @@ TEST_F(Hostile, NothingLeavesTheFolder)
              Case{"link in the place of the inner archive",
                   {outer("a", {storedFile("a.rar.aes", good), symbolicLink("a.rar", file)})},
                   false},
-             Case{"path in the place of the encrypted file's name",
-                  {outer("a", {storedFile("../outside/file", good)})},
-                  true},
-             Case{"parent as the only name", {outer("a", {storedFile("..", good)})}, true},
              Case{
                  "no encrypted file", {outer("a", {storedFile("one", good), storedFile("two", good)})}, true},
          }) {
         SCOPED_TRACE(c.name);
         const TreeSnapshot before = snapshotTree(outside);
-        for (const QString &archive : c.archives)
+        for (const fs::path &archive : c.listed)
             extract({archive});
         EXPECT_EQ(treeDifference(before, snapshotTree(outside)), "");
-        EXPECT_EQ(!console().isEmpty() || !damaged.isEmpty(), c.fails) << qPrintable(console());
+        EXPECT_EQ(monitor->record.outcome == Outcome::Failed, c.fails) << summary();
         fs::remove_all(out);
         fs::create_directories(out);
     }

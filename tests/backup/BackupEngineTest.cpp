@@ -1,0 +1,231 @@
+#include "EngineRun.h"
+
+#include "Credentials.h"
+#include "runs/Run.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class BackupEngine : public EngineTest {
+protected:
+    /// A tool that does so in the one stage, and becomes the real one in the others.
+    [[nodiscard]] QString fakeRar(const std::string &stageMark, const std::string &body) const
+    {
+        const std::string real = realRar.toStdString();
+        return writeScript(folder / "tools/rar", "real=" + real + "\nfor last; do :; done\ncase \"$*\" in *" +
+                                                     stageMark + "*) " + body +
+                                                     ";; *) exec $real \"$@\";; esac");
+    }
+    [[nodiscard]] QString fakeOpenSsl(const std::string &body) const
+    {
+        const std::string real = realOpenSsl.toStdString();
+        return writeScript(folder / "tools/openssl", "real=" + real + "\n" + body);
+    }
+
+    /// Opens an archive as someone would who never had this program, up to the inner one.
+    [[nodiscard]] fs::path openWithStockTools(const fs::path &archive,
+                                              const std::vector<std::string> &decrypt) const
+    {
+        const fs::path opened = folder / "opened";
+        fs::remove_all(opened);
+        fs::create_directories(opened / "outer");
+        fs::create_directories(opened / "tree");
+        EXPECT_EQ(runCommand({"unar", "-quiet", "-no-directory", "-o", opened / "outer", archive}).status, 0);
+        std::vector<std::string> command{"openssl"};
+        command.insert(command.end(), decrypt.begin(), decrypt.end());
+        command.insert(command.end(),
+                       {"-in", opened / "outer" / namesIn(opened / "outer"), "-out", opened / "inner.rar"});
+        EXPECT_EQ(runCommand(command).errors, "");
+        return opened / "inner.rar";
+    }
+};
+
+const std::string atFirst = "-m0"; // an argument of the first pass alone
+const std::string atSecond = "-m5";
+
+} // namespace
+
+TEST_F(BackupEngine, OpensAgainWithStockTools)
+{
+    const std::vector<std::string> byPassword{
+        "aes-256-cbc", "-d",  "-a",     "-pbkdf2", "-iter",
+        "600000",      "-md", "sha256", "-pass",   "pass:correct horse"};
+    const fs::path tree = folder / "a tree";
+    makeSampleTree(tree);
+    for (const int volume : {0, 200}) {
+        SCOPED_TRACE(volume);
+        fs::remove_all(archives);
+        fs::create_directories(archives);
+        backUp({tree}, volume);
+        expectSuccess();
+        EXPECT_EQ(namesIn(archives).find('\n') != std::string::npos, volume > 0) << namesIn(archives);
+        for (const auto &entry : fs::directory_iterator(archives))
+            EXPECT_EQ(entry.status().permissions(), fs::perms(0600)) << entry.path();
+        const QString first = filesOfArchive(text(archives / "a tree.rar.aes.rar")).value(0);
+        const fs::path inner = openWithStockTools(first.toStdString(), byPassword);
+        // Stock readers know nothing of names that are not UTF-8, so the last step is our archiver's.
+        runCommand({realRar.toStdString(), "x", "-o+", "-idq", inner, folder / "opened/tree"});
+        EXPECT_EQ(treeDifference(tree, folder / "opened/tree" / tree.relative_path()), "");
+    }
+
+    const auto [certificate, key] = makeCredentials(folder, "anna");
+    BackupOrder order = backupOrder({sample("docs", "for your eyes only")});
+    order.byCertificate = true;
+    order.certificate = text(certificate);
+    run(std::move(order));
+    expectSuccess();
+    const fs::path inner =
+        openWithStockTools(archives / "docs.rar.aes.rar",
+                           {"smime", "-decrypt", "-binary", "-inkey", key, "-recip", certificate});
+    EXPECT_EQ(runCommand({"bsdtar", "-xOf", inner}).output, "for your eyes only");
+}
+
+// Each with an archive of an earlier run, which must still be there afterwards, and the next run goes well.
+TEST_F(BackupEngine, SaysWhichStageFailed)
+{
+    const QString missing = u"/nowhere/tool"_qs;
+    using Make = std::function<QString()>;
+    const Make real;
+    const auto fake = [this](const std::string &mark, const std::string &body) {
+        return [this, mark, body] { return fakeRar(mark, body); };
+    };
+    const auto front = [this](const std::string &body) { return [this, body] { return fakeOpenSsl(body); }; };
+    const std::string stored = "\n   RAR 1st OK - SOURCE\n";
+    const fs::path source = sample("docs");
+    struct Case {
+        Make rar, openssl;
+        std::string console; ///< all but its beginning and its end
+        QString reason;
+    };
+    for (const auto &[rar, openssl, console, reason] : std::vector<Case>{
+             {fake(atFirst, "printf 'warning: odd\\nand more'"), real,
+              "\n   RAR 1st ERROR - SOURCE\nwarning: odd\nand more", u"RAR 1st: warning: odd"_qs},
+             {fake(atFirst, "printf 'caf\\351'"), real, "\n   RAR 1st ERROR - SOURCE\n", u"not readable"_qs},
+             {[&] { return missing; }, real,
+              "\n   RAR 1st ERROR - SOURCE\nCan't start \"/nowhere/tool\": No such file or directory. Choose "
+              "the tool's path on the Tools tab.\n",
+              u"No such file"_qs},
+             {real, front("echo bad magic >&2"), stored + "\n   Encoder ERROR - SOURCE",
+              u"docs.rar\" is left and is not encrypted"_qs},
+             {fake(atSecond, "echo oh"), real, stored + "\n   Encoder OK - SOURCE\n   RAR 2nd ERROR - SOURCE",
+              u"RAR 2nd: oh"_qs},
+             // Silence lets the later stages run, and the console stay empty; but nobody is told that all is
+             // well.
+             {fake(atFirst, "exit 1"), real, stored + "\n   Encoder ERROR - SOURCE",
+              u"Encoder: Can't open"_qs},
+             {fake(atFirst, "$real \"$@\"; exit 1"), real, "", u"RAR 1st: the tool ended with status 1"_qs},
+             {real, front("$real \"$@\"; exit 1"), "", u"Encoder: the tool ended with status 1"_qs},
+             {fake(atSecond, "exit 1"), real, "", u"RAR 2nd: the tool ended with status 1"_qs},
+             {fake(atSecond, "exit 0"), real, "", u"RAR 2nd: the tool said nothing, and did not make"_qs},
+             {fake(atSecond, "$real \"$@\"; exit 1"), real, "", u"RAR 2nd: the tool ended with status 1"_qs},
+         }) {
+        SCOPED_TRACE(reason.toStdString() + " | " + console);
+        backUp({source});
+        expectSuccess();
+        const std::string former = readFile(archives / "docs.rar.aes.rar");
+        BackupOrder order = backupOrder({source});
+        if (rar) order.archiver = rar();
+        if (openssl) order.encoder = openssl();
+        run(std::move(order));
+        const std::string shown = monitor->console.replace(text(source), u"SOURCE"_qs).toStdString();
+        const bool isSilent = console.empty();
+        const std::string whole = "\nSTART processing fileSOURCE" + console + "\n *** ERROR! *** SOURCE";
+        EXPECT_EQ(shown, isSilent ? "" : whole);
+        EXPECT_EQ(monitor->state.foldersDone(), isSilent ? 1 : 0);
+        EXPECT_EQ(monitor->record.outcome, Outcome::Failed);
+        EXPECT_EQ(monitor->record.items.first().outcome, Outcome::Failed);
+        EXPECT_TRUE(QString::fromStdString(summary()).startsWith(u"Failed: "_qs)) << summary();
+        EXPECT_TRUE(QString::fromStdString(summary()).contains(reason)) << summary();
+        EXPECT_EQ(readFile(archives / "docs.rar.aes.rar"), former) << namesIn(archives);
+    }
+    backUp({source});
+    expectSuccess();
+    EXPECT_EQ(namesIn(archives), "docs.rar.aes.rar") << "what failed runs left is known and goes";
+}
+
+TEST_F(BackupEngine, AFailureStopsTheOthers)
+{
+    Paths sources;
+    for (int i = 0; i < 4 * workerLimit(); ++i)
+        sources.push_back(sample("folder" + std::to_string(i)));
+    BackupOrder order = backupOrder(sources);
+    order.archiver = fakeRar(atFirst, "echo no");
+    run(std::move(order));
+    EXPECT_LE(monitor->console.count(u"START processing"_qs), workerLimit());
+
+    backUp(sources);
+    expectSuccess();
+    EXPECT_EQ(monitor->state.foldersDone(), double(sources.size()));
+    EXPECT_TRUE(monitor->most > 0 && monitor->most <= workerLimit()) << monitor->most;
+}
+
+TEST_F(BackupEngine, CountsEachEntryOnceAndTellsThemApart)
+{
+    const fs::path one = sample("one/docs", "first");
+    const fs::path two = sample("two/docs", "second");
+    const fs::path pipe = folder / "pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    backUp({one, two, one, folder / "gone", pipe});
+    EXPECT_EQ(monitor->state.foldersToDo(), 5);
+    EXPECT_EQ(monitor->state.foldersDone(), 3);
+    EXPECT_EQ(namesIn(archives), "docs-0.rar.aes.rar\ndocs-1.rar.aes.rar");
+    EXPECT_EQ(monitor->console, QString());
+    QList<Outcome> outcomes;
+    for (const ItemRecord &item : monitor->record.items)
+        outcomes.append(item.outcome);
+    using enum Outcome;
+    EXPECT_EQ(outcomes, (QList{Succeeded, Succeeded, Succeeded, Skipped, Skipped}));
+    EXPECT_EQ(monitor->record.outcome, Failed);
+    for (const char *word : {"Backed up 3 of 5", "gone", "pipe"})
+        EXPECT_NE(summary().find(word), std::string::npos) << summary();
+    extract({archives / "docs-0.rar.aes.rar", archives / "docs-1.rar.aes.rar"});
+    EXPECT_EQ(readFile(extracted(one) / "file") + readFile(extracted(two) / "file"), "firstsecond");
+}
+
+// In a folder that others may write to, nothing is written through what they put there.
+TEST_F(BackupEngine, WritesThroughNothingThatWasPlanted)
+{
+    const fs::path source = sample("docs");
+    const fs::path victim = folder / "victim";
+    const std::string stored = archives / "docs.rar";
+    const std::string encrypted = stored + ".aes";
+    const std::string link = "ln -s " + victim.string() + " ";
+    struct Case {
+        std::string rar;      ///< done while the first pass ends
+        std::string openssl;  ///< done while the encoder ends
+        const char *sentence; ///< of the failure; null: the archive is made
+        const char *left;     ///< beside it, afterwards
+    };
+    for (const Case &c : {
+             Case{link + encrypted, "", nullptr, "docs.rar.aes.rar\nkept-docs.rar.aes"},
+             Case{"mkfifo " + encrypted, "", nullptr, "docs.rar.aes.rar\nkept-docs.rar.aes"},
+             Case{"cp " + victim.string() + " " + encrypted, "", nullptr,
+                  "docs.rar.aes.rar\nkept-docs.rar.aes"},
+             Case{"", link + encrypted + ".rar", nullptr, "docs.rar.aes.rar"},
+             Case{"",
+                  "mv " + stored + " " + (folder / "moved").string() + "; cp " + victim.string() + " " +
+                      stored,
+                  nullptr, "docs.rar\ndocs.rar.aes.rar"},
+             Case{"mkdir " + encrypted, "", "docs.rar.aes\" is a folder", nullptr},
+             Case{"rm " + stored + "; " + link + stored, "", "docs.rar\" has been replaced by a link",
+                  nullptr},
+             Case{"rm " + stored + "; mkfifo " + stored, "", "docs.rar\" has been replaced by a pipe",
+                  nullptr},
+             Case{"", "rm " + encrypted + "; " + link + encrypted, "aes\" has been replaced by a link",
+                  nullptr},
+         }) {
+        SCOPED_TRACE(c.rar + c.openssl);
+        fs::remove_all(archives);
+        fs::create_directories(archives);
+        writeFile(victim, "the user's own");
+        BackupOrder order = backupOrder({source});
+        order.archiver = fakeRar(atFirst, "$real \"$@\"; " + c.rar);
+        order.encoder = fakeOpenSsl("$real \"$@\"; " + c.openssl);
+        run(std::move(order));
+        EXPECT_EQ(readFile(victim), "the user's own");
+        EXPECT_EQ(monitor->record.outcome, c.sentence ? Outcome::Failed : Outcome::Succeeded) << summary();
+        EXPECT_TRUE(!c.sentence || summary().find(c.sentence) != std::string::npos) << summary();
+        EXPECT_TRUE(!c.left || namesIn(archives) == c.left) << namesIn(archives);
+    }
+}

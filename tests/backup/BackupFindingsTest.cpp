@@ -1,0 +1,125 @@
+#include "EngineRun.h"
+
+#include "Credentials.h"
+
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class BackupFindings : public EngineTest {
+protected:
+    /// Looks at a backup of `docs`, after it was changed. What was found, obstacles as "! …", in lines.
+    QString look(const std::function<void(BackupOrder &)> &change)
+    {
+        BackupOrder order = backupOrder({docs});
+        change(order);
+        FolderLock lock;
+        const Findings found = lookAtBackup(order, lock, [] { return true; });
+        QStringList lines = found.concerns;
+        for (const QString &obstacle : found.obstacles)
+            lines.append(u"! "_qs + obstacle);
+        if (!found.overwrites.isEmpty()) lines.append(u"? "_qs + found.overwrites);
+        return lines.join(u'\n');
+    }
+
+    const fs::path docs = sample("docs");
+};
+
+} // namespace
+
+// "!" is an obstacle, "?" asks whether what is there may be replaced, anything else is a concern.
+TEST_F(BackupFindings, TellWhatIsWrongAndWhatToDo)
+{
+    const auto [certificate, key] = makeCredentials(folder, "rsa");
+    runOpenSsl(folder, "ecparam -name prime256v1 -genkey -noout -out ec-key.pem");
+    runOpenSsl(folder, "req -x509 -new -key ec-key.pem -subj /CN=ec -out ec.pem");
+    fs::create_directory_symlink(docs, folder / "link");
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+    const auto by = [this](const std::string &name) {
+        return [this, name](BackupOrder &o) { o.byCertificate = true, o.certificate = text(folder / name); };
+    };
+    const auto password = [](const QString &secret) {
+        return [secret](BackupOrder &o) { o.password = Secret::fromText(secret); };
+    };
+    const auto volumes = [](const QString &size) {
+        return [size](BackupOrder &o) { o.split = u"-v"_qs + size, o.volumeSize = size; };
+    };
+    const auto sources = [this](const Paths &paths) {
+        return [this, paths](BackupOrder &o) { o = backupOrder(paths); };
+    };
+    const auto there = [this](const std::string &name) {
+        return [this, name](BackupOrder &) { writeFile(archives / name, "x"); };
+    };
+    struct Case {
+        std::function<void(BackupOrder &)> change;
+        QString expected; ///< "sign|a part|another part"; empty: nothing is found
+    };
+    for (const Case &c : std::vector<Case>{
+             {[](BackupOrder &) {}, {}},
+             {[](BackupOrder &o) { o.destination = u"/no/such"_qs; }, u"!|/no/such|does not exist"_qs},
+             {[](BackupOrder &o) { o.archiveExtension.clear(); }, u"!|\"RAR\""_qs},
+             {[](BackupOrder &o) { o.methodExtension.clear(); }, u"!|OpenSSL-AES"_qs},
+             {[](BackupOrder &o) { o.cipher.clear(); }, u"!|encparam"_qs},
+             {[](BackupOrder &o) { o.archiver.clear(); }, u"!|path of the archiver"_qs},
+             {[](BackupOrder &o) { o.encoder.clear(); }, u"!|path of the OpenSSL tool"_qs},
+             {password({}), u"!|password"_qs},
+             {password(u"a\nb"_qs), u"!|line break"_qs},
+             {password(u"a"_qs + QChar(0)), u"!|password"_qs},
+             {password(QString(1024, u'x')), u"!|1023"_qs},
+             {password(QString(1023, u'x')), {}},
+             {by("rsa.pem"), {}},
+             {by("gone.pem"), u"!|gone.pem"_qs},
+             {by("rsa-key.pem"), u"!|rsa-key.pem"_qs},
+             {by("ec.pem"), u"!|ec.pem|RSA"_qs},
+             {volumes(u"many"_qs), u"!|\"many\""_qs},
+             {volumes(u"0"_qs), u"!|\"0\""_qs},
+             {volumes(u"1"_qs), {}},
+             {sources({folder / "a/x", folder / "b/x", folder / "c/x-1"}), u"!|x-1|both need"_qs},
+             {sources({folder / "x.rar.aes", folder / "x"}), u"!|both need|x.rar.aes"_qs},
+             {sources({docs, archives / "docs.rar"}), u"!|is on the list|docs.rar"_qs},
+             {sources({folder / std::string(240, 'x')}), u"!|too long"_qs},
+             {sources({docs, folder / "gone"}), u"|gone\" is not there"_qs},
+             {sources({folder / "link"}), u"|only the link itself"_qs},
+             {sources({folder / "link/"}), {}},
+             {sources({docs, folder / "pipe"}), u"|pipe\" is a pipe"_qs},
+             {sources({docs, docs}), u"|more than once"_qs},
+             {sources({folder}), u"|lies in"_qs},
+             {there("docs.rar"), u"|docs.rar\"|kept-docs.rar"_qs},
+             {there("docs.rar.aes/x"), u"|is a folder|Rename it"_qs},
+             {there("docs.rar.aes.part2.rar"), u"?|docs.rar.aes.part2.rar|replaced"_qs},
+             {there("holiday.jpg"), u"?|not empty|stays as it is"_qs},
+         }) {
+        fs::remove_all(archives);
+        fs::create_directories(archives);
+        const QString found = look(c.change);
+        SCOPED_TRACE((c.expected + u" in: "_qs + found).toStdString());
+        const QStringList parts = c.expected.split(u'|');
+        EXPECT_EQ(found.isEmpty(), c.expected.isEmpty());
+        EXPECT_TRUE(found.isEmpty() || found.startsWith(parts.first()));
+        EXPECT_EQ(found.startsWith(u'!'), parts.first() == u"!");
+        for (const QString &part : parts.mid(1))
+            EXPECT_TRUE(found.contains(part)) << qPrintable(part);
+    }
+}
+
+TEST_F(BackupFindings, KeepRunsApart)
+{
+    // A tool that was left running holds the folder, though its program is gone.
+    pid_t tool = 0;
+    {
+        const FolderLock held = FolderLock::take(text(archives));
+        tool = fork();
+        if (tool == 0) pause(), _exit(0);
+    }
+    EXPECT_TRUE(look([](BackupOrder &) {}).startsWith(u"! Another run"_qs));
+    kill(tool, SIGKILL);
+    waitpid(tool, nullptr, 0);
+    EXPECT_EQ(look([](BackupOrder &) {}), QString());
+    fs::remove_all(folder / "state");
+    writeFile(folder / "state", "no folder");
+    EXPECT_TRUE(look([](BackupOrder &) {}).contains(u"No record of the run can be kept"));
+}

@@ -1,0 +1,285 @@
+#include "EngineRun.h"
+#include "TestProgram.h"
+
+#include "keychain/Keychain.h"
+#include "runs/Run.h"
+#include "tools/ToolRun.h"
+
+#include <csignal>
+#include <thread>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Answers when it is told to, and holds one password.
+class SlowKeychain : public Keychain {
+public:
+    std::atomic<bool> answers = false;
+    std::atomic<bool> knows = true;
+
+    KeychainAnswer findGenericPassword(const GenericPasswordKey &) override
+    {
+        while (!answers)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        if (!knows) return {KeychainStatus::ItemNotFound};
+        return {KeychainStatus::Success, std::make_shared<KeychainItemReference>(),
+                Secret::fromText(u"correct horse"_qs)};
+    }
+    KeychainAnswer findInternetPassword(const InternetPasswordKey &) override { return {}; }
+    KeychainAnswer addGenericPassword(const GenericPasswordKey &, Secret) override { return {}; }
+    KeychainAnswer addInternetPassword(const InternetPasswordKey &, Secret) override { return {}; }
+    KeychainStatus modifyAttributesAndData(const KeychainItemHandle &, const QList<KeychainAttribute> &,
+                                           std::optional<Secret>) override
+    {
+        return KeychainStatus::Refused;
+    }
+    KeychainStatus deleteItem(const KeychainItemHandle &) override { return KeychainStatus::Refused; }
+    KeychainStatus lock() override { return KeychainStatus::Refused; }
+    KeychainStatus unlock() override { return KeychainStatus::Refused; }
+    void giveUp() override { answers = true; }
+};
+
+/// The program with a profile of one folder; the engines bring back what it makes.
+class BackupStart : public EngineTest {
+protected:
+    BackupStart()
+    {
+        program.start();
+        program.setUpBackup({toQString(docs)});
+        delegate.checkBox04.setOn(false);
+        setKeychain(slow);
+    }
+
+    [[nodiscard]] std::string made() const { return namesIn(program.folder() / "archives"); }
+
+    void fetchFromKeychain()
+    {
+        delegate.passCombo01.selectIndex(PasswordTab::KeychainPassword);
+        delegate.keychainUser.setText(u"anna"_qs);
+        delegate.passButton01Action();
+    }
+
+    void switchProfile()
+    {
+        delegate.listPlist().setValue(u"other"_qs, delegate.defaultProfile());
+        delegate.setterCurrentProfile(u"other"_qs);
+    }
+
+    /// A tool that waits until `go` is there, once it has said that it runs.
+    [[nodiscard]] QString gate(const QString &tool) const
+    {
+        return writeScript(folder / "gate", ": > " + here.string() + "; until [ -e " + go.string() +
+                                                " ]; do sleep 0.01; done; exec " + tool.toStdString() +
+                                                " \"$@\"");
+    }
+
+    TestProgram program;
+    QuillorentAppDelegate &delegate = program.delegate();
+    const std::shared_ptr<SlowKeychain> slow = std::make_shared<SlowKeychain>();
+    const fs::path docs = sample("docs", "content");
+    const fs::path here = folder / "here";
+    const fs::path go = folder / "go";
+};
+
+} // namespace
+
+// What is clicked, typed or answered while a stage runs comes too late for this run.
+TEST_F(BackupStart, NothingReachesARunThatHasBegun)
+{
+    QStringList sources{toQString(docs)};
+    Paths made{program.folder() / "archives/docs.rar.aes.rar"};
+    for (int i = 0; i < workerLimit(); ++i) {
+        const std::string name = "more" + std::to_string(i);
+        sources.append(toQString(sample(name)));
+        made.push_back(program.folder() / "archives" / (name + ".rar.aes.rar"));
+    }
+    const QString profile = delegate.currentProfile();
+    slow->answers = true;
+    for (const auto &[isFetched, tool] : {std::pair{false, realRar}, {true, realOpenSsl}}) {
+        SCOPED_TRACE(tool.toStdString());
+        for (const fs::path &path : {here, go, out})
+            fs::remove_all(path);
+        fs::create_directories(out);
+        delegate.setterCurrentProfile(profile);
+        delegate.currentRecord().array(u"folders"_qs).clear();
+        program.setUpBackup(sources);
+        delegate.checkBox04.setOn(false);
+        delegate.currentRecord().setValue(u"symencryption"_qs, u"OpenSSL-AES");
+        program.useTool(u"RAR"_qs, realRar.toStdString());
+        program.useTool(tool == realRar ? u"RAR"_qs : u"OpenSSL"_qs, gate(tool).toStdString());
+        const auto fetch = [&](bool isKnown) {
+            slow->knows = isKnown;
+            fetchFromKeychain();
+            return TestProgram::waitUntil([&] { return !delegate.keychainIndicator01.isAnimating(); });
+        };
+        ASSERT_TRUE(!isFetched || fetch(true));
+        delegate.buttonLaunch01b();
+        ASSERT_TRUE(TestProgram::waitUntil([&] { return fs::exists(here); }));
+
+        ASSERT_TRUE(fetch(false)); // the answer empties the field
+        delegate.secureText01a.setText({});
+        program.useTool(u"RAR"_qs, "/nowhere/rar");
+        program.useTool(u"OpenSSL"_qs, "/nowhere/openssl");
+        delegate.currentRecord().setValue(u"symencryption"_qs, u"OpenSSL-BF");
+        delegate.prefStepper01Action(u"none"_qs);
+        delegate.checkBox04.setOn(true);
+        delegate.currentRecord().setValue(u"path"_qs, u"/nowhere");
+        delegate.addFolders({u"/nowhere"_qs});
+        delegate.buttonLaunch01b();
+        switchProfile();
+        writeFile(go, "");
+        program.waitForEnd();
+        const QString count = QString::number(sources.size());
+        EXPECT_TRUE(delegate.outputText01.text().startsWith(u"Backed up %1 of %1 "_qs.arg(count)));
+        extract(made);
+        expectSuccess();
+    }
+}
+
+TEST_F(BackupStart, AwaitsTheKeychain)
+{
+    for (const bool isSwitched : {true, false}) {
+        slow->answers = false;
+        const auto profile = delegate.currentProfile();
+        fetchFromKeychain();
+        delegate.buttonLaunch01b();
+        EXPECT_TRUE(delegate.isRunActive());
+        EXPECT_EQ(made(), "");
+        if (isSwitched) switchProfile();
+        slow->answers = true;
+        program.waitForEnd();
+        EXPECT_EQ(made(), isSwitched ? "" : "docs.rar.aes.rar");
+        delegate.setterCurrentProfile(profile);
+    }
+    extract({program.folder() / "archives/docs.rar.aes.rar"});
+    expectSuccess();
+
+    fs::remove(program.folder() / "archives/docs.rar.aes.rar");
+    slow->knows = false;
+    fetchFromKeychain();
+    delegate.buttonLaunch01b();
+    program.waitForEnd();
+    EXPECT_TRUE(program.lastWarning().contains(u"No password was fetched"))
+        << qPrintable(program.lastWarning());
+    EXPECT_EQ(made(), "");
+}
+
+TEST_F(BackupStart, ACancelIsNeverLost)
+{
+    program.useTool(u"RAR"_qs, writeScript(folder / "rar", ": > " + here.string()).toStdString());
+    for (int attempt = 0; attempt < 50; ++attempt) {
+        delegate.buttonLaunch01();
+        // A little later each time, up to where the sheet is there and the sizes are measured.
+        std::this_thread::sleep_for(std::chrono::microseconds(200 * attempt));
+        delegate.buttonKill01(delegate.buttonCancel01);
+        program.waitForEnd();
+        ASSERT_FALSE(fs::exists(here)) << attempt;
+        ASSERT_TRUE(delegate.outputText01.text().startsWith(u"Cancelled"));
+        ASSERT_EQ(delegate.lastRecord().outcome, Outcome::Cancelled);
+        ASSERT_EQ(delegate.progressPanel01.place(), outlets::Panel::Place::Hidden);
+    }
+}
+
+TEST_F(BackupStart, TellsWhichToolsOfAFailedRunStillWork)
+{
+    if (workerLimit() < 2) GTEST_SKIP() << "nothing runs side by side here";
+    delegate.addFolders({toQString(sample("bad"))});
+    const std::string pid = here.string();
+    program.useTool(u"RAR"_qs,
+                    writeScript(folder / "rar", "case \"$*\" in *docs) echo $$ > " + pid + ".new; mv " + pid +
+                                                    ".new " + pid + "; exec sleep 1000;; esac; until [ -e " +
+                                                    pid + " ]; do sleep 0.01; done; echo no")
+                        .toStdString());
+    delegate.buttonLaunch01b();
+    ASSERT_TRUE(TestProgram::waitUntil([&] { return !delegate.toolsText01.text().isEmpty(); }));
+    EXPECT_EQ(delegate.toolsText01.text(), u"Still at work: docs (storing)."_qs);
+    EXPECT_FALSE(delegate.toolsText01.isHidden() || delegate.toolsCancel01.isHidden());
+    EXPECT_EQ(delegate.progressPanel01.place(), outlets::Panel::Place::Hidden);
+    EXPECT_EQ(delegate.consolePanel01.place(), outlets::Panel::Place::Window);
+    EXPECT_TRUE(delegate.isRunActive()) << "another run would write the same files";
+    const int process = std::stoi(readFile(here));
+    delegate.toolsCancel01Action();
+    program.waitForEnd();
+    EXPECT_NE(kill(process, 0), 0);
+    EXPECT_EQ(toolsRunning(), 0);
+    EXPECT_TRUE(delegate.toolsText01.isHidden() && delegate.toolsCancel01.isHidden());
+    EXPECT_TRUE(delegate.outputText01.text().endsWith(u"RAR 1st: no"_qs)) << "not \"Cancelled\"";
+}
+
+TEST_F(BackupStart, NamesWhatIsLeftInClear)
+{
+    writeFile(program.folder() / "archives/own.rar", "the user's own");
+    program.useTool(u"OpenSSL"_qs, writeScript(folder / "openssl", "echo no").toStdString());
+    delegate.buttonLaunch01b();
+    program.waitForEnd();
+    const QString left = program.path("archives/docs.rar");
+    for (int start = 0; start < 2; ++start) {
+        EXPECT_TRUE(delegate.clearText01.text().endsWith(u": "_qs + left));
+        EXPECT_FALSE(delegate.clearText01.isHidden() || delegate.clearRemove01.isHidden());
+        delegate.clearText01.setText({});
+        program.start();
+    }
+    delegate.clearRemove01Action();
+    ASSERT_TRUE(TestProgram::waitUntil([&] { return delegate.clearText01.isHidden(); }));
+    EXPECT_TRUE(delegate.clearRemove01.isHidden());
+    EXPECT_EQ(made(), "own.rar");
+}
+
+TEST_F(BackupStart, SaysWhatIsMissingAndAsks)
+{
+    struct Case {
+        QString said;
+        std::function<void()> spoil;
+    };
+    for (const auto &[said, spoil] : std::vector<Case>{
+             {u"not this profile's own"_qs, [&] { delegate.currentRecord().remove(u"path"_qs); }},
+             {u"No destination"_qs, [&] { delegate.fileText01.setText({}); }},
+             {u"no folders"_qs, [&] { delegate.currentRecord().array(u"folders"_qs).clear(); }},
+             {u"password"_qs, [&] { delegate.secureText01a.setText({}); }},
+             {u"certificate"_qs, [&] { delegate.passCombo01.selectIndex(PasswordTab::Certificate); }},
+         }) {
+        program.setUpBackup({toQString(docs)});
+        spoil();
+        delegate.buttonLaunch01();
+        program.waitForEnd();
+        EXPECT_TRUE(program.lastWarning().contains(said)) << qPrintable(program.lastWarning());
+        EXPECT_EQ(made(), "");
+    }
+    program.setUpBackup({toQString(docs)});
+    writeFile(program.folder() / "archives/holiday.jpg", "x");
+    for (const bool goesOn : {false, true}) {
+        delegate.warningPanel03.observe([&] {
+            if (delegate.warningPanel03.place() == outlets::Panel::Place::Hidden) return;
+            EXPECT_EQ(delegate.folderNotEmptyText02.text(), program.path("archives"));
+            EXPECT_TRUE(delegate.overwritesText02.text().contains(u"What is there stays"));
+            goesOn ? delegate.buttonLaunch01b() : delegate.buttonLaunch01Stop();
+        });
+        delegate.buttonLaunch01();
+        program.waitForEnd();
+        EXPECT_EQ(made(), goesOn ? "docs.rar.aes.rar\nholiday.jpg" : "holiday.jpg");
+    }
+}
+
+TEST_F(BackupStart, ListsFoldersAndTheDestination)
+{
+    const auto rows = [&] { return delegate.currentRecord().array(u"folders"_qs).strings().join(u'|'); };
+    delegate.currentRecord().array(u"folders"_qs).clear();
+    for (const bool isCancelled : {false, true}) {
+        delegate.openPanel = [&](const outlets::OpenPanel &panel) -> std::optional<QStringList> {
+            EXPECT_TRUE(panel.canChooseDirectories && panel.allowsMultipleSelection == panel.canChooseFiles);
+            if (isCancelled) return std::nullopt;
+            return panel.canChooseFiles ? QStringList{u"/a"_qs, u"/b"_qs, u"/a"_qs} : QStringList{u"/d"_qs};
+        };
+        delegate.folderButton01Action();
+        delegate.fileButton01Action();
+        delegate.folderButton02Action(); // nothing is selected
+        EXPECT_EQ(rows(), u"/a|/b|/a");
+    }
+    delegate.listTableView.setSelectedRows({0});
+    delegate.folderButton02Action();
+    EXPECT_EQ(rows(), u"/b|/a");
+    EXPECT_EQ(delegate.listTableView.dataSource()->objectValue(u"c10"_qs, 0), u"/b"_qs);
+    EXPECT_EQ(delegate.fileText01.text(), u"/d"_qs);
+    EXPECT_EQ(delegate.currentRecord().string(u"path"_qs), u"/d"_qs);
+}

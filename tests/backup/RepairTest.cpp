@@ -1,0 +1,209 @@
+#include "EngineRun.h"
+
+#include "runs/Aftermath.h"
+
+#include <climits>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class Repair : public EngineTest {
+protected:
+    /// The record that a backup of `docs` leaves when it is killed while it packs.
+    void writeKilledRecord(const QList<Aside> &former, const QDateTime &packingSince)
+    {
+        RunJournal({.kind = u"backup"_qs,
+                    .folder = text(archives),
+                    .began = packingSince,
+                    .items = {{.path = text(docs),
+                               .between = {text(archives / "docs.rar"), text(archives / "docs.rar.aes")},
+                               .clear = text(archives / "docs.rar"),
+                               .former = former,
+                               .final = {text(archives / "docs.rar.aes.rar")},
+                               .packingSince = packingSince}}})
+            .change([](RunRecord &) {});
+    }
+
+    const fs::path docs = sample("docs");
+    const QString final = text(archives / "docs.rar.aes.rar");
+};
+
+std::map<std::string, std::string> contents(const fs::path &folder)
+{
+    std::map<std::string, std::string> files;
+    for (const auto &entry : fs::directory_iterator(folder))
+        files[entry.path().filename()] = readFile(entry.path());
+    return files;
+}
+
+/// How far a run had come when it was killed.
+enum class Killed {
+    BeforeLinks,
+    HalfLinked,
+    Linked,
+    HalfUnlinked,
+    Unlinked,
+    HalfNew,
+    AllNew,
+    HalfDropped,
+    HalfBack
+};
+
+} // namespace
+
+// Whatever moment it was killed at, the former set or the new one is whole, for whoever comes first.
+TEST_F(Repair, FindsTheFormerArchiveOrTheNewOneWhole)
+{
+    using enum Killed;
+    for (const int volume : {0, 100}) {
+        for (const char *kind : {"old", "new"}) {
+            writeFile(docs / "file", randomBytes(250'000, kind == std::string("new")));
+            backUp({docs}, volume);
+            expectSuccess();
+            fs::rename(archives, folder / kind);
+            fs::create_directories(archives);
+        }
+        for (const Killed moment : {BeforeLinks, HalfLinked, Linked, HalfUnlinked, Unlinked, HalfNew, AllNew,
+                                    HalfDropped, HalfBack})
+            for (const bool byBackup : {true, false}) {
+                if (!volume && moment == HalfNew) continue;
+                SCOPED_TRACE(std::to_string(int(moment)) + (volume ? " split" : " whole") +
+                             (byBackup ? " backup" : " extraction"));
+                for (const fs::path &path : {archives, folder / "state"})
+                    fs::remove_all(path);
+                fs::copy(folder / "old", archives);
+                const QList<Aside> plan = *planAside(filesOfArchive(final), u"former"_qs);
+                writeKilledRecord(plan, QDateTime::currentDateTimeUtc());
+                for (const Aside &aside : plan) {
+                    const fs::path from = aside.from.toStdString();
+                    const fs::path to = aside.to.toStdString();
+                    // Half of it: the first file alone.
+                    const auto isDone = [&](Killed all, Killed half) {
+                        return moment >= all || (moment >= half && aside == plan.first());
+                    };
+                    if (isDone(Linked, HalfLinked)) fs::create_hard_link(from, to);
+                    if (isDone(Unlinked, HalfUnlinked)) fs::remove(from);
+                    if (moment == HalfBack && aside == plan.first()) fs::rename(to, from);
+                    if (moment == HalfBack) continue;
+                    if (isDone(AllNew, HalfNew)) fs::copy_file(folder / "new" / from.filename(), from);
+                    if (moment == HalfDropped && aside == plan.first()) fs::remove(to);
+                }
+                FolderLock lock;
+                BackupOrder backup = backupOrder({docs}, volume);
+                ExtractOrder extraction = extractOrder({(final).toStdString()});
+                const Findings found = byBackup ? lookAtBackup(backup, lock, [] { return true; })
+                                                : lookAtExtraction(extraction, lock);
+                EXPECT_TRUE(found.obstacles.isEmpty());
+                const bool isNew = moment == AllNew || moment == HalfDropped;
+                EXPECT_TRUE(contents(archives) == contents(folder / (isNew ? "new" : "old")))
+                    << namesIn(archives);
+            }
+        for (const char *kind : {"old", "new"})
+            fs::remove_all(folder / kind);
+    }
+}
+
+TEST_F(Repair, TheRecordIsThereFromTheFirstToolOnAndHoldsNoSecret)
+{
+    const fs::path other = sample("other");
+    const std::string copy =
+        "cp " + (folder / "state/quillorent/runs").string() + "/*.json " + folder.string();
+    BackupOrder order = backupOrder({docs, other});
+    order.archiver =
+        writeScript(folder / "rar", "[ -e " + (folder / "seen").string() + " ] || " + copy + " && : > " +
+                                        (folder / "seen").string() + "; case \"$*\" in *-m5*other*) " + copy +
+                                        ";; esac; exec " + realRar.toStdString() + " \"$@\"");
+    run(std::move(order));
+    expectSuccess();
+    const QString name = QDir(text(folder)).entryList({u"*.json"_qs}).value(0);
+    const auto during = recordFromJson(QByteArray::fromStdString(readFile(folder / name.toStdString())));
+    ASSERT_TRUE(during && during->items.size() == 2);
+    EXPECT_FALSE(during->ended.isValid());
+    EXPECT_FALSE(during->items[1].between.isEmpty());
+
+    ASSERT_EQ(keptRecords().size(), 1);
+    const QByteArray json = QByteArray::fromStdString(readFile(keptRecords().first().path.toStdString()));
+    EXPECT_FALSE(json.contains("correct horse"));
+    EXPECT_EQ(toJson(keptRecords().first().record), json) << "nothing is lost by reading it";
+    const RunRecord record = keptRecords().first().record;
+    EXPECT_EQ(record.outcome, Outcome::Succeeded);
+    EXPECT_TRUE(record.summary.startsWith(u"Backed up 2 of 2"));
+    EXPECT_EQ(record.items[0].archives, QStringList{text(archives / "docs.rar.aes.rar")});
+    EXPECT_EQ(record.items[0].bytes, 1U);
+    EXPECT_TRUE(record.items[0].left.isEmpty());
+}
+
+TEST_F(Repair, OldRecordsGoUnlessTheyAreNeeded)
+{
+    writeFile(archives / "left", "x");
+    for (int i = 0; i < 210; ++i) {
+        RunRecord record{.kind = u"backup"_qs, .folder = text(archives)};
+        record.began = QDateTime::fromSecsSinceEpoch(1'000'000 + i).toUTC();
+        if (i != 3) record.ended = record.began;
+        if (i == 4) record.items = {{.path = u"x"_qs, .left = {{text(archives / "left"), true}}}};
+        RunJournal(record).change([](RunRecord &) {});
+    }
+    writeFile(fs::path(recordsFolder().toStdString()) / "0.json", "no record");
+    const QList<KeptRecord> kept = keptRecords();
+    EXPECT_EQ(kept.size(), 200);
+    EXPECT_FALSE(kept[0].record.ended.isValid());
+    EXPECT_EQ(kept[1].record.items.size(), 1);
+    EXPECT_EQ(keptRecords().size(), 200);
+}
+
+// What lay there before the run came to its name is the user's, even where the run ended badly.
+TEST_F(Repair, NeverTakesTheUsersFilesForLeftOnes)
+{
+    writeFile(archives / "docs.rar.aes", "the user's own");
+    const QString failing = writeScript(folder / "rar", "echo no");
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        BackupOrder order = backupOrder({docs});
+        order.archiver = failing;
+        run(std::move(order));
+        EXPECT_EQ(findings.concerns.size(), 1) << "it is still no run's";
+    }
+    backUp({docs});
+    EXPECT_EQ(readFile(archives / "kept-docs.rar.aes"), "the user's own");
+    EXPECT_NE(summary().find("is called"), std::string::npos) << summary();
+
+    writeFile(out / "docs.rar", "the user's own");
+    ExtractOrder order = extractOrder({archives / "docs.rar.aes.rar"});
+    const std::string killed = "cp -r " + (folder / "state").string() + " " + (folder / "killed").string();
+    order.archiver = writeScript(folder / "rar", "[ $1 = e ] && " + killed + " && echo no || exec " +
+                                                     realRar.toStdString() + " \"$@\"");
+    run(std::move(order));
+    qputenv("XDG_STATE_HOME", (folder / "killed").string().c_str());
+    aftermath::repair(text(out), [](const QString &) { return true; });
+    EXPECT_EQ(aftermath::leftInClear(), QStringList());
+    aftermath::removeLeftInClear();
+    EXPECT_EQ(readFile(out / "docs.rar"), "the user's own");
+}
+
+TEST_F(Repair, OtherNamesAreFreeAndShortEnough)
+{
+    const auto named = [this](const std::string &name) { return text(archives / name); };
+    const auto plan = [&](const QStringList &names) { return planAside(names, u"former"_qs); };
+    const QStringList set{named("a.part1.rar"), named("a.part2.rar")};
+    for (const QString &path : set)
+        writeFile(path.toStdString(), "old");
+    EXPECT_EQ(plan(set)->at(1).to, named("former-a.part2.rar"));
+    // One of them taken, by a dangling link: all get the next name, so that they stay one set.
+    fs::create_symlink("/nowhere", archives / "former-a.part2.rar");
+    const QList<Aside> aside = *plan(set);
+    EXPECT_EQ(aside[0].to, named("former-b-a.part1.rar"));
+    EXPECT_FALSE(plan({named(std::string(NAME_MAX - 3, 'x'))}));
+
+    writeFile(aside[1].to.toStdString(), "a newcomer");
+    EXPECT_NE(setAside(aside), QString());
+    EXPECT_EQ(readFile(aside[1].to.toStdString()), "a newcomer");
+    EXPECT_EQ(readFile(aside[0].from.toStdString()) + readFile(aside[1].from.toStdString()), "oldold");
+    fs::remove(aside[1].to.toStdString());
+    ASSERT_EQ(setAside(aside), QString());
+    writeFile(aside[0].from.toStdString(), "half a new one");
+    EXPECT_EQ(putBack(aside), QString());
+    EXPECT_EQ(namesIn(archives), "a.part1.rar\na.part2.rar\nformer-a.part2.rar");
+    EXPECT_EQ(readFile(aside[0].from.toStdString()), "old");
+}

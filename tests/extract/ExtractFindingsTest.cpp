@@ -1,0 +1,188 @@
+#include "EngineRun.h"
+#include "TestProgram.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class ExtractFindings : public EngineTest {
+protected:
+    const fs::path docs = sample("docs");
+    const fs::path archive = archives / "docs.rar.aes.rar";
+};
+
+} // namespace
+
+TEST(Room, IsEstimatedForThoseThatAreWorkedOnTogether)
+{
+    // 300 bytes: 400 of base64 with 300 of the inner archive, then 300 and the contents' 300.
+    EXPECT_EQ(roomNeeded({300}, 2), 700);
+    EXPECT_EQ(roomNeeded({300, 300}, 2), 1400);
+    EXPECT_EQ(roomNeeded({30, 300, 300}, 1), 630 + 400);
+}
+
+// "!" is an obstacle, "?" asks whether files may be overwritten, anything else is a concern.
+TEST_F(ExtractFindings, TellWhatIsWrongAndWhatToDo)
+{
+    backUp({docs});
+    const auto copy = [this](const fs::path &path) {
+        fs::create_directories(path.parent_path());
+        fs::copy_file(archive, path, fs::copy_options::overwrite_existing);
+        return path;
+    };
+    const fs::path unknown = copy(archives / "holiday.rar");
+    const fs::path other = copy(folder / "other/docs.rar.aes.rar");
+    const fs::path message = copy(archives / "docs.rar.smime.rar");
+    const fs::path inThere = out / "docs.rar";
+    const auto list = [this](const Paths &paths) {
+        return [this, paths](ExtractOrder &o) { o = extractOrder(paths); };
+    };
+    const auto there = [this](const std::string &name) {
+        return [this, name](ExtractOrder &) { writeFile(out / name, "mine"); };
+    };
+    struct Case {
+        std::function<void(ExtractOrder &)> change;
+        QStringList expected; ///< a part of each finding, in their order
+    };
+    for (const Case &c : std::vector<Case>{
+             {[](ExtractOrder &) {}, {}},
+             {[](ExtractOrder &o) { o.folder = u"/no/such"_qs; }, {u"!/no/such\" does not exist"_qs}},
+             {[&](ExtractOrder &o) {
+                  o = extractOrder({archive, copy(inThere)});
+              },
+              {u"!docs.rar\" is one of the archives"_qs, u"!comes out of"_qs}},
+             {[&](ExtractOrder &o) { o.shown.append(text(copy(out / "docs.rar.aes.aes"))); },
+              {u"!docs.rar.aes.aes\" is one of the archives"_qs}},
+             {there("docs.rar"), {u"docs.rar\" is there, and its name"_qs, u"?not empty"_qs}},
+             {there("docs.rar.aes"), {u"docs.rar.aes\" is there"_qs, u"?not empty"_qs}},
+             {there("docs.rar.aes.aes"), {u"docs.rar.aes.aes\" is there"_qs, u"?not empty"_qs}},
+             {there("docs.rar.aes/x"), {u"is a folder"_qs, u"?not empty"_qs}},
+             {[&](ExtractOrder &o) {
+                  writeFile(out / "an edited fil\u00e9", "x"), o.asksBeforeReplacing = false;
+              },
+              {}},
+             {there("an edited fil\u00e9"), {u"?not empty"_qs}},
+             {[](ExtractOrder &o) { o.isCertificateChosen = true; }, {u"was encrypted by a password"_qs}},
+             {list({message}), {u"No private key"_qs, u"No certificate"_qs}},
+             {[&](ExtractOrder &o) {
+                  o = extractOrder({message});
+                  o.key = u"/no/key"_qs, o.certificate = text(message);
+              },
+              {u"\"/no/key\" can't be read"_qs}},
+             {list({unknown}), {u"does not tell how"_qs}},
+             {list({archive, other}),
+              {u"docs.rar.aes\" for a while"_qs, u"docs.rar\" for a while"_qs,
+               u"docs.rar.aes.aes\" for a while"_qs}},
+             {list({archive, folder / "gone.rar"}), {u"is not there any more"_qs}},
+             {list({archive, folder / "a.part2.rar", folder / "b.part3.rar"}),
+              {u"a.part2.rar"_qs, u"b.part3.rar"_qs}},
+         }) {
+        fs::remove_all(out);
+        fs::create_directories(out);
+        ExtractOrder order = extractOrder({archive});
+        c.change(order);
+        FolderLock lock;
+        const Findings found = lookAtExtraction(order, lock);
+        QStringList lines = found.concerns;
+        for (const QString &obstacle : found.obstacles)
+            lines.append(u'!' + obstacle);
+        if (!found.overwrites.isEmpty()) lines.append(u'?' + found.overwrites);
+        SCOPED_TRACE((c.expected.join(u'|') + u" in: "_qs + lines.join(u'\n')).toStdString());
+        ASSERT_EQ(lines.size(), c.expected.size());
+        for (qsizetype i = 0; i < lines.size(); ++i) {
+            const QString part = c.expected[i];
+            const bool hasSign = part.startsWith(u'!') || part.startsWith(u'?');
+            EXPECT_TRUE(lines[i].contains(hasSign ? part.mid(1) : part));
+            EXPECT_EQ(lines[i].startsWith(u'!') || lines[i].startsWith(u'?'), hasSign);
+            EXPECT_TRUE(!hasSign || lines[i][0] == part[0]);
+        }
+    }
+    const FolderLock held = FolderLock::take(text(out));
+    FolderLock lock;
+    ExtractOrder order = extractOrder({archive});
+    EXPECT_TRUE(lookAtExtraction(order, lock).obstacles.value(0).startsWith(u"Another run"));
+}
+
+// What is in the way of an extraction that goes on all the same stays, under another name.
+TEST_F(ExtractFindings, OverruledTheyCostNothing)
+{
+    backUp({docs});
+    for (const char *name : {"docs.rar", "docs.rar.aes", "docs.rar.aes.aes"})
+        writeFile(out / name, name);
+    extract({archive, archives / "later.part2.rar"});
+    EXPECT_EQ(monitor->console, QString());
+    EXPECT_EQ(monitor->record.outcome, Outcome::Failed) << "one was left out";
+    EXPECT_NE(summary().find("later.part2.rar"), std::string::npos) << summary();
+    for (const char *name : {"docs.rar", "docs.rar.aes", "docs.rar.aes.aes"})
+        EXPECT_EQ(readFile(out / ("kept-" + std::string(name))), name);
+    EXPECT_EQ(readFile(extracted(docs) / "file"), "x");
+    EXPECT_FALSE(fs::exists(out / "docs.rar"));
+}
+
+TEST_F(ExtractFindings, AreShownAndMayBeOverruled)
+{
+    backUp({docs});
+    const fs::path renamed = archives / "holiday.rar";
+    const fs::path cut = archives / "cut.rar.aes.rar";
+    for (const fs::path &copy : {renamed, cut})
+        fs::copy_file(archive, copy);
+    fs::resize_file(cut, 100);
+    writeFile(out / "other", "x");
+    TestProgram program;
+    program.start();
+    QuillorentAppDelegate &delegate = program.delegate();
+    QString asked;
+    bool goesOn = false;
+    const auto answer = [&](outlets::Panel &panel, const outlets::TextField &words, auto yes, auto no) {
+        panel.observe([&asked, &goesOn, &panel, &words, yes, no] {
+            if (panel.place() == outlets::Panel::Place::Hidden) return;
+            asked += words.text();
+            goesOn ? yes() : no();
+        });
+    };
+    answer(
+        delegate.warningPanel02, delegate.folderNotEmptyText01, [&] { delegate.buttonLaunch02b(); },
+        [&] { delegate.buttonLaunch02Stop(); });
+    answer(
+        delegate.concernsPanel01, delegate.concernsText01, [&] { delegate.concernsPanel01GoOn(); },
+        [&] { delegate.concernsPanel01Stop(); });
+    const auto close = [&] { delegate.stopProcess02b(); };
+    answer(delegate.extractPanel01, delegate.extractReasonText01, close, close);
+    struct Case {
+        fs::path listed;
+        QString said;
+        std::function<void()> spoil;
+        bool isOverruled = false;
+    };
+    for (const auto &[listed, said, spoil, isOverruled] : std::vector<Case>{
+             {archive, u"No extraction folder"_qs, [&] { delegate.extractPath.setText({}); }},
+             {archive, u"not this profile's own"_qs,
+              [&] { delegate.currentRecord().remove(u"extractpath"_qs); }},
+             {archive, u"No archives"_qs, [&] { delegate.extractButton03Action(); }},
+             {archive, u"No password"_qs, [&] { delegate.secureText01a.setText({}); }},
+             {archive, u"No certificate"_qs, [&] { delegate.passCombo01.selectIndex(2); }},
+             {archive, text(out), [] {}},
+             {archive, text(out), [] {}, true},
+             {renamed, u"does not tell how"_qs, [] {}},
+             {renamed, u"does not tell how"_qs, [] {}, true},
+             {cut, u"cut short"_qs, [] {}, true},
+         }) {
+        SCOPED_TRACE(said.toStdString());
+        fs::remove_all(out / docs.relative_path());
+        delegate.extractPath.setText(text(out));
+        delegate.currentRecord().setValue(u"extractpath"_qs, text(out));
+        delegate.secureText01a.setText(u"correct horse"_qs);
+        delegate.passCombo01.selectIndex(PasswordTab::TypedPassword);
+        delegate.extractButton03Action();
+        delegate.addArchives({text(listed)});
+        spoil();
+        asked.clear();
+        goesOn = isOverruled;
+        delegate.buttonLaunch02();
+        program.waitForEnd();
+        EXPECT_TRUE((asked.isEmpty() ? program.lastWarning() : asked).contains(said)) << qPrintable(asked);
+        const bool isExtracted = isOverruled && listed != cut;
+        EXPECT_EQ(fs::exists(extracted(docs) / "file"), isExtracted);
+        EXPECT_EQ(delegate.extractedFolder(), isExtracted ? text(out) : QString());
+    }
+}
