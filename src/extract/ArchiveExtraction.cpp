@@ -37,7 +37,7 @@ private:
     [[nodiscard]] ToolResult runDecoder();
     void unpackInner();
     [[nodiscard]] QStringList entriesOf(const QString &archive) const;
-    [[nodiscard]] QString folderForContents();
+    [[nodiscard]] QString folderForContents(const QStringList &entries);
 
     void judgeStage(FailedStage::Kind kind, const QString &line, const ToolResult &result, bool isMade,
                     const QString &product);
@@ -70,6 +70,18 @@ bool beginsAsArchive(const QString &path)
     QFile file(path);
     return whatIsAt(path) == Place::File && file.open(QIODevice::ReadOnly) &&
            file.read(6) == QByteArray("Rar!\x1a\x07", 6);
+}
+
+/// Whether some of an archive's entries have come into the folder. Names that the archiver prints otherwise
+/// than they are don't count against it, nor does an archive that it can't list.
+bool hasCome(const QStringList &entries, const QString &folder)
+{
+    constexpr qsizetype sample = 100;
+    const QStringList some =
+        entries.first(std::min(sample, entries.size())) + entries.mid(entries.size() - 1);
+    return entries.isEmpty() || std::any_of(some.begin(), some.end(), [&](const QString &entry) {
+               return whatIsAt(joined(folder, entry)) != Place::Nothing;
+           });
 }
 
 ArchiveExtraction::ArchiveExtraction(Run &run, const ExtractOrder &order, qsizetype index,
@@ -218,10 +230,9 @@ ToolResult ArchiveExtraction::runDecoder()
 
 /// The extraction folder; or one of the archive's own in it, where its entries would write over what another
 /// archive of this run has brought back.
-QString ArchiveExtraction::folderForContents()
+QString ArchiveExtraction::folderForContents(const QStringList &entries)
 {
-    if (m_order.items.size() < 2 || m_shared.names.claim(entriesOf(m_paths.paths.inner)))
-        return m_order.folder;
+    if (m_order.items.size() < 2 || m_shared.names.claim(entries)) return m_order.folder;
     const QString inner = lastPathComponent(m_paths.paths.inner);
     const QString name = inner.endsWith(u".rar"_qs) ? inner.chopped(4) : inner + u" contents"_qs;
     QString folder = joined(m_order.folder, name);
@@ -238,13 +249,14 @@ void ArchiveExtraction::unpackInner()
     setStage(u"extracting"_qs);
     const QString &inner = m_paths.paths.inner;
     m_innerIsArchive = beginsAsArchive(inner);
+    const QStringList entries = m_innerIsArchive ? entriesOf(inner) : QStringList();
+    const QString folder = folderForContents(entries);
     ToolResult result = checkInput(inner);
-    if (result.isSilent())
-        result = runStage(m_order.archiver, extractArguments::unpackInner(inner, folderForContents()));
+    if (result.isSilent()) result = runStage(m_order.archiver, extractArguments::unpackInner(inner, folder));
     // Now and then a wrong password decrypts to rubbish, without a word, and some archivers say nothing about
     // rubbish.
     if (result.isSilent() && !m_innerIsArchive) result.output = u"\"%1\" is no archive"_qs.arg(inner);
-    judgeStage(FailedStage::Kind::UnpackInner, u"\nunRAR 2nd"_qs, result, true, {});
+    judgeStage(FailedStage::Kind::UnpackInner, u"\nunRAR 2nd"_qs, result, hasCome(entries, folder), folder);
     m_isExtracted = m_succeeded && m_distrust.isEmpty();
 }
 
