@@ -62,6 +62,7 @@ RunStart QuillorentAppDelegate::prepareTransfer(const SyncOrder &order)
 RunStart QuillorentAppDelegate::prepareSync(bool isPreview)
 {
     const SyncOrder order = readSyncOrder();
+    SyncDisplay(*this).begin(u"Looking at both sides…"_qs);
     const auto work = [this, order, isPreview](RunMonitor &monitor) {
         if (isPreview)
             previewFirst(order, monitor, PreviewFor::Looking);
