@@ -20,24 +20,50 @@ QString sentences(const QStringList &list)
     return list.first(most).join(u"\n\n"_qs) + u"\n\n… and %1 more."_qs.arg(list.size() - most);
 }
 
+/// Shows the sheet while it lives, to somebody who has waited for a moment: most looks take no time, and a
+/// sheet that flashes up says nothing. The look itself may hang at a disk that does not answer.
+class SheetAfterAMoment {
+public:
+    SheetAfterAMoment(SheetMonitor &monitor, outlets::Panel &sheet)
+        : m_sheet(sheet), m_waiting([this, &monitor] { wait(monitor); })
+    {
+    }
+    ~SheetAfterAMoment()
+    {
+        m_isOver = true;
+        m_waiting.join();
+        if (m_isShown) m_sheet.close();
+    }
+    SheetAfterAMoment(const SheetAfterAMoment &) = delete;
+    SheetAfterAMoment &operator=(const SheetAfterAMoment &) = delete;
+
+private:
+    void wait(SheetMonitor &monitor)
+    {
+        const auto shownAt = std::chrono::steady_clock::now() + 300ms;
+        while (!m_isOver && std::chrono::steady_clock::now() < shownAt)
+            std::this_thread::sleep_for(10ms);
+        if (m_isOver) return;
+        monitor.showSheet();
+        m_isShown = true;
+    }
+
+    outlets::Panel &m_sheet;
+    std::atomic<bool> m_isOver = false;
+    bool m_isShown = false;
+    std::thread m_waiting; // last: it uses the others
+};
+
 } // namespace
 
 /// Looks, asks and works; the body of the run's own thread.
 void QuillorentAppDelegate::carryOut(const RunStart &start)
 {
     SheetMonitor monitor(*this, start.sheet);
-    // Most looks take no time, and a sheet that flashes up says nothing.
-    bool isShown = false;
-    const auto goesOn = [&] {
-        constexpr auto unnoticed = 300ms;
-        if (!isShown && elapsed() > unnoticed) {
-            isShown = true;
-            monitor.showSheet();
-        }
-        return !cancelFlag();
-    };
-    const Findings findings = start.look(goesOn);
-    if (isShown) start.sheet.sheet.close();
+    const Findings findings = [&] {
+        const SheetAfterAMoment patience(monitor, start.sheet.sheet);
+        return start.look([this] { return !cancelFlag(); });
+    }();
     if (cancelFlag()) {
         const QString summary = u"Cancelled before anything was done."_qs;
         start.sheet.result.setText(summary);

@@ -175,7 +175,7 @@ void lookForFormerArchives(const BackupOrder &order, Findings &findings)
                 order.destination, names.join(u", "_qs));
     else if (!quillorentLibrary::holdsNothing(order.destination))
         findings.overwrites =
-            u"The destination \"%1\" is not empty. What is there stays as it is."_qs.arg(order.destination);
+            u"The destination \"%1\" is not empty. Other files stay as they are."_qs.arg(order.destination);
 }
 
 void lookAtSource(const BackupOrder &order, const BackupItem &item, Findings &findings)

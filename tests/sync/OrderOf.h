@@ -21,6 +21,7 @@ inline SyncOrder orderOf(const QString &changes, const QString &source = u"/a"_q
         if (word == u"delete") order.deletesExtra = true;
         if (word == u"remove") order.removesSources = true;
         if (word == u"checksum") order.mode = u"1"_qs;
+        if (word == u"tool") order.tool = value;
         if (word == u"add") order.entries.append(value);
         if (word == u"only") order.entries = QStringList{value};
         if (word == u"dst") order.destination = value;

@@ -10,22 +10,31 @@
 #include "sync/SyncRun.h"
 
 #include <gtest/gtest.h>
-#include <map>
+#include <set>
+#include <sstream>
 #include <thread>
 
 /// rsync takes two times within one second for the same.
 inline constexpr TreeComparison sameSecond{.nanoseconds = false, .root = false};
 
-/// Every file below the folder, by its path, with its content.
+/// Makes the files of a folder: "d/a=1 d/b=2" is two, with a letter each.
+inline void fill(const std::filesystem::path &folder, const std::string &files)
+{
+    std::istringstream words(files);
+    for (std::string word; words >> word;)
+        writeFile(folder / word.substr(0, word.find('=')), word.substr(word.find('=') + 1));
+}
+
+/// The reverse of it, in the order of their names.
 inline std::string filesIn(const std::filesystem::path &folder)
 {
-    std::map<std::string, std::string> found;
+    std::set<std::string> found;
     for (const auto &entry : std::filesystem::recursive_directory_iterator(folder))
         if (entry.is_regular_file())
-            found[std::filesystem::relative(entry.path(), folder).string()] = readFile(entry.path());
+            found.insert(std::filesystem::relative(entry, folder).string() + "=" + readFile(entry.path()));
     std::string text;
-    for (const auto &[name, content] : found)
-        text.append(text.empty() ? "" : " ").append(name).append("=").append(content);
+    for (const std::string &file : found)
+        text.append(text.empty() ? "" : " ").append(file);
     return text;
 }
 

@@ -23,17 +23,16 @@ protected:
         click(u"extractPathButton"_qs);
     }
 
-    ui::ArchiveListView &list() { return widget<ui::ArchiveListView>(u"extractTableView"_qs); }
-
-    void dropOnList(const QString &path) { drop(list(), {QUrl::fromLocalFile(path)}); }
+    void dropOnList(const QString &path) { drop(list, {QUrl::fromLocalFile(path)}); }
 
     bool isGrey(int row)
     {
-        const QVariant brush = list().outletModel().index(row, 0).data(Qt::ForegroundRole);
+        const QVariant brush = list.outletModel().index(row, 0).data(Qt::ForegroundRole);
         return brush.isValid() &&
                brush.value<QBrush>() == QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
     }
 
+    ui::ArchiveListView &list = widget<ui::ArchiveListView>(u"extractTableView"_qs);
     const std::string second = "archives/docs.rar.aes.part2.rar";
 };
 
@@ -45,15 +44,15 @@ TEST_F(ExtractTest, AWholeExtractionByHand)
     EXPECT_TRUE(widget<ui::TextArea>(u"outputText02"_qs).text().contains(u"first volume is missing"));
     EXPECT_FALSE(widget(u"openFolderButton"_qs).isEnabled());
     click(u"extractButton03"_qs);
-    EXPECT_EQ(list().outletModel().rowCount(), 0);
+    EXPECT_EQ(list.outletModel().rowCount(), 0);
 
     dropOnList(program.path("archives"));
-    ASSERT_GE(list().outletModel().rowCount(), 2);
+    ASSERT_GE(list.outletModel().rowCount(), 2);
     EXPECT_TRUE(waitUntil([&] { return isGrey(1); }));
     EXPECT_FALSE(isGrey(0));
 
     click(u"buttonLaunch02"_qs);
-    ASSERT_TRUE(waitUntil([this] { return !delegate.isRunActive(); }));
+    program.waitForEnd();
     settle();
     EXPECT_EQ(delegate.consoleTextView01.text(), QString());
     EXPECT_TRUE(widget(u"openFolderButton"_qs).isEnabled());
@@ -74,7 +73,7 @@ TEST_F(ExtractTest, ADamagedSetIsToldOverTheSheet)
     settle();
     EXPECT_TRUE(widget<QLineEdit>(u"extractPanelText01"_qs).text().endsWith(u"part1.rar"));
     click(u"stopProcess02b"_qs);
-    EXPECT_TRUE(waitUntil([this] { return !delegate.isRunActive(); }));
+    program.waitForEnd();
     settle();
     EXPECT_FALSE(panel.isVisible());
     EXPECT_FALSE(widget(u"progressPanel02"_qs).isVisible());

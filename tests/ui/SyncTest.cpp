@@ -2,7 +2,6 @@
 
 #include "Stub.h"
 
-#include "ui/FolderList.h"
 #include "ui/PreviewTableView.h"
 #include "ui/TextArea.h"
 
@@ -48,23 +47,6 @@ TEST_F(SyncTest, ControlsSayWhatTheyDo)
     QTest::keyClicks(&widget(u"syncUser"_qs), u"me"_qs);
     settle();
     EXPECT_FALSE(says("fill one in"));
-}
-
-TEST_F(SyncTest, DeleteEmptiesTheListAndNothingIsNoOrder)
-{
-    auto &list = widget<ui::FolderListView>(u"syncTableView"_qs);
-    ASSERT_EQ(list.outletModel().rowCount(), 1);
-    EXPECT_EQ(delegate.listTableView.dataSource()->numberOfRows(), 0);
-    list.selectRows({0});
-    settle();
-    list.setFocus();
-    QTest::keyClick(&list, Qt::Key_Delete);
-    settle();
-    EXPECT_EQ(list.outletModel().rowCount(), 0);
-    clickAndAnswer(u"buttonLaunch03"_qs, u"warningPanel01"_qs, [&] {
-        EXPECT_TRUE(widget<ui::TextArea>(u"warningText01"_qs).text().contains(u"list is empty"));
-        click(u"warningPanel01CloseButton"_qs);
-    });
 }
 
 TEST_F(SyncTest, ADeletionIsShownAndAskedAbout)

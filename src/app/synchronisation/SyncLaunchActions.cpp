@@ -67,6 +67,7 @@ RunStart QuillorentAppDelegate::prepareSync(bool isPreview)
 {
     const SyncOrder order = readSyncOrder();
     const bool deletesUnseen = !isPreview && deletes(order) && !previewsDeletions;
+    SyncDisplay(*this).begin(u"Looking at both sides…"_qs);
     const auto work = [this, order, isPreview](RunMonitor &monitor) {
         if (isPreview)
             previewFirst(order, monitor, PreviewFor::Looking);
