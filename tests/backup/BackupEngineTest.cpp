@@ -1,6 +1,5 @@
 #include "EngineRun.h"
 
-#include "Credentials.h"
 #include "runs/Run.h"
 
 namespace fs = std::filesystem;
@@ -16,64 +15,12 @@ protected:
                                                         mark + "*) " + body +
                                                         ";; *) exec $real \"$@\";; esac");
     }
-
-    /// Opens an archive as someone would who never had this program, up to the inner one.
-    [[nodiscard]] fs::path openWithStockTools(const fs::path &archive,
-                                              const std::vector<std::string> &decrypt) const
-    {
-        const fs::path opened = folder / "opened";
-        fs::remove_all(opened);
-        fs::create_directories(opened / "outer");
-        fs::create_directories(opened / "tree");
-        EXPECT_EQ(runCommand({"unar", "-quiet", "-no-directory", "-o", opened / "outer", archive}).status, 0);
-        std::vector<std::string> command{"openssl"};
-        command.insert(command.end(), decrypt.begin(), decrypt.end());
-        command.insert(command.end(),
-                       {"-in", opened / "outer" / namesIn(opened / "outer"), "-out", opened / "inner.rar"});
-        EXPECT_EQ(runCommand(command).errors, "");
-        return opened / "inner.rar";
-    }
 };
 
 // Each an argument of one stage alone.
 const std::string first = "-m0", encoder = "-salt", second = "-m5";
 
 } // namespace
-
-TEST_F(BackupEngine, OpensAgainWithStockTools)
-{
-    const std::vector<std::string> byPassword{
-        "aes-256-cbc", "-d",  "-a",     "-pbkdf2", "-iter",
-        "600000",      "-md", "sha256", "-pass",   "pass:correct horse"};
-    const fs::path tree = folder / "a tree";
-    makeSampleTree(tree);
-    for (const int volume : {0, 200}) {
-        SCOPED_TRACE(volume);
-        fs::remove_all(archives);
-        fs::create_directories(archives);
-        backUp({tree}, volume);
-        expectSuccess();
-        EXPECT_EQ(namesIn(archives).find('\n') != std::string::npos, volume > 0) << namesIn(archives);
-        for (const auto &entry : fs::directory_iterator(archives))
-            EXPECT_EQ(entry.status().permissions(), fs::perms(0600)) << entry.path();
-        const QString whole = filesOfArchive(text(archives / "a tree.rar.aes.rar")).value(0);
-        const fs::path inner = openWithStockTools(whole.toStdString(), byPassword);
-        // Stock readers know nothing of names that are not UTF-8, so the last step is our archiver's.
-        runCommand({realRar.toStdString(), "x", "-o+", "-idq", inner, folder / "opened/tree"});
-        EXPECT_EQ(treeDifference(tree, folder / "opened/tree" / tree.relative_path()), "");
-    }
-
-    const auto [certificate, key] = makeCredentials(folder, "anna");
-    BackupOrder order = backupOrder({sample("docs", "for your eyes only")});
-    order.byCertificate = true;
-    order.certificate = text(certificate);
-    run(std::move(order));
-    expectSuccess();
-    const fs::path inner =
-        openWithStockTools(archives / "docs.rar.aes.rar",
-                           {"smime", "-decrypt", "-binary", "-inkey", key, "-recip", certificate});
-    EXPECT_EQ(runCommand({"bsdtar", "-xOf", inner}).output, "for your eyes only");
-}
 
 // Each with an archive of an earlier run, which must still be there afterwards, and the next run goes well.
 TEST_F(BackupEngine, SaysWhichStageFailed)
