@@ -34,7 +34,7 @@ void ItemPipeline::expect(const QStringList &between, const QString &clear, cons
 
 void ItemPipeline::noteBetween(const QString &product)
 {
-    QList<LeftFile> left;
+    QList<LeftFile> left = m_strays;
     for (const QString &path : m_between) {
         const auto there = entryAt(path);
         if (!there || !there->isFile()) continue;
@@ -58,8 +58,14 @@ QString ItemPipeline::moveAway(const QString &path)
     const auto plan = planAside({path}, u"kept"_qs);
     if (!plan) return u"no other name is free for it"_qs;
     m_run.journal().changeItem(m_index, [&](ItemRecord &item) { item.kept += *plan; });
-    const int error = renameToFree(plan->first().from, plan->first().to);
-    return error ? qt_error_string(error) : QString();
+    const QString to = plan->first().to;
+    if (const int error = renameToFree(path, to)) return qt_error_string(error);
+    // A run that was killed may have left it in clear: it is to be named as long as it is there.
+    const bool isLeftInClear = std::any_of(m_known.begin(), m_known.end(), [&](const LeftFile &left) {
+        return left.path == path && left.isClear && !left.identity;
+    });
+    if (const auto there = entryAt(to); there && isLeftInClear) m_strays.append({to, true, there->identity});
+    return {};
 }
 
 /// From now on what comes under the name is this item's, even where the run ends before it can be told from
