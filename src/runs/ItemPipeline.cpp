@@ -59,7 +59,10 @@ QString ItemPipeline::moveAway(const QString &path)
     if (!plan) return u"no other name is free for it"_qs;
     m_run.journal().changeItem(m_index, [&](ItemRecord &item) { item.kept += *plan; });
     const QString to = plan->first().to;
-    if (const int error = renameToFree(path, to)) return qt_error_string(error);
+    if (const int error = renameToFree(path, to)) {
+        m_run.journal().changeItem(m_index, [](ItemRecord &item) { item.kept.removeLast(); });
+        return qt_error_string(error);
+    }
     // A run that was killed may have left it in clear: it is to be named as long as it is there.
     const bool isLeftInClear = std::any_of(m_known.begin(), m_known.end(), [&](const LeftFile &left) {
         return left.path == path && left.isClear && !left.identity;
