@@ -115,11 +115,6 @@ QString canonical(const QString &path)
                             : quillorentLibrary::joined(folder, file.fileName());
 }
 
-bool isInside(const QString &path, const QString &folder)
-{
-    return path == folder || path.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
-}
-
 void lookForSourcesInTheWay(const BackupOrder &order, Findings &findings)
 {
     QStringList sources;
@@ -192,7 +187,7 @@ void lookAtSource(const BackupOrder &order, const BackupItem &item, Findings &fi
             u"\"%1\" is a link, and only the link itself would be backed up, nothing that it leads "
             "to. Put a slash behind it, or add the folder that it leads to."_qs.arg(item.source));
     const QString source = canonical(item.source);
-    if (QFileInfo(source).isDir() && isInside(canonical(order.destination), source))
+    if (QFileInfo(source).isDir() && quillorentLibrary::isInside(canonical(order.destination), source))
         findings.addConcern(
             u"The destination \"%1\" lies in \"%2\", so each archive would hold the ones before it. "
             "Choose another destination."_qs.arg(order.destination, item.source));

@@ -10,6 +10,11 @@ QString quillorentLibrary::standardizePath(const QString &path)
     return path.isEmpty() ? path : QDir::cleanPath(inHome ? QDir::homePath() + path.mid(1) : path);
 }
 
+bool quillorentLibrary::isInside(const QString &path, const QString &folder)
+{
+    return path == folder || path.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
+}
+
 bool quillorentLibrary::folderExists(const QString &path) { return QFileInfo(path).isDir(); }
 
 bool quillorentLibrary::holdsNothing(const QString &folder)

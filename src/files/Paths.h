@@ -9,6 +9,9 @@ namespace quillorentLibrary {
 /// `path` with "..", "." and double slashes collapsed and a leading "~" expanded.
 [[nodiscard]] QString standardizePath(const QString &path);
 
+/// Whether `path` is `folder` or lies in it, by their texts.
+[[nodiscard]] bool isInside(const QString &path, const QString &folder);
+
 /// Whether a folder is there, or a link to one.
 [[nodiscard]] bool folderExists(const QString &path);
 

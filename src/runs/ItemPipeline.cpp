@@ -34,7 +34,7 @@ void ItemPipeline::expect(const QStringList &between, const QString &clear, cons
 
 void ItemPipeline::noteBetween(const QString &product)
 {
-    QList<LeftFile> left = m_keptInClear;
+    QList<LeftFile> left = m_strays;
     for (const QString &path : m_between) {
         const auto there = entryAt(path);
         if (!there || !there->isFile()) continue;
@@ -58,15 +58,16 @@ QString ItemPipeline::moveAway(const QString &path)
     const auto plan = planAside({path}, u"kept"_qs);
     if (!plan) return u"no other name is free for it"_qs;
     m_run.journal().changeItem(m_index, [&](ItemRecord &item) { item.kept += *plan; });
-    const auto [from, to] = plan->first();
-    if (const int error = renameToFree(from, to)) return qt_error_string(error);
-    // It may be what a run that was killed has left in clear: whoever wanted it encrypted must know where it
-    // is.
-    const bool mayBeClear = std::any_of(m_known.begin(), m_known.end(), [&](const LeftFile &left) {
-        return left.path == path && left.isClear;
+    const QString to = plan->first().to;
+    if (const int error = renameToFree(path, to)) {
+        m_run.journal().changeItem(m_index, [](ItemRecord &item) { item.kept.removeLast(); });
+        return qt_error_string(error);
+    }
+    // A run that was killed may have left it in clear: it is to be named as long as it is there.
+    const bool isLeftInClear = std::any_of(m_known.begin(), m_known.end(), [&](const LeftFile &left) {
+        return left.path == path && left.isClear && !left.identity;
     });
-    if (const auto moved = entryAt(to); mayBeClear && moved)
-        m_keptInClear.append({to, true, moved->identity});
+    if (const auto there = entryAt(to); there && isLeftInClear) m_strays.append({to, true, there->identity});
     return {};
 }
 

@@ -67,7 +67,7 @@ private:
     void claim(const QString &path);
 
     const QList<LeftFile> m_known;
-    QList<LeftFile> m_keptInClear;
+    QList<LeftFile> m_strays; ///< of runs that were killed, under other names now
     QStringList m_between;
     QString m_clear;
     QHash<QString, FileIdentity> m_made; ///< by this item's stages, by path

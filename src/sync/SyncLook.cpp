@@ -41,11 +41,6 @@ QString resolved(const QString &path)
     return failure ? standardized : QString::fromStdU16String(real.u16string());
 }
 
-bool isInside(const QString &path, const QString &folder)
-{
-    return path == folder || path.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
-}
-
 void lookAtEntries(const SyncOrder &order, Findings &findings)
 {
     const QString root = syncArguments::rootOf(order.entries);
@@ -55,7 +50,8 @@ void lookAtEntries(const SyncOrder &order, Findings &findings)
             "not be found. Synchronise it from a profile of its own."_qs.arg(entry, root));
     const QString destination = resolved(order.destination);
     for (const QString &entry : order.entries)
-        if (!order.isRemote && QFileInfo(entry).isDir() && isInside(destination, resolved(entry)))
+        if (!order.isRemote && QFileInfo(entry).isDir() &&
+            quillorentLibrary::isInside(destination, resolved(entry)))
             findings.addConcern(
                 u"The destination lies inside \"%1\", so that each run copies the copies of the last "
                 "one. Choose another destination."_qs.arg(entry));

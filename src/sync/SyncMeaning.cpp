@@ -1,5 +1,6 @@
 #include "sync/SyncMeaning.h"
 
+#include "files/Paths.h"
 #include "sync/SyncArguments.h"
 
 namespace {
@@ -43,11 +44,6 @@ QStringList trapsOfServer(const SyncOrder &order)
     return traps;
 }
 
-bool isInside(const QString &path, const QString &folder)
-{
-    return path == folder || path.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
-}
-
 QStringList trapsOfEntries(const SyncOrder &order)
 {
     QStringList traps;
@@ -56,7 +52,7 @@ QStringList trapsOfEntries(const SyncOrder &order)
                      "the wrong place. Synchronise it from a profile of its own."_qs.arg(
                          entry, syncArguments::rootOf(order.entries)));
     for (const QString &entry : order.entries)
-        if (!order.isRemote && isInside(order.destination, entry))
+        if (!order.isRemote && quillorentLibrary::isInside(order.destination, entry))
             traps.append(
                 u"The destination lies inside \"%1\", so that each run copies the copies of the last one."_qs
                     .arg(entry));

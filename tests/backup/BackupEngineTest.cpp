@@ -1,6 +1,5 @@
 #include "EngineRun.h"
 
-#include "Credentials.h"
 #include "runs/Run.h"
 
 namespace fs = std::filesystem;
@@ -9,124 +8,58 @@ namespace {
 
 class BackupEngine : public EngineTest {
 protected:
-    /// A tool that does so in the one stage, and becomes the real one in the others.
-    [[nodiscard]] QString fakeRar(const std::string &stageMark, const std::string &body) const
+    /// A tool that does so where `mark` is among its arguments, and becomes the real one elsewhere.
+    [[nodiscard]] QString fake(const QString &real, const std::string &mark, const std::string &body) const
     {
-        const std::string real = realRar.toStdString();
-        return writeScript(folder / "tools/rar", "real=" + real + "\nfor last; do :; done\ncase \"$*\" in *" +
-                                                     stageMark + "*) " + body +
-                                                     ";; *) exec $real \"$@\";; esac");
-    }
-    [[nodiscard]] QString fakeOpenSsl(const std::string &body) const
-    {
-        const std::string real = realOpenSsl.toStdString();
-        return writeScript(folder / "tools/openssl", "real=" + real + "\n" + body);
-    }
-
-    /// Opens an archive as someone would who never had this program, up to the inner one.
-    [[nodiscard]] fs::path openWithStockTools(const fs::path &archive,
-                                              const std::vector<std::string> &decrypt) const
-    {
-        const fs::path opened = folder / "opened";
-        fs::remove_all(opened);
-        fs::create_directories(opened / "outer");
-        fs::create_directories(opened / "tree");
-        EXPECT_EQ(runCommand({"unar", "-quiet", "-no-directory", "-o", opened / "outer", archive}).status, 0);
-        std::vector<std::string> command{"openssl"};
-        command.insert(command.end(), decrypt.begin(), decrypt.end());
-        command.insert(command.end(),
-                       {"-in", opened / "outer" / namesIn(opened / "outer"), "-out", opened / "inner.rar"});
-        EXPECT_EQ(runCommand(command).errors, "");
-        return opened / "inner.rar";
+        return writeScript(folder / "tools" / mark, "real=" + real.toStdString() + "\ncase \"$*\" in *" +
+                                                        mark + "*) " + body +
+                                                        ";; *) exec $real \"$@\";; esac");
     }
 };
 
-const std::string atFirst = "-m0"; // an argument of the first pass alone
-const std::string atSecond = "-m5";
+// Each an argument of one stage alone.
+const std::string first = "-m0", encoder = "-salt", second = "-m5";
 
 } // namespace
-
-TEST_F(BackupEngine, OpensAgainWithStockTools)
-{
-    const std::vector<std::string> byPassword{
-        "aes-256-cbc", "-d",  "-a",     "-pbkdf2", "-iter",
-        "600000",      "-md", "sha256", "-pass",   "pass:correct horse"};
-    const fs::path tree = folder / "a tree";
-    makeSampleTree(tree);
-    for (const int volume : {0, 200}) {
-        SCOPED_TRACE(volume);
-        fs::remove_all(archives);
-        fs::create_directories(archives);
-        backUp({tree}, volume);
-        expectSuccess();
-        EXPECT_EQ(namesIn(archives).find('\n') != std::string::npos, volume > 0) << namesIn(archives);
-        for (const auto &entry : fs::directory_iterator(archives))
-            EXPECT_EQ(entry.status().permissions(), fs::perms(0600)) << entry.path();
-        const QString first = filesOfArchive(text(archives / "a tree.rar.aes.rar")).value(0);
-        const fs::path inner = openWithStockTools(first.toStdString(), byPassword);
-        // Stock readers know nothing of names that are not UTF-8, so the last step is our archiver's.
-        runCommand({realRar.toStdString(), "x", "-o+", "-idq", inner, folder / "opened/tree"});
-        EXPECT_EQ(treeDifference(tree, folder / "opened/tree" / tree.relative_path()), "");
-    }
-
-    const auto [certificate, key] = makeCredentials(folder, "anna");
-    BackupOrder order = backupOrder({sample("docs", "for your eyes only")});
-    order.byCertificate = true;
-    order.certificate = text(certificate);
-    run(std::move(order));
-    expectSuccess();
-    const fs::path inner =
-        openWithStockTools(archives / "docs.rar.aes.rar",
-                           {"smime", "-decrypt", "-binary", "-inkey", key, "-recip", certificate});
-    EXPECT_EQ(runCommand({"bsdtar", "-xOf", inner}).output, "for your eyes only");
-}
 
 // Each with an archive of an earlier run, which must still be there afterwards, and the next run goes well.
 TEST_F(BackupEngine, SaysWhichStageFailed)
 {
-    const QString missing = u"/nowhere/tool"_qs;
-    using Make = std::function<QString()>;
-    const Make real;
-    const auto fake = [this](const std::string &mark, const std::string &body) {
-        return [this, mark, body] { return fakeRar(mark, body); };
-    };
-    const auto front = [this](const std::string &body) { return [this, body] { return fakeOpenSsl(body); }; };
     const std::string stored = "\n   RAR 1st OK - SOURCE\n";
     const fs::path source = sample("docs");
     struct Case {
-        Make rar, openssl;
-        std::string console; ///< all but its beginning and its end
+        std::string stage, body; ///< what the tool does there; none: it is missing
+        std::string console;     ///< all but its beginning and its end
         QString reason;
     };
-    for (const auto &[rar, openssl, console, reason] : std::vector<Case>{
-             {fake(atFirst, "printf 'warning: odd\\nand more'"), real,
-              "\n   RAR 1st ERROR - SOURCE\nwarning: odd\nand more", u"RAR 1st: warning: odd"_qs},
-             {fake(atFirst, "printf 'caf\\351'"), real, "\n   RAR 1st ERROR - SOURCE\n", u"not readable"_qs},
-             {[&] { return missing; }, real,
+    for (const auto &[stage, body, console, reason] : std::vector<Case>{
+             {first, "printf 'warning: odd\nand more'", "\n   RAR 1st ERROR - SOURCE\nwarning: odd\nand more",
+              u"RAR 1st: warning: odd"_qs},
+             {first, "printf 'caf\\351'", "\n   RAR 1st ERROR - SOURCE\n", u"not readable"_qs},
+             {first, "",
               "\n   RAR 1st ERROR - SOURCE\nCan't start \"/nowhere/tool\": No such file or directory. Choose "
               "the tool's path on the Tools tab.\n",
               u"No such file"_qs},
-             {real, front("echo bad magic >&2"), stored + "\n   Encoder ERROR - SOURCE",
+             {encoder, "echo bad magic >&2", stored + "\n   Encoder ERROR - SOURCE",
               u"docs.rar\" is left and is not encrypted"_qs},
-             {fake(atSecond, "echo oh"), real, stored + "\n   Encoder OK - SOURCE\n   RAR 2nd ERROR - SOURCE",
+             {second, "echo oh", stored + "\n   Encoder OK - SOURCE\n   RAR 2nd ERROR - SOURCE",
               u"RAR 2nd: oh"_qs},
              // Silence lets the later stages run, and the console stay empty; but nobody is told that all is
              // well.
-             {fake(atFirst, "exit 1"), real, stored + "\n   Encoder ERROR - SOURCE",
-              u"Encoder: Can't open"_qs},
-             {fake(atFirst, "$real \"$@\"; exit 1"), real, "", u"RAR 1st: the tool ended with status 1"_qs},
-             {real, front("$real \"$@\"; exit 1"), "", u"Encoder: the tool ended with status 1"_qs},
-             {fake(atSecond, "exit 1"), real, "", u"RAR 2nd: the tool ended with status 1"_qs},
-             {fake(atSecond, "exit 0"), real, "", u"RAR 2nd: the tool said nothing, and did not make"_qs},
-             {fake(atSecond, "$real \"$@\"; exit 1"), real, "", u"RAR 2nd: the tool ended with status 1"_qs},
+             {first, "exit 1", stored + "\n   Encoder ERROR - SOURCE", u"Encoder: Can't open"_qs},
+             {first, "$real \"$@\"; exit 1", "", u"RAR 1st: the tool ended with status 1"_qs},
+             {encoder, "$real \"$@\"; exit 1", "", u"Encoder: the tool ended with status 1"_qs},
+             {second, "exit 1", "", u"RAR 2nd: the tool ended with status 1"_qs},
+             {second, "exit 0", "", u"RAR 2nd: the tool said nothing, and did not make"_qs},
+             {second, "$real \"$@\"; exit 1", "", u"RAR 2nd: the tool ended with status 1"_qs},
          }) {
         SCOPED_TRACE(reason.toStdString() + " | " + console);
         backUp({source});
         expectSuccess();
         const std::string former = readFile(archives / "docs.rar.aes.rar");
         BackupOrder order = backupOrder({source});
-        if (rar) order.archiver = rar();
-        if (openssl) order.encoder = openssl();
+        QString &tool = stage == encoder ? order.encoder : order.archiver;
+        tool = body.empty() ? u"/nowhere/tool"_qs : fake(tool, stage, body);
         run(std::move(order));
         const std::string shown = monitor->console.replace(text(source), u"SOURCE"_qs).toStdString();
         const bool isSilent = console.empty();
@@ -135,8 +68,8 @@ TEST_F(BackupEngine, SaysWhichStageFailed)
         EXPECT_EQ(monitor->state.foldersDone(), isSilent ? 1 : 0);
         EXPECT_EQ(monitor->record.outcome, Outcome::Failed);
         EXPECT_EQ(monitor->record.items.first().outcome, Outcome::Failed);
-        EXPECT_TRUE(QString::fromStdString(summary()).startsWith(u"Failed: "_qs)) << summary();
-        EXPECT_TRUE(QString::fromStdString(summary()).contains(reason)) << summary();
+        EXPECT_TRUE(monitor->record.summary.startsWith(u"Failed: "_qs)) << summary();
+        EXPECT_TRUE(monitor->record.summary.contains(reason)) << summary();
         EXPECT_EQ(readFile(archives / "docs.rar.aes.rar"), former) << namesIn(archives);
     }
     backUp({source});
@@ -150,7 +83,7 @@ TEST_F(BackupEngine, AFailureStopsTheOthers)
     for (int i = 0; i < 4 * workerLimit(); ++i)
         sources.push_back(sample("folder" + std::to_string(i)));
     BackupOrder order = backupOrder(sources);
-    order.archiver = fakeRar(atFirst, "echo no");
+    order.archiver = fake(realRar, first, "echo no");
     run(std::move(order));
     EXPECT_LE(monitor->console.count(u"START processing"_qs), workerLimit());
 
@@ -220,8 +153,8 @@ TEST_F(BackupEngine, WritesThroughNothingThatWasPlanted)
         fs::create_directories(archives);
         writeFile(victim, "the user's own");
         BackupOrder order = backupOrder({source});
-        order.archiver = fakeRar(atFirst, "$real \"$@\"; " + c.rar);
-        order.encoder = fakeOpenSsl("$real \"$@\"; " + c.openssl);
+        order.archiver = fake(realRar, first, "$real \"$@\"; " + c.rar);
+        order.encoder = fake(realOpenSsl, encoder, "$real \"$@\"; " + c.openssl);
         run(std::move(order));
         EXPECT_EQ(readFile(victim), "the user's own");
         EXPECT_EQ(monitor->record.outcome, c.sentence ? Outcome::Failed : Outcome::Succeeded) << summary();

@@ -1,10 +1,9 @@
 #include "EngineRun.h"
 
 #include "Credentials.h"
+#include "tools/ToolRun.h"
 
-#include <csignal>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <thread>
 
 namespace fs = std::filesystem;
 
@@ -108,16 +107,20 @@ TEST_F(BackupFindings, TellWhatIsWrongAndWhatToDo)
 
 TEST_F(BackupFindings, KeepRunsApart)
 {
-    // A tool that was left running holds the folder, though its program is gone.
-    pid_t tool = 0;
-    {
-        const FolderLock held = FolderLock::take(text(archives));
-        tool = fork();
-        if (tool == 0) pause(), _exit(0);
-    }
+    // A tool that is left running holds the folder, though its program does not any more.
+    const std::string here = folder / "here";
+    const std::string go = folder / "go";
+    const QString tool =
+        writeScript(folder / "tool", ": > " + here + "; until [ -e " + go + " ]; do sleep 0.01; done");
+    std::optional held = FolderLock::take(text(archives));
+    std::thread runner(
+        [&tool, inherited = held->descriptor()] { static_cast<void>(runTool(tool, {}, inherited)); });
+    while (!fs::exists(here))
+        std::this_thread::yield();
+    held.reset();
     EXPECT_TRUE(look([](BackupOrder &) {}).startsWith(u"! Another run"_qs));
-    kill(tool, SIGKILL);
-    waitpid(tool, nullptr, 0);
+    writeFile(go, "");
+    runner.join();
     EXPECT_EQ(look([](BackupOrder &) {}), QString());
     fs::remove_all(folder / "state");
     writeFile(folder / "state", "no folder");

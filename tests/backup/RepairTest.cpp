@@ -182,6 +182,17 @@ TEST_F(Repair, NeverTakesTheUsersFilesForLeftOnes)
     EXPECT_EQ(readFile(out / "docs.rar"), "the user's own");
 }
 
+TEST_F(Repair, WhatAKilledRunLeftInClearStaysNamed)
+{
+    writeKilledRecord({}, QDateTime::currentDateTimeUtc());
+    writeFile(archives / "docs.rar", "half of it");
+    backUp({docs});
+    expectSuccess();
+    EXPECT_EQ(aftermath::leftInClear(), QStringList{text(archives / "kept-docs.rar")});
+    EXPECT_EQ(aftermath::removeLeftInClear(), QStringList());
+    EXPECT_EQ(namesIn(archives), "docs.rar.aes.rar");
+}
+
 TEST_F(Repair, OtherNamesAreFreeAndShortEnough)
 {
     const auto named = [this](const std::string &name) { return text(archives / name); };

@@ -72,6 +72,8 @@ TEST_F(ExtractEngine, BringsBackWhatWasBackedUp)
             SCOPED_TRACE(extension.toStdString() + (volume ? " split" : " whole"));
             startAnew();
             backUpBy(tree, extension, cipher, volume);
+            for (const auto &entry : fs::directory_iterator(archives))
+                EXPECT_EQ(entry.status().permissions(), fs::perms(0600)) << entry.path();
             run(keyedOrder(volumes("odd tree.rar" + extension.toStdString() + ".rar")));
             expectSuccess();
             EXPECT_EQ(findings.concerns.join(u'\n').toStdString(), "");
@@ -172,8 +174,10 @@ TEST_F(ExtractEngine, EachCauseReadsDifferently)
     const std::string rar = realRar.toStdString() + " \"$@\"";
     const QString blind = writeScript(folder / "blind", "[ $1 = t ] || exec " + rar);
     const QString blindest = writeScript(folder / "blindest", "[ $1 = t ] || [ $1 = x ] || exec " + rar);
-    const QString plants = writeScript(folder / "plants", rar + "; [ $1 != e ] || { rm " + encrypted +
-                                                              "; mkfifo " + encrypted + "; }");
+    const auto plant = [&](const std::string &command) {
+        return writeScript(folder / "plant", rar + "; [ $1 != e ] || { rm " + encrypted + "; " + command +
+                                                 " " + encrypted + "; }");
+    };
     const QString rubbish =
         writeScript(folder / "rubbish", "while [ \"$1\" != -out ]; do shift; done; echo x >\"$2\"");
     struct Case {
@@ -185,7 +189,8 @@ TEST_F(ExtractEngine, EachCauseReadsDifferently)
              {u"is damaged: .*checksum"_qs, 0, [&](auto &o) { o.archiver = blind, damage(archive); }},
              {u"docs.rar.aes\" is a folder"_qs, 0, [&](auto &) { writeFile(encrypted + "/x", "x"); }},
              {u"docs.rar\" is a folder"_qs, 1, [&](auto &) { writeFile(out / "docs.rar/x", "x"); }},
-             {u"replaced by a pipe"_qs, 1, [&](auto &o) { o.archiver = plants; }},
+             {u"replaced by a pipe"_qs, 1, [&](auto &o) { o.archiver = plant("mkfifo"); }},
+             {u"holds a link where"_qs, 1, [&](auto &o) { o.archiver = plant("ln -s " + archive.string()); }},
              {u"Can't start \"/nowhere/openssl\""_qs, 1, [](auto &o) { o.decoder = u"/nowhere/openssl"_qs; }},
              {u"private key can't be read"_qs, 1, [&](auto &o) { o = extractOrder({message}); }},
              {u"is taken by something else"_qs, 2,

@@ -103,10 +103,10 @@ protected:
         ExtractOrder order{.folder = text(out),
                            .archiver = realRar,
                            .decoder = realOpenSsl,
-                           .methods = {{u"AES"_qs, u".aes"_qs, u"aes-256-cbc"_qs},
-                                       {u"BF"_qs, u".bf"_qs, u"bf-cbc"_qs},
-                                       {u"3D"_qs, u".3d"_qs, u"des-ede3-cbc"_qs},
-                                       {u"SMIME"_qs, u".smime"_qs, u"smime"_qs}},
+                           .methods = {{u".aes"_qs, u".aes"_qs, u"aes-256-cbc"_qs},
+                                       {u".bf"_qs, u".bf"_qs, u"bf-cbc"_qs},
+                                       {u".3d"_qs, u".3d"_qs, u"des-ede3-cbc"_qs},
+                                       {u".smime"_qs, u".smime"_qs, u"smime"_qs}},
                            .choosesByName = true,
                            .password = Secret::fromText(u"correct horse"_qs)};
         for (const auto &path : listed) {
@@ -115,9 +115,7 @@ protected:
             const auto volume = volumeName(archive);
             if (volume && volume->isLater()) continue;
             const QString whole = withoutVolumePart(archive);
-            QString extension;
-            for (const Method &method : order.methods)
-                if (method.name == methodOfArchive(whole, order.methods)) extension = method.extension;
+            const QString extension = methodOfArchive(whole, order.methods); // called like that above
             const QString command = commandOfArchive(whole, order.methods);
             order.items.append({archive, extractPaths(archive, order.folder, extension), command, command});
         }
