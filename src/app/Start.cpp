@@ -114,7 +114,7 @@ void QuillorentAppDelegate::answer(outlets::Panel &panel, bool goesOn)
 void QuillorentAppDelegate::startRun(const QString &threadName, const std::function<RunStart()> &prepare)
 {
     if (!tryBeginRun()) {
-        warn(u"The last run is still ending its tools. Try again in a moment."_qs);
+        warn(u"A run is at work, or still ending its tools. Try again when it has ended."_qs);
         return;
     }
     const auto go = [this, threadName, prepare] {
@@ -129,10 +129,13 @@ void QuillorentAppDelegate::startRun(const QString &threadName, const std::funct
         while (keychainIndicator01.isAnimating() && !cancelFlag())
             std::this_thread::sleep_for(pauses().poll);
         QMetaObject::invokeMethod(QCoreApplication::instance(), [this, go, profile] {
-            if (!cancelFlag() && profile == currentProfile())
+            if (!cancelFlag() && profile == currentProfile()) {
                 go();
-            else
-                endRun();
+                return;
+            }
+            endRun();
+            if (profile != currentProfile())
+                warn(u"Another profile was opened while the keychain was asked. Start again."_qs);
         });
     });
 }

@@ -33,7 +33,8 @@ QString replacePrivateFile(const QString &path, const QByteArray &content)
     if (!file.open(QIODevice::WriteOnly)) return failure();
     // Before anything is in it: a new file would have the process's mode, a replaced one that of the old.
     if (!file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)) return failure();
-    // Flushed here: commit() overlooks what fails on the way out of the buffer, and would put half a file in place.
+    // Flushed here: commit() overlooks what fails on the way out of the buffer, and would put half a file in
+    // place.
     if (file.write(content) != content.size() || !file.flush()) return failure();
     return file.commit() ? QString{} : failure();
 }

@@ -46,7 +46,7 @@ TEST_F(BackupEngine, SaysWhichStageFailed)
               u"RAR 2nd: oh"_qs},
              // Silence lets the later stages run, and the console stay empty; but nobody is told that all is
              // well.
-             {first, "exit 1", stored + "\n   Encoder ERROR - SOURCE", u"Encoder: Can't open"_qs},
+             {first, "exit 1", stored + "\n   Encoder ERROR - SOURCE", u"Encoder: openssl: cannot open"_qs},
              {first, "$real \"$@\"; exit 1", "", u"RAR 1st: the tool ended with status 1"_qs},
              {encoder, "$real \"$@\"; exit 1", "", u"Encoder: the tool ended with status 1"_qs},
              {second, "exit 1", "", u"RAR 2nd: the tool ended with status 1"_qs},

@@ -90,7 +90,7 @@ TEST_F(BackupFindings, TellWhatIsWrongAndWhatToDo)
              {there("docs.rar"), u"|docs.rar\"|kept-docs.rar"_qs},
              {there("docs.rar.aes/x"), u"|is a folder|Rename it"_qs},
              {there("docs.rar.aes.part2.rar"), u"?|docs.rar.aes.part2.rar|replaced"_qs},
-             {there("holiday.jpg"), u"?|not empty|stays as it is"_qs},
+             {there("holiday.jpg"), u"?|not empty|stay as they are"_qs},
          }) {
         fs::remove_all(archives);
         fs::create_directories(archives);

@@ -215,7 +215,7 @@ TEST_F(BackupStart, NamesWhatIsLeftInClear)
     program.waitForEnd();
     const QString left = program.path("archives/docs.rar");
     for (int start = 0; start < 2; ++start) {
-        EXPECT_TRUE(delegate.clearText01.text().endsWith(u": "_qs + left));
+        EXPECT_TRUE(delegate.clearText01.text().endsWith(u'\n' + left));
         EXPECT_FALSE(delegate.clearText01.isHidden() || delegate.clearRemove01.isHidden());
         delegate.clearText01.setText({});
         program.start();
@@ -253,7 +253,7 @@ TEST_F(BackupStart, SaysWhatIsMissingAndAsks)
         delegate.warningPanel03.observe([&] {
             if (delegate.warningPanel03.place() == outlets::Panel::Place::Hidden) return;
             EXPECT_EQ(delegate.folderNotEmptyText02.text(), program.path("archives"));
-            EXPECT_TRUE(delegate.overwritesText02.text().contains(u"What is there stays"));
+            EXPECT_TRUE(delegate.overwritesText02.text().contains(u"Other files stay"));
             goesOn ? delegate.buttonLaunch01b() : delegate.buttonLaunch01Stop();
         });
         delegate.buttonLaunch01();

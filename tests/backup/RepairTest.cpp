@@ -24,7 +24,7 @@ protected:
                                .former = former,
                                .final = {text(archives / "docs.rar.aes.rar")},
                                .packingSince = packingSince}}})
-            .change([](RunRecord &) {});
+            .begin();
     }
 
     const fs::path docs = sample("docs");
@@ -144,7 +144,7 @@ TEST_F(Repair, OldRecordsGoUnlessTheyAreNeeded)
         record.began = QDateTime::fromSecsSinceEpoch(1'000'000 + i).toUTC();
         if (i != 3) record.ended = record.began;
         if (i == 4) record.items = {{.path = u"x"_qs, .left = {{text(archives / "left"), true}}}};
-        RunJournal(record).change([](RunRecord &) {});
+        RunJournal(record).begin();
     }
     writeFile(fs::path(recordsFolder().toStdString()) / "0.json", "no record");
     const QList<KeptRecord> kept = keptRecords();

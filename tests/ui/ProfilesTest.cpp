@@ -72,7 +72,7 @@ TEST_F(ProfilesTest, WhatIsNotSavedShowsAndIsAskedFor)
     const QString path = quillorentLibrary::profilesPath();
     ASSERT_TRUE(QFile::remove(path) && QDir().mkpath(path + u"/taken"_qs));
     clickAndAnswer(u"profileButton01"_qs, u"warningPanel01"_qs, [&] {
-        EXPECT_TRUE(widget<QLabel>(u"warningText01"_qs).text().contains(path));
+        EXPECT_TRUE(delegate.warningText01.text().contains(path));
         click(u"warningPanel01CloseButton"_qs);
     });
     ASSERT_TRUE(QDir(path).removeRecursively());
