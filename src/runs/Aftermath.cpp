@@ -1,6 +1,7 @@
 #include "runs/Aftermath.h"
 
 #include "files/ArchiveFiles.h"
+#include "files/FolderLock.h"
 #include "runs/RunJournal.h"
 
 #include <QFile>
@@ -103,10 +104,14 @@ void closeKilled(RunRecord &record, const aftermath::IsWhole &isWhole)
 template <class Use>
 void forAllClear(Use use)
 {
-    for (KeptRecord &kept : keptRecords())
-        for (ItemRecord &item : kept.record.items)
+    for (const KeptRecord &kept : keptRecords()) {
+        // What a run that is at work makes is not left yet.
+        const bool isAtWork = !kept.record.ended.isValid() && FolderLock::take(kept.record.folder).isBusy();
+        if (isAtWork) continue;
+        for (const ItemRecord &item : kept.record.items)
             for (const LeftFile &file : stillThere(item))
                 if (file.isClear) use(file.path);
+    }
 }
 
 } // namespace
