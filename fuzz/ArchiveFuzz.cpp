@@ -15,6 +15,7 @@
 #include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <utility>
 
 namespace fs = std::filesystem;
 using namespace archiver;

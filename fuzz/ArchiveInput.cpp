@@ -1,5 +1,6 @@
 #include "ArchiveInput.h"
 
+#include "FileDescriptor.h"
 #include "TemporaryFolder.h"
 
 #include <algorithm>
@@ -78,9 +79,9 @@ std::vector<ByteBuffer> writeVolumes(Bytes content, ArchiveWriter::Packing packi
                                      std::optional<std::uint64_t> volumeSize, Diagnostics &diagnostics)
 {
     static const TemporaryFolder folder;
-    const FileDescriptor file(memfd_create("content", MFD_CLOEXEC));
+    const base::FileDescriptor file(memfd_create("content", MFD_CLOEXEC));
     struct stat status {};
-    if (!writeFullyAt(file.get(), content, 0) || fstat(file.get(), &status) != 0) std::abort();
+    if (!base::writeFullyAt(file.get(), content, 0) || fstat(file.get(), &status) != 0) std::abort();
     OutputVolumes output(folder / "a.rar", volumeSize, diagnostics);
     ArchiveWriter writer(output, packing, diagnostics);
     if (!output.begin() || !writer.addFile(file.get(), status, "file", "file") || !output.finish()) return {};
