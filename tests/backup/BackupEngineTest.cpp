@@ -98,22 +98,26 @@ TEST_F(BackupEngine, CountsEachEntryOnceAndTellsThemApart)
     const fs::path one = sample("one/docs", "first");
     const fs::path two = sample("two/docs", "second");
     const fs::path pipe = folder / "pipe";
+    const std::string link = std::string(200, 'n');
+    fs::create_directory_symlink(two, folder / link);
     ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-    backUp({one, two, one, folder / "gone", pipe});
-    EXPECT_EQ(monitor->state.foldersToDo(), 5);
-    EXPECT_EQ(monitor->state.foldersDone(), 3);
-    EXPECT_EQ(namesIn(archives), "docs-0.rar.aes.rar\ndocs-1.rar.aes.rar");
+    backUp({one, two, one, folder / "gone", pipe, folder / link / ""});
+    EXPECT_EQ(monitor->state.foldersToDo(), 6);
+    EXPECT_EQ(monitor->state.foldersDone(), 4);
+    EXPECT_EQ(namesIn(archives), "docs-0.rar.aes.rar\ndocs-1.rar.aes.rar\n" + link + ".rar.aes.rar");
     EXPECT_EQ(monitor->console, QString());
     QList<Outcome> outcomes;
     for (const ItemRecord &item : monitor->record.items)
         outcomes.append(item.outcome);
     using enum Outcome;
-    EXPECT_EQ(outcomes, (QList{Succeeded, Succeeded, Succeeded, Skipped, Skipped}));
+    EXPECT_EQ(outcomes, (QList{Succeeded, Succeeded, Succeeded, Skipped, Skipped, Succeeded}));
     EXPECT_EQ(monitor->record.outcome, Failed);
-    for (const char *word : {"Backed up 3 of 5", "gone", "pipe"})
+    for (const char *word : {"Backed up 4 of 6", "gone", "pipe"})
         EXPECT_NE(summary().find(word), std::string::npos) << summary();
-    extract({archives / "docs-0.rar.aes.rar", archives / "docs-1.rar.aes.rar"});
+    extract({archives / "docs-0.rar.aes.rar", archives / "docs-1.rar.aes.rar",
+             archives / (link + ".rar.aes.rar")});
     EXPECT_EQ(readFile(extracted(one) / "file") + readFile(extracted(two) / "file"), "firstsecond");
+    EXPECT_EQ(readFile(extracted(folder / link) / "file"), "second") << "the slash means the folder";
 }
 
 // In a folder that others may write to, nothing is written through what they put there.

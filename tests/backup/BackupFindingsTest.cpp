@@ -36,6 +36,8 @@ TEST_F(BackupFindings, TellWhatIsWrongAndWhatToDo)
     const auto [certificate, key] = makeCredentials(folder, "rsa");
     runOpenSsl(folder, "ecparam -name prime256v1 -genkey -noout -out ec-key.pem");
     runOpenSsl(folder, "req -x509 -new -key ec-key.pem -subj /CN=ec -out ec.pem");
+    runOpenSsl(folder, "req -x509 -newkey rsa:1024 -nodes -keyout key -subj /CN=small -out small.pem");
+    fs::resize_file(sample("sparse") / "file", std::uintmax_t(1) << 42);
     fs::create_directory_symlink(docs, folder / "link");
     ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
     const auto by = [this](const std::string &name) {
@@ -71,16 +73,22 @@ TEST_F(BackupFindings, TellWhatIsWrongAndWhatToDo)
              {password(QString(1024, u'x')), u"!|1023"_qs},
              {password(QString(1023, u'x')), {}},
              {by("rsa.pem"), {}},
+             {by("small.pem"), u"|small.pem|1024"_qs},
              {by("gone.pem"), u"!|gone.pem"_qs},
+             {by("docs/file"), u"!|docs/file|no certificate"_qs},
              {by("rsa-key.pem"), u"!|rsa-key.pem"_qs},
              {by("ec.pem"), u"!|ec.pem|RSA"_qs},
              {volumes(u"many"_qs), u"!|\"many\""_qs},
+             {volumes({}), u"!|olume"_qs},
              {volumes(u"0"_qs), u"!|\"0\""_qs},
              {volumes(u"1"_qs), {}},
+             {[&](auto &o) { volumes(u"many"_qs)(o), password(u"a\nb"_qs)(o); }, u"!|many|line break"_qs},
              {sources({folder / "a/x", folder / "b/x", folder / "c/x-1"}), u"!|x-1|both need"_qs},
              {sources({folder / "x.rar.aes", folder / "x"}), u"!|both need|x.rar.aes"_qs},
              {sources({docs, archives / "docs.rar"}), u"!|is on the list|docs.rar"_qs},
              {sources({folder / std::string(240, 'x')}), u"!|too long"_qs},
+             {sources({docs, sample("docs-1"), sample("docs.aes"), sample(std::string(200, 'n'))}), {}},
+             {sources({folder / "sparse"}), u"|room"_qs},
              {sources({docs, folder / "gone"}), u"|gone\" is not there"_qs},
              {sources({folder / "link"}), u"|only the link itself"_qs},
              {sources({folder / "link/"}), {}},

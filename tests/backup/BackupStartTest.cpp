@@ -1,6 +1,7 @@
 #include "EngineRun.h"
 #include "TestProgram.h"
 
+#include "app/folders/Decisions.h"
 #include "keychain/Keychain.h"
 #include "runs/Run.h"
 #include "tools/ToolRun.h"
@@ -207,36 +208,11 @@ TEST_F(BackupStart, TellsWhichToolsOfAFailedRunStillWork)
     EXPECT_TRUE(delegate.outputText01.text().endsWith(u"RAR 1st: no"_qs)) << "not \"Cancelled\"";
 }
 
-TEST_F(BackupStart, NamesWhatIsLeftInClear)
+TEST_F(BackupStart, SaysWhatIsMissing)
 {
-    writeFile(program.folder() / "archives/own.rar", "the user's own");
-    program.useTool(u"OpenSSL"_qs, writeScript(folder / "openssl", "echo no").toStdString());
-    delegate.buttonLaunch01b();
-    program.waitForEnd();
-    const QString left = program.path("archives/docs.rar");
-    for (int start = 0; start < 2; ++start) {
-        EXPECT_TRUE(delegate.clearText01.text().endsWith(u'\n' + left));
-        EXPECT_FALSE(delegate.clearText01.isHidden() || delegate.clearRemove01.isHidden());
-        delegate.clearText01.setText({});
-        program.start();
-    }
-    delegate.clearRemove01Action();
-    ASSERT_TRUE(TestProgram::waitUntil([&] { return delegate.clearText01.isHidden(); }));
-    EXPECT_TRUE(delegate.clearRemove01.isHidden());
-    EXPECT_EQ(made(), "own.rar");
-}
-
-TEST_F(BackupStart, SaysWhatIsMissingAndAsks)
-{
-    struct Case {
-        QString said;
-        std::function<void()> spoil;
-    };
-    for (const auto &[said, spoil] : std::vector<Case>{
+    for (const auto &[said, spoil] : std::vector<std::pair<QString, std::function<void()>>>{
              {u"not this profile's own"_qs, [&] { delegate.currentRecord().remove(u"path"_qs); }},
-             {u"No destination"_qs, [&] { delegate.fileText01.setText({}); }},
              {u"no folders"_qs, [&] { delegate.currentRecord().array(u"folders"_qs).clear(); }},
-             {u"password"_qs, [&] { delegate.secureText01a.setText({}); }},
              {u"certificate"_qs, [&] { delegate.passCombo01.selectIndex(PasswordTab::Certificate); }},
          }) {
         program.setUpBackup({toQString(docs)});
@@ -246,41 +222,26 @@ TEST_F(BackupStart, SaysWhatIsMissingAndAsks)
         EXPECT_TRUE(program.lastWarning().contains(said)) << qPrintable(program.lastWarning());
         EXPECT_EQ(made(), "");
     }
-    delegate.currentRecord().array(u"folders"_qs).clear();
-    program.setUpBackup({toQString(docs)});
-    writeFile(program.folder() / "archives/holiday.jpg", "x");
-    for (const bool goesOn : {false, true}) {
-        delegate.warningPanel03.observe([&] {
-            if (delegate.warningPanel03.place() == outlets::Panel::Place::Hidden) return;
-            EXPECT_EQ(delegate.folderNotEmptyText02.text(), program.path("archives"));
-            EXPECT_TRUE(delegate.overwritesText02.text().contains(u"Other files stay"));
-            goesOn ? delegate.buttonLaunch01b() : delegate.buttonLaunch01Stop();
-        });
-        delegate.buttonLaunch01();
-        program.waitForEnd();
-        EXPECT_EQ(made(), goesOn ? "docs.rar.aes.rar\nholiday.jpg" : "holiday.jpg");
-    }
 }
 
-TEST_F(BackupStart, ListsFoldersAndTheDestination)
+TEST_F(BackupStart, FollowsTheProfileAndTheSettings)
 {
-    const auto rows = [&] { return delegate.currentRecord().array(u"folders"_qs).strings().join(u'|'); };
-    delegate.currentRecord().array(u"folders"_qs).clear();
-    for (const bool isCancelled : {false, true}) {
-        delegate.openPanel = [&](const outlets::OpenPanel &panel) -> std::optional<QStringList> {
-            EXPECT_TRUE(panel.canChooseDirectories && panel.allowsMultipleSelection == panel.canChooseFiles);
-            if (isCancelled) return std::nullopt;
-            return panel.canChooseFiles ? QStringList{u"/a"_qs, u"/b"_qs, u"/a"_qs} : QStringList{u"/d"_qs};
-        };
-        delegate.folderButton01Action();
-        delegate.fileButton01Action();
-        delegate.folderButton02Action(); // nothing is selected
-        EXPECT_EQ(rows(), u"/a|/b|/a");
+    using namespace quillorentLibrary;
+    for (const auto &[source, method, cipher, extension] :
+         {std::tuple{0, u"OpenSSL-AES"_qs, std::optional(u"aes-256-cbc"_qs), std::optional(u".aes"_qs)},
+          {-1, u"OpenSSL-BF"_qs, u"bf-cbc"_qs, u".bf"_qs},
+          {1, u"OpenSSL-3D"_qs, u"des-ede3-cbc"_qs, u".3d"_qs},
+          {2, u"OpenSSL-AES"_qs, u"smime"_qs, u".smime"_qs},
+          {0, u"unknown"_qs, std::nullopt, std::nullopt}}) {
+        delegate.passCombo01.selectIndex(source);
+        delegate.currentRecord().setValue(u"symencryption"_qs, method);
+        EXPECT_EQ(decideEncryption(), cipher) << qPrintable(method);
+        EXPECT_EQ(decideExtension(), extension) << qPrintable(method);
     }
-    delegate.listTableView.setSelectedRows({0});
-    delegate.folderButton02Action();
-    EXPECT_EQ(rows(), u"/b|/a");
-    EXPECT_EQ(delegate.listTableView.dataSource()->objectValue(u"c10"_qs, 0), u"/b"_qs);
-    EXPECT_EQ(delegate.fileText01.text(), u"/d"_qs);
-    EXPECT_EQ(delegate.currentRecord().string(u"path"_qs), u"/d"_qs);
+    for (const auto &[isOn, words] : {std::pair{true, u"-v10000-tl"_qs}, {false, u""_qs}}) {
+        delegate.checkBox04.setOn(isOn);
+        delegate.checkBox05.setOn(isOn);
+        EXPECT_EQ(decideSplit() + decideKeepDate(), words);
+    }
+    EXPECT_FALSE(decideSplit().isNull()) << "an argument that is off is an empty one, not a missing one";
 }
