@@ -15,11 +15,14 @@
 //   mode OCTAL PATH        takes permissions away
 //
 // QUILLORENT_TRIPWIRE_LOG names a file that tells in which order all of them did what matters when the power
-// fails: "safe INODE", "named INODE PATH" and "gone INODE PATH", a line each.
+// fails: "safe INODE PATH", "named INODE PATH" and "gone INODE PATH", a line each.
+//
+// With QUILLORENT_NO_NAMELESS every file must have a name, as on some file systems.
 
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <dlfcn.h>
@@ -199,6 +202,16 @@ int fdatasync(int a)
 {
     note("safe", a, "", AT_EMPTY_PATH);
     return passOn<int>("fdatasync", a);
+}
+int openat64(int a, const char *b, int flags, ...)
+{
+    va_list rest;
+    va_start(rest, flags);
+    const mode_t mode = flags & (O_CREAT | __O_TMPFILE) ? va_arg(rest, mode_t) : 0;
+    va_end(rest);
+    if ((flags & O_TMPFILE) == O_TMPFILE && getenv("QUILLORENT_NO_NAMELESS")) return errno = EOPNOTSUPP, -1;
+    return reinterpret_cast<int (*)(int, const char *, int, ...)>(dlsym(RTLD_NEXT, "openat64"))(a, b, flags,
+                                                                                                mode);
 }
 // NOLINTEND
 }

@@ -1,42 +1,22 @@
+#include "Companion.h"
 #include "Rar.h"
-#include "Shim.h"
 #include "Tree.h"
 
-#include <chrono>
-#include <csignal>
-#include <sstream>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <thread>
-#include <unistd.h>
 
 namespace fs = std::filesystem;
 
-namespace {
-
-std::size_t entriesIn(const fs::path &folder)
-{
-    return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
-}
-
 using CommandLine = ArchiverTest;
-
-} // namespace
 
 TEST_F(CommandLine, refusesWhatItDoesNotKnow)
 {
-    const CommandResult help = rar({"-h"});
-    EXPECT_NE(help.status, 0);
-    EXPECT_TRUE(help.errors.starts_with("\nERROR: Unknown option: h\n")) << help.errors;
-    EXPECT_NE(help.errors.find("-idq"), std::string::npos);
+    EXPECT_TRUE(rar({"-h"}).errors.starts_with("\nERROR: Unknown option: h\n"));
     for (const std::string line :
-         {"", "a", "a x.rar", "b x.rar y", "t", "t x.rar y", "lb x.rar y", "x x.rar y z", "a -v x.rar y",
-          "a -v0 x.rar y", "a -v1k x.rar y", "a -v-1 x.rar y", "a -m3 x.rar y"}) {
-        std::istringstream words(line);
-        const std::vector<std::string> arguments(std::istream_iterator<std::string>(words), {});
-        const CommandResult result = rar(arguments, {.folder = temporary.path()});
-        EXPECT_NE(result.status, 0) << line;
-        EXPECT_TRUE(result.errors.starts_with("\nERROR: ")) << result.errors;
+         {"-h", "", "a", "a x.rar", "b x.rar y", "t", "t x.rar y", "lb x.rar y", "x x.rar y z",
+          "a -v x.rar y", "a -v0 x.rar y", "a -v1k x.rar y", "a -v-1 x.rar y", "a -m3 x.rar y"}) {
+        const CommandResult result =
+            runCommand({"sh", "-c", "exec \"$0\" " + line, QUILLORENT_RAR}, {.folder = temporary.path()});
+        EXPECT_TRUE(failure(result).starts_with("\nERROR: ")) << line << result.errors;
         EXPECT_EQ(entriesIn(temporary.path()), 0u);
     }
 }
@@ -72,10 +52,7 @@ TEST_F(CommandLine, listsTheNameOfEachEntryOnce)
     const std::vector<fs::path> volumes = volumesOf(archive);
     ASSERT_GT(volumes.size(), 5u);
     const std::string names = "source/a\nsource/caf\xE9\t*\nsource/link\nsource\n";
-    const CommandResult listed = rar({"lb", "-idq", volumes.front()});
-    EXPECT_EQ(listed.output, names);
-    EXPECT_EQ(listed.errors, "");
-
+    EXPECT_EQ(rar({"lb", "-idq", volumes.front()}).output, names);
     EXPECT_EQ(runCommand({"sh", "-c", "exec \"$@\" >/dev/full", "sh", QUILLORENT_RAR, "lb", volumes.front()})
                   .errors,
               "\nCannot write the list: No space left on device\n");
@@ -96,9 +73,7 @@ TEST_F(CommandLine, timeOfTheNewestEntry)
     EXPECT_EQ(tree.at("a.rar").seconds, 1'200'000'000);
     EXPECT_EQ(tree.at("a.rar").nanoseconds, 7);
     EXPECT_GT(tree.at("b.rar").seconds, 1'500'000'000);
-    const std::vector<fs::path> volumes = volumesOf(temporary / "set.rar");
-    EXPECT_GT(volumes.size(), 1u);
-    for (const fs::path &volume : volumes)
+    for (const fs::path &volume : volumesOf(temporary / "set.rar"))
         EXPECT_EQ(fs::last_write_time(volume), fs::last_write_time(QUILLORENT_RAR));
 }
 
@@ -126,8 +101,7 @@ TEST_F(CommandLine, sourcesThatCannotBeArchivedLeaveTheOldArchiveInPlace)
         EXPECT_EQ(entriesIn(temporary.path()), entries);
     }
     const CommandResult nowhere = rar({"a", temporary / "no folder/a.rar", temporary / "there"});
-    EXPECT_NE(nowhere.status, 0);
-    EXPECT_NE(nowhere.errors.find("No such file or directory"), std::string::npos);
+    EXPECT_NE(failure(nowhere).find("No such file or directory"), std::string::npos);
 }
 
 TEST_F(CommandLine, whatPermissionsForbidIsNamed)
@@ -156,53 +130,4 @@ TEST_F(CommandLine, whatPermissionsForbidIsNamed)
         EXPECT_FALSE(fs::exists(archive)) << "an archive without them looks like a whole one";
     }
     fs::permissions(source / "hidden", fs::perms::all);
-}
-
-TEST_F(CommandLine, aFullDiskIsReportedAndCleanedUp)
-{
-    writeFile(source / "file", randomBytes(3'000'000));
-    ASSERT_EQ(addTree(temporary / "whole.rar", source).errors, "");
-    const auto limited = [](std::vector<std::string> arguments) {
-        // Beyond the limit writing fails, as on a full disk: the signal that would come with it is ignored.
-        arguments.insert(arguments.begin(),
-                         {"sh", "-c", "trap '' XFSZ; ulimit -f 1000; exec \"$@\"", "sh", QUILLORENT_RAR});
-        return runCommand(arguments);
-    };
-    EXPECT_EQ(failure(limited({"a", "-m0", "-t", archive, source})),
-              "\nCannot write " + archive.string() + ": File too large\n");
-    const CommandResult unpacked = limited({"e", temporary / "whole.rar", out});
-    EXPECT_NE(unpacked.status, 0);
-    EXPECT_NE(unpacked.errors.find("file: File too large\n"), std::string::npos) << unpacked.errors;
-    EXPECT_EQ(entriesIn(temporary.path()), 3u);
-    EXPECT_TRUE(fs::is_empty(out));
-}
-
-TEST_F(CommandLine, endingItLeavesNothingUnfinishedOrTheNextRunRemovesIt)
-{
-    const fs::path to = temporary / "to";
-    writeFile(temporary / "small", "");
-    writeFile(temporary / "endless", "");
-    fs::resize_file(temporary / "endless", 1ull << 36); // far more than is written before the signal
-    for (const bool nameless : {true, false})
-        for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGKILL}) {
-            fs::create_directory(to);
-            const pid_t child = fork();
-            if (child == 0) {
-                for (const auto &[name, value] : nameless ? withShim() : withoutNamelessFiles())
-                    setenv(name.c_str(), value.c_str(), 1);
-                execl(QUILLORENT_RAR, "rar", "a", "-m0", "-v100000", (to / "a.rar").c_str(),
-                      (temporary / "endless").c_str(), nullptr);
-                _exit(127);
-            }
-            while (readFile("/proc/" + std::to_string(child) + "/io").find("\nwchar: 1") == std::string::npos)
-                std::this_thread::sleep_for(std::chrono::milliseconds(1));
-            kill(child, signal);
-            int status = 0;
-            ASSERT_EQ(waitpid(child, &status, 0), child);
-            EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == signal) << status;
-            EXPECT_EQ(fs::is_empty(to), nameless || signal != SIGKILL);
-            EXPECT_EQ(rar({"a", to / "a.rar", temporary / "small"}).errors, "");
-            EXPECT_EQ(entriesIn(to), 1u);
-            fs::remove_all(to);
-        }
 }

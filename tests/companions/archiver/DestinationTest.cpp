@@ -1,5 +1,5 @@
+#include "Companion.h"
 #include "Rar.h"
-#include "Shim.h"
 #include "Tree.h"
 
 #include <sys/stat.h>
@@ -7,19 +7,8 @@
 namespace fs = std::filesystem;
 using Kind = archiver::LinkTarget::Kind;
 
-namespace {
-
-HandmadeEntry copyOf(const std::string &target, Kind kind)
-{
-    HandmadeEntry entry = storedFile("copy", "");
-    entry.header.link = archiver::LinkTarget{kind, false, target};
-    return entry;
-}
-
 /// Archives that want to write outside of the folder they are extracted to.
 using Hostile = ArchiverTest;
-
-} // namespace
 
 TEST_F(Hostile, nothingLeavesTheFolder)
 {
@@ -34,31 +23,32 @@ TEST_F(Hostile, nothingLeavesTheFolder)
     const std::string leadsOut = "leads out of the destination";
     const std::string way = "is a link or a file in the destination";
     std::vector<Case> cases = {{{folderEntry("../outside/folder")}, leadsOut},
-                               {{symbolicLink("../outside/link", "x")}, leadsOut},
+                               {{linkEntry("../outside/link", "x")}, leadsOut},
                                {{storedFile(std::string("zero\0byte", 9), "bad")}, "zero"},
                                {{storedFile(file, "inside")}, "", file.substr(1)},
                                {{storedFile("a\\..\\b", "inside")}, "", "a\\..\\b"},
-                               {{symbolicLink("file", file), storedFile("file", "inside")}, "", "file"},
+                               {{linkEntry("file", file), storedFile("file", "inside")}, "", "file"},
                                {{storedFile("pipe", "inside")}, "", "pipe"},
                                {{storedFile("folder", "bad")}, "folder"},
-                               {{symbolicLink("folder", "x")}, "folder"},
+                               {{linkEntry("folder", "x")}, "folder"},
                                {{storedFile("folder/kept/below", "bad")}, way}};
     for (const std::string name : {"../outside/new", "a/../../outside/new", "..", "", "/", "a/..", "."})
         cases.push_back({{storedFile(name, "bad")}, leadsOut});
     for (const std::string &target : {outside.string(), std::string("../outside")})
         for (const HandmadeEntry &entry :
              {storedFile("door/new", "bad"), storedFile("door/file", "bad"), folderEntry("door/folder"),
-              folderEntry("door", 0700), symbolicLink("door/link", "x")})
-            cases.push_back({{symbolicLink("door", target), entry}, way});
+              folderEntry("door", 0700), linkEntry("door/link", "x")})
+            cases.push_back({{linkEntry("door", target), entry}, way});
     for (const Kind kind : {Kind::Hard, Kind::Copy}) {
-        cases.push_back({{copyOf("../outside/file", kind)}, leadsOut});
-        cases.push_back({{symbolicLink("door", file), copyOf("door", kind)}, "is missing"});
-        cases.push_back({{copyOf("missing", kind)}, "is missing"});
-        cases.push_back({{storedFile("original", "inside"), copyOf("original", kind)}, "", "copy"});
+        cases.push_back({{linkEntry("copy", "../outside/file", kind)}, leadsOut});
+        cases.push_back({{linkEntry("door", file), linkEntry("copy", "door", kind)}, "is missing"});
+        cases.push_back({{linkEntry("copy", "missing", kind)}, "is missing"});
+        cases.push_back(
+            {{storedFile("original", "inside"), linkEntry("copy", "original", kind)}, "", "copy"});
     }
     const TreeSnapshot before = snapshotTree(outside);
     for (const Case &each : cases)
-        for (const auto &environment : {withShim(), withoutNamelessFiles()}) {
+        for (const Environment &environment : fileSystems) {
             SCOPED_TRACE(each.entries.back().header.name);
             fs::remove_all(out);
             writeFile(out / "folder/kept", "kept");

@@ -93,11 +93,11 @@ HandmadeEntry storedFile(const std::string &name, const std::string &content)
     return entry;
 }
 
-HandmadeEntry symbolicLink(const std::string &name, const std::string &target)
+HandmadeEntry linkEntry(const std::string &name, const std::string &target, archiver::LinkTarget::Kind kind)
 {
     HandmadeEntry entry = storedFile(name, "");
-    entry.header.mode = 0120777;
-    entry.header.link = archiver::LinkTarget{archiver::LinkTarget::Kind::Symbolic, false, target};
+    if (kind == archiver::LinkTarget::Kind::Symbolic) entry.header.mode = 0120777;
+    entry.header.link = archiver::LinkTarget{kind, false, target};
     return entry;
 }
 

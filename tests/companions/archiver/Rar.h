@@ -39,7 +39,8 @@ struct HandmadeEntry {
 };
 /// Header of a stored file with the right sizes and checksum.
 HandmadeEntry storedFile(const std::string &name, const std::string &content);
-HandmadeEntry symbolicLink(const std::string &name, const std::string &target);
+HandmadeEntry linkEntry(const std::string &name, const std::string &target,
+                        archiver::LinkTarget::Kind kind = archiver::LinkTarget::Kind::Symbolic);
 HandmadeEntry folderEntry(const std::string &name, unsigned mode = 0755);
 /// `solid`: it says that entries may share a dictionary.
 std::string handmadeArchive(const std::vector<HandmadeEntry> &entries, bool solid = false);

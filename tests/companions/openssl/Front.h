@@ -1,14 +1,10 @@
 #pragma once
 
 #include "Command.h"
-#include "TemporaryFolder.h"
+#include "Companion.h"
 
-#include <filesystem>
 #include <gtest/gtest.h>
 #include <iterator>
-#include <sstream>
-#include <string>
-#include <vector>
 
 using Arguments = std::vector<std::string>;
 
@@ -32,9 +28,7 @@ inline const std::string stock = "openssl"; ///< the system's own tool
 inline CommandResult runIn(const TemporaryFolder &folder, const std::string &program, const std::string &line,
                            const Arguments &more = {})
 {
-    CommandOptions options;
-    options.folder = folder.path();
-    CommandResult result = runCommand(Arguments{program} + words(line) + more, options);
+    CommandResult result = runCommand(Arguments{program} + words(line) + more, {.folder = folder.path()});
     result.output += result.errors;
     return result;
 }
@@ -55,7 +49,9 @@ inline std::string binaryData(std::size_t size)
     return data;
 }
 
-inline std::ptrdiff_t entriesIn(const TemporaryFolder &folder)
+/// Makes key and cert there.
+inline void makeKey(const TemporaryFolder &folder, const std::string &suffix = "")
 {
-    return std::distance(std::filesystem::directory_iterator(folder.path()), {});
+    const std::string files = " -subj /CN=test" + suffix + " -keyout key" + suffix + " -out cert" + suffix;
+    ASSERT_EQ(runIn(folder, stock, "req -x509 -newkey rsa:1024 -nodes -days 2" + files).status, 0);
 }

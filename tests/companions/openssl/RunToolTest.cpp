@@ -1,51 +1,44 @@
 #include "RunTool.h"
+#include "Front.h"
 #include "LineFilter.h"
-
-#include "TemporaryFolder.h"
 #include "ToolLocation.h"
-
-#include <filesystem>
-#include <gtest/gtest.h>
 
 namespace fs = std::filesystem;
 
 namespace {
 
-class RunTool : public testing::Test {
-protected:
-    /// Runs a tool with this content, which is called with `-out FILE` after the command's name.
-    int run(const std::string &content, const std::string &output)
-    {
-        writeFile(folder / "tool", content);
-        fs::permissions(folder / "tool", fs::perms::owner_all);
-        ToolRun run;
-        run.arguments = {"aes-256-cbc"};
-        run.output = output;
-        run.hasPassword = !password.text().empty();
-        return runTool(folder / "tool", run, password);
-    }
-
-    TemporaryFolder folder;
-    Secret password;
-};
+/// Runs a tool with this content, which is called with `-out FILE` after the command's name.
+int runScript(const TemporaryFolder &folder, const std::string &content, const std::string &output,
+              Secret &password)
+{
+    writeFile(folder / "tool", content);
+    fs::permissions(folder / "tool", fs::perms::owner_all);
+    ToolRun run;
+    run.arguments = {"aes-256-cbc"};
+    run.output = output;
+    run.hasPassword = !password.text().empty();
+    return runTool(folder / "tool", run, password);
+}
 
 // A failing run must be seen from what is printed, and must not leave something that looks like a result.
-TEST_F(RunTool, TellsAMisbehavingToolAndLeavesTheOlderResult)
+TEST(RunTool, TellsAMisbehavingToolAndLeavesTheOlderResult)
 {
     const std::vector<std::pair<std::string, std::string>> toolsAndMessages{
         {"#!/bin/sh\necho half > \"$3\"; exit 3", "exit status 3"},
         {"#!/bin/sh\necho half > \"$3\"; kill -SEGV $$", "signal 11"},
         {"#!/bin/sh\necho whole > \"$3\"; echo odd >&2", "odd"},
         {"no program", "cannot run"}};
+    const TemporaryFolder folder;
+    Secret password;
     const fs::path results = folder / "results";
     writeFile(results / "G", "older");
     for (const auto &[tool, message] : toolsAndMessages) {
         testing::internal::CaptureStderr();
-        EXPECT_NE(run(tool, results / "G"), 0);
+        EXPECT_NE(runScript(folder, tool, results / "G", password), 0);
         const std::string errors = testing::internal::GetCapturedStderr();
         EXPECT_NE(errors.find(message), std::string::npos) << errors;
         EXPECT_EQ(readFile(results / "G"), "older");
-        EXPECT_EQ(std::distance(fs::directory_iterator(results), {}), 1);
+        EXPECT_EQ(entriesIn(results), 1U);
     }
 }
 
@@ -62,11 +55,13 @@ TEST(LineFilter, LeavesOutWholeLinesAlone)
     }
 }
 
-TEST_F(RunTool, WipesThePasswordThatItHandedOn)
+TEST(RunTool, WipesThePasswordThatItHandedOn)
 {
+    const TemporaryFolder folder;
+    Secret password;
     const std::string longest(Secret::maximumSize, 'x');
     ASSERT_TRUE(password.assign(longest));
-    EXPECT_EQ(run("#!/bin/sh\neval \"cat <&${3#fd:}\" > \"$5\"", folder / "got"), 0);
+    EXPECT_EQ(runScript(folder, "#!/bin/sh\neval \"cat <&${3#fd:}\" > \"$5\"", folder / "got", password), 0);
     EXPECT_EQ(readFile(folder / "got"), longest + "\n");
     EXPECT_EQ(password.text(), "");
 }

@@ -1,15 +1,15 @@
 #include "Front.h"
 
+namespace fs = std::filesystem;
+
 namespace {
 
 class SmimeFront : public testing::Test {
 protected:
     void SetUp() override
     {
-        for (const char *const files :
-             {"-subj /CN=test -keyout key -out cert", "-subj /CN=test2 -keyout key2 -out cert2"})
-            ASSERT_EQ(runIn(folder, stock, "req -x509 -newkey rsa:2048 -nodes -days 2", words(files)).status,
-                      0);
+        makeKey(folder);
+        makeKey(folder, "2");
     }
 
     CommandResult encrypt(const std::string &tool) const
@@ -17,7 +17,6 @@ protected:
         return runIn(folder, tool, "smime -aes256 -encrypt -binary -in F -out G cert");
     }
 
-    const std::string decryption = "smime -aes256 -decrypt -binary -in G -out H -inkey key cert";
     TemporaryFolder folder;
 };
 
@@ -30,9 +29,10 @@ TEST_F(SmimeFront, ExchangesFilesWithTheSystemsTool)
         writeFile(folder / "F", plain);
         for (const auto &[writer, reader] : writersAndReaders) {
             EXPECT_TRUE(isSilentSuccess(encrypt(writer)));
-            EXPECT_TRUE(isSilentSuccess(runIn(folder, reader, decryption)));
+            EXPECT_TRUE(isSilentSuccess(
+                runIn(folder, reader, "smime -aes256 -decrypt -binary -in G -out H -inkey key cert")));
             EXPECT_EQ(readFile(folder / "H"), plain) << size << " bytes, written by " << writer;
-            std::filesystem::remove(folder / "H");
+            fs::remove(folder / "H");
         }
     }
 }
@@ -70,7 +70,7 @@ TEST_F(SmimeFront, DecryptsWhateverFormTheSystemsToolWrites)
         EXPECT_TRUE(isSilentSuccess(runIn(folder, stock, command, options + Arguments{"cert"})));
         EXPECT_TRUE(isSilentSuccess(runIn(folder, front, "smime -decrypt -in G -out H", words(reading))));
         EXPECT_TRUE(readFile(folder / "H") == plain);
-        std::filesystem::remove(folder / "H");
+        fs::remove(folder / "H");
     }
 }
 
@@ -82,7 +82,6 @@ TEST_F(SmimeFront, TellsInOneLineWhyItDoesNotDecrypt)
     const std::string message = readFile(folder / "G");
     writeFile(folder / "half", message.substr(0, message.size() / 2));
     writeFile(folder / "more", message + "more");
-    writeFile(folder / "twice", message + message);
     writeFile(folder / "spoilt", message.substr(0, 900) + "!" + message.substr(901));
     writeFile(folder / "none", "");
     ASSERT_EQ(runIn(folder, stock, "smime -sign -in F -out signed -nodetach -signer cert -inkey key").status,
@@ -91,11 +90,9 @@ TEST_F(SmimeFront, TellsInOneLineWhyItDoesNotDecrypt)
         {"-in G -inkey key2 cert",
          "G was not opened: the private key key2 does not belong to the certificate cert"},
         {"-in G -inkey key2 cert2", "G is not for the certificate cert2"},
-        {"-in G -inkey key -recip cert2", "G is not for the certificate cert2"},
         {"-in G -inkey key2", "G cannot be opened with the private key key2"},
         {"-in half -inkey key cert", "half ends too early: the message was cut short"},
         {"-in more -inkey key cert", "more goes on after the end of the message"},
-        {"-in twice -inkey key cert", "twice goes on after the end of the message"},
         {"-in spoilt -inkey key cert", "spoilt is damaged: its byte 901 is none of a base64 text"},
         {"-in none -inkey key cert", "none is empty"},
         {"-in signed -inkey key cert", "signed is a message, but not an encrypted one"},
@@ -103,36 +100,23 @@ TEST_F(SmimeFront, TellsInOneLineWhyItDoesNotDecrypt)
         {"-in G -inkey cert", "cert holds no private key"},
         {"-in G -inkey key -recip key", "key holds no certificate"},
         {"-in G -inkey missing", "cannot open missing: No such file or directory"},
-        {"-in missing -inkey key", "cannot open missing: No such file or directory"},
         {"-in G -inkey locked",
          "the private key locked is protected by a pass phrase: use a copy of the key that "
          "has none, or -passin"},
         {"-in G -inkey locked -passin pass:wrong", "the pass phrase does not open the private key locked"},
         {"-in G -inkey locked -passin file:missing",
          "cannot take the pass phrase from file:missing: No such file or directory"}};
-    const auto entries = entriesIn(folder);
+    const auto entries = entriesIn(folder.path());
     for (const auto &[arguments, reason] : argumentsAndReasons) {
         const CommandResult result = runIn(folder, front, "smime -decrypt -out H " + arguments);
         EXPECT_EQ(result.status, 1) << arguments;
         EXPECT_EQ(result.output, "openssl: " + reason + "\n");
-        EXPECT_EQ(entriesIn(folder), entries) << arguments;
+        EXPECT_EQ(entriesIn(folder.path()), entries) << arguments;
     }
     writeFile(folder / "phrase", "right\nrest");
     for (const char *const source : {"pass:right", "file:phrase"})
         EXPECT_TRUE(isSilentSuccess(
             runIn(folder, front, "smime -decrypt -in G -out H -inkey locked -passin", {source})));
-}
-
-// A full disk, which the tool alone does not notice while it writes the last bytes of what it decrypted.
-TEST_F(SmimeFront, TellsAResultThatDoesNotFit)
-{
-    writeFile(folder / "F", binaryData(3'000));
-    ASSERT_TRUE(isSilentSuccess(encrypt(front)));
-    const std::string script = "trap '' XFSZ; ulimit -f 1; exec '" + front + "' " + decryption;
-    const CommandResult result = runIn(folder, "sh", "-c", {script});
-    EXPECT_NE(result.status, 0);
-    EXPECT_NE(result.output.find("cannot write H"), std::string::npos) << result.output;
-    EXPECT_FALSE(std::filesystem::exists(folder / "H"));
 }
 
 } // namespace

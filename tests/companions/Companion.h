@@ -1,0 +1,50 @@
+#pragma once
+
+#include "TemporaryFolder.h"
+
+#include <filesystem>
+#include <map>
+#include <sstream>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+using Environment = std::map<std::string, std::string>;
+
+/// What a program's environment needs besides for Tripwire.cpp to come before the C library.
+inline Environment withTripwire(Environment environment = {})
+{
+    environment["LD_PRELOAD"] = TRIPWIRE;
+    environment["ASAN_OPTIONS"] = "verify_asan_link_order=0";
+    return environment;
+}
+
+/// The second one: as on a file system where every file has a name.
+inline const std::vector<Environment> fileSystems = {withTripwire(),
+                                                     withTripwire({{"QUILLORENT_NO_NAMELESS", "1"}})};
+
+/// Before a command: root may do anything, so rules of permission are tested as nobody. `program` is copied
+/// into the folder, which everybody may use from then on.
+inline std::vector<std::string> asOrdinaryUser(const std::filesystem::path &folder,
+                                               const std::string &program)
+{
+    std::filesystem::permissions(folder, std::filesystem::perms::all);
+    std::filesystem::copy_file(program, folder / "program");
+    if (getuid() != 0) return {folder / "program"};
+    return {"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups", folder / "program"};
+}
+
+/// A letter for each line of a tripwire's log: a file is safe, named or gone; D, the folder is safe.
+inline std::string stepsOf(const std::filesystem::path &log, const std::filesystem::path &folder)
+{
+    std::string steps;
+    std::istringstream stream(readFile(log));
+    for (std::string line; std::getline(stream, line);)
+        steps += line.ends_with(" " + folder.string() + "/") ? 'D' : line[0];
+    return steps;
+}
+
+inline std::size_t entriesIn(const std::filesystem::path &folder)
+{
+    return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder), {}));
+}
