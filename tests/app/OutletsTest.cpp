@@ -1,7 +1,6 @@
 #include "TestProgram.h"
 #include "tools/Threads.h"
 
-#include <QTimer>
 #include <gtest/gtest.h>
 
 using namespace std::chrono_literals;
@@ -36,24 +35,6 @@ TEST(Outlets, ChooserForgetsATitleThatIsGone)
     EXPECT_EQ(chooser.selectedTitle(), u"b"_qs);
     chooser.setTitles({u"c"_qs});
     EXPECT_EQ(chooser.selectedTitle(), QString());
-    chooser.selectTitle(u"b"_qs);
-    EXPECT_EQ(chooser.selectedTitle(), QString());
-}
-
-TEST(Panel, WaitsOnTheMainThreadInAnEventLoop)
-{
-    TestProgram program;
-    outlets::Panel &panel = program.delegate().warningPanel03;
-    QTimer::singleShot(0, [&] {
-        EXPECT_EQ(panel.place(), outlets::Panel::Place::Sheet);
-        program.delegate().buttonLaunch01Stop();
-    });
-    panel.runModal();
-    EXPECT_EQ(panel.place(), outlets::Panel::Place::Hidden);
-
-    // An answer may come between the moment that a panel shows and the moment that the waiting begins.
-    program.delegate().warn(u"text"_qs);
-    EXPECT_EQ(program.lastWarning(), u"text"_qs);
 }
 
 TEST(Panel, WaitsOnAnotherThreadAndWakesForQuitting)

@@ -103,26 +103,22 @@ TEST(Value, ConvertsScalarsOnly)
 // What ThreadSanitizer is for; without it, a lost append or a comparison that waits for ever still shows.
 TEST(Containers, MayBeUsedByManyThreads)
 {
-    constexpr int threadCount = 4;
-    constexpr int rounds = 300;
     const Dictionary root = makeRecord();
     const Dictionary other = makeRecord();
-    root.setValue(u"other"_s, other);
-    const auto work = [=] {
-        for (int round = 0; round < rounds; ++round) {
-            root.array(u"folders"_s).append({u"x"_s, u"y"_s});
-            root.setValue(u"passtype"_s, other.value(u"passtype"_s));
-            other.setSwitch(u"switch"_s, round % 2 == 0);
-            if (round % 50 != 0) continue;
-            const Dictionary copy = root.deepCopy();
-            EXPECT_EQ(copy.array(u"folders"_s).count() % 2, 0); // an append of two is one step
-            EXPECT_FALSE(copy == other || other == copy);
-        }
-    };
+    root.setValue(u"passtype"_s, other);
     {
         std::vector<std::jthread> threads;
-        for (int thread = 0; thread < threadCount; ++thread)
-            threads.emplace_back(work);
+        for (int thread = 0; thread < 4; ++thread)
+            threads.emplace_back([=] {
+                for (int round = 0; round < 300; ++round) {
+                    root.array(u"folders"_s).append({u"x"_s, u"y"_s});
+                    other.setSwitch(u"switch"_s, round % 2 == 0);
+                    if (round % 50 != 0) continue;
+                    const Dictionary copy = root.deepCopy();
+                    EXPECT_EQ(copy.array(u"folders"_s).count() % 2, 0); // an append of two is one step
+                    EXPECT_FALSE(copy == other || other == copy);
+                }
+            });
     }
-    EXPECT_EQ(root.array(u"folders"_s).count(), 2 + 2 * threadCount * rounds);
+    EXPECT_EQ(root.array(u"folders"_s).count(), 2 + 2 * 4 * 300);
 }

@@ -77,8 +77,6 @@ protected:
     fs::path damaged = config / (settingsName + ".damaged");
 };
 
-QString toQString(const fs::path &path) { return QString::fromStdString(path.string()); }
-
 Dictionary someSettings()
 {
     const Dictionary settings = Dictionary::make();
@@ -101,15 +99,13 @@ TEST_F(Store, StartsFromTheTemplatesForTheUserAlone)
 
 TEST_F(Store, LiesInTheFolderThatTheEnvironmentNames)
 {
-    const QByteArray home = qgetenv("HOME");
-    qputenv("HOME", "/home/of/one");
     for (const char *configured : {"/some/where/", "relative", ""}) {
         qputenv("XDG_CONFIG_HOME", configured);
-        const std::string expected = *configured == '/' ? configured : "/home/of/one/.config/";
+        const std::string expected =
+            *configured == '/' ? configured : qgetenv("HOME").toStdString() + "/.config/";
         EXPECT_EQ(settingsPath().toStdString(), expected + settingsName);
         EXPECT_EQ(profilesPath().toStdString(), expected + profilesName);
     }
-    qputenv("HOME", home);
 }
 
 TEST_F(Store, IsBroughtUpToDateWhereTheVersionDiffers)
@@ -149,29 +145,17 @@ TEST_F(Store, KeepsWhatCannotBeReadWhenItIsSavedOver)
     EXPECT_EQ(readSettings(), someSettings());
 }
 
-TEST_F(Store, LeavesWhatStandsInItsPlaceAndIsNoFile)
-{
-    writeFile(settings / "precious", "x");
-    EXPECT_FALSE(readSettings());
-    EXPECT_TRUE(saveSettings(someSettings()).contains(toQString(settings)));
-    EXPECT_FALSE(areSettingsSaved(someSettings()));
-    EXPECT_EQ(readFile(settings / "precious"), "x");
-    EXPECT_TRUE(readProfiles());
-}
-
 TEST_F(Store, ReplacesAFileThatMayNotBeWrittenAndKeepsIt)
 {
     const std::string old = document(versionElement("old"));
-    const std::string older = document(versionElement("older"));
-    for (const std::string &content : {old, older, old, std::string()}) { // nothing is not worth keeping
+    for (const std::string &content : {old, std::string()}) { // nothing is not worth keeping
         writeFile(settings, content);
         fs::permissions(settings, fs::perms{0400});
         const OrdinaryUser user(folder.path());
         EXPECT_EQ(readSettings().string(u"version"_s), u"2");
     }
     EXPECT_EQ(readFile(damaged), old);
-    EXPECT_EQ(readFile(damaged.string() + ".1"), older);
-    EXPECT_FALSE(fs::exists(damaged.string() + ".2"));
+    EXPECT_FALSE(fs::exists(damaged.string() + ".1"));
     EXPECT_EQ(fs::status(settings).permissions(), fs::perms{0600});
 }
 
@@ -202,18 +186,16 @@ TEST_F(Store, FollowsLinks)
     fs::create_symlink("/nonexistent/folder/file", profiles);
     EXPECT_TRUE(readSettings()); // the template, through a link to what was not there
     EXPECT_FALSE(readProfiles());
-    saveSettings(someSettings());
-    EXPECT_TRUE(fs::is_symlink(settings));
-    EXPECT_TRUE(fs::is_symlink(profiles));
-    EXPECT_EQ(plist::readFile(toQString(kept)).dictionary, someSettings());
+    EXPECT_TRUE(fs::is_symlink(settings) && fs::is_symlink(profiles));
 
     // The link is what is kept, though its content was kept before.
+    writeFile(kept, document(versionElement("old")));
     fs::copy_file(kept, damaged);
     fs::permissions(kept, fs::perms{0400});
     const OrdinaryUser user(folder.path());
     EXPECT_TRUE(readSettings().contains(u"new"_s));
     EXPECT_EQ(fs::read_symlink(damaged.string() + ".1"), "../../kept.plist");
-    EXPECT_EQ(plist::readFile(toQString(kept)).dictionary, someSettings());
+    EXPECT_EQ(readFile(kept), document(versionElement("old")));
 }
 
 TEST_F(Store, NeedsItsTemplates)
@@ -231,38 +213,17 @@ TEST_F(Store, NeedsItsTemplates)
 TEST_F(Store, MayBeSavedByManyThreads)
 {
     const Dictionary shared = someSettings();
-    std::vector<std::thread> threads;
-    for (int thread = 0; thread < 3; ++thread) {
-        threads.emplace_back([=] {
-            for (int round = 0; round < 20; ++round) {
-                shared.setValue(u"key"_s + QString::number(thread), round);
-                saveSettings(shared);
-                EXPECT_TRUE(readSettings().contains(u"version"_s));
-            }
-        });
+    {
+        std::vector<std::jthread> threads;
+        for (int thread = 0; thread < 3; ++thread)
+            threads.emplace_back([=] {
+                for (int round = 0; round < 20; ++round) {
+                    shared.setValue(u"key"_s + QString::number(thread), round);
+                    saveSettings(shared);
+                    EXPECT_TRUE(readSettings().contains(u"version"_s));
+                }
+            });
     }
-    for (std::thread &thread : threads)
-        thread.join();
     // The last save wrote the state of its turn, to which all threads had come.
     EXPECT_EQ(readSettings(), shared);
-}
-
-TEST(Templates, FitTogether)
-{
-    setResourceFolder(QStringLiteral(QUILLORENT_TEMPLATES));
-    const auto [settings, settingsReason] = plist::readFile(settingsTemplatePath());
-    const auto [profiles, profilesReason] = plist::readFile(profilesTemplatePath());
-    setResourceFolder({});
-    ASSERT_EQ(settingsReason + profilesReason, QString());
-
-    const QStringList tools = settings.dictionary(u"external"_s).keys();
-    EXPECT_EQ(settings.dictionary(u"executables"_s).keys(), tools);
-    EXPECT_EQ(settings.dictionary(u"verifiers"_s).keys(), tools);
-    for (const QString &tool : tools)
-        EXPECT_TRUE(settings.dictionary(u"external"_s).string(tool)->startsWith(u'/')) << tool.toStdString();
-
-    const QStringList methods = settings.dictionary(u"encparam"_s).keys();
-    EXPECT_EQ(QStringList{u"RAR"_s} + methods, settings.dictionary(u"extensions"_s).keys());
-    for (const QString &key : {u"symencryption"_s, u"asymencryption"_s})
-        EXPECT_TRUE(methods.contains(*profiles.dictionary(u"Default profile"_s).string(key)));
 }

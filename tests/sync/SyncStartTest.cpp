@@ -1,3 +1,4 @@
+#include "ProgramTest.h"
 #include "SyncSample.h"
 
 #include "runs/RunJournal.h"
@@ -7,21 +8,16 @@ using Place = outlets::Panel::Place;
 namespace {
 
 /// The program with a profile that synchronises "src/d" to "dst".
-struct SyncStart {
-    TestProgram program;
-    QuillorentAppDelegate &delegate = program.delegate();
-
+class SyncStart : public ProgramTest {
+protected:
     SyncStart()
     {
         qputenv("TMPDIR", program.folder().c_str());
-        program.start();
         fill(program.folder(), "src/d/a=1 src/d/b=2 src/e/c=3 dst/d/extra=4");
         delegate.addSyncEntries({program.path("src/d")});
         setDestination("dst");
     }
-    ~SyncStart() { qunsetenv("TMPDIR"); }
-    SyncStart(const SyncStart &) = delete;
-    SyncStart &operator=(const SyncStart &) = delete;
+    ~SyncStart() override { qunsetenv("TMPDIR"); }
 
     void setDestination(const std::string &name) const
     {
@@ -60,66 +56,52 @@ const std::string untouched = "d/a=1 d/b=2 e/c=3 -> d/extra=4";
 
 } // namespace
 
-TEST(SyncStart, AsksBeforeItDeletesAndDoesJustWhatItShowed)
+// What the switches do is known elsewhere. And what is changed under way is for the next run.
+TEST_F(SyncStart, AsksBeforeItDeletesAndDoesJustWhatItShowed)
 {
-    for (const auto &[deletesExtra, removesSources, question, filesAfter] :
-         {std::tuple(true, false, "Delete 1 file there?\n", "d/a=1 d/b=2 e/c=3 -> d/a=1 d/b=2"),
-          {false, true, "Remove 2 files here?\n", "e/c=3 -> d/a=1 d/b=2 d/extra=4"},
-          {true, true, "Delete 1 file there, remove 2 here?\n", "e/c=3 -> d/a=1 d/b=2"}}) {
-        SyncStart sync;
-        sync.setSwitches(deletesExtra, removesSources);
-        ASSERT_NO_FATAL_FAILURE(sync.launchUntil(sync.delegate.previewPanel01));
-        EXPECT_TRUE(sync.delegate.previewText01.text().startsWith(QString::fromLatin1(question)));
-        EXPECT_EQ(sync.files(), untouched);
-        sync.delegate.previewPanel01Close();
-        sync.program.waitForEnd();
-        EXPECT_EQ(sync.files(), untouched) << "nobody said yes";
+    setSwitches(true, true);
+    ASSERT_NO_FATAL_FAILURE(launchUntil(delegate.previewPanel01));
+    EXPECT_TRUE(delegate.previewText01.text().startsWith(u"Delete 1 file there, remove 2 here?\n"));
+    EXPECT_EQ(files(), untouched);
+    delegate.previewPanel01Close();
+    program.waitForEnd();
+    EXPECT_EQ(files(), untouched) << "nobody said yes";
 
-        ASSERT_NO_FATAL_FAILURE(sync.launchUntil(sync.delegate.previewPanel01));
-        sync.changeEverything();
-        sync.delegate.previewPanel01Launch();
-        sync.program.waitForEnd();
-        EXPECT_EQ(sync.files(), filesAfter);
-        EXPECT_FALSE(std::filesystem::exists(sync.program.folder() / "elsewhere"));
-    }
+    ASSERT_NO_FATAL_FAILURE(launchUntil(delegate.previewPanel01));
+    changeEverything();
+    delegate.previewPanel01Launch();
+    program.waitForEnd();
+    EXPECT_EQ(files(), "e/c=3 -> d/a=1 d/b=2");
+    EXPECT_FALSE(std::filesystem::exists(program.folder() / "elsewhere"));
 }
 
-// Where nothing is deleted there is nothing to ask. And what is changed under way is for the next run.
-TEST(SyncStart, StartsAtOnceAndReadsNothingAgain)
+TEST_F(SyncStart, AsksNothingWhereNothingIsDeleted)
 {
-    for (const bool hasSwitch : {false, true}) {
-        SyncStart sync;
-        sync.setSwitches(hasSwitch, false);
-        if (hasSwitch) std::filesystem::remove(sync.program.folder() / "dst/d/extra");
-        int questions = 0;
-        sync.delegate.previewPanel01.observe([&] { ++questions; });
-        sync.delegate.buttonLaunch03();
-        sync.changeEverything();
-        EXPECT_TRUE(TestProgram::waitUntil([&] { return sync.delegate.lastRecord().kind == u"sync"; }));
-        sync.program.waitForEnd();
-        EXPECT_EQ(questions, 0);
-        EXPECT_EQ(keptRecords().size(), 1);
-        EXPECT_TRUE(sync.delegate.outputText03.text().startsWith(u"Synchronised 1 entry"))
-            << qPrintable(sync.delegate.outputText03.text());
-        EXPECT_EQ(sync.files(), hasSwitch ? "d/a=1 d/b=2 e/c=3 -> d/a=1 d/b=2"
-                                          : "d/a=1 d/b=2 e/c=3 -> d/a=1 d/b=2 d/extra=4");
-    }
+    setSwitches(true, false);
+    std::filesystem::remove(program.folder() / "dst/d/extra");
+    int questions = 0;
+    delegate.previewPanel01.observe([&] { ++questions; });
+    delegate.buttonLaunch03();
+    changeEverything();
+    EXPECT_TRUE(TestProgram::waitUntil([&] { return delegate.lastRecord().kind == u"sync"; }));
+    program.waitForEnd();
+    EXPECT_EQ(questions, 0);
+    EXPECT_EQ(keptRecords().size(), 1);
+    EXPECT_TRUE(delegate.outputText03.text().startsWith(u"Synchronised 1 entry"));
+    EXPECT_EQ(files(), "d/a=1 d/b=2 e/c=3 -> d/a=1 d/b=2");
 }
 
-TEST(SyncStart, AConcernIsAskedBeforeAnythingRuns)
+TEST_F(SyncStart, AsksAboutAConcernBeforeAnythingRuns)
 {
-    SyncStart sync;
-    sync.delegate.addSyncEntries({sync.program.path("src2/x")});
-    ASSERT_NO_FATAL_FAILURE(sync.launchUntil(sync.delegate.concernsPanel01));
-    EXPECT_TRUE(sync.delegate.concernsText01.text().contains(u"src2/x\" does not lie under"));
-    sync.delegate.concernsPanel01Stop();
-    sync.program.waitForEnd();
-    EXPECT_EQ(sync.files(), untouched);
-    EXPECT_EQ(sync.delegate.progressPanel03.place(), Place::Hidden);
+    delegate.addSyncEntries({program.path("src2/x")});
+    ASSERT_NO_FATAL_FAILURE(launchUntil(delegate.concernsPanel01));
+    EXPECT_TRUE(delegate.concernsText01.text().contains(u"src2/x\" does not lie under"));
+    delegate.concernsPanel01Stop();
+    program.waitForEnd();
+    EXPECT_EQ(files(), untouched);
 
-    ASSERT_NO_FATAL_FAILURE(sync.launchUntil(sync.delegate.concernsPanel01));
-    sync.delegate.concernsPanel01GoOn();
-    sync.program.waitForEnd();
-    EXPECT_EQ(sync.files(), "d/a=1 d/b=2 e/c=3 -> d/a=1 d/b=2 d/extra=4");
-    EXPECT_TRUE(sync.delegate.outputText03.text().startsWith(u"Failed.")) << "an entry was not found";
+    ASSERT_NO_FATAL_FAILURE(launchUntil(delegate.concernsPanel01));
+    delegate.concernsPanel01GoOn();
+    program.waitForEnd();
+    EXPECT_EQ(files(), "d/a=1 d/b=2 e/c=3 -> d/a=1 d/b=2 d/extra=4");
 }

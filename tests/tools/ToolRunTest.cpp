@@ -18,8 +18,6 @@ ToolResult runStub(const Stub &stub, const QStringList &arguments = {})
     return runTool(toQString(stub.path()), arguments);
 }
 
-bool isAlive(int process) { return kill(process, 0) == 0; }
-
 } // namespace
 
 TEST(RunTool, JudgesByWhatTheToolSays)
@@ -86,12 +84,11 @@ TEST(EndTools, LeavesNoToolBehind)
     for (const Stub *stub : {&one, &two})
         detachThread(u"hanging"_qs, [stub] { EXPECT_FALSE(runStub(*stub).isSilent()); });
     const int processes[] = {one.processId(), two.processId()};
-
     endTools();
     EXPECT_TRUE(waitForThreads(30s));
     EXPECT_EQ(toolsRunning(), 0);
     for (const int process : processes)
-        EXPECT_FALSE(isAlive(process));
+        EXPECT_NE(kill(process, 0), 0);
 }
 
 TEST(DetachThread, IsWaitedForAndSurvivesExceptions)

@@ -7,7 +7,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QStackedWidget>
@@ -81,18 +80,6 @@ TEST_F(BindingTest, ChangesOfOtherThreadsShow)
     const auto &bar = widget<QProgressBar>(u"view01progressIndicator01"_qs);
     EXPECT_EQ(bar.value() * 4, bar.maximum() * 3);
     EXPECT_EQ(widget<QPlainTextEdit>(u"consoleTextView01"_qs).toPlainText(), u"first\nsecond"_qs);
-}
-
-TEST_F(BindingTest, TypingWritesTheOutletAndKeepsTheCursor)
-{
-    auto &edit = widget<QLineEdit>(u"prefText01"_qs);
-    delegate.prefText01.setText(u"1234"_qs);
-    settle();
-    edit.setCursorPosition(2);
-    QTest::keyClicks(&edit, u"56"_qs);
-    settle();
-    EXPECT_EQ(delegate.prefText01.text(), u"125634"_qs);
-    EXPECT_EQ(edit.cursorPosition(), 4);
 }
 
 TEST_F(BindingTest, EscapeAsksThePanelsClosingAction)

@@ -4,7 +4,6 @@
 #include "ui/TextArea.h"
 
 #include <QGuiApplication>
-#include <QLineEdit>
 
 namespace {
 
@@ -33,14 +32,13 @@ protected:
     }
 
     ui::ArchiveListView &list = widget<ui::ArchiveListView>(u"extractTableView"_qs);
-    const std::string second = "archives/docs.rar.aes.part2.rar";
 };
 
 } // namespace
 
 TEST_F(ExtractTest, AWholeExtractionByHand)
 {
-    dropOnList(program.path(second));
+    dropOnList(program.path("archives/docs.rar.aes.part2.rar"));
     EXPECT_TRUE(widget<ui::TextArea>(u"outputText02"_qs).text().contains(u"first volume is missing"));
     EXPECT_FALSE(widget(u"openFolderButton"_qs).isEnabled());
     click(u"extractButton03"_qs);
@@ -58,25 +56,4 @@ TEST_F(ExtractTest, AWholeExtractionByHand)
     EXPECT_TRUE(widget(u"openFolderButton"_qs).isEnabled());
     EXPECT_TRUE(
         std::filesystem::exists(program.folder() / "out" / program.folder().relative_path() / "docs/data"));
-}
-
-TEST_F(ExtractTest, ADamagedSetIsToldOverTheSheet)
-{
-    std::filesystem::resize_file(program.folder() / second, 10);
-    dropOnList(program.path("archives"));
-    clickAndAnswer(u"buttonLaunch02"_qs, u"concernsPanel01"_qs, [this] {
-        EXPECT_TRUE(widget<ui::TextArea>(u"concernsText01"_qs).text().contains(u"volume 2 is shorter"));
-        click(u"concernsPanel01GoOn"_qs);
-    });
-    auto &panel = widget(u"extractPanel01"_qs);
-    ASSERT_TRUE(waitUntil([&] { return panel.isVisible(); }));
-    settle();
-    EXPECT_TRUE(widget<QLineEdit>(u"extractPanelText01"_qs).text().endsWith(u"part1.rar"));
-    click(u"stopProcess02b"_qs);
-    program.waitForEnd();
-    settle();
-    EXPECT_FALSE(panel.isVisible());
-    EXPECT_FALSE(widget(u"progressPanel02"_qs).isVisible());
-    EXPECT_TRUE(widget(u"buttonLaunch02"_qs).isEnabled());
-    EXPECT_FALSE(widget(u"openFolderButton"_qs).isEnabled());
 }

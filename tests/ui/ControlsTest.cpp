@@ -1,0 +1,229 @@
+// What the controls of a profile keep in its record when they are pressed, and what they show of it.
+
+#include "TestWindow.h"
+
+#include "ui/OutletTableModel.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+
+namespace {
+
+struct Control {
+    QString key;    ///< of the record, or "table/key" of the settings
+    QString name;   ///< of the widget
+    QString button; ///< that chooses what it shows; "-": another test brings that about; none: it is pressed
+    QStringList values;             ///< states of it, as the texts that are kept; a chooser's in its order
+    std::optional<QString> without; ///< shown where the record lacks the key; none: what was shown before
+};
+
+QList<Control> controls()
+{
+    const QStringList paths{u"/one"_qs, u"/two"_qs};
+    const QStringList lists{u"/a /b"_qs, u"/c"_qs};
+    const QStringList truths{u"1"_qs, u"0"_qs};
+    return {
+        {u"folders"_qs, u"listTableView"_qs, u"folderButton01"_qs, lists, u""_qs},
+        {u"sync"_qs, u"syncTableView"_qs, u"syncButton01"_qs, lists, u""_qs},
+        {u"part"_qs, u"prefText01"_qs, {}, {u"2500"_qs, u"10"_qs}, {}}, // enabled by the next one
+        {u"split"_qs, u"checkBox04"_qs, {}, {u"0"_qs, u"1"_qs}, u"0"_qs},
+        {u"keepdate"_qs, u"checkBox05"_qs, {}, truths, u"0"_qs},
+        {u"emptydir"_qs, u"prefCheck02"_qs, {}, truths, u"1"_qs},
+        {u"rsyncdelete1"_qs, u"checkBoxSync1"_qs, {}, truths, u"0"_qs},
+        {u"rsyncdelete2"_qs, u"checkBoxSync2"_qs, {}, truths, u"0"_qs},
+        {u"isremotesync"_qs, u"syncCheck01"_qs, {}, {u"0"_qs, u"1"_qs}, u"0"_qs},
+        {u"symencryption"_qs,
+         u"prefSelector01"_qs,
+         {},
+         {u"OpenSSL-AES"_qs, u"OpenSSL-BF"_qs, u"OpenSSL-3D"_qs},
+         {}},
+        {u"rsyncmode"_qs, u"syncSelector01"_qs, {}, {u"0"_qs, u"1"_qs}, u"1"_qs},
+        {u"passtype"_qs, u"passCombo01"_qs, {}, {u"0"_qs, u"1"_qs, u"2"_qs}, {}},
+        {u"path"_qs, u"fileText01"_qs, u"fileButton01"_qs, paths, {}},
+        {u"extractpath"_qs, u"extractPath"_qs, u"extractPathButton"_qs, paths, {}},
+        {u"rsyncsrc"_qs, u"syncTextSourcePath"_qs, u"syncButtoSrc"_qs, paths, u""_qs},
+        {u"rsyncdst"_qs, u"syncTextDestPath"_qs, u"syncButtoDest"_qs, paths, u""_qs},
+        {u"rsyncdst"_qs, u"syncTextDestPath"_qs, {}, paths, u""_qs},
+        {u"remotesyncuser"_qs, u"syncUser"_qs, {}, paths, u""_qs},
+        {u"remotesyncserver"_qs, u"syncServer"_qs, {}, paths, u""_qs},
+        {u"remotesyncport"_qs, u"syncPort"_qs, {}, paths, u""_qs},
+        {u"lastkeychainuser"_qs, u"keychainUser"_qs, u"-"_qs, paths, u""_qs},
+        {u"lastcertfile"_qs, u"certFile01"_qs, u"-"_qs, paths, u""_qs},
+        {u"lastpkfile"_qs, u"pkFile01"_qs, u"-"_qs, paths, u""_qs},
+        {u"resources/autosave"_qs, u"autosaveCheck01"_qs, {}, {u"0"_qs, u"1"_qs}, {}},
+        {u"updates/automatic"_qs, u"updatesCheck01"_qs, {}, {u"1"_qs, u"0"_qs}, {}},
+    };
+}
+
+/// How many rounds it takes until every two keys had values that differ.
+constexpr int rounds = 5;
+
+/// The value of a control in a round.
+QString valueOf(const Control &control, int round)
+{
+    const QList<Control> all = controls();
+    const auto first =
+        std::find_if(all.begin(), all.end(), [&](const Control &each) { return each.key == control.key; });
+    return control.values[((first - all.begin()) >> round) % control.values.size()];
+}
+
+std::string textsOf(const plist::Dictionary &record)
+{
+    QString text;
+    for (const QString &key : record.keys())
+        text += key + u'=' + record.string(key).value_or(record.array(key).strings().join(u' ')) + u'\n';
+    return text.toStdString();
+}
+
+class ControlsTest : public WindowTest {
+protected:
+    void put(const plist::Dictionary &record, const Control &control, const QString &text)
+    {
+        const QStringList names = control.key.split(u'/');
+        const bool isList = control.key == u"folders" || control.key == u"sync";
+        if (names.size() == 2)
+            delegate.configPlist().dictionary(names[0]).setValue(names[1], text);
+        else
+            record.setValue(names[0],
+                            isList ? plist::Value(plist::Array::make(text.split(u' '))) : plist::Value(text));
+    }
+
+    /// Opens a profile with this record.
+    void open(const plist::Dictionary &record)
+    {
+        delegate.listPlist().setValue(u"opened"_qs, record);
+        delegate.setterCurrentProfile(u"opened"_qs);
+        settle();
+    }
+    /// Opens a profile in which each control has the value of that round.
+    void open(int round)
+    {
+        const plist::Dictionary record = plist::Dictionary::make();
+        for (const Control &control : controls())
+            put(record, control, valueOf(control, round));
+        open(record);
+    }
+
+    QString shown(const Control &control)
+    {
+        QWidget &shownBy = widget(control.name);
+        if (const auto *box = qobject_cast<QCheckBox *>(&shownBy))
+            return box->isChecked() ? u"1"_qs : u"0"_qs;
+        if (const auto *chooser = qobject_cast<QComboBox *>(&shownBy))
+            return control.values.value(chooser->currentIndex());
+        if (const auto *field = qobject_cast<QLineEdit *>(&shownBy)) return field->text();
+        const QAbstractItemModel &model = *widget<QAbstractItemView>(control.name).model();
+        QStringList rows;
+        for (int row = 0; row < model.rowCount(); ++row)
+            rows.append(model.index(row, 0).data().toString());
+        return rows.join(u' ');
+    }
+
+    /// As a person does.
+    void set(const Control &control, const QString &value)
+    {
+        QWidget &pressed = widget(control.name);
+        if (auto *table = qobject_cast<QAbstractItemView *>(&pressed)) {
+            table->selectAll();
+            settle();
+            QTest::keyClick(table, Qt::Key_Delete);
+        }
+        if (!control.button.isEmpty()) {
+            delegate.openPanel = [&](const outlets::OpenPanel &) { return value.split(u' '); };
+            QTest::keyClick(&widget(control.button), Qt::Key_Space);
+        } else if (auto *field = qobject_cast<QLineEdit *>(&pressed)) {
+            field->selectAll();
+            QTest::keyClicks(field, value);
+        } else if (qobject_cast<QComboBox *>(&pressed)) {
+            QTest::keyClick(&pressed, Qt::Key_Home);
+            for (qsizetype row = control.values.indexOf(value); row > 0; --row)
+                QTest::keyClick(&pressed, Qt::Key_Down);
+        } else if (shown(control) != value) {
+            QTest::keyClick(&pressed, Qt::Key_Space);
+        }
+        settle();
+    }
+};
+
+} // namespace
+
+TEST_F(ControlsTest, KeepTheirStateUnderTheirOwnKeyAtOnce)
+{
+    const plist::Dictionary settings = delegate.configPlist();
+    const auto kept = [&] {
+        return textsOf(delegate.currentRecord()) + textsOf(settings.dictionary(u"resources"_qs)) +
+               textsOf(settings.dictionary(u"updates"_qs));
+    };
+    const plist::Dictionary other = delegate.currentRecord().deepCopy();
+    const std::string untouched = textsOf(other);
+    delegate.listPlist().setValue(u"other"_qs, other);
+    open(0);
+    for (const Control &control : controls())
+        for (const QString &value : control.values) {
+            if (control.button == u"-") continue;
+            const std::string before = kept();
+            const QString shownBefore = shown(control);
+            set(control, value);
+            const std::string after = kept();
+            EXPECT_EQ(shown(control), value) << qPrintable(control.key);
+            // With its own key as it was, all is as it was.
+            const plist::Dictionary record = delegate.currentRecord();
+            put(record, control, shownBefore);
+            EXPECT_EQ(kept(), before);
+            put(record, control, value);
+            EXPECT_EQ(kept(), after) << "it keeps another value than it shows";
+        }
+    EXPECT_EQ(textsOf(other), untouched);
+}
+
+TEST_F(ControlsTest, ShowTheirKeyOrItsAbsence)
+{
+    for (int round = 0; round < rounds; ++round) {
+        open(round);
+        for (const Control &control : controls())
+            EXPECT_EQ(shown(control), valueOf(control, round)) << qPrintable(control.key);
+        EXPECT_EQ(delegate.syncView.isHidden(), !delegate.syncCheck01.isOn());
+        EXPECT_EQ(delegate.partSize(), delegate.prefText01.text());
+        EXPECT_EQ(delegate.partSize(), QString::number(delegate.prefStepper01.value()));
+        EXPECT_EQ(delegate.passTabs.selectedIndex(), delegate.passCombo01.selectedIndex());
+        EXPECT_EQ(delegate.pkView.isHidden(), delegate.passCombo01.selectedIndex() != 2);
+        open(plist::Dictionary::make());
+        for (const Control &control : controls())
+            EXPECT_EQ(shown(control), control.without.value_or(valueOf(control, round)))
+                << qPrintable(control.key);
+        EXPECT_TRUE(delegate.syncView.isHidden());
+    }
+    delegate.currentRecord().setValue(u"path"_qs, u"");
+    delegate.setterCurrentProfile(u"opened"_qs);
+    EXPECT_EQ(delegate.fileText01.text(), QString()) << "an empty destination is a destination";
+}
+
+TEST_F(ControlsTest, ACancelledChooserChangesNothing)
+{
+    open(0);
+    const std::string before = textsOf(delegate.currentRecord());
+    for (const auto &answer : {std::optional<QStringList>(), std::optional(QStringList())})
+        for (const Control &control : controls()) {
+            if (control.button.size() < 2) continue;
+            delegate.openPanel = [&](const outlets::OpenPanel &) { return answer; };
+            QTest::keyClick(&widget(control.button), Qt::Key_Space);
+            settle();
+            EXPECT_EQ(shown(control), valueOf(control, 0)) << qPrintable(control.key);
+        }
+    EXPECT_EQ(textsOf(delegate.currentRecord()), before);
+}
+
+TEST_F(ControlsTest, NoSecretIsSeenInTheNextProfile)
+{
+    outlets::TextField *const fields[] = {&delegate.secureText01a,  &delegate.secureText01b,
+                                          &delegate.keychainPass,   &delegate.keychainClear,
+                                          &delegate.keychainText01, &delegate.keychainUser};
+    for (outlets::TextField *field : fields)
+        field->setText(u"secret"_qs);
+    delegate.keychainUnlock01.setHidden(false);
+    open(plist::Dictionary::make());
+    for (const outlets::TextField *field : fields)
+        EXPECT_EQ(field->text(), QString()) << qPrintable(field->name());
+    EXPECT_TRUE(delegate.keychainUnlock01.isHidden());
+}
