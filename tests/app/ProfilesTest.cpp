@@ -15,10 +15,10 @@ using C = QuillorentAppDelegate;
 
 /// One of the sheets that ask for a name.
 struct Sheet {
-    void (C::*open)();
+    std::function<void(C &)> open;
     outlets::Panel C::*panel;
     outlets::TextField C::*field;
-    void (C::*ok)();
+    std::function<void(C &)> ok;
 };
 
 const Sheet renaming{&C::profileButton03Action, &C::profilePanel01, &C::panel01text02, &C::panel01ok};
@@ -47,7 +47,7 @@ protected:
             shown = (delegate.*sheet.panel).place() == outlets::Panel::Place::Sheet;
             answer();
         });
-        (delegate.*sheet.open)();
+        sheet.open(delegate);
         EXPECT_TRUE(shown);
         EXPECT_EQ((delegate.*sheet.panel).place(), outlets::Panel::Place::Hidden);
         EXPECT_TRUE(waitForThreads(60s));
@@ -56,7 +56,7 @@ protected:
     {
         use(sheet, [&] {
             (delegate.*sheet.field).setText(name);
-            (delegate.*sheet.ok)();
+            sheet.ok(delegate);
         });
     }
     plist::Dictionary record(const QString &profile) const
@@ -164,7 +164,8 @@ TEST_F(Profiles, WhatCanNotBeSavedIsTold)
     // Nobody may write where a folder stands in the file's place.
     const QString settings = quillorentLibrary::settingsPath();
     const QString profiles = quillorentLibrary::profilesPath();
-    for (const auto &[save, taken] : {std::pair{&C::saveSettings1Action, settings},
+    using Save = std::pair<std::function<void(C &)>, QString>;
+    for (const auto &[save, taken] : {Save{&C::saveSettings1Action, settings},
                                       {&C::profileButton01Action, profiles},
                                       {&C::setterDefaultProfile, settings},
                                       {&C::setterDefaultProfile, profiles}}) {
@@ -173,7 +174,7 @@ TEST_F(Profiles, WhatCanNotBeSavedIsTold)
         writeFile(taken.toStdString() + "/taken", "x");
         delegate.warningText01.setText({});
         warnings.clear();
-        (delegate.*save)();
+        save(delegate);
         ASSERT_TRUE(waitForThreads(60s));
         ASSERT_EQ(warnings.size(), 1);
         EXPECT_TRUE(warnings.first().contains(taken));

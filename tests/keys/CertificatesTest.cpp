@@ -50,14 +50,14 @@ protected:
 
     /// Chooses a file ("-": none), and gives what the sheet says that the choice brings up; empty where none
     /// comes.
-    QString choose(const QString &name, void (QuillorentAppDelegate::*action)())
+    QString choose(const QString &name, const std::function<void(QuillorentAppDelegate &)> &action)
     {
         delegate.openPanel = [&](const outlets::OpenPanel &panel) {
             EXPECT_EQ(panel.allowedFileTypes.join(u' '),
                       u"cer p12 p15 crt der pem pfx cert txt rtf pk12 pk15 pkcs12"_qs);
             return name == u"-" ? QStringList() : QStringList{file(name)};
         };
-        (delegate.*action)();
+        action(delegate);
         QString shown;
         EXPECT_TRUE(TestProgram::waitUntil([&] {
             if (delegate.certPanel01.place() == outlets::Panel::Place::Sheet) {
@@ -204,9 +204,10 @@ TEST_F(Certificates, AreShownInTheConsole)
     EXPECT_EQ(delegate.consoleTextView01.text(), u"before"_qs);
     delegate.certFile01.setText(file(u"anna.pem"_qs));
     delegate.pkFile01.setText(file(u"anna-key.pem"_qs));
-    for (const auto &[action, words] : {std::pair{&QuillorentAppDelegate::certInfo01, u"Certificate:"_qs},
+    using Show = std::pair<std::function<void(QuillorentAppDelegate &)>, QString>;
+    for (const auto &[action, words] : {Show{&QuillorentAppDelegate::certInfo01, u"Certificate:"_qs},
                                         {&QuillorentAppDelegate::certInfo02, u"PRIVATE KEY-----"_qs}}) {
-        (delegate.*action)();
+        action(delegate);
         ASSERT_TRUE(waitForThreads(60s));
         EXPECT_TRUE(delegate.consoleTextView01.text().contains(words));
         EXPECT_FALSE(delegate.consoleTextView01.text().contains(u"before"));

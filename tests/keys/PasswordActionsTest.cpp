@@ -16,9 +16,9 @@ protected:
     PasswordActions() { session.start(); }
 
     /// Does something that asks the keychain, and gives what the tab says of it.
-    QString answerTo(void (QuillorentAppDelegate::*action)())
+    QString answerTo(const std::function<void(QuillorentAppDelegate &)> &action)
     {
-        (delegate.*action)();
+        action(delegate);
         EXPECT_TRUE(waitForThreads(60s));
         return delegate.keychainText01.text();
     }
