@@ -7,6 +7,7 @@
 #include "tools/ToolRun.h"
 
 #include <QCoreApplication>
+#include <QTimer>
 #include <thread>
 
 using namespace std::chrono_literals;
@@ -125,19 +126,20 @@ void QuillorentAppDelegate::startRun(const QString &threadName, const std::funct
         return;
     }
     // What the keychain says may be the secret that is needed; and it may take its time.
-    detachThread(u"await-keychain"_qs, [this, go, profile = currentProfile()] {
-        while (keychainIndicator01.isAnimating() && !cancelFlag())
-            std::this_thread::sleep_for(pauses().poll);
-        QMetaObject::invokeMethod(QCoreApplication::instance(), [this, go, profile] {
-            if (!cancelFlag() && profile == currentProfile()) {
-                go();
-                return;
-            }
-            endRun();
-            if (profile != currentProfile())
-                warn(u"Another profile was opened while the keychain was asked. Start again."_qs);
-        });
+    auto *wait = new QTimer(QCoreApplication::instance());
+    QObject::connect(wait, &QTimer::timeout, wait, [this, wait, go, profile = currentProfile()] {
+        if (keychainIndicator01.isAnimating() && !cancelFlag()) return;
+        wait->deleteLater();
+        wait->stop();
+        if (!cancelFlag() && profile == currentProfile()) {
+            go();
+            return;
+        }
+        endRun();
+        if (profile != currentProfile())
+            warn(u"Another profile was opened while the keychain was asked. Start again."_qs);
     });
+    wait->start(pauses().poll);
 }
 
 void QuillorentAppDelegate::concernsPanel01GoOn() { answer(concernsPanel01, true); }

@@ -1,3 +1,5 @@
+#include "tools/Threads.h"
+
 #include <QCoreApplication>
 #include <gtest/gtest.h>
 
@@ -6,5 +8,7 @@ int main(int argc, char **argv)
 {
     testing::InitGoogleTest(&argc, argv);
     const QCoreApplication application(argc, argv);
-    return RUN_ALL_TESTS();
+    const int status = RUN_ALL_TESTS();
+    // A thread that is still about to return would count as leaked.
+    return waitForThreads(std::chrono::seconds(60)) ? status : EXIT_FAILURE;
 }

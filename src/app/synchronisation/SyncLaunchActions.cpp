@@ -47,7 +47,7 @@ void QuillorentAppDelegate::previewFirst(const SyncOrder &order, RunMonitor &mon
     if (preview->rows.empty() && !failure().isEmpty()) return;
     const QString question = purpose == PreviewFor::Question ? askForDeletions(*preview) : QString();
     if (purpose == PreviewFor::Question && question.isEmpty() && failure().isEmpty()) {
-        startRun(u"sync-run"_qs, [this, order] { return prepareTransfer(order); });
+        if (tryBeginRun()) carryOut(prepareTransfer(order));
         return;
     }
     if (!question.isEmpty()) previewText01.setText(question + u'\n' + previewText01.text());
