@@ -65,6 +65,7 @@ void QuillorentAppDelegate::carryOut(const RunStart &start)
         const SheetAfterAMoment patience(monitor, start.sheet.sheet);
         return start.look([this] { return !cancelFlag(); });
     }();
+    showLeftInClear(); // of a run, too, whose tools have only just ended
     if (cancelFlag()) {
         const QString summary = u"Cancelled before anything was done."_qs;
         start.sheet.result.setText(summary);
