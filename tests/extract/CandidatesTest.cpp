@@ -57,7 +57,7 @@ TEST_F(Candidates, AFolderStandsForItsArchivesAndWhatIsLeftOutIsTold)
     for (const auto &[path, said] : {std::pair{program.path("drop/notes.txt"), u"no archive"_qs},
                                      {u"/x/b.part2.rar"_qs, u"first volume is missing"_qs},
                                      {u"/x/b.part1.rar"_qs, QString()},
-                                     {u"/Apartment/a2.rar"_qs, QString()},
+                                     {u"/Apartment/a.rar"_qs, QString()},
                                      {u"/Departments/report2.rar"_qs, u"Move or rename"_qs}}) {
         delegate.addArchives({path});
         EXPECT_TRUE(delegate.outputText02.text().contains(said)) << qPrintable(said);
