@@ -103,7 +103,8 @@ TEST_F(ExtractEngine, TakesSetsOfAnyNumberOfVolumesUnderAnyName)
         }
         extract(renamed);
         expectSuccess();
-        EXPECT_FALSE(findings.concerns.join(u' ').contains(u".part2")) << "later volumes are no more than that";
+        EXPECT_FALSE(findings.concerns.join(u' ').contains(u".part2"))
+            << "later volumes are no more than that";
         EXPECT_EQ(monitor->state.foldersToDo(), double(renamed.size()));
         EXPECT_EQ(monitor->state.foldersDone(), 1);
         EXPECT_TRUE(readFile(extracted(file)) == readFile(file));
