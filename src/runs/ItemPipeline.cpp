@@ -57,17 +57,23 @@ QString ItemPipeline::moveAway(const QString &path)
 {
     const auto plan = planAside({path}, u"kept"_qs);
     if (!plan) return u"no other name is free for it"_qs;
-    m_run.journal().changeItem(m_index, [&](ItemRecord &item) { item.kept += *plan; });
     const QString to = plan->first().to;
-    if (const int error = renameToFree(path, to)) {
-        m_run.journal().changeItem(m_index, [](ItemRecord &item) { item.kept.removeLast(); });
-        return qt_error_string(error);
-    }
-    // A run that was killed may have left it in clear: it is to be named as long as it is there.
+    // A run that was killed may have left it in clear: it is to be named as long as it is there, also where
+    // this run is killed in its turn.
     const bool isLeftInClear = std::any_of(m_known.begin(), m_known.end(), [&](const LeftFile &left) {
         return left.path == path && left.isClear && !left.identity;
     });
-    if (const auto there = entryAt(to); there && isLeftInClear) m_strays.append({to, true, there->identity});
+    if (const auto there = entryAt(path); there && isLeftInClear)
+        m_strays.append({to, true, there->identity});
+    m_run.journal().changeItem(m_index, [&](ItemRecord &item) {
+        item.kept += *plan;
+        item.left += m_strays;
+    });
+    if (const int error = renameToFree(path, to)) {
+        m_strays.removeIf([&](const LeftFile &left) { return left.path == to; });
+        m_run.journal().changeItem(m_index, [](ItemRecord &item) { item.kept.removeLast(); });
+        return qt_error_string(error);
+    }
     return {};
 }
 
