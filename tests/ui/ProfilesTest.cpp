@@ -51,6 +51,7 @@ TEST_F(ProfilesTest, WhatIsNotSavedShowsAndIsAskedFor)
 {
     click(u"profileButton01"_qs);
     click(u"settingsSaveButton"_qs);
+    ASSERT_TRUE(waitForThreads(std::chrono::seconds(60))); // a save takes the state of its own turn
     ASSERT_TRUE(waitUntil([&] { return !window.isWindowModified(); }));
     EXPECT_EQ(widget<QLabel>(u"unsavedText"_qs).text(), QString());
 
