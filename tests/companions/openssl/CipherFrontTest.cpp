@@ -218,7 +218,7 @@ TEST_F(CipherFront, TakesTheToolAndItsTracesAlongWhenItIsStoppedAndShowsNoPasswo
     // The tool begins as a copy of its parent, which can decrypt messages without one.
     const std::string script =
         "env --default-signal \"$@\" & p=$!; t=$p; exec 3>pipe; head -c 300000 message >&3; "
-        "[ $2 = smime ] || for i in $(seq 999); do read t < /proc/$p/task/$p/children && "
+        "[ $2 = smime ] || for i in $(seq 200); do read t < /proc/$p/task/$p/children && "
         "grep -q fd: /proc/$t/cmdline && break; sleep .01; done; "
         "cat /proc/$p/cmdline /proc/$t/cmdline; kill -$0 $p; wait $p; status=$?; "
         "timeout 10 tail -s .02 --pid=$t -f /dev/null || echo the tool lives; exit $status";
