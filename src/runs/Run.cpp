@@ -66,15 +66,18 @@ void Run::conclude()
         record.summary = text;
         record.ended = QDateTime::currentDateTimeUtc();
     });
-    m_monitor.concluded(m_journal.record());
+    m_journal.read([this](const RunRecord &record) { m_monitor.concluded(record); });
 }
 
 QStringList Run::describeKept() const
 {
     QStringList sentences;
-    for (const ItemRecord &item : record().items)
-        for (const Aside &kept : item.kept)
-            sentences.append(u"\"%1\" was in the way and is called \"%2\" now."_qs.arg(kept.from, kept.to));
+    m_journal.read([&](const RunRecord &record) {
+        for (const ItemRecord &item : record.items)
+            for (const Aside &kept : item.kept)
+                sentences.append(
+                    u"\"%1\" was in the way and is called \"%2\" now."_qs.arg(kept.from, kept.to));
+    });
     return sentences;
 }
 

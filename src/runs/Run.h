@@ -27,7 +27,6 @@ public:
     [[nodiscard]] RunState &state() { return m_state; }
     [[nodiscard]] RunMonitor &monitor() { return m_monitor; }
     [[nodiscard]] RunJournal &journal() { return m_journal; }
-    [[nodiscard]] RunRecord record() const { return m_journal.record(); }
     [[nodiscard]] int lockDescriptor() const { return m_lock.descriptor(); }
 
 protected:

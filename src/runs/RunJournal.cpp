@@ -106,10 +106,10 @@ void RunJournal::end(const std::function<void(RunRecord &)> &step)
     if (!m_record.kind.isEmpty()) writeOrLog(m_path, m_record);
 }
 
-RunRecord RunJournal::record() const
+void RunJournal::read(const std::function<void(const RunRecord &)> &reader) const
 {
     const std::lock_guard lock(m_mutex);
-    return m_record;
+    reader(m_record);
 }
 
 QList<KeptRecord> keptRecords()

@@ -29,7 +29,9 @@ public:
     /// Changes the record for the last time, and writes it anew in the form for readers.
     void end(const std::function<void(RunRecord &)> &step);
 
-    [[nodiscard]] RunRecord record() const;
+    /// Shows the record as it is, for as long as `reader` takes. No copy: its lists would ask without a
+    /// barrier whether another thread still shares them, before they change in place.
+    void read(const std::function<void(const RunRecord &)> &reader) const;
 
 private:
     const QString m_path;
