@@ -223,9 +223,11 @@ private:
     void answer(outlets::Panel &panel, bool goesOn);
 
     enum class PreviewFor { Looking, Question };
-    void previewFirst(const SyncOrder &order, RunMonitor &monitor, PreviewFor purpose);
+    void previewFirst(const SyncOrder &order, RunMonitor &monitor, PreviewFor purpose,
+                      const std::shared_ptr<const Preview> &confirmed = {});
     [[nodiscard]] RunStart prepareSync(bool isPreview);
     [[nodiscard]] RunStart prepareTransfer(const SyncOrder &order);
+    [[nodiscard]] RunStart prepareConfirmed(const SyncOrder &order);
 
     [[nodiscard]] bool acceptName(const QString &name,
                                   outlets::Panel &sheet); ///< or says why not, in its place

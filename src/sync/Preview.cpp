@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <set>
 
 namespace {
 
@@ -54,6 +55,22 @@ std::optional<PreviewRow> readLine(QStringView line, bool removesSources, bool &
 
 /// rsync's own words on the dry run, which are no complaint.
 bool isRemark(QStringView line) { return line.isEmpty() || line.startsWith(u"created directory "); }
+
+bool isRemovedHere(const Preview &preview, const PreviewRow &row)
+{
+    return preview.removesSources &&
+           (row.change == Change::Copy || row.change == Change::Replace || row.change == Change::RemoveHere);
+}
+
+/// Whether it is of the destination, and which.
+std::set<std::pair<bool, QString>> deletedBy(const Preview &preview)
+{
+    std::set<std::pair<bool, QString>> deleted;
+    for (const PreviewRow &row : preview.rows)
+        if (row.change == Change::Delete || isRemovedHere(preview, row))
+            deleted.emplace(row.change == Change::Delete, row.path);
+    return deleted;
+}
 
 } // namespace
 
@@ -110,15 +127,20 @@ QString summarize(const Preview &preview)
         parts.join(u"; "_qs), QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat));
 }
 
+bool deletesMore(const Preview &preview, const Preview &shown)
+{
+    const auto now = deletedBy(preview);
+    const auto before = deletedBy(shown);
+    return !std::includes(before.begin(), before.end(), now.begin(), now.end());
+}
+
 QString askForDeletions(const Preview &preview)
 {
     qsizetype there = 0;
     qsizetype here = 0;
     for (const PreviewRow &row : preview.rows) {
-        const bool isRemovedHere =
-            row.change == Change::Copy || row.change == Change::Replace || row.change == Change::RemoveHere;
         if (row.change == Change::Delete) ++there;
-        if (preview.removesSources && isRemovedHere) ++here;
+        if (isRemovedHere(preview, row)) ++here;
     }
     const auto files = [](qsizetype count) {
         return count == 1 ? u"1 file"_qs : u"%1 files"_qs.arg(QLocale().toString(count));

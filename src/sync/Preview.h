@@ -29,5 +29,8 @@ struct Preview {
 /// How many of which, in one sentence.
 [[nodiscard]] QString summarize(const Preview &preview);
 
+/// Whether one that was `shown` before lacks anything that would be deleted there or removed here.
+[[nodiscard]] bool deletesMore(const Preview &preview, const Preview &shown);
+
 /// A question that names how much would be deleted there and removed here; empty where nothing would be.
 [[nodiscard]] QString askForDeletions(const Preview &preview);

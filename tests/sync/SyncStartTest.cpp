@@ -69,6 +69,11 @@ TEST_F(SyncStart, AsksBeforeItDeletesAndDoesJustWhatItShowed)
 
     ASSERT_NO_FATAL_FAILURE(launchUntil(delegate.previewPanel01));
     changeEverything();
+    fill(program.folder(), "dst/d/late=5");
+    delegate.previewPanel01Launch();
+    ASSERT_TRUE(TestProgram::waitUntil([&] { return delegate.previewPanel01.place() == Place::Sheet; }));
+    EXPECT_TRUE(delegate.previewText01.text().contains(u"more to delete by now. Delete 2 files there"));
+    std::filesystem::remove(program.folder() / "dst/d/late");
     delegate.previewPanel01Launch();
     program.waitForEnd();
     EXPECT_EQ(files(), "e/c=3 -> d/a=1 d/b=2");

@@ -11,13 +11,12 @@ struct Preview;
 class previewTable : public outlets::TableDataSource {
 public:
     void setPreview(std::shared_ptr<const Preview> preview);
+    [[nodiscard]] std::shared_ptr<const Preview> preview() const; ///< null before the first
 
     [[nodiscard]] int numberOfRows() const override;
     [[nodiscard]] QVariant objectValue(const QString &column, int row) const override;
 
 private:
-    [[nodiscard]] std::shared_ptr<const Preview> preview() const;
-
     mutable std::mutex m_mutex;
-    std::shared_ptr<const Preview> m_preview; ///< none before the first
+    std::shared_ptr<const Preview> m_preview;
 };

@@ -35,8 +35,9 @@ void transfer(QuillorentAppDelegate &delegate, const SyncOrder &order, RunMonito
 } // namespace
 
 /// Finds out what would be done and shows it, unless nothing of it is worth a look; what is shown can be done
-/// then.
-void QuillorentAppDelegate::previewFirst(const SyncOrder &order, RunMonitor &monitor, PreviewFor purpose)
+/// then. What was `confirmed` is not asked again; none where nobody was asked.
+void QuillorentAppDelegate::previewFirst(const SyncOrder &order, RunMonitor &monitor, PreviewFor purpose,
+                                         const std::shared_ptr<const Preview> &confirmed)
 {
     SyncDisplay display(*this);
     display.begin(u"Comparing both sides…"_qs);
@@ -45,7 +46,10 @@ void QuillorentAppDelegate::previewFirst(const SyncOrder &order, RunMonitor &mon
     if (!preview || isCancelledByUser()) return;
     showPreview(preview);
     if (preview->rows.empty() && !failure().isEmpty()) return;
-    const QString question = purpose == PreviewFor::Question ? askForDeletions(*preview) : QString();
+    QString question = purpose == PreviewFor::Question ? askForDeletions(*preview) : QString();
+    if (confirmed && !question.isEmpty())
+        question =
+            deletesMore(*preview, *confirmed) ? u"There is more to delete by now. "_qs + question : QString();
     if (purpose == PreviewFor::Question && question.isEmpty() && failure().isEmpty()) {
         if (tryBeginRun()) carryOut(prepareTransfer(order));
         return;
@@ -61,6 +65,18 @@ RunStart QuillorentAppDelegate::prepareTransfer(const SyncOrder &order)
     return {.sheet = syncSheet(*this),
             .look = [](const std::function<bool()> &) { return Findings(); },
             .work = [this, order](RunMonitor &monitor) { transfer(*this, order, monitor); }};
+}
+
+/// Looks once more at what would be deleted: the answer may have come long after the question, when a disk
+/// was gone or files had come.
+RunStart QuillorentAppDelegate::prepareConfirmed(const SyncOrder &order)
+{
+    RunStart start = prepareTransfer(order);
+    if (deletes(order))
+        start.work = [this, order, confirmed = m_previewTable.preview()](RunMonitor &monitor) {
+            previewFirst(order, monitor, PreviewFor::Question, confirmed);
+        };
+    return start;
 }
 
 RunStart QuillorentAppDelegate::prepareSync(bool isPreview)
@@ -105,5 +121,5 @@ void QuillorentAppDelegate::previewPanel01Close() { closeSheet(previewPanel01); 
 void QuillorentAppDelegate::previewPanel01Launch()
 {
     previewPanel01Close();
-    startRun(u"sync-run"_qs, [this] { return prepareTransfer(m_previewedOrder()); });
+    startRun(u"sync-run"_qs, [this] { return prepareConfirmed(m_previewedOrder()); });
 }
