@@ -139,11 +139,15 @@ std::vector<int> ProgramHome::processes() const
     for (const auto &entry : fs::directory_iterator("/proc")) {
         const std::string name = entry.path().filename().string();
         if (name.find_first_not_of("0123456789") != std::string::npos) continue;
-        try {
-            if (contains(readFile(entry.path() / "cmdline"), path().string()))
-                found.push_back(std::stoi(name));
-        } catch (const std::exception &) { // it ended in the meantime
-        }
+        // What is given a password wipes its arguments, and may hide its environment.
+        const auto isOurs = [&](const char *file) {
+            try {
+                return contains(readFile(entry.path() / file), path().string());
+            } catch (const std::exception &) { // it ended in the meantime
+                return false;
+            }
+        };
+        if (isOurs("cmdline") || isOurs("environ")) found.push_back(std::stoi(name));
     }
     return found;
 }
