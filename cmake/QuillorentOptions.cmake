@@ -19,9 +19,21 @@ if(QUILLORENT_SANITIZE)
         -fsanitize=${QUILLORENT_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     target_link_options(quillorent-options INTERFACE -fsanitize=${QUILLORENT_SANITIZE})
 else()
-    target_compile_options(quillorent-options INTERFACE $<$<CONFIG:Release>:-fstack-protector-strong>)
-    target_compile_definitions(quillorent-options INTERFACE $<$<CONFIG:Release>:_FORTIFY_SOURCE=2>)
+    # What makes a fault in memory end the program rather than open it; a packager's own flags come on top.
+    include(CheckCXXCompilerFlag)
+    foreach(flag -fstack-protector-strong -fstack-clash-protection -fcf-protection)
+        string(MAKE_C_IDENTIFIER "QUILLORENT_HAS${flag}" has)
+        check_cxx_compiler_flag(${flag} ${has})
+        if(${has})
+            target_compile_options(quillorent-options INTERFACE $<$<CONFIG:Release>:${flag}>)
+        endif()
+    endforeach()
+    target_compile_options(quillorent-options INTERFACE
+        $<$<CONFIG:Release>:-U_FORTIFY_SOURCE> $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=3>)
+    target_link_options(quillorent-options INTERFACE $<$<CONFIG:Release>:-Wl,-z,relro,-z,now>)
 endif()
+# Cheap checks of indexes and iterators, in every build.
+target_compile_definitions(quillorent-options INTERFACE _GLIBCXX_ASSERTIONS)
 
 add_library(quillorent-qt-strict INTERFACE)
 add_library(quillorent::qt-strict ALIAS quillorent-qt-strict)

@@ -59,6 +59,7 @@ void describe(QCommandLineParser &parser)
         "go on (see --yes), 64 wrong usage."_qs);
     parser.addOptions(
         {{{u"h"_qs, u"help"_qs}, u"Show this text."_qs},
+         {{u"v"_qs, u"version"_qs}, u"Show the version."_qs},
          {u"password-file"_qs, u"Take the password from the first line of FILE; - is standard input."_qs,
           u"FILE"_qs},
          {u"to"_qs, u"Extract into FOLDER instead of the profile's extraction folder."_qs, u"FOLDER"_qs},
@@ -86,6 +87,8 @@ ParsedArguments parseArguments(const QStringList &arguments)
     if (!parser.parse(QStringList(u"quillorent-run"_qs) + arguments.mid(0, end)))
         return wrongUsage(parser.errorText());
     if (parser.isSet(u"help"_qs)) return {std::nullopt, parser.helpText(), Done};
+    if (parser.isSet(u"version"_qs))
+        return {std::nullopt, QStringLiteral("quillorent-run " QUILLORENT_VERSION "\n"), Done};
 
     const QStringList words = parser.positionalArguments();
     if (words.isEmpty())

@@ -2,12 +2,15 @@
 #include "app/QuillorentAppDelegate.h"
 #include "app/TerminationSignals.h"
 #include "ui/Appearance.h"
+#include "ui/CommandLine.h"
 #include "ui/Window.h"
 
 #include <QApplication>
 
 int main(int argc, char *argv[])
 {
+    // Also where there is no display.
+    if (ui::wantsText(argc, argv, QUILLORENT_VERSION)) return 0;
     prepareProcess();
     QApplication application(argc, argv);
     // Closing the window ends the program, and only that: a panel may close while the window is hidden.
