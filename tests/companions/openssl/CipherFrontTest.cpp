@@ -186,6 +186,7 @@ TEST_F(CipherFront, LeavesAWriteProtectedFileAlone)
     writeFile(folder / "G", "protected");
     fs::permissions(folder / "F", fs::perms::all);
     fs::permissions(folder / "G", fs::perms{0444});
+    fs::copy_file(inner, folder / inner.filename());
     const Arguments program = asOrdinaryUser(folder.path(), front) + words("aes256 -a -in F -out G -k x");
     for (const Arguments &derivation : {Arguments(), quick}) {
         const CommandResult result = runCommand(program + derivation, {.folder = folder.path()});
@@ -207,6 +208,26 @@ TEST_F(CipherFront, DoesOtherwiseWhatTheSystemsToolDoes)
     }
 }
 
+// Everybody can read the list from the moment a program begins, and loading it takes milliseconds.
+TEST_F(CipherFront, ShowsNoPasswordBeforeItsLibrariesAreLoaded)
+{
+    const std::string script = "\"$@\" & until grep -q State:.S /proc/$!/status && [ /proc/$!/exe -ef '" +
+                               inner.string() + "' ]; do sleep .01; done; cat /proc/$!/cmdline; kill -9 $!";
+    const Environment stopped =
+        withTripwire({{"QUILLORENT_TRIPWIRE", inner.string() + "\naes256\nstart\nhang\n0"}});
+    for (const std::string line : {"-k hush -in F", "--k hush", "-k=hush --k=hush", "-pass pass:hush",
+                                   "-a -pass=pass:hush --pass=pass:hush", "-in pass:hush"})
+        for (const std::string &more : {std::string("-salt"), std::string(70'000, 'x')}) {
+            const CommandResult result =
+                runCommand(Arguments{"timeout", "20", "sh", "-c", script, "sh", front, "aes256"} +
+                               words(line) + Arguments{more},
+                           {.folder = folder.path(), .environment = stopped});
+            EXPECT_EQ(result.output.find("hush"), std::string::npos) << line;
+            EXPECT_NE(result.output.find("aes256"), std::string::npos) << result.errors;
+            EXPECT_NE(result.output.find(more), std::string::npos);
+        }
+}
+
 // A signal comes when more is written than a pipe holds, so that the front is at work on it.
 TEST_F(CipherFront, TakesTheToolAndItsTracesAlongWhenItIsStoppedAndShowsNoPassword)
 {
@@ -218,7 +239,7 @@ TEST_F(CipherFront, TakesTheToolAndItsTracesAlongWhenItIsStoppedAndShowsNoPasswo
     // The tool begins as a copy of its parent, which can decrypt messages without one.
     const std::string script =
         "env --default-signal \"$@\" & p=$!; t=$p; exec 3>pipe; head -c 300000 message >&3; "
-        "[ $2 = smime ] || for i in $(seq 200); do read t < /proc/$p/task/$p/children && "
+        "[ $2 = smime ] || for i in $(seq 999); do read t < /proc/$p/task/$p/children; "
         "grep -q fd: /proc/$t/cmdline && break; sleep .01; done; "
         "cat /proc/$p/cmdline /proc/$t/cmdline; kill -$0 $p; wait $p; status=$?; "
         "timeout 10 tail -s .02 --pid=$t -f /dev/null || echo the tool lives; exit $status";

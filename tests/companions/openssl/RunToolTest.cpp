@@ -77,9 +77,9 @@ TEST(ToolLocation, IsTheSystemsFirstAndNeverItselfOrWhatCannotRun)
     fs::create_symlink("/proc/self/exe", folder / "link");
     writeFile(folder / "plain", "no program");
     std::vector<std::string> candidates{folder / "missing", folder / "plain", folder.path(), folder / "link"};
-    EXPECT_EQ(findTool(candidates, ownIdentity(nullptr)), std::nullopt);
+    EXPECT_EQ(findTool(candidates, ownIdentities(nullptr)), std::nullopt);
     candidates.push_back("/bin/sh");
-    EXPECT_EQ(findTool(candidates, ownIdentity(nullptr)), "/bin/sh");
+    EXPECT_EQ(findTool(candidates, ownIdentities(nullptr)), "/bin/sh");
 }
 
 } // namespace
