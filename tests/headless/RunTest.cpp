@@ -88,6 +88,21 @@ TEST(Run, SaysWhyItCanNotStart)
                       {extract("/no/such.rar"), 2, "There is no archive \"/no/such.rar\""},
                       {extract(home.text("later.part2.rar")), 2, "The first volume is missing"},
                   });
+    using namespace std::string_literals;
+    for (const auto &[content, reason] : std::vector<std::pair<std::string, std::string>>{
+             {"", "No password is given"},
+             {"\nfrom a file", "No password is given"},
+             {"from a file\0x"s, "zero byte"},
+             {"from a file\rx", "line break"},
+             {"from a file\xff", "not UTF-8"},
+             {std::string(1024, 'x'), "longer than 1023 bytes"},
+             {std::string(9'000'000, 'x'), "Give a file whose first line is the password alone"}}) {
+        writeFile(home / "password", content);
+        expectReasons(home, {{{"backup", "Mine", "--password-file", password}, 2, reason},
+                             {extract(home.text("docs")), 2, reason}});
+    }
+    const std::string endless = "/dev/zero";
+    expectReasons(home, {{{"backup", "Mine", "--password-file", endless}, 2, "Give a file"}});
     writeFile(home.settings(), "damaged");
     expectReasons(home, {{{"backup", "Mine"}, 2, "settings"}});
     EXPECT_EQ(readFile(home.settings()), "damaged");
@@ -110,9 +125,15 @@ TEST(Run, BringsBackWhatItBackedUp)
         home.run({"backup", "Mine", "--password-file", "-", "--yes"}, "from a file\n");
     EXPECT_EQ(typed.status, 0) << typed.errors;
 
-    writeFile(home / "password", std::string("from a file\0x", 13)); // the tools never saw more than this
+    // A pipe that nobody closes.
+    fs::remove(home / "password");
+    home.launcher = {"sh", "-c", "mkfifo $0; exec 3<>$0; echo from a file >&3; exec \"$@\"",
+                     home.text("password")};
     const CommandResult extracted = home.extract({home.text("archives")}, {"--to", home.text("out")});
     EXPECT_EQ(extracted.status, 0) << extracted.errors;
+    home.launcher.clear();
+    fs::remove(home / "password");
+    writeFile(home / "password", "from a file\r\n");
     EXPECT_TRUE(contains(extracted.errors, "Extracted 1 of 1 into \"" + home.text("out")))
         << extracted.errors;
     EXPECT_EQ(readFile(home / "out" / home.path().relative_path() / "docs/file"), "content");
