@@ -185,9 +185,10 @@ TEST(Run, EndsItsToolsOnASignalAndKeepsOthersOut)
 {
     for (const auto &[signal, name, synchronises] :
          {std::tuple{SIGINT, "rar", false}, {SIGTERM, "rsync", true}}) {
-        const ProgramHome home(QUILLORENT_RUN);
+        ProgramHome home(QUILLORENT_RUN);
         const Stub stub(home / "tools", name, "hang Unknown option");
         home.changeSettings(synchronises ? "/usr/bin/rsync" : libexec + "/rar", stub.path());
+        home.becomeOrdinaryUser();
         CommandResult result;
         std::thread program([&, sync = synchronises] {
             result = sync ? home.run({"sync", "Mine"}) : home.backUp();
@@ -200,6 +201,12 @@ TEST(Run, EndsItsToolsOnASignalAndKeepsOthersOut)
             EXPECT_TRUE(contains(second.errors, home.text("archives"))) << second.errors;
         }
         const std::string parent = runCommand({"ps", "-o", "ppid=", "-p", std::to_string(tool)}).output;
+        // What can't be looked into belongs to root, whoever runs it.
+        const std::string process = "/proc/" + std::to_string(std::stoi(parent));
+        const CommandResult owners =
+            runCommand({"stat", "-c", "%u", process + "/mem", "/proc/" + std::to_string(tool) + "/mem"});
+        EXPECT_TRUE(owners.output.starts_with("0\n") && !owners.output.ends_with("\n0\n")) << owners.output;
+        EXPECT_TRUE(contains(readFile(process + "/limits"), "Max core file size        0 "));
         kill(std::stoi(parent), signal);
         program.join();
         EXPECT_EQ(result.status, 1) << result.errors;

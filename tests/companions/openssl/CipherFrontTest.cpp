@@ -187,13 +187,21 @@ TEST_F(CipherFront, LeavesAWriteProtectedFileAlone)
     fs::permissions(folder / "F", fs::perms::all);
     fs::permissions(folder / "G", fs::perms{0444});
     fs::copy_file(inner, folder / inner.filename());
-    const Arguments program = asOrdinaryUser(folder.path(), front) + words("aes256 -a -in F -out G -k x");
+    const Arguments user = asOrdinaryUser(folder.path(), front);
+    const Arguments program = user + words("aes256 -a -in F -out G -k x");
     for (const Arguments &derivation : {Arguments(), quick}) {
         const CommandResult result = runCommand(program + derivation, {.folder = folder.path()});
         EXPECT_NE(result.status, 0);
         EXPECT_NE(result.errors.find("Permission denied"), std::string::npos) << result.errors;
         EXPECT_EQ(readFile(folder / "G"), "protected");
     }
+    // What can't be looked into belongs to root, whoever runs it.
+    const std::string script = "mkfifo -m 666 pipe; \"$@\" & exec 3>pipe; stat -c %u /proc/$!/mem";
+    const Arguments line = words("aes256 -d -in pipe -out H -k x");
+    const CommandResult result =
+        runCommand(Arguments{"sh", "-c", script, "sh"} + asOrdinaryUser(folder.path(), front) + line,
+                   {.folder = folder.path()});
+    EXPECT_EQ(result.output, "0\n") << result.errors;
 }
 
 TEST_F(CipherFront, DoesOtherwiseWhatTheSystemsToolDoes)
