@@ -199,8 +199,7 @@ TEST_F(CipherFront, LeavesAWriteProtectedFileAlone)
     const std::string script = "mkfifo -m 666 pipe; \"$@\" & exec 3>pipe; stat -c %u /proc/$!/mem";
     const Arguments line = words("aes256 -d -in pipe -out H -k x");
     const CommandResult result =
-        runCommand(Arguments{"sh", "-c", script, "sh"} + asOrdinaryUser(folder.path(), front) + line,
-                   {.folder = folder.path()});
+        runCommand(Arguments{"sh", "-c", script, "sh"} + user + line, {.folder = folder.path()});
     EXPECT_EQ(result.output, "0\n") << result.errors;
 }
 
