@@ -61,13 +61,19 @@ TEST_F(SmimeFront, DecryptsWhateverFormTheSystemsToolWrites)
         {"smime -to a@b -subject two_recipients cert2", "-inkey key"},
         {"smime cert2", "-inkey key -recip cert"},
         {"cms -keyid", "-inkey key -recip cert"},
+        {"cms -outform DER -recip cert -keyopt rsa_padding_mode:oaep", "-inform DER -inkey key cert"},
+        {"cms -recip cert -keyopt rsa_padding_mode:oaep -keyopt rsa_oaep_md:sha256", "-inkey key"},
+        {"cms -recip cert -keyopt rsa_padding_mode:oaep -keyopt rsa_oaep_md:sha384 -keyopt rsa_mgf1_md:sha1 "
+         "-keyopt rsa_oaep_label:00ff01",
+         "-inkey key -recip cert"},
         {"cms -secretkey 000102030405060708090a0b0c0d0e0f -secretkeyid 01", "-inkey key"}};
     for (const auto &[writing, reading] : writingsAndReadings) {
         SCOPED_TRACE(writing);
         Arguments options = words(writing);
         const std::string command = options.front() + " -encrypt -binary -in F -out G";
         options.erase(options.begin());
-        EXPECT_TRUE(isSilentSuccess(runIn(folder, stock, command, options + Arguments{"cert"})));
+        if (writing.find("-recip") == std::string::npos) options.push_back("cert");
+        EXPECT_TRUE(isSilentSuccess(runIn(folder, stock, command, options)));
         EXPECT_TRUE(isSilentSuccess(runIn(folder, front, "smime -decrypt -in G -out H", words(reading))));
         EXPECT_TRUE(readFile(folder / "H") == plain);
         fs::remove(folder / "H");
@@ -86,7 +92,27 @@ TEST_F(SmimeFront, TellsInOneLineWhyItDoesNotDecrypt)
     writeFile(folder / "none", "");
     ASSERT_EQ(runIn(folder, stock, "smime -sign -in F -out signed -nodetach -signer cert -inkey key").status,
               0);
+    for (
+        const char *const command :
+        {"ecparam -name prime256v1 -genkey -noout -out ec", "req -x509 -new -key ec -subj /CN=ec -out eccert",
+         "cms -encrypt -aes256 -in F -out curve eccert", "cms -encrypt -aes-256-gcm -in F -out sealed cert",
+         "cms -encrypt -aes256 -in F -out shared -secretkey 000102030405060708090a0b0c0d0e0f -secretkeyid 01",
+         "cms -encrypt -aes256 -in F -out both cert eccert",
+         "cms -encrypt -aes256 -in F -out oaep -recip cert -keyopt rsa_padding_mode:oaep"})
+        ASSERT_EQ(runIn(folder, stock, command).status, 0) << command;
+    const std::string cms = "and can't be opened here: use \"openssl cms -decrypt\"";
     const std::vector<std::pair<std::string, std::string>> argumentsAndReasons{
+        {"-in curve -inkey ec eccert", "curve is for an elliptic-curve key, not for an RSA key, " + cms},
+        {"-in curve -inkey key cert", "curve is for an elliptic-curve key, not for an RSA key, " + cms},
+        {"-in both -inkey ec", "both is for an elliptic-curve key, not for an RSA key, " + cms},
+        {"-in both -inkey key2", "both cannot be opened with the private key key2"},
+        {"-in oaep -inkey key2", "oaep cannot be opened with the private key key2"},
+        {"-in G -inkey ec", "G cannot be opened with the private key ec: it is no RSA key"},
+        {"-in shared -inkey key",
+         "shared is for a password or a key that both sides have, not for an RSA key, " + cms},
+        {"-in sealed -inkey key cert",
+         "sealed is encrypted with a cipher that seals it, such as AES-GCM, which can't be opened here: use "
+         "\"openssl cms -decrypt\""},
         {"-in G -inkey key2 cert",
          "G was not opened: the private key key2 does not belong to the certificate cert"},
         {"-in G -inkey key2 cert2", "G is not for the certificate cert2"},
