@@ -1,8 +1,10 @@
 #include "ProgramHome.h"
 #include "SecretService.h"
 #include "Stub.h"
+#include "Tree.h"
 
 #include <csignal>
+#include <functional>
 #include <gtest/gtest.h>
 #include <thread>
 
@@ -31,24 +33,33 @@ void expectReasons(const ProgramHome &home, const std::vector<Case> &cases)
     }
 }
 
+/// All but what belongs to the program itself.
+TreeSnapshot untouched(const ProgramHome &home)
+{
+    TreeSnapshot tree = snapshotTree(home.path());
+    std::erase_if(tree, [](const auto &entry) {
+        const std::string first = fs::path(entry.first).begin()->string();
+        return first == "." || first == "state" || first == "config" || first == "tmp";
+    });
+    return tree;
+}
+
 } // namespace
 
 TEST(Run, RefusesWrongUsage)
 {
     const ProgramHome home(QUILLORENT_RUN);
-    expectReasons(home, {
-                            {{}, 64, "command is missing"},
-                            {{"restore"}, 64, "\"restore\" is no command"},
-                            {{"backup", "--now"}, 64, "now"},
-                            {{"backup", "Mine", "Yours"}, 64, "\"Yours\" is one word too many"},
-                            {{"tools", "--yes"}, 64, "does not go with"},
-                            {{"sync", "--password-file", "/x"}, 64, "does not go with"},
-                            {{"backup", "--password-file"}, 64, "password-file"},
-                            {{"backup", "--to", "/x"}, 64, "does not go with"},
-                            {{"backup", "--", "x.rar"}, 64, "\"x.rar\" is one word too many"},
-                            {{"extract", "Mine"}, 64, "Archives are missing"},
-                            {{"extract", "--method", "rot13", "--", "x.rar"}, 64, "\"rot13\" is no method"},
-                        });
+    expectReasons(home, {{{}, 64, "command is missing"},
+                         {{"restore"}, 64, "\"restore\" is no command"},
+                         {{"backup", "--now"}, 64, "now"},
+                         {{"backup", "Mine", "Yours"}, 64, "\"Yours\" is one word too many"},
+                         {{"tools", "--yes"}, 64, "does not go with"},
+                         {{"sync", "--password-file", "/x"}, 64, "does not go with"},
+                         {{"backup", "--password-file"}, 64, "password-file"},
+                         {{"backup", "--to", "/x"}, 64, "does not go with"},
+                         {{"backup", "--", "x.rar"}, 64, "\"x.rar\" is one word too many"},
+                         {{"extract", "Mine"}, 64, "Archives are missing"},
+                         {{"extract", "--method", "rot13", "--", "x.rar"}, 64, "\"rot13\" is no method"}});
     EXPECT_TRUE(contains(home.run({"--help"}).output, "Exit status"));
 }
 
@@ -76,18 +87,15 @@ TEST(Run, SaysWhyItCanNotStart)
     const auto extract = [&](const std::string &archive) {
         return Words{"extract", "Mine", "--password-file", password, "--", archive};
     };
-    expectReasons(home,
-                  {
-                      {{"backup", "Yours"}, 2, "no profile \"Yours\"; there are: Default profile, Mine."},
-                      {{"backup", "Mine"}, 2, "No password is given"},
-                      {{"backup", "Mine", "--password-file", home.text("nothing")},
-                       2,
-                       "Can't read the password from \"" + home.text("nothing")},
-                      {{"backup", "Default profile", "--password-file", password}, 2, "destination"},
-                      {{"sync", "Default profile"}, 2, "The list is empty"},
-                      {extract("/no/such.rar"), 2, "There is no archive \"/no/such.rar\""},
-                      {extract(home.text("later.part2.rar")), 2, "The first volume is missing"},
-                  });
+    expectReasons(home, {{{"backup", "Yours"}, 2, "no profile \"Yours\"; there are: Default profile, Mine."},
+                         {{"backup", "Mine"}, 2, "No password is given"},
+                         {{"backup", "Mine", "--password-file", home.text("nothing")},
+                          2,
+                          "Can't read the password from \"" + home.text("nothing")},
+                         {{"backup", "Default profile", "--password-file", password}, 2, "destination"},
+                         {{"sync", "Default profile"}, 2, "The list is empty"},
+                         {extract("/no/such.rar"), 2, "There is no archive \"/no/such.rar\""},
+                         {extract(home.text("later.part2.rar")), 2, "The first volume is missing"}});
     using namespace std::string_literals;
     for (const auto &[content, reason] : std::vector<std::pair<std::string, std::string>>{
              {"", "No password is given"},
@@ -106,6 +114,51 @@ TEST(Run, SaysWhyItCanNotStart)
     writeFile(home.settings(), "damaged");
     expectReasons(home, {{{"backup", "Mine"}, 2, "settings"}});
     EXPECT_EQ(readFile(home.settings()), "damaged");
+}
+
+// What is found in which situation is tested with the engines; here is what takes the whole program. An
+// obstacle can't be overruled; a concern can, by --yes. Both are told with their paths, and until then
+// nothing is touched.
+TEST(Run, EndsBeforeAnythingIsTouched)
+{
+    ProgramHome home(QUILLORENT_RUN);
+    home.encryptForCertificate();
+    home.record["rsyncdelete1"] = "1";
+    EXPECT_EQ(home.backUp().status, 0);
+    const std::string archive = home.text("archives/docs.rar.smime.rar");
+    EXPECT_EQ(home.extract({archive}).status, 0);
+    const fs::path extracted = home / "out" / home.path().relative_path() / "docs/file";
+    writeFile(extracted, "edited");
+    writeFile(home / "copy/docs/extra", "there alone");
+    writeFile(home / "archives/docs.rar", "photos");
+    using Run = std::function<CommandResult(const Words &)>;
+    for (const auto &[run, told] : std::vector<std::pair<Run, std::string>>{
+             {[&](const Words &more) { return home.backUp(more); }, home.text("archives/docs.rar")},
+             {[&](const Words &more) { return home.extract({archive}, more); }, home.text("out")},
+             {[&](const Words &more) {
+                  return more.empty() ? home.run({"sync", "Mine"}) : home.run({"sync", "Mine", "--yes"});
+              },
+              "--yes"}}) {
+        const TreeSnapshot before = untouched(home);
+        const CommandResult refused = run({});
+        EXPECT_EQ(refused.status, 2) << refused.errors;
+        EXPECT_TRUE(contains(refused.errors, told)) << refused.errors;
+        EXPECT_EQ(treeDifference(before, untouched(home)), "");
+        EXPECT_EQ(run({"--yes"}).status, 0) << told;
+    }
+    EXPECT_EQ(readFile(home / "archives/kept-docs.rar"), "photos");
+    EXPECT_EQ(readFile(extracted), "content");
+    EXPECT_FALSE(fs::exists(home / "copy/docs/extra"));
+
+    fs::permissions(home / "archives", fs::perms(0500));
+    fs::permissions(home / "keys/anna.pem", fs::perms(0));
+    home.becomeOrdinaryUser();
+    const TreeSnapshot before = untouched(home);
+    const CommandResult forbidden = home.backUp({"--yes"});
+    EXPECT_EQ(forbidden.status, 2);
+    for (const char *const path : {"archives", "keys/anna.pem"})
+        EXPECT_TRUE(contains(forbidden.errors, home.text(path))) << forbidden.errors;
+    EXPECT_EQ(treeDifference(before, untouched(home)), "");
 }
 
 TEST(Run, BringsBackWhatItBackedUp)
