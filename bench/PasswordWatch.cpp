@@ -129,6 +129,7 @@ Sight watchRun(const std::string &front, const std::string &folder)
 double median(const std::vector<Sight> &sights, Microseconds Sight::*figure)
 {
     std::vector<double> values;
+    values.reserve(sights.size());
     for (const Sight &sight : sights)
         values.push_back((sight.*figure).count());
     std::ranges::nth_element(values, values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2));

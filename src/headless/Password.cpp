@@ -82,9 +82,9 @@ PasswordInput askForPassword(Asking asking)
     Terminal terminal;
     if (!terminal) return {};
     for (int i = 0; i < tries; ++i) {
-        const PasswordInput first = askOnce(terminal, "Password for the archives: ");
+        PasswordInput first = askOnce(terminal, "Password for the archives: ");
         if (asking == Asking::Once || first.password.value_or(QString()).isEmpty()) return first;
-        const PasswordInput second = askOnce(terminal, "The same password again: ");
+        PasswordInput second = askOnce(terminal, "The same password again: ");
         if (!second.password || first.password == second.password) return second;
         terminal.print("The two passwords are not the same. Type both again.\n");
     }

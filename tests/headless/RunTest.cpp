@@ -123,10 +123,14 @@ TEST(Run, EndsBeforeAnythingIsTouched)
 {
     ProgramHome home(QUILLORENT_RUN);
     home.encryptForCertificate();
-    home.record["rsyncdelete1"] = "1";
     EXPECT_EQ(home.backUp().status, 0);
     const std::string archive = home.text("archives/docs.rar.smime.rar");
     EXPECT_EQ(home.extract({archive}).status, 0);
+    const CommandResult done = home.run({"sync", "Mine", "--progress", "--json"});
+    EXPECT_TRUE(contains(done.errors, "Synchronised 1 entry") && contains(done.output, "\"sync\""))
+        << done.errors;
+    EXPECT_EQ(readFile(home / "copy/docs/file"), "content");
+    home.record["rsyncdelete1"] = "1";
     const fs::path extracted = home / "out" / home.path().relative_path() / "docs/file";
     writeFile(extracted, "edited");
     writeFile(home / "copy/docs/extra", "there alone");
@@ -222,16 +226,6 @@ TEST(Run, TakesThePasswordFromTheProfilesSource)
     writeFile(home / "password", "fjord ¤ 7");
     home.record["passtype"] = "0";
     EXPECT_EQ(home.extract({home.text("archives")}).status, 0);
-}
-
-TEST(Run, Synchronises)
-{
-    const ProgramHome home(QUILLORENT_RUN);
-    const CommandResult done = home.run({"sync", "Mine", "--progress", "--json"});
-    EXPECT_EQ(done.status, 0) << done.errors;
-    EXPECT_TRUE(contains(done.errors, "Synchronised 1 entry")) << done.errors;
-    EXPECT_TRUE(contains(done.output, "\"sync\"")) << done.output;
-    EXPECT_EQ(readFile(home / "copy/docs/file"), "content");
 }
 
 TEST(Run, EndsItsToolsOnASignalAndKeepsOthersOut)

@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr const char *frontName = "openssl-inner";
+constexpr std::string_view frontName = "openssl-inner";
 
 int fail(const char *what)
 {
@@ -54,8 +54,8 @@ bool findFront(char (&path)[PATH_MAX])
     if (size < 0) return false;
     const std::size_t folder = std::string_view(path, static_cast<std::size_t>(size)).rfind('/') + 1;
     errno = ENAMETOOLONG;
-    if (folder + std::strlen(frontName) >= sizeof path) return false;
-    std::strcpy(path + folder, frontName);
+    if (folder + frontName.size() >= sizeof path) return false;
+    path[folder + frontName.copy(path + folder, frontName.size())] = '\0';
     return true;
 }
 
@@ -79,5 +79,7 @@ int main(int argc, char **argv)
     for (int i = 1; i < argc; ++i)
         list[i + 1] = argv[i];
     execv(path, list);
-    return fail(path);
+    const int status = fail(path);
+    std::free(list);
+    return status;
 }

@@ -90,22 +90,21 @@ TEST_F(CipherFront, TellsAFailureAndLeavesNoResult)
     fs::create_directory(folder / "folder");
     // Without salt, so that what a wrong password makes of the padding is the same in every run.
     ASSERT_TRUE(succeeds(front, "aes256 -nosalt -in F -out G -k right", quick));
-    for (const char *const failing :
-         {"-d -nosalt -in G -out H -pass pass:wrong", "-d -a -in F -out H -k x", "-in missing -out H -k x",
-          "-in folder -out H -k x", "-in F -out missing/H -k x", "-in F -out H -pass file:missing"}) {
-        const CommandResult result = runIn(folder, front, std::string("aes256 ") + failing, quick);
-        EXPECT_NE(result.status, 0) << failing;
-        EXPECT_NE(result.output, "") << failing;
-        EXPECT_EQ(entriesIn(folder.path()), 3) << failing;
-    }
-    // What the tool would cut off without a word.
-    const std::string longest(1023, 'x');
-    for (const auto &[password, reason] : std::vector<std::pair<std::string, std::string>>{
-             {"one\ntwo", "line break"}, {longest + "x", "1023 bytes"}, {longest + "x\n", "line break"}}) {
+    const std::string longest(1023, 'x'); // what the tool would cut off without a word
+    for (const auto &[line, password, reason] :
+         std::vector<std::array<std::string, 3>>{{"-d -nosalt -in G -out H", "pass:wrong", "bad decrypt"},
+                                                 {"-d -a -in F -out H", "pass:x", "error reading input file"},
+                                                 {"-in missing -out H", "pass:x", "No such file"},
+                                                 {"-in folder -out H", "pass:x", "directory"},
+                                                 {"-in F -out missing/H", "pass:x", "No such file"},
+                                                 {"-in F -out H", "file:missing", "No such file"},
+                                                 {"-in F -out H", "pass:one\ntwo", "line break"},
+                                                 {"-in F -out H", "pass:" + longest + "x", "1023 bytes"},
+                                                 {"-in F -out H", "pass:" + longest + "x\n", "line break"}}) {
         const CommandResult result =
-            runIn(folder, front, "aes256 -in F -out H", {"-pass", "pass:" + password});
+            runIn(folder, front, "aes256 " + line, quick + Arguments{"-pass", password});
         EXPECT_TRUE(result.status != 0 && result.output.find(reason) != std::string::npos) << result.output;
-        EXPECT_EQ(entriesIn(folder.path()), 3);
+        EXPECT_EQ(entriesIn(folder.path()), 3) << line;
     }
 }
 

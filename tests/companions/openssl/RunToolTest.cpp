@@ -1,6 +1,5 @@
 #include "RunTool.h"
 #include "Front.h"
-#include "LineFilter.h"
 #include "ToolLocation.h"
 
 namespace fs = std::filesystem;
@@ -39,19 +38,6 @@ TEST(RunTool, TellsAMisbehavingToolAndLeavesTheOlderResult)
         EXPECT_NE(errors.find(message), std::string::npos) << errors;
         EXPECT_EQ(readFile(results / "G"), "older");
         EXPECT_EQ(entriesIn(results), 1U);
-    }
-}
-
-// The lines reach the front in whatever pieces the tool happens to write.
-TEST(LineFilter, LeavesOutWholeLinesAlone)
-{
-    const std::string text = "known\nunknown\nknown too\n\nother\nknown";
-    for (std::size_t size = 1; size <= text.size(); ++size) {
-        LineFilter filter({"known", "other"});
-        std::string passed;
-        for (std::size_t start = 0; start < text.size(); start += size)
-            passed += filter.pass(std::string_view(text).substr(start, size));
-        EXPECT_EQ(passed + filter.rest(), "unknown\nknown too\n\nknown") << size;
     }
 }
 
