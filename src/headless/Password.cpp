@@ -13,6 +13,7 @@ namespace {
 
 constexpr qsizetype longestLine = 4096; // in bytes; no password is longer
 constexpr int tries = 3;
+const QString nothingTyped = QStringLiteral("No password was typed. Nothing was done.");
 
 PasswordInput refusal(const QString &reason) { return {std::nullopt, reason}; }
 
@@ -58,7 +59,7 @@ PasswordInput toPassword(QByteArray line, const QString &source)
 PasswordInput askOnce(Terminal &terminal, const QByteArray &question)
 {
     const std::optional<QByteArray> line = terminal.ask(question);
-    if (!line) return refusal(u"No password was typed."_qs);
+    if (!line) return refusal(nothingTyped);
     return toPassword(*line, u"what was typed"_qs);
 }
 
@@ -72,7 +73,11 @@ PasswordInput readPassword(const QString &path)
     const std::optional<QByteArray> line = file < 0 ? std::nullopt : readFirstLine(file);
     const int error = errno;
     if (file >= 0) close(file);
-    if (line) return toPassword(*line, nameOf(path));
+    if (line) {
+        PasswordInput input = toPassword(*line, nameOf(path));
+        if (!input.password || !input.password->isEmpty()) return input;
+        return refusal(u"The first line of %1 is empty. Write the password there."_qs.arg(nameOf(path)));
+    }
     return refusal(u"Can't read the password from %1: %2. Give another file."_qs.arg(
         nameOf(path), QString::fromLocal8Bit(std::strerror(error))));
 }
@@ -83,7 +88,8 @@ PasswordInput askForPassword(Asking asking)
     if (!terminal) return {};
     for (int i = 0; i < tries; ++i) {
         PasswordInput first = askOnce(terminal, "Password for the archives: ");
-        if (asking == Asking::Once || first.password.value_or(QString()).isEmpty()) return first;
+        if (first.password && first.password->isEmpty()) return refusal(nothingTyped);
+        if (asking == Asking::Once || !first.password) return first;
         PasswordInput second = askOnce(terminal, "The same password again: ");
         if (!second.password || first.password == second.password) return second;
         terminal.print("The two passwords are not the same. Type both again.\n");

@@ -98,8 +98,8 @@ TEST(Run, SaysWhyItCanNotStart)
                          {extract(home.text("later.part2.rar")), 2, "The first volume is missing"}});
     using namespace std::string_literals;
     for (const auto &[content, reason] : std::vector<std::pair<std::string, std::string>>{
-             {"", "No password is given"},
-             {"\nfrom a file", "No password is given"},
+             {"", "Write the password there"},
+             {"\nfrom a file", "Write the password there"},
              {"from a file\0x"s, "zero byte"},
              {"from a file\rx", "line break"},
              {"from a file\xff", "not UTF-8"},
