@@ -4,13 +4,18 @@
 option(QUILLORENT_WARNINGS_ARE_ERRORS "Treat compiler warnings as errors" OFF)
 set(QUILLORENT_SANITIZE "" CACHE STRING "Sanitizers for -fsanitize=, for example address,undefined")
 
-add_library(quillorent-options INTERFACE)
-add_library(quillorent::options ALIAS quillorent-options)
-target_compile_features(quillorent-options INTERFACE cxx_std_20)
-target_compile_options(quillorent-options INTERFACE
+# The language and its warnings alone: for what is too small, or too early, for a sanitizer.
+add_library(quillorent-language INTERFACE)
+add_library(quillorent::language ALIAS quillorent-language)
+target_compile_features(quillorent-language INTERFACE cxx_std_20)
+target_compile_options(quillorent-language INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
     -Wold-style-cast -Wcast-qual -Wformat=2 -Wimplicit-fallthrough -Wundef
     $<$<BOOL:${QUILLORENT_WARNINGS_ARE_ERRORS}>:-Werror>)
+
+add_library(quillorent-options INTERFACE)
+add_library(quillorent::options ALIAS quillorent-options)
+target_link_libraries(quillorent-options INTERFACE quillorent-language)
 # Files larger than 2 GiB are the rule here, on 32-bit systems too.
 target_compile_definitions(quillorent-options INTERFACE _FILE_OFFSET_BITS=64)
 

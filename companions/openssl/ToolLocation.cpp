@@ -1,6 +1,8 @@
 #include "ToolLocation.h"
 
+#include <algorithm>
 #include <cstring>
+#include <filesystem>
 #include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -16,11 +18,16 @@ std::optional<FileIdentity> identityOf(const char *path)
 
 } // namespace
 
-std::optional<FileIdentity> ownIdentity(const char *ownName)
+std::vector<FileIdentity> ownIdentities(const char *ownName)
 {
-    if (const auto identity = identityOf("/proc/self/exe")) return identity;
-    if (ownName && std::strchr(ownName, '/')) return identityOf(ownName);
-    return std::nullopt;
+    std::error_code error;
+    std::filesystem::path file = std::filesystem::read_symlink("/proc/self/exe", error);
+    if (error && ownName && std::strchr(ownName, '/')) file = ownName;
+    std::vector<FileIdentity> identities;
+    if (file.empty()) return identities;
+    for (const std::filesystem::path &path : {file, file.parent_path() / "openssl"})
+        if (const auto identity = identityOf(path.c_str())) identities.push_back(*identity);
+    return identities;
 }
 
 std::vector<std::string> toolCandidates(const char *searchPath)
@@ -37,11 +44,12 @@ std::vector<std::string> toolCandidates(const char *searchPath)
 }
 
 std::optional<std::string> findTool(const std::vector<std::string> &candidates,
-                                    const std::optional<FileIdentity> &self)
+                                    const std::vector<FileIdentity> &own)
 {
     for (const std::string &candidate : candidates) {
         const auto identity = identityOf(candidate.c_str());
-        if (identity && identity != self && access(candidate.c_str(), X_OK) == 0) return candidate;
+        if (identity && !std::ranges::count(own, *identity) && access(candidate.c_str(), X_OK) == 0)
+            return candidate;
     }
     return std::nullopt;
 }

@@ -13,13 +13,14 @@ struct FileIdentity {
     bool operator==(const FileIdentity &) const = default;
 };
 
-/// The identity of the running program; `ownName` is its argv[0]. Nothing: the system doesn't tell.
-[[nodiscard]] std::optional<FileIdentity> ownIdentity(const char *ownName);
+/// The identities of the running program, and of the one beside it that starts it; `ownName` is its argv[0].
+/// Nothing: the system doesn't tell.
+[[nodiscard]] std::vector<FileIdentity> ownIdentities(const char *ownName);
 
 /// Where the system's tool may be, best first: the system's own folders, then the absolute ones of
 /// `searchPath` (a list in the manner of PATH; null: none).
 [[nodiscard]] std::vector<std::string> toolCandidates(const char *searchPath);
 
-/// The first candidate that can be run and is not `self`. Nothing: there is none.
+/// The first candidate that can be run and is none of `own`. Nothing: there is none.
 [[nodiscard]] std::optional<std::string> findTool(const std::vector<std::string> &candidates,
-                                                  const std::optional<FileIdentity> &self);
+                                                  const std::vector<FileIdentity> &own);

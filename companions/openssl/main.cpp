@@ -3,7 +3,9 @@
 // that are whole or not there at all.
 
 #include "CipherDecryption.h"
+#include "ClosedMemory.h"
 #include "CommandPlan.h"
+#include "HandedArguments.h"
 #include "RunTool.h"
 #include "ToolLocation.h"
 #include "ToolProcess.h"
@@ -31,20 +33,25 @@ int carryOut(const CommandPlan &plan, const std::string &tool, char **argv, Secr
 
 int main(int argc, char **argv)
 {
-    // Before anything else, so that the password is in the list of processes for as short as can be.
+    // Before anything else, so that the password is within reach of others for as short as can be.
+    base::closeMemory();
+    std::optional<std::vector<char *>> arguments = takeArguments(argc, argv);
+    if (!arguments) {
+        complain("cannot read its arguments: " + std::generic_category().message(errno));
+        return failure;
+    }
     Secret password;
-    const CommandPlan plan =
-        planCommand({argv + 1, static_cast<std::size_t>(argc > 0 ? argc - 1 : 0)}, password);
+    const CommandPlan plan = planCommand(std::span(*arguments).subspan(1, arguments->size() - 2), password);
     if (const Refusal *const refusal = std::get_if<Refusal>(&plan)) {
         complain(refusal->message);
         return failure;
     }
     if (const SmimeDecryption *const decryption = std::get_if<SmimeDecryption>(&plan))
         return decryptSmime(*decryption, password);
-    const auto tool = findTool(toolCandidates(std::getenv("PATH")), ownIdentity(argv[0]));
+    const auto tool = findTool(toolCandidates(std::getenv("PATH")), ownIdentities(argv[0]));
     if (!tool) {
         complain("the system has no openssl program: install its package");
         return failure;
     }
-    return carryOut(plan, *tool, argv, password);
+    return carryOut(plan, *tool, arguments->data(), password);
 }

@@ -10,7 +10,7 @@ ExitStatus runBackup(QuillorentAppDelegate &delegate, const Options &options)
         printError(u"The profile encrypts for a certificate; a password does not go with it."_qs);
         return NotStarted;
     }
-    if (!supplyPassword(delegate, options.passwordFile)) return NotStarted;
+    if (!supplyPassword(delegate, options.passwordFile, Asking::Twice)) return NotStarted;
 
     PanelAnswers answers(delegate, options.yes);
     answers.answerQuestion(

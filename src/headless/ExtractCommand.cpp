@@ -51,7 +51,7 @@ void answerPanels(QuillorentAppDelegate &delegate, PanelAnswers &answers)
 ExitStatus runExtraction(QuillorentAppDelegate &delegate, const Options &options)
 {
     if (!fillIn(delegate, options)) return NotStarted;
-    if (!supplyPassword(delegate, options.passwordFile)) return NotStarted;
+    if (!supplyPassword(delegate, options.passwordFile, Asking::Once)) return NotStarted;
 
     PanelAnswers answers(delegate, options.yes);
     answerPanels(delegate, answers);

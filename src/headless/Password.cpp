@@ -1,68 +1,98 @@
 #include "headless/Password.h"
 
+#include "headless/Terminal.h"
+
 #include <QFile>
+#include <array>
+#include <cerrno>
+#include <cstring>
 #include <fcntl.h>
-#include <termios.h>
 #include <unistd.h>
 
 namespace {
 
-QString reasonOf(const QFile &file)
+constexpr qsizetype longestLine = 4096; // in bytes; no password is longer
+constexpr int tries = 3;
+const QString nothingTyped = QStringLiteral("No password was typed. Nothing was done.");
+
+PasswordInput refusal(const QString &reason) { return {std::nullopt, reason}; }
+
+QString nameOf(const QString &path) { return path == u"-" ? u"standard input"_qs : u"\"%1\""_qs.arg(path); }
+
+/// Up to the end of the first line, or `longestLine`: what comes behind is nobody's business, and a pipe may
+/// stay open. None, with errno set, where it can't be read.
+std::optional<QByteArray> readFirstLine(int file)
 {
-    return u"Can't read the password from \"%1\": %2."_qs.arg(file.fileName(), file.errorString());
+    std::array<char, 512> piece;
+    QByteArray line;
+    while (line.size() <= longestLine && !line.contains('\n')) {
+        const ssize_t size = read(file, piece.data(), piece.size());
+        if (size < 0 && errno == EINTR) continue;
+        if (size < 0) return std::nullopt;
+        if (size == 0) break;
+        line.append(piece.data(), size);
+    }
+    explicit_bzero(piece.data(), piece.size());
+    return line;
 }
 
-/// Typed characters are not shown while it lives.
-class HiddenTyping {
-public:
-    explicit HiddenTyping(int terminal) : m_terminal(terminal)
-    {
-        m_changed = tcgetattr(m_terminal, &m_before) == 0;
-        termios hidden = m_before;
-        hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-        if (m_changed) tcsetattr(m_terminal, TCSAFLUSH, &hidden);
-    }
-    ~HiddenTyping()
-    {
-        if (m_changed) tcsetattr(m_terminal, TCSAFLUSH, &m_before);
-    }
-    HiddenTyping(const HiddenTyping &) = delete;
-    HiddenTyping &operator=(const HiddenTyping &) = delete;
-
-private:
-    int m_terminal;
-    bool m_changed = false;
-    termios m_before{};
-};
-
-PasswordInput firstLine(QFile &file)
+/// `line` is wiped.
+PasswordInput toPassword(QByteArray line, const QString &source)
 {
-    QByteArray line = file.readLine();
-    if (line.isEmpty() && file.error() != QFileDevice::NoError) return {std::nullopt, reasonOf(file)};
-    while (line.endsWith('\n') || line.endsWith('\r'))
-        line.chop(1);
-    if (!line.isValidUtf8())
-        return {std::nullopt, u"The password in \"%1\" is not UTF-8 text."_qs.arg(file.fileName())};
-    return {QString::fromUtf8(line), {}};
+    const qsizetype end = line.indexOf('\n');
+    const bool isTooLong = (end < 0 ? line.size() : end) > longestLine;
+    QByteArray text = line.left(end < 0 ? line.size() : end);
+    while (text.endsWith('\r'))
+        text.chop(1);
+    const bool isUtf8 = text.isValidUtf8();
+    const QString password = isUtf8 ? QString::fromUtf8(text) : QString();
+    text.fill('\0');
+    line.fill('\0');
+    if (isTooLong)
+        return refusal(u"The first line of %1 is longer than any password can be. Give a file whose first "
+                       "line is the password alone."_qs.arg(source));
+    if (!isUtf8)
+        return refusal(u"The password in %1 is not UTF-8 text. Save the file as UTF-8."_qs.arg(source));
+    return {password, {}};
+}
+
+PasswordInput askOnce(Terminal &terminal, const QByteArray &question)
+{
+    const std::optional<QByteArray> line = terminal.ask(question);
+    if (!line) return refusal(nothingTyped);
+    return toPassword(*line, u"what was typed"_qs);
 }
 
 } // namespace
 
 PasswordInput readPassword(const QString &path)
 {
-    QFile file(path);
-    const bool isOpen =
-        path == u"-" ? file.open(STDIN_FILENO, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    return isOpen ? firstLine(file) : PasswordInput{std::nullopt, reasonOf(file)};
+    const int file = path == u"-"
+                         ? dup(STDIN_FILENO)
+                         : open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY);
+    const std::optional<QByteArray> line = file < 0 ? std::nullopt : readFirstLine(file);
+    const int error = errno;
+    if (file >= 0) close(file);
+    if (line) {
+        PasswordInput input = toPassword(*line, nameOf(path));
+        if (!input.password || !input.password->isEmpty()) return input;
+        return refusal(u"The first line of %1 is empty. Write the password there."_qs.arg(nameOf(path)));
+    }
+    return refusal(u"Can't read the password from %1: %2. Give another file."_qs.arg(
+        nameOf(path), QString::fromLocal8Bit(std::strerror(error))));
 }
 
-PasswordInput askForPassword(const QString &question)
+PasswordInput askForPassword(Asking asking)
 {
-    QFile terminal(u"/dev/tty"_qs);
-    if (!terminal.open(QIODevice::ReadWrite | QIODevice::Unbuffered)) return {};
-    terminal.write(question.toUtf8());
-    const HiddenTyping hidden(terminal.handle());
-    PasswordInput answer = firstLine(terminal);
-    terminal.write("\n");
-    return answer;
+    Terminal terminal;
+    if (!terminal) return {};
+    for (int i = 0; i < tries; ++i) {
+        PasswordInput first = askOnce(terminal, "Password for the archives: ");
+        if (first.password && first.password->isEmpty()) return refusal(nothingTyped);
+        if (asking == Asking::Once || !first.password) return first;
+        PasswordInput second = askOnce(terminal, "The same password again: ");
+        if (!second.password || first.password == second.password) return second;
+        terminal.print("The two passwords are not the same. Type both again.\n");
+    }
+    return refusal(u"The password was not typed the same way twice. Nothing was done."_qs);
 }

@@ -4,9 +4,9 @@
 #include "app/QuillorentAppDelegate.h"
 #include "app/TerminationSignals.h"
 #include "headless/Options.h"
-#include "headless/Password.h"
 #include "headless/Print.h"
 #include "headless/ProgressLine.h"
+#include "keys/SecretRules.h"
 
 #include <QEventLoop>
 #include <QTimer>
@@ -90,7 +90,7 @@ void PanelAnswers::refuse(const QString &text)
     m_refused = true;
 }
 
-bool supplyPassword(QuillorentAppDelegate &delegate, const QString &file)
+bool supplyPassword(QuillorentAppDelegate &delegate, const QString &file, Asking asking)
 {
     const int source = delegate.passCombo01.selectedIndex();
     if (file.isEmpty() && source == PasswordTab::KeychainPassword) {
@@ -101,10 +101,13 @@ bool supplyPassword(QuillorentAppDelegate &delegate, const QString &file)
     if (file.isEmpty() && !delegate.passwordSelector().isEmpty()) return true;
     if (file.isEmpty() && source == PasswordTab::Certificate) return true;
 
-    const PasswordInput input =
-        file.isEmpty() ? askForPassword(u"Password for the archives: "_qs) : readPassword(file);
+    const PasswordInput input = file.isEmpty() ? askForPassword(asking) : readPassword(file);
     if (!input.reason.isEmpty()) printError(input.reason);
     if (!input.password) return input.reason.isEmpty();
+    if (const QString refusal = whyBadPassword(*input.password); !refusal.isEmpty()) {
+        printError(refusal);
+        return false;
+    }
 
     delegate.passCombo01.selectIndex(PasswordTab::TypedPassword);
     delegate.secureText01a.setText(*input.password);

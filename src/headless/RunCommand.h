@@ -1,6 +1,7 @@
 #pragma once
 
 #include "headless/ExitStatus.h"
+#include "headless/Password.h"
 
 #include <QObject>
 #include <functional>
@@ -37,7 +38,7 @@ private:
 
 /// Takes a password from the options, else asks for it where the profile has none. False, with the reason on
 /// standard error, where that fails; no password and no terminal is no failure: the run itself will say so.
-[[nodiscard]] bool supplyPassword(QuillorentAppDelegate &delegate, const QString &file);
+[[nodiscard]] bool supplyPassword(QuillorentAppDelegate &delegate, const QString &file, Asking asking);
 
 /// Waits for the end of the run that `start` starts, shows its progress, and cancels it on a signal as
 /// `cancelButton` does. Not started where the answers refuse.

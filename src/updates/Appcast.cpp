@@ -1,14 +1,29 @@
 #include "updates/Appcast.h"
 
+#include <QHostAddress>
 #include <QRegularExpression>
 #include <QVersionNumber>
 #include <QXmlStreamReader>
 
 namespace {
 
+// In characters. Who makes the feed, or can change it, is not to decide how long the window works on it.
+constexpr qsizetype longestMarkup = 8192;
+constexpr qsizetype longestNotes = 4096;
+constexpr qsizetype longestWord = 1024; // a title, a version, an address
+
+QString cut(QString text, qsizetype longest)
+{
+    if (text.size() <= longest) return text;
+    text.truncate(longest);
+    if (text.back().isHighSurrogate()) text.chop(1);
+    return text + u'…';
+}
+
 /// What of an item's markup is text, a line for each of its paragraphs and list items.
 QString plainText(QString html)
 {
+    html = cut(html, longestMarkup);
     static const QRegularExpression lineBreaks(u"<\\s*(br|p|li|h[1-6]|div|tr)\\b[^>]*>"_qs,
                                                QRegularExpression::CaseInsensitiveOption);
     static const QRegularExpression tags(u"<[^<>]*>"_qs);
@@ -16,7 +31,7 @@ QString plainText(QString html)
     html.replace(lineBreaks, u"\n"_qs).remove(tags);
     html.replace(u"&nbsp;"_qs, u" "_qs).replace(u"&lt;"_qs, u"<"_qs).replace(u"&gt;"_qs, u">"_qs);
     html.replace(u"&quot;"_qs, u"\""_qs).replace(u"&#39;"_qs, u"'"_qs).replace(u"&amp;"_qs, u"&"_qs);
-    return html.replace(emptyLines, u"\n"_qs).trimmed();
+    return cut(html.replace(emptyLines, u"\n"_qs).trimmed(), longestNotes);
 }
 
 /// Reads one item, and leaves the reader at its end.
@@ -28,9 +43,9 @@ public:
             readElement(xml);
         static const QRegularExpression atEnd(u"\\d[\\w.-]*$"_qs);
         m_release.version = firstFilled({m_versionForPeople, m_version, atEnd.match(m_title).captured()});
-        const QUrl page(firstFilled({m_link, m_download}), QUrl::StrictMode);
-        // Whatever else a feed might name, such as a file, is nothing to be opened.
-        if (page.scheme() == u"https" || page.scheme() == u"http") m_release.page = page;
+        for (const QString &address : {m_download, m_link})
+            // Whatever else a feed might name, such as a file, is nothing to be opened.
+            if (const QUrl page(address, QUrl::StrictMode); isTrustworthy(page)) m_release.page = page;
         return m_release;
     }
 
@@ -50,20 +65,22 @@ private:
             xml.skipCurrentElement();
             return;
         }
-        const QString text = xml.readElementText(QXmlStreamReader::SkipChildElements).trimmed();
+        const QString all = xml.readElementText(QXmlStreamReader::SkipChildElements).trimmed();
+        if (name == u"description") m_release.notes = plainText(all);
+        const QString text = cut(all, longestWord);
         if (name == u"title") m_title = text;
         if (name == u"link") m_link = text;
         if (name == u"version") m_version = text;
         if (name == u"shortVersionString") m_versionForPeople = text;
-        if (name == u"description") m_release.notes = plainText(text);
     }
 
     void readEnclosure(const QXmlStreamAttributes &attributes)
     {
         for (const QXmlStreamAttribute &attribute : attributes) {
-            if (attribute.name() == u"version") m_version = attribute.value().toString();
-            if (attribute.name() == u"shortVersionString") m_versionForPeople = attribute.value().toString();
-            if (attribute.name() == u"url") m_download = attribute.value().toString();
+            const QString text = cut(attribute.value().toString(), longestWord);
+            if (attribute.name() == u"version") m_version = text;
+            if (attribute.name() == u"shortVersionString") m_versionForPeople = text;
+            if (attribute.name() == u"url") m_download = text;
         }
     }
 
@@ -82,6 +99,12 @@ bool isRss(QXmlStreamReader &xml)
 }
 
 } // namespace
+
+bool isTrustworthy(const QUrl &address)
+{
+    return address.scheme() == u"https" ||
+           (address.scheme() == u"http" && QHostAddress(address.host()).isLoopback());
+}
 
 AppcastContent readAppcast(const QByteArray &feed)
 {

@@ -9,8 +9,8 @@
 /// A version that a feed offers.
 struct Release {
     QString version{};
-    QString notes{}; ///< plain text; may be empty
-    QUrl page{};     ///< where a person downloads it: http or https
+    QString notes{}; ///< plain text of some kilobytes at most; may be empty
+    QUrl page{};     ///< where a person downloads it: isTrustworthy()
 };
 
 struct AppcastContent {
@@ -18,10 +18,14 @@ struct AppcastContent {
     QString reason{};                ///< why it can't be read; empty where it can
 };
 
+/// Whether the address may be asked, or opened: one with https, for who can change what comes on its way can
+/// offer what they like; or one of this very machine, where nobody stands in between.
+[[nodiscard]] bool isTrustworthy(const QUrl &address);
+
 /// Reads an RSS 2.0 feed (https://www.rssboard.org/rss-specification) whose items each stand for a version.
 /// The version is the `version` (or `shortVersionString`, the one for people, which is preferred) of an item
 /// or an attribute of its enclosure, in whatever namespace, else what the title ends with. Items without
-/// version or web address are passed over.
+/// version or an address of that kind are passed over. Texts are cut to what a person would read.
 [[nodiscard]] AppcastContent readAppcast(const QByteArray &feed);
 
 /// Compares number by number ("1.10" is newer than "1.9", "1.0" equals "1"); a version with letters behind

@@ -3,7 +3,6 @@
 #include "updates/Appcast.h"
 
 #include <QCoreApplication>
-#include <QHostAddress>
 #include <QLoggingCategory>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
@@ -20,11 +19,21 @@ constexpr std::chrono::milliseconds patience = 30s;
 
 const QString ownVersion = QStringLiteral(QUILLORENT_VERSION);
 
-/// Who can change the feed on its way can offer what they like; on this very machine, nobody stands in
-/// between.
-bool isTrustworthy(const QUrl &feed)
+/// Goes where the feed was moved to only if it could have been asked there at once; from https never back to
+/// http.
+void followRedirects(QNetworkReply &reply)
 {
-    return feed.scheme() == u"https" || (feed.scheme() == u"http" && QHostAddress(feed.host()).isLoopback());
+    QObject::connect(&reply, &QNetworkReply::redirected, &reply, [&reply](const QUrl &target) {
+        const bool isLessSafe = reply.url().scheme() == u"https" && target.scheme() != u"https";
+        if (isTrustworthy(target) && !isLessSafe) {
+            Q_EMIT reply.redirectAllowed();
+            return;
+        }
+        qCWarning(logUpdates).noquote()
+            << "The feed of updates is not followed to" << target.toDisplayString()
+            << ": its address must begin with https://";
+        reply.abort();
+    });
 }
 
 } // namespace
@@ -63,8 +72,10 @@ void SUUpdater::checkForUpdatesInBackground()
     auto *manager = new QNetworkAccessManager(this);
     QNetworkRequest request(feed);
     request.setTransferTimeout(int(patience.count()));
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                         QNetworkRequest::UserVerifiedRedirectPolicy);
     QNetworkReply *reply = manager->get(request);
+    followRedirects(*reply);
     connect(reply, &QNetworkReply::downloadProgress, reply, [reply](qint64 received, qint64) {
         if (received > maximumFeedSize) reply->abort();
     });

@@ -8,7 +8,7 @@
 /// Where a run can be hit: a tool that runs for a stage, or the program itself.
 struct Stage {
     std::string name;
-    std::string program; ///< "rar", "openssl"; empty: the program itself
+    std::string program; ///< "rar", "openssl-inner"; empty: the program itself
     std::string word;    ///< among its arguments in this stage and in no other
     std::string product; ///< what it makes in the folder that the run writes to; empty: the folder's tree
 };

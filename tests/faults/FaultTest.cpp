@@ -16,10 +16,10 @@ using Kind = FaultHome::Kind;
 const std::vector<Stage> &stagesOf(Kind kind)
 {
     static const std::vector<Stage> backup{{"first pass", "rar", "-m0", "docs.rar"},
-                                           {"encoder", "openssl", "-encrypt", "docs.rar.smime"},
+                                           {"encoder", "openssl-inner", "-encrypt", "docs.rar.smime"},
                                            {"second pass", "rar", "-m5", "docs.rar.smime.rar"}};
     static const std::vector<Stage> extraction{{"unpacking", "rar", "e", "docs.rar.smime"},
-                                               {"decoding", "openssl", "-decrypt", "docs.rar"},
+                                               {"decoding", "openssl-inner", "-decrypt", "docs.rar"},
                                                {"restoring", "rar", "x", ""}};
     return kind == Kind::Backup ? backup : extraction;
 }

@@ -1,8 +1,10 @@
 #include "ProgramHome.h"
 #include "SecretService.h"
 #include "Stub.h"
+#include "Tree.h"
 
 #include <csignal>
+#include <functional>
 #include <gtest/gtest.h>
 #include <thread>
 
@@ -31,24 +33,33 @@ void expectReasons(const ProgramHome &home, const std::vector<Case> &cases)
     }
 }
 
+/// All but what belongs to the program itself.
+TreeSnapshot untouched(const ProgramHome &home)
+{
+    TreeSnapshot tree = snapshotTree(home.path());
+    std::erase_if(tree, [](const auto &entry) {
+        const std::string first = fs::path(entry.first).begin()->string();
+        return first == "." || first == "state" || first == "config" || first == "tmp";
+    });
+    return tree;
+}
+
 } // namespace
 
 TEST(Run, RefusesWrongUsage)
 {
     const ProgramHome home(QUILLORENT_RUN);
-    expectReasons(home, {
-                            {{}, 64, "command is missing"},
-                            {{"restore"}, 64, "\"restore\" is no command"},
-                            {{"backup", "--now"}, 64, "now"},
-                            {{"backup", "Mine", "Yours"}, 64, "\"Yours\" is one word too many"},
-                            {{"tools", "--yes"}, 64, "does not go with"},
-                            {{"sync", "--password-file", "/x"}, 64, "does not go with"},
-                            {{"backup", "--password-file"}, 64, "password-file"},
-                            {{"backup", "--to", "/x"}, 64, "does not go with"},
-                            {{"backup", "--", "x.rar"}, 64, "\"x.rar\" is one word too many"},
-                            {{"extract", "Mine"}, 64, "Archives are missing"},
-                            {{"extract", "--method", "rot13", "--", "x.rar"}, 64, "\"rot13\" is no method"},
-                        });
+    expectReasons(home, {{{}, 64, "command is missing"},
+                         {{"restore"}, 64, "\"restore\" is no command"},
+                         {{"backup", "--now"}, 64, "now"},
+                         {{"backup", "Mine", "Yours"}, 64, "\"Yours\" is one word too many"},
+                         {{"tools", "--yes"}, 64, "does not go with"},
+                         {{"sync", "--password-file", "/x"}, 64, "does not go with"},
+                         {{"backup", "--password-file"}, 64, "password-file"},
+                         {{"backup", "--to", "/x"}, 64, "does not go with"},
+                         {{"backup", "--", "x.rar"}, 64, "\"x.rar\" is one word too many"},
+                         {{"extract", "Mine"}, 64, "Archives are missing"},
+                         {{"extract", "--method", "rot13", "--", "x.rar"}, 64, "\"rot13\" is no method"}});
     EXPECT_TRUE(contains(home.run({"--help"}).output, "Exit status"));
 }
 
@@ -76,21 +87,82 @@ TEST(Run, SaysWhyItCanNotStart)
     const auto extract = [&](const std::string &archive) {
         return Words{"extract", "Mine", "--password-file", password, "--", archive};
     };
-    expectReasons(home,
-                  {
-                      {{"backup", "Yours"}, 2, "no profile \"Yours\"; there are: Default profile, Mine."},
-                      {{"backup", "Mine"}, 2, "No password is given"},
-                      {{"backup", "Mine", "--password-file", home.text("nothing")},
-                       2,
-                       "Can't read the password from \"" + home.text("nothing")},
-                      {{"backup", "Default profile", "--password-file", password}, 2, "destination"},
-                      {{"sync", "Default profile"}, 2, "The list is empty"},
-                      {extract("/no/such.rar"), 2, "There is no archive \"/no/such.rar\""},
-                      {extract(home.text("later.part2.rar")), 2, "The first volume is missing"},
-                  });
+    expectReasons(home, {{{"backup", "Yours"}, 2, "no profile \"Yours\"; there are: Default profile, Mine."},
+                         {{"backup", "Mine"}, 2, "No password is given"},
+                         {{"backup", "Mine", "--password-file", home.text("nothing")},
+                          2,
+                          "Can't read the password from \"" + home.text("nothing")},
+                         {{"backup", "Default profile", "--password-file", password}, 2, "destination"},
+                         {{"sync", "Default profile"}, 2, "The list is empty"},
+                         {extract("/no/such.rar"), 2, "There is no archive \"/no/such.rar\""},
+                         {extract(home.text("later.part2.rar")), 2, "The first volume is missing"}});
+    using namespace std::string_literals;
+    for (const auto &[content, reason] : std::vector<std::pair<std::string, std::string>>{
+             {"", "Write the password there"},
+             {"\nfrom a file", "Write the password there"},
+             {"from a file\0x"s, "zero byte"},
+             {"from a file\rx", "line break"},
+             {"from a file\xff", "not UTF-8"},
+             {std::string(1024, 'x'), "longer than 1023 bytes"},
+             {std::string(9'000'000, 'x'), "Give a file whose first line is the password alone"}}) {
+        writeFile(home / "password", content);
+        expectReasons(home, {{{"backup", "Mine", "--password-file", password}, 2, reason},
+                             {extract(home.text("docs")), 2, reason}});
+    }
+    const std::string endless = "/dev/zero";
+    expectReasons(home, {{{"backup", "Mine", "--password-file", endless}, 2, "Give a file"}});
     writeFile(home.settings(), "damaged");
     expectReasons(home, {{{"backup", "Mine"}, 2, "settings"}});
     EXPECT_EQ(readFile(home.settings()), "damaged");
+}
+
+// What is found in which situation is tested with the engines; here is what takes the whole program. An
+// obstacle can't be overruled; a concern can, by --yes. Both are told with their paths, and until then
+// nothing is touched.
+TEST(Run, EndsBeforeAnythingIsTouched)
+{
+    ProgramHome home(QUILLORENT_RUN);
+    home.encryptForCertificate();
+    EXPECT_EQ(home.backUp().status, 0);
+    const std::string archive = home.text("archives/docs.rar.smime.rar");
+    EXPECT_EQ(home.extract({archive}).status, 0);
+    const CommandResult done = home.run({"sync", "Mine", "--progress", "--json"});
+    EXPECT_TRUE(contains(done.errors, "Synchronised 1 entry") && contains(done.output, "\"sync\""))
+        << done.errors;
+    EXPECT_EQ(readFile(home / "copy/docs/file"), "content");
+    home.record["rsyncdelete1"] = "1";
+    const fs::path extracted = home / "out" / home.path().relative_path() / "docs/file";
+    writeFile(extracted, "edited");
+    writeFile(home / "copy/docs/extra", "there alone");
+    writeFile(home / "archives/docs.rar", "photos");
+    using Run = std::function<CommandResult(const Words &)>;
+    for (const auto &[run, told] : std::vector<std::pair<Run, std::string>>{
+             {[&](const Words &more) { return home.backUp(more); }, home.text("archives/docs.rar")},
+             {[&](const Words &more) { return home.extract({archive}, more); }, home.text("out")},
+             {[&](const Words &more) {
+                  return more.empty() ? home.run({"sync", "Mine"}) : home.run({"sync", "Mine", "--yes"});
+              },
+              "--yes"}}) {
+        const TreeSnapshot before = untouched(home);
+        const CommandResult refused = run({});
+        EXPECT_EQ(refused.status, 2) << refused.errors;
+        EXPECT_TRUE(contains(refused.errors, told)) << refused.errors;
+        EXPECT_EQ(treeDifference(before, untouched(home)), "");
+        EXPECT_EQ(run({"--yes"}).status, 0) << told;
+    }
+    EXPECT_EQ(readFile(home / "archives/kept-docs.rar"), "photos");
+    EXPECT_EQ(readFile(extracted), "content");
+    EXPECT_FALSE(fs::exists(home / "copy/docs/extra"));
+
+    fs::permissions(home / "archives", fs::perms(0500));
+    fs::permissions(home / "keys/anna.pem", fs::perms(0));
+    home.becomeOrdinaryUser();
+    const TreeSnapshot before = untouched(home);
+    const CommandResult forbidden = home.backUp({"--yes"});
+    EXPECT_EQ(forbidden.status, 2);
+    for (const char *const path : {"archives", "keys/anna.pem"})
+        EXPECT_TRUE(contains(forbidden.errors, home.text(path))) << forbidden.errors;
+    EXPECT_EQ(treeDifference(before, untouched(home)), "");
 }
 
 TEST(Run, BringsBackWhatItBackedUp)
@@ -110,9 +182,15 @@ TEST(Run, BringsBackWhatItBackedUp)
         home.run({"backup", "Mine", "--password-file", "-", "--yes"}, "from a file\n");
     EXPECT_EQ(typed.status, 0) << typed.errors;
 
-    writeFile(home / "password", std::string("from a file\0x", 13)); // the tools never saw more than this
+    // A pipe that nobody closes.
+    fs::remove(home / "password");
+    home.launcher = {"sh", "-c", "mkfifo $0; exec 3<>$0; echo from a file >&3; exec \"$@\"",
+                     home.text("password")};
     const CommandResult extracted = home.extract({home.text("archives")}, {"--to", home.text("out")});
     EXPECT_EQ(extracted.status, 0) << extracted.errors;
+    home.launcher.clear();
+    fs::remove(home / "password");
+    writeFile(home / "password", "from a file\r\n");
     EXPECT_TRUE(contains(extracted.errors, "Extracted 1 of 1 into \"" + home.text("out")))
         << extracted.errors;
     EXPECT_EQ(readFile(home / "out" / home.path().relative_path() / "docs/file"), "content");
@@ -150,23 +228,14 @@ TEST(Run, TakesThePasswordFromTheProfilesSource)
     EXPECT_EQ(home.extract({home.text("archives")}).status, 0);
 }
 
-TEST(Run, Synchronises)
-{
-    const ProgramHome home(QUILLORENT_RUN);
-    const CommandResult done = home.run({"sync", "Mine", "--progress", "--json"});
-    EXPECT_EQ(done.status, 0) << done.errors;
-    EXPECT_TRUE(contains(done.errors, "Synchronised 1 entry")) << done.errors;
-    EXPECT_TRUE(contains(done.output, "\"sync\"")) << done.output;
-    EXPECT_EQ(readFile(home / "copy/docs/file"), "content");
-}
-
 TEST(Run, EndsItsToolsOnASignalAndKeepsOthersOut)
 {
     for (const auto &[signal, name, synchronises] :
          {std::tuple{SIGINT, "rar", false}, {SIGTERM, "rsync", true}}) {
-        const ProgramHome home(QUILLORENT_RUN);
+        ProgramHome home(QUILLORENT_RUN);
         const Stub stub(home / "tools", name, "hang Unknown option");
         home.changeSettings(synchronises ? "/usr/bin/rsync" : libexec + "/rar", stub.path());
+        home.becomeOrdinaryUser();
         CommandResult result;
         std::thread program([&, sync = synchronises] {
             result = sync ? home.run({"sync", "Mine"}) : home.backUp();
@@ -179,6 +248,12 @@ TEST(Run, EndsItsToolsOnASignalAndKeepsOthersOut)
             EXPECT_TRUE(contains(second.errors, home.text("archives"))) << second.errors;
         }
         const std::string parent = runCommand({"ps", "-o", "ppid=", "-p", std::to_string(tool)}).output;
+        // What can't be looked into belongs to root, whoever runs it.
+        const std::string process = "/proc/" + std::to_string(std::stoi(parent));
+        const CommandResult owners =
+            runCommand({"stat", "-c", "%u", process + "/mem", "/proc/" + std::to_string(tool) + "/mem"});
+        EXPECT_TRUE(owners.output.starts_with("0\n") && !owners.output.ends_with("\n0\n")) << owners.output;
+        EXPECT_TRUE(contains(readFile(process + "/limits"), "Max core file size        0 "));
         kill(std::stoi(parent), signal);
         program.join();
         EXPECT_EQ(result.status, 1) << result.errors;

@@ -7,18 +7,20 @@
 
 namespace {
 
-/// Answers every request with the same bytes, and counts them.
+/// Answers every request with the same bytes, or sends it to another address, and counts them.
 class FeedServer : public QTcpServer {
 public:
-    explicit FeedServer(QByteArray body) : m_body(std::move(body))
+    explicit FeedServer(QByteArray body, const QString &location = {}) : m_body(std::move(body))
     {
         listen(QHostAddress::LocalHost);
-        connect(this, &QTcpServer::newConnection, this, [this] {
+        const QByteArray status =
+            location.isEmpty() ? "200 OK" : "302 Found\r\nLocation: " + location.toUtf8();
+        connect(this, &QTcpServer::newConnection, this, [this, status] {
             QTcpSocket *socket = nextPendingConnection();
-            connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
+            connect(socket, &QTcpSocket::readyRead, socket, [this, socket, status] {
                 if (!socket->readAll().contains("\r\n\r\n")) return;
                 ++requests;
-                socket->write("HTTP/1.1 200 OK\r\nConnection: close\r\nContent-Length: " +
+                socket->write("HTTP/1.1 " + status + "\r\nConnection: close\r\nContent-Length: " +
                               QByteArray::number(m_body.size()) + "\r\n\r\n" + m_body);
                 socket->disconnectFromHost();
             });
@@ -84,6 +86,19 @@ TEST_F(Updater, ShowsANoteOfANewerVersionOnly)
     EXPECT_EQ(opened, u"https://localhost/download"_qs);
 }
 
+TEST_F(Updater, GoesWhereTheFeedWasMovedOnlyIfItMayAskThere)
+{
+    const FeedServer server(feedOf("999.1"));
+    for (const bool mayAsk : {false, true}) { // a name could be anybody's
+        const QString target =
+            mayAsk ? server.address() : server.address().replace(u"127.0.0.1"_qs, u"localhost"_qs);
+        const FeedServer moved({}, target);
+        useFeed(moved.address());
+        EXPECT_EQ(showsNoteAfterCheck(moved), mayAsk);
+        EXPECT_EQ(server.requests, mayAsk ? 1 : 0);
+    }
+}
+
 TEST_F(Updater, AsksOnlyWhereItMayAndShould)
 {
     FeedServer server(feedOf("999.1"));
@@ -130,11 +145,28 @@ TEST(Appcast, TheNewestOfItsItemsCounts)
              "</description></item>"
              "<item><title>No page 9.0</title></item><item><title>A file "
              "9.1</title><link>file:///etc/passwd</link></item>"
+             "<item><title>Anybody's 9.2</title><link>http://example.com/9.2</link></item>"
              "<item><enclosure url=\"https://localhost/1.2.tgz\" x:version=\"1.2\" length=\"1\"/></item>"));
     ASSERT_TRUE(content.newest) << qPrintable(content.reason);
     EXPECT_EQ(content.newest->version, u"1.10"_qs);
     EXPECT_EQ(content.newest->page, QUrl(u"https://localhost/110"_qs));
     EXPECT_EQ(content.newest->notes, u"Faster & safer\nNew"_qs);
+}
+
+// A feed of a megabyte is read; what of it is shown must not keep the window busy.
+TEST(Appcast, GivesOfEachTextWhatAPersonWouldRead)
+{
+    for (const QByteArray piece : {"&lt;", " ", "&lt;br", "1", "\n&#x1f600;"}) {
+        const QByteArray text = "1" + piece.repeated(900'000 / int(piece.size())) + "1";
+        const AppcastContent content =
+            readAppcast(feed("<item><title>9.9</title><link>https://localhost/</link><version>9" + text +
+                             "</version><description>" + text + "</description></item><item><title>" + text +
+                             "</title></item>"));
+        ASSERT_TRUE(content.newest) << qPrintable(content.reason);
+        EXPECT_LE(content.newest->version.size(), 1100);
+        EXPECT_LE(content.newest->notes.size(), 5000);
+        EXPECT_TRUE(content.newest->notes.isValidUtf16());
+    }
 }
 
 TEST(Appcast, WhatIsNoFeedSaysWhy)

@@ -5,6 +5,7 @@
 #include <openssl/evp.h>
 #include <openssl/pkcs7.h>
 #include <openssl/provider.h>
+#include <openssl/rsa.h>
 #include <openssl/x509.h>
 
 /// Frees what libcrypto gave away.
@@ -17,6 +18,7 @@ struct CryptoDeleter {
     void operator()(EVP_PKEY_CTX *context) const { EVP_PKEY_CTX_free(context); }
     void operator()(OSSL_PROVIDER *provider) const { OSSL_PROVIDER_unload(provider); }
     void operator()(PKCS7_ISSUER_AND_SERIAL *name) const { PKCS7_ISSUER_AND_SERIAL_free(name); }
+    void operator()(RSA_OAEP_PARAMS *settings) const { RSA_OAEP_PARAMS_free(settings); }
     void operator()(X509 *certificate) const { X509_free(certificate); }
     void operator()(X509_ALGOR *algorithm) const { X509_ALGOR_free(algorithm); }
 };

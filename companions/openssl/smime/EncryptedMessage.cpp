@@ -20,6 +20,10 @@ constexpr std::size_t maximumAlgorithm = 16384; // in bytes, with its parameters
 constexpr std::array<std::uint8_t, 11> envelopedData{0x06, 0x09, 0x2a, 0x86, 0x48, 0x86,
                                                      0xf7, 0x0d, 0x01, 0x07, 0x03};
 
+// 1.2.840.113549.1.9.16.1.23 (authenticated enveloped data), encoded
+constexpr std::array<std::uint8_t, 13> authenticatedData{0x06, 0x0b, 0x2a, 0x86, 0x48, 0x86, 0xf7,
+                                                         0x0d, 0x01, 0x09, 0x10, 0x01, 0x17};
+
 /// Reads ContentInfo and what is in it, down to the content.
 class EnvelopeReader {
 public:
@@ -37,12 +41,16 @@ public:
 private:
     static constexpr std::uint8_t explicitContent = ber::context(0) | ber::constructed;
     static constexpr std::uint8_t originator = ber::context(0) | ber::constructed;
+    static constexpr std::uint8_t keyAgreement = ber::context(1) | ber::constructed;
     static constexpr std::uint8_t unprotectedAttributes = ber::context(1) | ber::constructed;
 
     bool readType()
     {
         std::vector<std::uint8_t> type;
         if (!m_ber.collect(type, maximumIdentifier)) return false;
+        if (std::ranges::equal(type, authenticatedData))
+            return m_fault.report("is encrypted with a cipher that seals it, such as AES-GCM, which can't be "
+                                  "opened here: use \"openssl cms -decrypt\"");
         return std::ranges::equal(type, envelopedData) ||
                m_fault.report("is a message, but not an encrypted one");
     }
@@ -61,6 +69,8 @@ private:
         while (const std::uint8_t kind = m_ber.peek()) {
             // The other kinds agree on a key, or have a password, and go by no certificate of RSA.
             if (kind != ber::sequence) {
+                m_keys.passOver(kind == keyAgreement ? KeyOpener::OtherRecipient::Agreement
+                                                     : KeyOpener::OtherRecipient::Secret);
                 if (!m_ber.skip()) return false;
                 continue;
             }

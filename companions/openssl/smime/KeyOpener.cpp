@@ -1,6 +1,7 @@
 #include "KeyOpener.h"
 
 #include "KeyFile.h"
+#include "KeyPadding.h"
 #include "Recipient.h"
 
 #include <algorithm>
@@ -8,6 +9,8 @@
 #include <openssl/err.h>
 #include <optional>
 #include <utility>
+
+using namespace std::string_literals;
 
 namespace {
 
@@ -17,9 +20,9 @@ constexpr std::size_t maximumOpened = 16;
 std::optional<ContentKey> open(EVP_PKEY &privateKey, const Recipient &recipient)
 {
     const CryptoHandle<EVP_PKEY_CTX> context(EVP_PKEY_CTX_new(&privateKey, nullptr));
-    if (!context || EVP_PKEY_decrypt_init(context.get()) <= 0) return std::nullopt;
-    // By itself libcrypto, from 3.2 on, hands out a random key where the private key is the wrong one.
-    EVP_PKEY_CTX_ctrl_str(context.get(), "rsa_pkcs1_implicit_rejection", "0");
+    const bool isReady = context && EVP_PKEY_decrypt_init(context.get()) > 0 &&
+                         setPadding(context.get(), *recipient.algorithm);
+    if (!isReady) return std::nullopt;
 
     std::size_t size = 0;
     const std::vector<std::uint8_t> &from = recipient.encryptedKey;
@@ -36,16 +39,17 @@ std::optional<ContentKey> open(EVP_PKEY &privateKey, const Recipient &recipient)
 
 ContentKey::~ContentKey() { OPENSSL_cleanse(m_bytes.data(), m_bytes.size()); }
 
+bool KeyOpener::isRsa() const { return EVP_PKEY_is_a(m_privateKey.handle.get(), "RSA") == 1; }
+
 void KeyOpener::offer(const Recipient &recipient)
 {
+    m_hasMetRsa = true;
     const bool isNamed = m_certificate && recipient.isNamedBy(*m_certificate->handle);
     m_hasMetCertificate = m_hasMetCertificate || isNamed;
     if (m_certificate && m_scope == Scope::Certificate && !isNamed) return;
 
-    EVP_PKEY &key = *m_privateKey.handle;
-    const bool canOpen = EVP_PKEY_is_a(&key, "RSA") && recipient.algorithm == NID_rsaEncryption;
-    if (!canOpen || m_opened.size() == maximumOpened) return;
-    if (auto opened = open(key, recipient)) m_opened.push_back(std::move(*opened));
+    if (!isRsa() || m_opened.size() == maximumOpened) return;
+    if (auto opened = open(*m_privateKey.handle, recipient)) m_opened.push_back(std::move(*opened));
     ERR_clear_error();
 }
 
@@ -58,6 +62,11 @@ const ContentKey *KeyOpener::contentKey(std::size_t size) const
 
 std::string KeyOpener::refusal() const
 {
+    if (m_other && (!isRsa() || !m_hasMetRsa))
+        return (*m_other == OtherRecipient::Agreement ? "is for an elliptic-curve key"
+                                                      : "is for a password or a key that both sides have"s) +
+               ", not for an RSA key, and can't be opened here: use \"openssl cms -decrypt\"";
+    if (!isRsa()) return "cannot be opened with the private key " + m_privateKey.file + ": it is no RSA key";
     if (m_certificate && !m_hasMetCertificate) return "is not for the certificate " + m_certificate->file;
     const bool isOther =
         m_certificate && X509_check_private_key(m_certificate->handle.get(), m_privateKey.handle.get()) != 1;

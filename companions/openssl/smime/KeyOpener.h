@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -43,6 +44,9 @@ public:
     }
 
     void offer(const Recipient &recipient);
+    /// One that no RSA key opens: by agreeing on a key, or by a secret of both sides.
+    enum class OtherRecipient { Agreement, Secret };
+    void passOver(OtherRecipient recipient) { m_other = m_other.value_or(recipient); }
 
     /// The key of this size, in bytes, that a recipient's entry held; null: the private key opens none.
     [[nodiscard]] const ContentKey *contentKey(std::size_t size) const;
@@ -50,9 +54,13 @@ public:
     [[nodiscard]] std::string refusal() const;
 
 private:
+    [[nodiscard]] bool isRsa() const;
+
     const PrivateKey &m_privateKey;
     const Certificate *m_certificate;
     Scope m_scope;
     bool m_hasMetCertificate = false;
+    bool m_hasMetRsa = false;
+    std::optional<OtherRecipient> m_other;
     std::vector<ContentKey> m_opened;
 };

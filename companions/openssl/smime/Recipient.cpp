@@ -3,7 +3,6 @@
 #include "BerReader.h"
 
 #include <algorithm>
-#include <openssl/objects.h>
 #include <openssl/x509v3.h>
 
 namespace {
@@ -27,11 +26,8 @@ bool readAlgorithm(BerReader &ber, Recipient &recipient)
     std::vector<std::uint8_t> encoding;
     if (!ber.collect(encoding, maximumSize)) return false;
     const unsigned char *next = encoding.data();
-    const CryptoHandle<X509_ALGOR> algorithm(
-        d2i_X509_ALGOR(nullptr, &next, static_cast<long>(encoding.size())));
-    if (!algorithm) return ber.reportDamage();
-    recipient.algorithm = OBJ_obj2nid(algorithm->algorithm);
-    return true;
+    recipient.algorithm.reset(d2i_X509_ALGOR(nullptr, &next, static_cast<long>(encoding.size())));
+    return recipient.algorithm || ber.reportDamage();
 }
 
 } // namespace

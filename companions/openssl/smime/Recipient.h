@@ -12,8 +12,8 @@ struct Recipient {
     /// What tells the recipient's certificate from others; null: it goes by its key's identifier.
     CryptoHandle<PKCS7_ISSUER_AND_SERIAL> name;
     std::vector<std::uint8_t> keyIdentifier;
-    /// The NID of the algorithm that encrypted the key; NID_undef: libcrypto does not know it.
-    int algorithm = 0;
+    /// What encrypted the key; it is there in every one that was read.
+    CryptoHandle<X509_ALGOR> algorithm;
     std::vector<std::uint8_t> encryptedKey;
 
     [[nodiscard]] bool isNamedBy(X509 &certificate) const;

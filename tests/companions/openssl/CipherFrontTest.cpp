@@ -90,22 +90,21 @@ TEST_F(CipherFront, TellsAFailureAndLeavesNoResult)
     fs::create_directory(folder / "folder");
     // Without salt, so that what a wrong password makes of the padding is the same in every run.
     ASSERT_TRUE(succeeds(front, "aes256 -nosalt -in F -out G -k right", quick));
-    for (const char *const failing :
-         {"-d -nosalt -in G -out H -pass pass:wrong", "-d -a -in F -out H -k x", "-in missing -out H -k x",
-          "-in folder -out H -k x", "-in F -out missing/H -k x", "-in F -out H -pass file:missing"}) {
-        const CommandResult result = runIn(folder, front, std::string("aes256 ") + failing, quick);
-        EXPECT_NE(result.status, 0) << failing;
-        EXPECT_NE(result.output, "") << failing;
-        EXPECT_EQ(entriesIn(folder.path()), 3) << failing;
-    }
-    // What the tool would cut off without a word.
-    const std::string longest(1023, 'x');
-    for (const auto &[password, reason] : std::vector<std::pair<std::string, std::string>>{
-             {"one\ntwo", "line break"}, {longest + "x", "1023 bytes"}, {longest + "x\n", "line break"}}) {
+    const std::string longest(1023, 'x'); // what the tool would cut off without a word
+    for (const auto &[line, password, reason] :
+         std::vector<std::array<std::string, 3>>{{"-d -nosalt -in G -out H", "pass:wrong", "bad decrypt"},
+                                                 {"-d -a -in F -out H", "pass:x", "error reading input file"},
+                                                 {"-in missing -out H", "pass:x", "No such file"},
+                                                 {"-in folder -out H", "pass:x", "directory"},
+                                                 {"-in F -out missing/H", "pass:x", "No such file"},
+                                                 {"-in F -out H", "file:missing", "No such file"},
+                                                 {"-in F -out H", "pass:one\ntwo", "line break"},
+                                                 {"-in F -out H", "pass:" + longest + "x", "1023 bytes"},
+                                                 {"-in F -out H", "pass:" + longest + "x\n", "line break"}}) {
         const CommandResult result =
-            runIn(folder, front, "aes256 -in F -out H", {"-pass", "pass:" + password});
+            runIn(folder, front, "aes256 " + line, quick + Arguments{"-pass", password});
         EXPECT_TRUE(result.status != 0 && result.output.find(reason) != std::string::npos) << result.output;
-        EXPECT_EQ(entriesIn(folder.path()), 3);
+        EXPECT_EQ(entriesIn(folder.path()), 3) << line;
     }
 }
 
@@ -186,13 +185,21 @@ TEST_F(CipherFront, LeavesAWriteProtectedFileAlone)
     writeFile(folder / "G", "protected");
     fs::permissions(folder / "F", fs::perms::all);
     fs::permissions(folder / "G", fs::perms{0444});
-    const Arguments program = asOrdinaryUser(folder.path(), front) + words("aes256 -a -in F -out G -k x");
+    fs::copy_file(inner, folder / inner.filename());
+    const Arguments user = asOrdinaryUser(folder.path(), front);
+    const Arguments program = user + words("aes256 -a -in F -out G -k x");
     for (const Arguments &derivation : {Arguments(), quick}) {
         const CommandResult result = runCommand(program + derivation, {.folder = folder.path()});
         EXPECT_NE(result.status, 0);
         EXPECT_NE(result.errors.find("Permission denied"), std::string::npos) << result.errors;
         EXPECT_EQ(readFile(folder / "G"), "protected");
     }
+    // What can't be looked into belongs to root, whoever runs it.
+    const std::string script = "mkfifo -m 666 pipe; \"$@\" & exec 3>pipe; stat -c %u /proc/$!/mem";
+    const Arguments line = words("aes256 -d -in pipe -out H -k x");
+    const CommandResult result =
+        runCommand(Arguments{"sh", "-c", script, "sh"} + user + line, {.folder = folder.path()});
+    EXPECT_EQ(result.output, "0\n") << result.errors;
 }
 
 TEST_F(CipherFront, DoesOtherwiseWhatTheSystemsToolDoes)
@@ -207,6 +214,26 @@ TEST_F(CipherFront, DoesOtherwiseWhatTheSystemsToolDoes)
     }
 }
 
+// Everybody can read the list from the moment a program begins, and loading it takes milliseconds.
+TEST_F(CipherFront, ShowsNoPasswordBeforeItsLibrariesAreLoaded)
+{
+    const std::string script = "\"$@\" & until grep -q State:.S /proc/$!/status && [ /proc/$!/exe -ef '" +
+                               inner.string() + "' ]; do sleep .01; done; cat /proc/$!/cmdline; kill -9 $!";
+    const Environment stopped =
+        withTripwire({{"QUILLORENT_TRIPWIRE", inner.string() + "\naes256\nstart\nhang\n0"}});
+    for (const std::string line : {"-k hush -in F", "--k hush", "-k=hush --k=hush", "-pass pass:hush",
+                                   "-a -pass=pass:hush --pass=pass:hush", "-in pass:hush"})
+        for (const std::string &more : {std::string("-salt"), std::string(70'000, 'x')}) {
+            const CommandResult result =
+                runCommand(Arguments{"timeout", "20", "sh", "-c", script, "sh", front, "aes256"} +
+                               words(line) + Arguments{more},
+                           {.folder = folder.path(), .environment = stopped});
+            EXPECT_EQ(result.output.find("hush"), std::string::npos) << line;
+            EXPECT_NE(result.output.find("aes256"), std::string::npos) << result.errors;
+            EXPECT_NE(result.output.find(more), std::string::npos);
+        }
+}
+
 // A signal comes when more is written than a pipe holds, so that the front is at work on it.
 TEST_F(CipherFront, TakesTheToolAndItsTracesAlongWhenItIsStoppedAndShowsNoPassword)
 {
@@ -218,7 +245,7 @@ TEST_F(CipherFront, TakesTheToolAndItsTracesAlongWhenItIsStoppedAndShowsNoPasswo
     // The tool begins as a copy of its parent, which can decrypt messages without one.
     const std::string script =
         "env --default-signal \"$@\" & p=$!; t=$p; exec 3>pipe; head -c 300000 message >&3; "
-        "[ $2 = smime ] || for i in $(seq 200); do read t < /proc/$p/task/$p/children && "
+        "[ $2 = smime ] || for i in $(seq 999); do read t < /proc/$p/task/$p/children; "
         "grep -q fd: /proc/$t/cmdline && break; sleep .01; done; "
         "cat /proc/$p/cmdline /proc/$t/cmdline; kill -$0 $p; wait $p; status=$?; "
         "timeout 10 tail -s .02 --pid=$t -f /dev/null || echo the tool lives; exit $status";

@@ -1,21 +1,16 @@
 #include "smime/EncryptedMessage.h"
-
-#include "Command.h"
-#include "TemporaryFolder.h"
+#include "Front.h"
 #include "smime/BerReader.h"
 #include "smime/Fault.h"
 #include "smime/KeyFile.h"
 #include "smime/KeyOpener.h"
-
-#include <algorithm>
-#include <gtest/gtest.h>
 
 namespace {
 
 /// Gives a text in pieces of `pieceSize` bytes.
 class TextSource final : public ByteSource {
 public:
-    TextSource(const std::string &text, std::size_t pieceSize) : m_rest(text), m_pieceSize(pieceSize) {}
+    TextSource(std::string_view text, std::size_t pieceSize) : m_rest(text), m_pieceSize(pieceSize) {}
     Bytes read() override
     {
         const std::string_view piece = m_rest.substr(0, m_pieceSize);
@@ -37,81 +32,49 @@ struct TextSink final : public ByteSink {
     std::string text;
 };
 
-class EncryptedMessage : public testing::Test {
-protected:
-    void SetUp() override
-    {
-        writeFile(folder / "F", plain);
-        run({"req", "-x509", "-newkey", "rsa:1024", "-nodes", "-keyout", "key", "-out", "cert", "-subj",
-             "/CN=test"});
-        std::string problem;
-        key = readPrivateKey(folder / "key", {}, problem);
-        ASSERT_EQ(problem, "");
-    }
-
-    void run(const std::vector<std::string> &arguments)
-    {
-        std::vector<std::string> command{"openssl"};
-        command.insert(command.end(), arguments.begin(), arguments.end());
-        CommandOptions options;
-        options.folder = folder.path();
-        ASSERT_EQ(runCommand(command, options).status, 0);
-    }
-
-    std::string message(const std::string &form, const std::string &stream)
-    {
-        run({"smime", "-encrypt", "-aes256", "-binary", "-outform", form, stream, "-in", "F", "-out", "G",
-             "cert"});
-        return readFile(folder / "G");
-    }
-
-    /// Whether the message was taken; everything that holds of each one is checked.
-    bool decrypt(const std::string &text, MessageForm form, std::size_t pieceSize)
-    {
-        TextSource source(text, pieceSize);
-        TextSink sink;
-        KeyOpener opener(key, nullptr, KeyOpener::Scope::All);
-        Fault fault;
-        const bool isDone = decryptMessage(source, form, opener, sink, fault);
-        EXPECT_NE(isDone, fault.isSet());
-        EXPECT_EQ(fault.predicate().find('\n'), std::string::npos);
-        content = sink.text;
-        reason = fault.predicate();
-        return isDone;
-    }
-
-    TemporaryFolder folder;
-    PrivateKey key;
-    const std::string plain = std::string(100, 'x') + "end";
-    std::string content;
-    std::string reason;
-};
-
-TEST_F(EncryptedMessage, IsNeverTakenForWholeWhenItIsCutSpoiltOrGoesOn)
+// Position by position, which would take a process each through the front.
+TEST(EncryptedMessage, IsNeverTakenForWholeWhenItIsCutSpoiltOrGoesOn)
 {
-    for (const char *const stream : {"-stream", "-noindef"}) {
-        for (const MessageForm form : {MessageForm::Smime, MessageForm::Der}) {
-            const std::string whole = message(form == MessageForm::Der ? "DER" : "SMIME", stream);
-            for (const std::size_t pieceSize : {1U, 67U, 100'000U}) {
-                EXPECT_TRUE(decrypt(whole, form, pieceSize)) << reason;
-                EXPECT_TRUE(content == plain);
-            }
-            EXPECT_FALSE(decrypt(whole + "A", form, 67));
-            EXPECT_NE(reason.find("goes on"), std::string::npos) << reason;
-
-            // White space at the end of a text may be missing, but no more.
-            const std::size_t needed =
-                form == MessageForm::Der ? whole.size() : whole.find_last_not_of("\r\n") + 1;
-            for (std::size_t size = 0; size < needed; ++size)
-                ASSERT_FALSE(decrypt(whole.substr(0, size), form, 4'096)) << size;
-            for (std::size_t place = 0; place < whole.size(); ++place) {
-                std::string spoilt = whole;
-                spoilt[place] = static_cast<char>(spoilt[place] ^ (1 << place % 8));
-                // What is spoilt within the content shows only when that is read, or in its padding.
-                const bool isDone = decrypt(spoilt, form, 4'096);
-                ASSERT_TRUE(!isDone ||
-                            (content.size() + 16 >= plain.size() && content.size() <= plain.size() + 16));
-            }
+    const TemporaryFolder folder;
+    makeKey(folder);
+    const std::string plain = std::string(100, 'x') + "end";
+    writeFile(folder / "F", plain);
+    std::string problem;
+    const PrivateKey key = readPrivateKey(folder / "key", {}, problem);
+    std::string content, reason;
+    for (const std::string line : {"SMIME -stream", "SMIME -noindef", "DER -stream", "DER -noindef"}) {
+        SCOPED_TRACE(line);
+        const MessageForm form = line.starts_with("DER") ? MessageForm::Der : MessageForm::Smime;
+        const auto isTaken = [&](std::string_view text, std::size_t pieceSize = 4'096) {
+            TextSource source(text, pieceSize);
+            TextSink sink;
+            KeyOpener opener(key, nullptr, KeyOpener::Scope::All);
+            Fault fault;
+            const bool isDone = decryptMessage(source, form, opener, sink, fault);
+            EXPECT_NE(isDone, fault.isSet());
+            content = sink.text;
+            reason = fault.predicate();
+            return isDone;
+        };
+        const std::string command = "smime -encrypt -aes256 -binary -in F -outform " + line + " cert";
+        const std::string whole =
+            runCommand(Arguments{stock} + words(command), {.folder = folder.path()}).output;
+        for (const std::size_t pieceSize : {1U, 67U, 100'000U})
+            EXPECT_TRUE(isTaken(whole, pieceSize) && content == plain) << reason;
+        EXPECT_FALSE(isTaken(whole + "A", 67));
+        EXPECT_NE(reason.find("goes on"), std::string::npos) << reason;
+        // White space at the end of a text may be missing, but no more.
+        const bool isText = form == MessageForm::Smime;
+        const std::size_t needed = isText ? whole.find_last_not_of("\r\n") + 1 : whole.size();
+        for (std::size_t size = 0; size < needed; ++size)
+            ASSERT_FALSE(isTaken(std::string_view(whole).substr(0, size))) << size;
+        for (std::size_t place = 0; place < whole.size(); ++place) {
+            std::string spoilt = whole;
+            spoilt[place] = static_cast<char>(spoilt[place] ^ (1 << place % 8));
+            // What is spoilt within the content shows only when that is read, or in its padding.
+            ASSERT_TRUE(!isTaken(spoilt) ||
+                        (content.size() + 16 >= plain.size() && content.size() <= plain.size() + 16));
+            ASSERT_EQ(reason.find('\n'), std::string::npos);
         }
     }
 }

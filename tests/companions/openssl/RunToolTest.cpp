@@ -1,6 +1,5 @@
 #include "RunTool.h"
 #include "Front.h"
-#include "LineFilter.h"
 #include "ToolLocation.h"
 
 namespace fs = std::filesystem;
@@ -42,19 +41,6 @@ TEST(RunTool, TellsAMisbehavingToolAndLeavesTheOlderResult)
     }
 }
 
-// The lines reach the front in whatever pieces the tool happens to write.
-TEST(LineFilter, LeavesOutWholeLinesAlone)
-{
-    const std::string text = "known\nunknown\nknown too\n\nother\nknown";
-    for (std::size_t size = 1; size <= text.size(); ++size) {
-        LineFilter filter({"known", "other"});
-        std::string passed;
-        for (std::size_t start = 0; start < text.size(); start += size)
-            passed += filter.pass(std::string_view(text).substr(start, size));
-        EXPECT_EQ(passed + filter.rest(), "unknown\nknown too\n\nknown") << size;
-    }
-}
-
 TEST(RunTool, WipesThePasswordThatItHandedOn)
 {
     const TemporaryFolder folder;
@@ -77,9 +63,9 @@ TEST(ToolLocation, IsTheSystemsFirstAndNeverItselfOrWhatCannotRun)
     fs::create_symlink("/proc/self/exe", folder / "link");
     writeFile(folder / "plain", "no program");
     std::vector<std::string> candidates{folder / "missing", folder / "plain", folder.path(), folder / "link"};
-    EXPECT_EQ(findTool(candidates, ownIdentity(nullptr)), std::nullopt);
+    EXPECT_EQ(findTool(candidates, ownIdentities(nullptr)), std::nullopt);
     candidates.push_back("/bin/sh");
-    EXPECT_EQ(findTool(candidates, ownIdentity(nullptr)), "/bin/sh");
+    EXPECT_EQ(findTool(candidates, ownIdentities(nullptr)), "/bin/sh");
 }
 
 } // namespace

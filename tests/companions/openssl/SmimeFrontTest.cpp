@@ -22,12 +22,10 @@ protected:
 
 TEST_F(SmimeFront, ExchangesFilesWithTheSystemsTool)
 {
-    const std::vector<std::pair<std::string, std::string>> writersAndReaders{
-        {front, front}, {front, stock}, {stock, front}};
     for (const std::size_t size : {0U, 1U, 4097U, 1000001U}) {
         const std::string plain = binaryData(size);
         writeFile(folder / "F", plain);
-        for (const auto &[writer, reader] : writersAndReaders) {
+        for (const auto &[writer, reader] : {std::pair{front, front}, {front, stock}, {stock, front}}) {
             EXPECT_TRUE(isSilentSuccess(encrypt(writer)));
             EXPECT_TRUE(isSilentSuccess(
                 runIn(folder, reader, "smime -aes256 -decrypt -binary -in G -out H -inkey key cert")));
@@ -61,13 +59,19 @@ TEST_F(SmimeFront, DecryptsWhateverFormTheSystemsToolWrites)
         {"smime -to a@b -subject two_recipients cert2", "-inkey key"},
         {"smime cert2", "-inkey key -recip cert"},
         {"cms -keyid", "-inkey key -recip cert"},
+        {"cms -outform DER -recip cert -keyopt rsa_padding_mode:oaep", "-inform DER -inkey key cert"},
+        {"cms -recip cert -keyopt rsa_padding_mode:oaep -keyopt rsa_oaep_md:sha256", "-inkey key"},
+        {"cms -recip cert -keyopt rsa_padding_mode:oaep -keyopt rsa_oaep_md:sha384 -keyopt rsa_mgf1_md:sha1 "
+         "-keyopt rsa_oaep_label:00ff01",
+         "-inkey key -recip cert"},
         {"cms -secretkey 000102030405060708090a0b0c0d0e0f -secretkeyid 01", "-inkey key"}};
     for (const auto &[writing, reading] : writingsAndReadings) {
         SCOPED_TRACE(writing);
         Arguments options = words(writing);
         const std::string command = options.front() + " -encrypt -binary -in F -out G";
         options.erase(options.begin());
-        EXPECT_TRUE(isSilentSuccess(runIn(folder, stock, command, options + Arguments{"cert"})));
+        if (writing.find("-recip") == std::string::npos) options.push_back("cert");
+        EXPECT_TRUE(isSilentSuccess(runIn(folder, stock, command, options)));
         EXPECT_TRUE(isSilentSuccess(runIn(folder, front, "smime -decrypt -in G -out H", words(reading))));
         EXPECT_TRUE(readFile(folder / "H") == plain);
         fs::remove(folder / "H");
@@ -78,15 +82,34 @@ TEST_F(SmimeFront, TellsInOneLineWhyItDoesNotDecrypt)
 {
     writeFile(folder / "F", binaryData(3'000));
     ASSERT_TRUE(isSilentSuccess(encrypt(front)));
-    ASSERT_EQ(runIn(folder, stock, "pkey -aes128 -passout pass:right -in key -out locked").status, 0);
     const std::string message = readFile(folder / "G");
     writeFile(folder / "half", message.substr(0, message.size() / 2));
     writeFile(folder / "more", message + "more");
     writeFile(folder / "spoilt", message.substr(0, 900) + "!" + message.substr(901));
     writeFile(folder / "none", "");
-    ASSERT_EQ(runIn(folder, stock, "smime -sign -in F -out signed -nodetach -signer cert -inkey key").status,
-              0);
+    for (
+        const std::string command :
+        {"pkey -aes128 -passout pass:right -in key -out locked",
+         "smime -sign -in F -out signed -nodetach -signer cert -inkey key",
+         "ecparam -name prime256v1 -genkey -noout -out ec", "req -x509 -new -key ec -subj /CN=ec -out eccert",
+         "cms -encrypt -aes256 -in F -out curve eccert", "cms -encrypt -aes-256-gcm -in F -out sealed cert",
+         "cms -encrypt -aes256 -in F -out shared -secretkey 000102030405060708090a0b0c0d0e0f -secretkeyid 01",
+         "cms -encrypt -aes256 -in F -out both cert eccert",
+         "cms -encrypt -aes256 -in F -out oaep -recip cert -keyopt rsa_padding_mode:oaep"})
+        ASSERT_EQ(runIn(folder, stock, command).status, 0) << command;
+    const std::string cms = "and can't be opened here: use \"openssl cms -decrypt\"";
     const std::vector<std::pair<std::string, std::string>> argumentsAndReasons{
+        {"-in curve -inkey ec eccert", "curve is for an elliptic-curve key, not for an RSA key, " + cms},
+        {"-in curve -inkey key cert", "curve is for an elliptic-curve key, not for an RSA key, " + cms},
+        {"-in both -inkey ec", "both is for an elliptic-curve key, not for an RSA key, " + cms},
+        {"-in both -inkey key2", "both cannot be opened with the private key key2"},
+        {"-in oaep -inkey key2", "oaep cannot be opened with the private key key2"},
+        {"-in G -inkey ec", "G cannot be opened with the private key ec: it is no RSA key"},
+        {"-in shared -inkey key",
+         "shared is for a password or a key that both sides have, not for an RSA key, " + cms},
+        {"-in sealed -inkey key cert",
+         "sealed is encrypted with a cipher that seals it, such as AES-GCM, which can't be opened here: use "
+         "\"openssl cms -decrypt\""},
         {"-in G -inkey key2 cert",
          "G was not opened: the private key key2 does not belong to the certificate cert"},
         {"-in G -inkey key2 cert2", "G is not for the certificate cert2"},
