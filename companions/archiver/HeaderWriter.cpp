@@ -84,12 +84,10 @@ void putMainHeader(ByteBuffer &into, const MainHeader &header)
     ByteBuffer body;
     putVint(body, static_cast<std::uint64_t>(HeaderType::Main));
     putVint(body, 0);
-    if (header.volumeIndex > 0) {
-        putVint(body, mainflag::volume | mainflag::number);
-        putVint(body, header.volumeIndex);
-    } else {
-        putVint(body, header.volume ? mainflag::volume : 0);
-    }
+    const std::uint64_t index = header.volumeIndex.value_or(0);
+    putVint(body, (header.volume ? mainflag::volume : 0) | (index > 0 ? mainflag::number : 0) |
+                      (header.solid ? mainflag::solid : 0));
+    if (index > 0) putVint(body, index);
     putFramed(into, body);
 }
 

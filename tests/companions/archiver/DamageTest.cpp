@@ -50,6 +50,12 @@ TEST_F(Damage, isFoundWhereverItIs)
     ASSERT_EQ(rar({"a", "-r", "-ol", "-m0", "../a.rar", "."}, {.folder = source}).errors, "");
     EXPECT_EQ(unnoticedDamages(readFile(archive)), 0u);
 
+    HandmadeEntry link = storedFile("link", "a");
+    link.header.mode = 0120777;
+    EXPECT_EQ(unnoticedDamages(handmadeArchive({storedFile("folder\\a", "text"), folderEntry("folder"), link},
+                                               archiver::olderFormat)),
+              0u);
+
     writeFile(temporary / "text", base64Text(1500));
     ASSERT_EQ(packFile(archive, temporary / "text").errors, "");
     EXPECT_LE(unnoticedDamages(readFile(archive)),
