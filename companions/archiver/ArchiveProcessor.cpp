@@ -27,6 +27,15 @@ private:
     static constexpr std::size_t longestLink = 65535;
 };
 
+/// Whether libarchive undoes such packing; it takes all for the same and makes rubbish of the rest. Of the
+/// older format it knows that of RAR 3 and 4, where no file shares its dictionary; of RAR 5 not what came
+/// with RAR 7.
+bool isKnownToForeign(const FileHeader &header)
+{
+    constexpr unsigned firstOfRar3 = 29;
+    return header.older ? header.version >= firstOfRar3 && !header.solid : header.version == 0;
+}
+
 /// Walks through one archive; `path` is empty where libarchive must not be asked.
 class Processor {
 public:
@@ -86,9 +95,9 @@ private:
     bool unpackForeign(std::size_t index, const FileHeader &header, ContentSink &sink)
     {
         if (m_path.empty()) return m_diagnostics.report(printable(header.name) + ": checksum error");
-        if (!header.older && header.version > 0)
+        if (!isKnownToForeign(header))
             return m_diagnostics.report(printable(header.name) +
-                                        " is packed in a newer way, which is not supported");
+                                        " is packed in a way that only the archiver that made it undoes");
         if (!m_foreign) m_foreign = std::make_unique<ForeignReader>(m_path, m_diagnostics);
         return m_foreign->unpack({m_dictionary, index}, header.name, sink);
     }

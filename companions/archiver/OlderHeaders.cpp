@@ -49,7 +49,8 @@ std::uint16_t shortCrc(Bytes bytes) { return static_cast<std::uint16_t>(crc32(by
 
 std::optional<std::size_t> oldLength(Bytes start)
 {
-    ByteReader reader(start.subspan(5));
+    ByteReader reader(start);
+    reader.take(5);
     const std::size_t length = reader.u16();
     if (!reader.ok() || length < commonSize) return std::nullopt;
     return length;

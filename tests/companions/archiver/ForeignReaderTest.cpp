@@ -210,6 +210,11 @@ TEST_F(ForeignArchive, ofTheOlderFormatIsReadAndChecked)
         EXPECT_EQ(unpacked.messages, "\nfile is encrypted by the archiver, which is not supported\n");
         EXPECT_EQ(unpacked.entries, (std::map<std::string, std::string>{{"clear", "x"}}));
         entry.header.encrypted = false;
+        entry.header.version = entry.header.stored() ? 29 : 20;
+        unpacked = unpack({handmadeArchive({entry}, olderFormat)});
+        EXPECT_EQ(unpacked.messages.find("only the archiver that made it") != std::string::npos,
+                  !entry.header.stored());
+        entry.header.version = 29;
         entry.data[500] ^= 2;
         unpacked = unpack({handmadeArchive({entry}, olderFormat)});
         EXPECT_TRUE(unpacked.messages.starts_with("\nfile: ") && unpacked.entries.empty());
