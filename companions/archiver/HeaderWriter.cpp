@@ -9,16 +9,6 @@ namespace {
 constexpr std::size_t sizeWidth = 6;
 static_assert(largestSize >> 7 * sizeWidth == 0);
 
-/// Puts the checksum and the size before `body`, which begins with the type.
-void putFramed(ByteBuffer &into, const ByteBuffer &body)
-{
-    ByteBuffer checked;
-    putVint(checked, body.size());
-    putBytes(checked, body);
-    putU32(into, crc32(checked));
-    putBytes(into, checked);
-}
-
 void putRecord(ByteBuffer &into, const ByteBuffer &record)
 {
     putVint(into, record.size());
@@ -78,6 +68,15 @@ void putFileFields(ByteBuffer &body, const FileHeader &header)
 }
 
 } // namespace
+
+void putFramed(ByteBuffer &into, const ByteBuffer &body)
+{
+    ByteBuffer checked;
+    putVint(checked, body.size());
+    putBytes(checked, body);
+    putU32(into, crc32(checked));
+    putBytes(into, checked);
+}
 
 void putMainHeader(ByteBuffer &into, const MainHeader &header)
 {

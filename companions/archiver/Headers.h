@@ -93,6 +93,8 @@ struct FileHeader {
 
 [[nodiscard]] std::optional<FileHeader> parseFileHeader(const HeaderFrame &frame);
 
+/// A header: checksum and size before `body`, which begins with the type.
+void putFramed(ByteBuffer &into, const ByteBuffer &body);
 void putMainHeader(ByteBuffer &into, const MainHeader &header);
 /// The same length for the same name, link and time, whatever the sizes (up to largestSize), flags and
 /// checksum: a header can be replaced when its data is behind it. A file has a checksum always, 0 as long as

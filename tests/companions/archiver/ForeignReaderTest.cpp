@@ -2,9 +2,12 @@
 #include "HuffmanEncoder.h"
 #include "Rar.h"
 
+#include <algorithm>
+#include <functional>
 #include <map>
 
 using namespace archiver;
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -12,18 +15,12 @@ namespace {
 struct Unpacked final : EntryReceiver, ContentSink {
     std::map<std::string, std::string> entries;
     std::string messages;
-    std::string name;
     std::string content;
 
     void folder(const FileHeader &header) override { entries[header.name + "/"]; }
     void link(const FileHeader &header) override { entries[header.name] = "-> " + header.link->path; }
-    ContentSink *beginFile(const FileHeader &header) override
-    {
-        name = header.name;
-        content.clear();
-        return this;
-    }
-    void finishFile(const FileHeader &) override { entries[name] = content; }
+    ContentSink *beginFile(const FileHeader &) override { return content.clear(), this; }
+    void finishFile(const FileHeader &header) override { entries[header.name] = content; }
     void abandonFile() override {}
     bool write(Bytes bytes) override
     {
@@ -38,6 +35,7 @@ protected:
     {
         for (std::size_t index = 0; index < volumes.size(); ++index)
             writeFile(temporary / ("set.part" + std::to_string(index + 1) + ".rar"), volumes[index]);
+        fs::remove(temporary / ("set.part" + std::to_string(volumes.size() + 1) + ".rar"));
         Unpacked unpacked;
         Diagnostics diagnostics(unpacked.messages);
         processArchive(temporary / "set.part1.rar", unpacked, diagnostics);
@@ -64,29 +62,17 @@ HandmadeEntry packedFile(const std::string &name, const std::string &content, bo
     return entry;
 }
 
-/// Packed in the older format, each byte but 255 as a code of eight bits.
+/// Packed in the older format, each byte but 255 as a code of eight bits that is the byte itself.
 HandmadeEntry olderPackedFile(const std::string &name, const std::string &content)
 {
-    std::vector<bool> bits;
-    const auto put = [&bits](unsigned value, unsigned count) {
-        while (count-- > 0)
-            bits.push_back(value >> count & 1);
-    };
-    put(0, 2);                                       // no context model, new tables
-    for (unsigned length = 0; length < 20; ++length) // as codes: 8 is 0, 9 is 10, some zeros are 11
-        put(length == 8 ? 1 : length == 9 || length == 19 ? 2 : 0, 4);
-    for (unsigned literal = 0; literal < 255; ++literal)
-        put(0, 1);
-    put(0b1010, 4);
-    put(3, 2), put(74 - 11, 7), put(3, 2), put(73 - 11, 7);
-    for (const char byte : content)
-        put(static_cast<unsigned char>(byte), 8);
-    put(0x1FF, 9); // the end
-    put(0, 31);
+    std::string tables(46, '\0');
+    for (const int bit :
+         {37,  40,  80,  337, 339, 341, 342, 344, 347, 348, 350,
+          351, 353, 356, 357, 359, 360, 362, 365, 366}) // lengths of codes: 8 for 255 literals, 9 for the
+                                                        // last and for the end
+        tables[std::size_t(bit) / 8] = static_cast<char>(tables[std::size_t(bit) / 8] | 0x80 >> bit % 8);
     HandmadeEntry entry = storedFile(name, content);
-    entry.data.assign(bits.size() / 8, '\0');
-    for (std::size_t bit = 0; bit < entry.data.size() * 8; ++bit)
-        if (bits[bit]) entry.data[bit / 8] = static_cast<char>(entry.data[bit / 8] | 0x80 >> bit % 8);
+    entry.data = tables + content + std::string("\xFF\x80\0\0\0\0", 6);
     entry.header.packedSize = entry.data.size();
     entry.header.method = 3;
     entry.header.version = 29;
@@ -105,12 +91,8 @@ std::string withRecord(const std::string &bytes, std::size_t at, const ByteBuffe
     putBytes(body, frame.fields);
     putVint(body, record.size());
     putBytes(body, record);
-    ByteBuffer checked;
-    putVint(checked, body.size());
-    putBytes(checked, body);
     ByteBuffer made;
-    putU32(made, crc32(checked));
-    putBytes(made, checked);
+    putFramed(made, body);
     return bytes.substr(0, at) + std::string(made.begin(), made.end()) + bytes.substr(at + length);
 }
 
@@ -159,18 +141,31 @@ TEST_F(ForeignArchive, isReadWhereverItsVolumesEnd)
         EXPECT_EQ(unpacked.messages, "") << cut - header;
         EXPECT_TRUE(unpacked.entries.contains("file") && unpacked.entries.at("file") == content);
     }
-    // Each fault is told once, and nothing comes out.
-    std::vector<std::string> volumes = handmadeSet({first, entry}, {700, 1900}, presentFormat);
-    const auto expectFault = [&](const std::string &message) {
-        const Unpacked unpacked = unpack(volumes);
-        EXPECT_EQ(unpacked.messages.substr(unpacked.messages.size() - message.size()), message);
-        EXPECT_EQ(unpacked.entries.size(), 1u);
-    };
-    std::swap(volumes[1], volumes[2]);
-    expectFault("part2.rar is volume 3 of a set, where volume 2 was expected\n");
-    std::swap(volumes[1], volumes[2]);
-    volumes[1][500] ^= 1;
-    expectFault(temporary / "set.part2.rar\n");
+}
+
+TEST_F(ForeignArchive, thatIsBrokenIsSaidToBeOnceAndKeptBack)
+{
+    using Volumes = std::vector<std::string>;
+    const std::string text = base64Text(6000);
+    const Volumes others = handmadeSet({storedFile("other", text)}, {700, 1900}, presentFormat);
+    const std::vector<std::pair<std::string, std::function<void(Volumes &)>>> cases = {
+        {"Cannot find volume #3.rar", [](auto &set) { set.pop_back(); }},
+        {"Unexpected end of archive #2.rar", [](auto &set) { set[1].resize(500); }},
+        {"file: packed data checksum error in volume #2.rar", [](auto &set) { set[1][500] ^= 1; }},
+        {"#2.rar is not a RAR archive", [](auto &set) { set[1].clear(); }},
+        {"#2.rar is volume 3 of a set, where volume 2 was expected", [](auto &set) { set[1] = set[2]; }},
+        {"#1.rar is not the first volume: start with the first one", [](auto &set) { set[0] = set[1]; }},
+        {"#2.rar does not continue file: it belongs to another set", [&](auto &set) { set[1] = others[1]; }}};
+    for (const HandmadeEntry &entry : {storedFile("file", text), packedFile("file", text, true)})
+        for (auto [message, spoil] : cases) {
+            Volumes set = handmadeSet({packedFile("first", text, false), entry}, {700, 1900}, presentFormat);
+            spoil(set);
+            const Unpacked unpacked = unpack(set);
+            message.replace(message.find('#'), 1, temporary / "set.part");
+            EXPECT_NE(unpacked.messages.find(message), std::string::npos) << unpacked.messages;
+            EXPECT_EQ(std::ranges::count(unpacked.messages, '\n'), 2) << unpacked.messages;
+            EXPECT_FALSE(unpacked.entries.contains("file"));
+        }
 }
 
 TEST_F(ForeignArchive, ofTheOlderFormatIsReadAndChecked)
@@ -204,6 +199,14 @@ TEST_F(ForeignArchive, ofTheOlderFormatIsReadAndChecked)
             EXPECT_TRUE(unpacked.entries["file"] == text);
         }
 
+    // A file that is damaged takes no other with it.
+    HandmadeEntry damaged = storedFile("file", text);
+    damaged.data[500] ^= 2;
+    for (const HeaderFormat &format : {presentFormat, olderFormat}) {
+        unpacked = unpack({handmadeArchive({damaged, storedFile("whole", "x")}, format)});
+        EXPECT_EQ(unpacked.messages, "\nfile: checksum error\n");
+        EXPECT_TRUE(unpacked.entries.size() == 1 && unpacked.entries.contains("whole"));
+    }
     for (HandmadeEntry entry : {storedFile("file", text), olderPackedFile("file", text)}) {
         entry.header.encrypted = true;
         unpacked = unpack({handmadeArchive({entry, storedFile("clear", "x")}, olderFormat)});
