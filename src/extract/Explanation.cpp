@@ -9,7 +9,7 @@ using Kind = FailedStage::Kind;
 using Place = FailedStage::Place;
 
 /// Below this many free bytes a disk counts as full.
-constexpr qint64 nextToNothing = 64 * 1024;
+constexpr qint64 nextToNothing = qint64(64) * 1024;
 
 QString nameOf(const QString &path) { return quillorentLibrary::lastPathComponent(path); }
 
@@ -169,7 +169,7 @@ QString explainByStage(const FailedStage &stage)
 
 QString explain(const FailedStage &stage)
 {
-    if (const QString text = explainByTool(stage); !text.isEmpty()) return text;
-    if (const QString text = explainByFolder(stage); !text.isEmpty()) return text;
+    if (QString text = explainByTool(stage); !text.isEmpty()) return text;
+    if (QString text = explainByFolder(stage); !text.isEmpty()) return text;
     return explainByStage(stage);
 }

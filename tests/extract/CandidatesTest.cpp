@@ -23,8 +23,7 @@ TEST_F(Candidates, ComeAndGo)
     const QStringList volumes{u"/x/a.part1.rar"_qs, u"/x/a.part2.rar"_qs, u"/x/a.part10.rar"_qs,
                               u"/x/b.rar"_qs};
     delegate.openPanel = [&](const outlets::OpenPanel &panel) {
-        EXPECT_TRUE(panel.canChooseFiles && panel.allowsMultipleSelection);
-        EXPECT_FALSE(panel.canChooseDirectories);
+        EXPECT_TRUE(panel.canChooseFiles && panel.allowsMultipleSelection && !panel.canChooseDirectories);
         EXPECT_EQ(panel.allowedFileTypes, QStringList{u"rar"_qs});
         return std::optional(volumes);
     };

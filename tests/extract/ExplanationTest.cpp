@@ -36,7 +36,6 @@ TEST(Explanation, TellsTheCausesApart)
              {Kind::UnpackInner, u"error"_qs, u"private key is wrong"_qs, isMessage},
              {Kind::UnpackInner, u"Skipping the symbolic link a -> /b"_qs, u"Quillorent's own archiver"_qs,
               isArchive},
-             {Kind::Test, u"/x is not the first volume"_qs, u"Add the first one"_qs},
              {Kind::Test, u"/x belongs to another set of volumes"_qs, u"do not belong together"_qs},
              {Kind::Test, u"\"/rar\" was ended by signal 9 (Killed).\n"_qs, u"short of memory"_qs},
          }) {

@@ -60,13 +60,10 @@ TEST_F(Packing, whateverItPacksUnpacksByEveryReader)
         {base64Text(3'000'000), 0.755},
         {base64Text(block), 0.755},
         {base64Text(block + 1), 0.755},
-        {base64Text(2000), 0.85},
         {"", 0},
-        {"x", 0},
         {std::string(1'500'000, 'x'), 0.126},
         {std::string(700'000, 'a') + std::string(700'000, 'b'), 0.26},
         {skewed(1'000'000), 0.5},
-        {randomBytes(100'000), 1.002},
         {randomBytes(2'000'000), 1.0001},
         {base64Text(1'000'000) + randomBytes(200'000), 0.82}};
     for (const auto &[bytes, ratio] : contents) {

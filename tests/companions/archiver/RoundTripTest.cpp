@@ -28,9 +28,7 @@ TEST_F(RoundTrip, everythingComesBackAlsoOverAnOlderState)
     ASSERT_EQ(rar({"a", "-r", "-ol", "-m0", "-v50", "-t", temporary / "set.rar", source}).errors, "");
     for (const fs::path &first : {archive, volumesOf(temporary / "set.rar").front()})
         for (const std::string folder : {"out", "with slash/", "new/and/deep"}) {
-            const CommandResult result = rar({"x", "-o+", "-idq", first, temporary / folder});
-            EXPECT_EQ(result.errors + result.output, "");
-            EXPECT_EQ(result.status, 0);
+            EXPECT_EQ(failure(rar({"x", "-o+", "-idq", first, temporary / folder})), "success");
             EXPECT_EQ(treeDifference(source, temporary / folder / source.relative_path()), "");
             fs::permissions(extracted / "read only folder", fs::perms::owner_all);
             fs::remove(extracted / "one byte");
@@ -62,10 +60,7 @@ TEST_F(RoundTrip, theArchiveItselfIsLeftOut)
     const auto size = fs::file_size(inside);
     ASSERT_EQ(addTree(inside, source).errors, "");
     EXPECT_EQ(fs::file_size(inside), size);
-    ASSERT_EQ(rar({"x", "-idq", inside, out}).errors, "");
-    fs::remove(inside);
-    // The folder's time has changed.
-    EXPECT_EQ(treeDifference(source, extracted, {.root = false}), "");
+    EXPECT_EQ(rar({"lb", inside}).output.find("inside.rar"), std::string::npos);
 }
 
 TEST_F(Tree, sourcesOfEachKindAndTimesBeyond32BitsComeBack)
