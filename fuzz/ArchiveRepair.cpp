@@ -27,21 +27,24 @@ void repairBlocks(std::span<std::uint8_t> packed)
 
 void repairArchive(ByteBuffer &bytes)
 {
-    if (bytes.size() < signature.size()) return;
-    std::ranges::copy(signature, bytes.begin());
-    for (std::span<std::uint8_t> left = std::span(bytes).subspan(signature.size()); left.size() > 7;) {
-        const std::optional<std::size_t> length = headerLength(left);
+    const bool isOlder = bytes.size() > 6 && bytes[6] == 0;
+    const HeaderFormat &format = isOlder ? olderFormat : presentFormat;
+    if (bytes.size() < format.signature.size()) return;
+    std::ranges::copy(format.signature, bytes.begin());
+    const std::size_t crcSize = isOlder ? 2 : 4;
+    for (std::span<std::uint8_t> left = std::span(bytes).subspan(format.signature.size()); left.size() > 7;) {
+        const std::optional<std::size_t> length = format.length(left);
         if (!length || *length > left.size()) return;
-        const std::uint32_t crc = crc32(Bytes(left).subspan(4, *length - 4));
-        for (unsigned index = 0; index < 4; ++index)
+        const std::uint32_t crc = crc32(Bytes(left).subspan(crcSize, *length - crcSize));
+        for (unsigned index = 0; index < crcSize; ++index)
             left[index] = static_cast<std::uint8_t>(crc >> 8 * index);
-        const std::optional<HeaderFrame> frame = parseFrame(left.first(*length));
+        const std::optional<HeaderFrame> frame = format.frame(left.first(*length));
         if (!frame) return;
         const auto data = left.subspan(*length);
         const auto packed = data.first(std::min<std::uint64_t>(data.size(), frame->dataSize));
         if (frame->type == HeaderType::File) {
-            const std::optional<FileHeader> file = parseFileHeader(*frame);
-            if (file && !file->stored()) repairBlocks(packed);
+            const std::optional<FileHeader> file = format.fileHeader(*frame);
+            if (file && !file->stored() && !file->older) repairBlocks(packed);
         }
         left = data.subspan(packed.size());
     }

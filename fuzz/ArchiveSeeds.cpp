@@ -63,44 +63,32 @@ Entry link(const std::string &name, Kind kind, const std::string &target)
     return entry;
 }
 
-ByteBuffer archive(const std::vector<Entry> &entries)
+ByteBuffer archive(const std::vector<Entry> &entries, const HeaderFormat &format = presentFormat,
+                   const MainHeader &main = {}, bool moreVolumes = false)
 {
-    ByteBuffer bytes(signature.begin(), signature.end());
-    putMainHeader(bytes, {});
+    ByteBuffer bytes(format.signature.begin(), format.signature.end());
+    format.putMain(bytes, main);
     for (const Entry &entry : entries) {
-        putFileHeader(bytes, entry.header);
+        format.putFile(bytes, entry.header);
         putBytes(bytes, entry.data);
     }
-    putEndHeader(bytes, false);
+    format.putEnd(bytes, moreVolumes);
     return bytes;
 }
 
-/// Of the format before, with one stored file.
-ByteBuffer olderArchive()
+/// The entry is cut in two.
+std::vector<ByteBuffer> volumes(const Entry &entry, const HeaderFormat &format)
 {
-    const std::string name = "folder\\old";
-    const ByteBuffer content = text(20);
-    const auto put = [](ByteBuffer &into, ByteBuffer header) {
-        const std::uint32_t crc = crc32(Bytes(header));
-        into.push_back(static_cast<std::uint8_t>(crc));
-        into.push_back(static_cast<std::uint8_t>(crc >> 8));
-        putBytes(into, header);
-    };
-    ByteBuffer bytes(oldSignature.begin(), oldSignature.end());
-    put(bytes, {0x73, 0, 0, 13, 0, 0, 0, 0, 0, 0, 0});
-    ByteBuffer header{0x74, 0x00, 0x80, static_cast<std::uint8_t>(32 + name.size()), 0};
-    putU32(header, static_cast<std::uint32_t>(content.size()));
-    putU32(header, static_cast<std::uint32_t>(content.size()));
-    header.push_back(3); // Unix
-    putU32(header, crc32(content));
-    putU32(header, 0x3C21'0000);
-    putBytes(header, ByteBuffer{20, 0x30, static_cast<std::uint8_t>(name.size()), 0}); // stored
-    putU32(header, 0100644);
-    putText(header, name);
-    put(bytes, header);
-    putBytes(bytes, content);
-    put(bytes, {0x7B, 0, 0x40, 7, 0});
-    return bytes;
+    Entry first = entry;
+    Entry second = entry;
+    first.data.resize(entry.data.size() / 3);
+    second.data.erase(second.data.begin(), second.data.begin() + std::ptrdiff_t(first.data.size()));
+    first.header.packedSize = first.data.size();
+    second.header.packedSize = second.data.size();
+    first.header.crc = crc32(first.data);
+    first.header.continuesAfter = second.header.continuesBefore = true;
+    return {archive({first}, format, {.volume = true, .volumeIndex = 0}, true),
+            archive({second}, format, {.volume = true, .volumeIndex = 1})};
 }
 
 std::vector<std::vector<ByteBuffer>> archives()
@@ -109,6 +97,11 @@ std::vector<std::vector<ByteBuffer>> archives()
     solid.header.solid = true;
     Entry windows = file("windows", text(10));
     windows.header.unixHost = false;
+    Entry older = file("older", text(300), true);
+    older.header.version = 29;
+    const std::string wide("caf?\\z\0\x01\x01"
+                           "caf\xE9\xAC\x3D\xD8\0\xDE\0",
+                           19);
     Diagnostics diagnostics;
     return {
         {archive({file("a/b/c", text(40)), folder("a/b"), file("empty", {}), file("caf\xE9", text(2))})},
@@ -117,7 +110,11 @@ std::vector<std::vector<ByteBuffer>> archives()
         {archive({link("door", Kind::Symbolic, ".."), file("door/guard", text(3)), folder("door/new"),
                   link("gate", Kind::Junction, "..\\guard"), link("taken", Kind::Copy, "gate")})},
         {archive({file("../guard", text(3)), file("/guard", text(3)), folder("../new")})},
-        {olderArchive()},
+        {archive({file("folder\\old", text(20)), link("empty", Kind::Hard, ""), older, folder("folder"),
+                  file(wide, text(5))},
+                 olderFormat)},
+        volumes(solid, presentFormat),
+        volumes(older, olderFormat),
         writeVolumes(text(900), ArchiveWriter::Packing::Store, 400, diagnostics),
         writeVolumes(text(1500), ArchiveWriter::Packing::Pack, 600, diagnostics),
     };

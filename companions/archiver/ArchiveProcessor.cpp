@@ -13,17 +13,27 @@ namespace archiver {
 
 namespace {
 
-/// `path`, and the volumes that follow it as long as there are any.
-std::vector<std::string> existingVolumes(const std::string &path)
+/// Keeps a text that is to be short.
+class TextSink final : public ContentSink {
+public:
+    bool write(Bytes bytes) override
+    {
+        text.append(bytes.begin(), bytes.end());
+        return text.size() <= longestLink;
+    }
+    std::string text;
+
+private:
+    static constexpr std::size_t longestLink = 65535;
+};
+
+/// Whether libarchive undoes such packing; it takes all for the same and makes rubbish of the rest. Of the
+/// older format it knows that of RAR 3 and 4, where no file shares its dictionary; of RAR 5 not what came
+/// with RAR 7.
+bool isKnownToForeign(const FileHeader &header)
 {
-    constexpr std::size_t most = 100'000; // names repeat at some point
-    const VolumeFiles files(path);
-    std::vector<std::string> paths{path};
-    struct stat status {};
-    while (paths.size() < most && stat(files.name(paths.size()).c_str(), &status) == 0 &&
-           S_ISREG(status.st_mode))
-        paths.push_back(files.name(paths.size()));
-    return paths;
+    constexpr unsigned firstOfRar3 = 29;
+    return header.older ? header.version >= firstOfRar3 && !header.solid : header.version == 0;
 }
 
 /// Walks through one archive; `path` is empty where libarchive must not be asked.
@@ -40,19 +50,21 @@ public:
 
     void run()
     {
-        const ArchiveReader::Format format = m_reader.open();
-        if (format == ArchiveReader::Format::Older) processOlder();
-        if (format != ArchiveReader::Format::Rar5) return;
-        for (std::size_t index = 0; !interrupted() && m_reader.next() == ArchiveReader::Step::Entry; ++index)
+        if (!m_reader.open()) return;
+        for (std::size_t index = 0; !interrupted() && !(m_foreign && m_foreign->failed()) &&
+                                    m_reader.next() == ArchiveReader::Step::Entry;
+             ++index)
             processEntry(index);
     }
 
 private:
     void processEntry(std::size_t index)
     {
-        const FileHeader header = m_reader.entry();
+        FileHeader header = m_reader.entry();
         if (header.link) return m_receiver.link(header);
         if (header.folder) return m_receiver.folder(header);
+        if (!header.stored() && !header.solid) m_dictionary = index;
+        if (header.older && header.unixHost && S_ISLNK(header.mode)) return processOlderLink(index, header);
         ContentSink *sink = m_receiver.beginFile(header);
         if (!sink) return;
         EntryUnpacker::Result result = m_unpacker.unpack(m_reader, *sink);
@@ -68,35 +80,26 @@ private:
             m_receiver.abandonFile();
     }
 
+    /// Of the format before: the target is the content.
+    void processOlderLink(std::size_t index, FileHeader &header)
+    {
+        TextSink target;
+        EntryUnpacker::Result result = m_unpacker.unpack(m_reader, target);
+        if (result == EntryUnpacker::Result::NeedsDictionary && unpackForeign(index, header, target))
+            result = EntryUnpacker::Result::Whole;
+        if (result != EntryUnpacker::Result::Whole) return;
+        header.link = LinkTarget{LinkTarget::Kind::Symbolic, false, target.text};
+        m_receiver.link(header);
+    }
+
     bool unpackForeign(std::size_t index, const FileHeader &header, ContentSink &sink)
     {
         if (m_path.empty()) return m_diagnostics.report(printable(header.name) + ": checksum error");
-        return foreign().unpackEntry(index, header, sink);
-    }
-
-    void processOlder()
-    {
-        FileHeader header;
-        for (;;) {
-            const ForeignReader::Step step = foreign().next(header);
-            if (step != ForeignReader::Step::Entry || interrupted()) return;
-            if (header.link)
-                m_receiver.link(header);
-            else if (header.folder)
-                m_receiver.folder(header);
-            else if (ContentSink *sink = m_receiver.beginFile(header)) {
-                if (foreign().unpack(header, *sink))
-                    m_receiver.finishFile(header);
-                else
-                    m_receiver.abandonFile();
-            }
-        }
-    }
-
-    ForeignReader &foreign()
-    {
-        if (!m_foreign) m_foreign = std::make_unique<ForeignReader>(existingVolumes(m_path), m_diagnostics);
-        return *m_foreign;
+        if (!isKnownToForeign(header))
+            return m_diagnostics.report(printable(header.name) +
+                                        " is packed in a way that only the archiver that made it undoes");
+        if (!m_foreign) m_foreign = std::make_unique<ForeignReader>(m_path, m_diagnostics);
+        return m_foreign->unpack({m_dictionary, index}, header.name, sink);
     }
 
     std::string m_path;
@@ -105,6 +108,7 @@ private:
     ArchiveReader m_reader;
     EntryUnpacker m_unpacker;
     std::unique_ptr<ForeignReader> m_foreign;
+    std::size_t m_dictionary = 0; ///< the entry with which the present one's dictionary begins
 };
 
 } // namespace

@@ -13,7 +13,7 @@ namespace archiver {
 /// on.
 void processArchive(const std::string &path, EntryReceiver &receiver, Diagnostics &diagnostics);
 
-/// The same for a RAR 5 archive given by its volumes. What only libarchive could unpack counts as damaged
+/// The same for an archive given by its volumes. What only libarchive could unpack counts as damaged
 /// here.
 void processVolumes(VolumeSource &volumes, EntryReceiver &receiver, Diagnostics &diagnostics);
 

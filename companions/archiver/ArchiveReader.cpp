@@ -2,9 +2,18 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
+#include <utility>
 
 namespace archiver {
+
+namespace {
+
+bool beginsWith(Bytes bytes, Bytes start)
+{
+    return bytes.size() >= start.size() && std::ranges::equal(bytes.first(start.size()), start);
+}
+
+} // namespace
 
 bool ArchiveReader::fail(const std::string &message)
 {
@@ -20,24 +29,21 @@ bool ArchiveReader::cannotOpen(std::size_t index)
     return m_diagnostics.reportSystem(message);
 }
 
-ArchiveReader::Format ArchiveReader::open()
+bool ArchiveReader::open()
 {
     std::unique_ptr<ByteSource> source = m_volumes.open(0);
-    if (!source) return cannotOpen(0), Format::Unreadable;
+    if (!source) return cannotOpen(0);
     m_window = SourceWindow(std::move(source));
-    const Bytes start = m_window.peek(signature.size());
-    if (start.size() >= oldSignature.size() &&
-        std::ranges::equal(start.first(oldSignature.size()), oldSignature))
-        return Format::Older;
-    return readSignature() && readMainHeader(0) ? Format::Rar5 : Format::Unreadable;
+    if (beginsWith(m_window.peek(signature.size()), oldSignature)) m_format = &olderFormat;
+    return readSignature() && readMainHeader(0);
 }
 
 bool ArchiveReader::readSignature()
 {
-    const Bytes start = m_window.peek(signature.size());
-    if (start.size() < signature.size() || !std::ranges::equal(start.first(signature.size()), signature))
+    const std::size_t size = m_format->signature.size();
+    if (!beginsWith(m_window.peek(size), m_format->signature))
         return fail(printable(m_volumes.name(m_volume)) + " is not a RAR archive");
-    m_window.skip(signature.size());
+    m_window.skip(size);
     return true;
 }
 
@@ -46,22 +52,22 @@ bool ArchiveReader::readMainHeader(std::size_t index)
     const std::optional<HeaderFrame> frame = readFrame();
     if (!frame) return false;
     const std::string name = printable(m_volumes.name(index));
-    if (frame->type == HeaderType::Encryption)
+    const std::optional<MainHeader> header = m_format->mainHeader(*frame);
+    if (frame->type == HeaderType::Encryption || (header && header->encrypted))
         return fail(name + " is encrypted by the archiver, which is not supported");
-    const std::optional<MainHeader> header = parseMainHeader(*frame);
     if (!header) return fail(name + " has a damaged main header");
-    if (index == 0 && header->volumeIndex > 0)
-        return fail(name + " is not the first volume: start with the first one");
-    if (header->volumeIndex != index)
-        return fail(name + " is volume " + std::to_string(header->volumeIndex + 1) +
-                    " of a set, where volume " + std::to_string(index + 1) + " was expected");
+    const std::uint64_t told = header->volumeIndex.value_or(index);
+    if (index == 0 && told > 0) return fail(name + " is not the first volume: start with the first one");
+    if (told != index)
+        return fail(name + " is volume " + std::to_string(told + 1) + " of a set, where volume " +
+                    std::to_string(index + 1) + " was expected");
     m_isVolume = header->volume;
     return skipData(frame->dataSize);
 }
 
 std::optional<HeaderFrame> ArchiveReader::readFrame()
 {
-    constexpr std::size_t shortest = 7; // 4 bytes of checksum, and three that hold at least the size
+    constexpr std::size_t shortest = 7; // of all headers; it has its size
     const Bytes start = m_window.peek(shortest);
     const auto damaged = [this] {
         if (m_window.error() != 0) {
@@ -77,7 +83,7 @@ std::optional<HeaderFrame> ArchiveReader::readFrame()
         fail("Unexpected end of archive " + printable(m_volumes.name(m_volume)));
         return std::nullopt;
     }
-    const std::optional<std::size_t> length = headerLength(start);
+    const std::optional<std::size_t> length = m_format->length(start);
     if (!length) return damaged();
     const Bytes bytes = m_window.peek(*length);
     if (bytes.size() < *length && m_window.error() == 0) {
@@ -85,7 +91,7 @@ std::optional<HeaderFrame> ArchiveReader::readFrame()
         return std::nullopt;
     }
     std::optional<HeaderFrame> frame =
-        bytes.size() < *length ? std::nullopt : parseFrame(bytes.first(*length));
+        bytes.size() < *length ? std::nullopt : m_format->frame(bytes.first(*length));
     if (!frame) return damaged();
     m_window.skip(*length); // the bytes stay where they are until the next peek
     return frame;
@@ -101,13 +107,13 @@ bool ArchiveReader::skipData(std::uint64_t count)
 
 ArchiveReader::Step ArchiveReader::next()
 {
-    if (m_failed || !skipRestOfEntry()) return Step::Failed;
+    if (m_failed || !skipEntry()) return Step::Failed;
     for (;;) {
         const std::optional<HeaderFrame> frame = readFrame();
         if (!frame) return Step::Failed;
         if (frame->type == HeaderType::File) return acceptEntry(*frame) ? Step::Entry : Step::Failed;
         if (frame->type == HeaderType::End) {
-            const std::optional<bool> more = parseEndHeader(*frame);
+            const std::optional<bool> more = m_format->endHeader(*frame);
             if (!more) return fail("Corrupt end of archive"), Step::Failed;
             if (!*more) return Step::End;
             if (!openVolume(m_volume + 1)) return Step::Failed;
@@ -123,7 +129,7 @@ ArchiveReader::Step ArchiveReader::next()
 
 bool ArchiveReader::acceptEntry(const HeaderFrame &frame)
 {
-    std::optional<FileHeader> header = parseFileHeader(frame);
+    std::optional<FileHeader> header = m_format->fileHeader(frame);
     if (!header) return fail("Corrupt file header in " + printable(m_volumes.name(m_volume)));
     if (header->continuesBefore)
         return fail(printable(header->name) + " begins in a volume before " +
@@ -139,14 +145,14 @@ bool ArchiveReader::acceptEntry(const HeaderFrame &frame)
     return true;
 }
 
-bool ArchiveReader::skipRestOfEntry()
+std::optional<std::uint64_t> ArchiveReader::skipEntry()
 {
-    for (;;) {
+    for (std::uint64_t skipped = 0;;) {
         if (m_partLeft > 0) m_partSkipped = true;
-        if (!skipData(m_partLeft)) return false;
-        m_partLeft = 0;
-        if (!m_entry.continuesAfter) return true;
-        if (!continueInNextVolume()) return false;
+        if (!skipData(m_partLeft)) return std::nullopt;
+        skipped += std::exchange(m_partLeft, 0);
+        if (!m_entry.continuesAfter) return skipped;
+        if (!continueInNextVolume()) return std::nullopt;
     }
 }
 
@@ -168,7 +174,7 @@ bool ArchiveReader::findEndOfVolume()
         const std::optional<HeaderFrame> frame = readFrame();
         if (!frame) return false;
         if (frame->type == HeaderType::End) {
-            if (parseEndHeader(*frame).value_or(false)) return true;
+            if (m_format->endHeader(*frame).value_or(false)) return true;
             return fail("Unexpected end of archive " + printable(m_volumes.name(m_volume)));
         }
         if (frame->type == HeaderType::File)
@@ -198,7 +204,7 @@ bool ArchiveReader::findContinuation()
         if (frame->type == HeaderType::Service && skipData(frame->dataSize)) continue;
         if (m_failed) return false;
         const std::optional<FileHeader> header =
-            frame->type == HeaderType::File ? parseFileHeader(*frame) : std::nullopt;
+            frame->type == HeaderType::File ? m_format->fileHeader(*frame) : std::nullopt;
         const bool same = header && header->continuesBefore && header->name == m_entry.name &&
                           header->unpackedSize == m_entry.unpackedSize && header->method == m_entry.method;
         if (!same)

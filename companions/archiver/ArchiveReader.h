@@ -6,8 +6,9 @@
 
 namespace archiver {
 
-/// Walks through the headers of a RAR 5 archive, over all of its volumes, and hands out the packed data of
-/// its entries. Whatever the bytes are, the walk stays within them: every fault ends it with a message.
+/// Walks through the headers of an archive, RAR 5 or of the format before, over all of its volumes, and hands
+/// out the packed data of its entries. Whatever the bytes are, the walk stays within them: every fault ends
+/// it with a message.
 class ArchiveReader {
 public:
     ArchiveReader(VolumeSource &volumes, Diagnostics &diagnostics)
@@ -15,15 +16,20 @@ public:
     {
     }
 
-    enum class Format { Unreadable, Rar5, Older };
-    /// Opens the first volume. Unreadable has been reported.
-    [[nodiscard]] Format open();
+    /// Opens the first volume. False has been reported.
+    [[nodiscard]] bool open();
+    /// How its headers are written.
+    [[nodiscard]] const HeaderFormat &format() const { return *m_format; }
 
     enum class Step { Entry, End, Failed };
     /// Goes to the next entry, past what is left of the present one. Failed has been reported.
     [[nodiscard]] Step next();
     /// The entry's header; after its last byte has been read, that of its last part.
     [[nodiscard]] const FileHeader &entry() const { return m_entry; }
+
+    /// Goes past what is left of the entry's data, to the header of its last part. How much that was in all
+    /// volumes; none has been reported.
+    [[nodiscard]] std::optional<std::uint64_t> skipEntry();
 
     /// At least `wanted` bytes of the entry's packed data, from all volumes that it spans; fewer at its end
     /// only, and none after a fault (see failed()). They are valid until the next call.
@@ -40,7 +46,6 @@ private:
     bool readMainHeader(std::size_t index);
     [[nodiscard]] std::optional<HeaderFrame> readFrame();
     bool acceptEntry(const HeaderFrame &frame);
-    bool skipRestOfEntry();
     bool skipData(std::uint64_t count);
     bool finishPart();
     bool continueInNextVolume();
@@ -51,6 +56,7 @@ private:
 
     VolumeSource &m_volumes;
     Diagnostics &m_diagnostics;
+    const HeaderFormat *m_format = &presentFormat;
     SourceWindow m_window;
     std::size_t m_volume = 0;
     bool m_isVolume = false;

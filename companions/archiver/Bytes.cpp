@@ -28,6 +28,7 @@ std::uint64_t ByteReader::littleEndian(std::size_t width)
 }
 
 std::uint8_t ByteReader::u8() { return static_cast<std::uint8_t>(littleEndian(1)); }
+std::uint16_t ByteReader::u16() { return static_cast<std::uint16_t>(littleEndian(2)); }
 std::uint32_t ByteReader::u32() { return static_cast<std::uint32_t>(littleEndian(4)); }
 std::uint64_t ByteReader::u64() { return littleEndian(8); }
 
@@ -48,6 +49,12 @@ std::uint64_t ByteReader::vint()
 
 void putBytes(ByteBuffer &into, Bytes bytes) { into.insert(into.end(), bytes.begin(), bytes.end()); }
 void putText(ByteBuffer &into, std::string_view text) { into.insert(into.end(), text.begin(), text.end()); }
+
+void putU16(ByteBuffer &into, std::uint16_t value)
+{
+    into.push_back(static_cast<std::uint8_t>(value));
+    into.push_back(static_cast<std::uint8_t>(value >> 8));
+}
 
 void putU32(ByteBuffer &into, std::uint32_t value)
 {

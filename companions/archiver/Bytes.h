@@ -20,6 +20,7 @@ public:
 
     Bytes take(std::uint64_t count);
     std::uint8_t u8();
+    std::uint16_t u16();
     std::uint32_t u32();
     std::uint64_t u64();
     /// Groups of 7 bits, the lowest first, the top bit set in all but the last; at most 10 bytes.
@@ -36,6 +37,7 @@ using ByteBuffer = std::vector<std::uint8_t>;
 
 void putBytes(ByteBuffer &into, Bytes bytes);
 void putText(ByteBuffer &into, std::string_view text);
+void putU16(ByteBuffer &into, std::uint16_t value);
 void putU32(ByteBuffer &into, std::uint32_t value);
 void putU64(ByteBuffer &into, std::uint64_t value);
 /// Padded to `width` bytes where the value needs fewer, so that it can be replaced later by another of that

@@ -39,16 +39,18 @@ std::string encodeName(std::string_view bytes)
     std::string name;
     name.reserve(bytes.size());
     bool marked = false;
+    bool componentIsMarked = false;
     while (!bytes.empty()) {
         const std::size_t length = utf8::sequenceLength(bytes);
         const std::string_view sequence = bytes.substr(0, std::max<std::size_t>(length, 1));
+        if (sequence == "/") componentIsMarked = false;
         // A name may really hold the marker, or the mapped characters: those have to survive as well.
         const bool plain = length > 0 && sequence != marker && !(marked && isMapped(sequence));
         if (plain) {
             name += sequence;
         } else {
-            if (!marked) name += marker;
-            marked = true;
+            if (!componentIsMarked) name += marker;
+            marked = componentIsMarked = true;
             for (const char byte : sequence)
                 appendMapped(name, static_cast<unsigned char>(byte));
         }
@@ -61,12 +63,15 @@ std::string decodeName(std::string_view stored)
 {
     std::string name;
     name.reserve(stored.size());
+    // Archives that this program made some time ago have one marker for all components from it on.
     bool marked = false;
+    bool componentIsMarked = false;
     while (!stored.empty()) {
         const std::string_view sequence =
             stored.substr(0, std::max<std::size_t>(utf8::sequenceLength(stored), 1));
-        if (!marked && sequence == marker)
-            marked = true;
+        if (sequence == "/") componentIsMarked = false;
+        if (!componentIsMarked && sequence == marker)
+            marked = componentIsMarked = true;
         else if (marked && isMapped(sequence))
             name += mappedByte(sequence);
         else

@@ -5,8 +5,8 @@
 
 namespace archiver {
 
-// RAR 5 stores names as UTF-8; a name on disk is any bytes. What is not UTF-8 follows a U+FFFE, each byte b
-// as U+E000 + b, as other archivers of the format do it.
+// RAR 5 stores names as UTF-8; a name on disk is any bytes. What is not UTF-8 follows a U+FFFE in its
+// component of the path, each byte b as U+E000 + b, as other archivers of the format do it.
 
 /// The form in an archive of a name (or path) on disk. decodeName() gives back exactly what went in, for any
 /// bytes.

@@ -23,8 +23,10 @@ EntryUnpacker::Result EntryUnpacker::unpack(ArchiveReader &reader, ContentSink &
                              " is encrypted by the archiver, which is not supported");
         return Result::Failed;
     }
-    if (!reader.entry().stored() && reader.entry().solid) return Result::NeedsDictionary;
-    const Result result = reader.entry().stored() ? unpackStored(reader, sink) : unpackBlocks(reader, sink);
+    const FileHeader &entry = reader.entry();
+    const bool isEmpty = entry.packedSize == 0 && entry.unpackedSize == 0 && !entry.continuesAfter;
+    if (!entry.stored() && !isEmpty && (entry.solid || entry.older)) return Result::NeedsDictionary;
+    const Result result = entry.stored() || isEmpty ? unpackStored(reader, sink) : unpackBlocks(reader, sink);
     return result == Result::Whole ? check(reader.entry()) : result;
 }
 

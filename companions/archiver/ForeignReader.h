@@ -1,45 +1,44 @@
 #pragma once
 
 #include "ContentSink.h"
-#include "Diagnostics.h"
+#include "JoinedEntries.h"
 
 #include <memory>
 #include <string>
-#include <vector>
 
 struct archive;
 
 namespace archiver {
 
-/// Unpacks what other archivers packed, through libarchive: the older format, and RAR 5 with a dictionary. It
-/// takes a missing volume or a cut archive for an ordinary end, so all sizes are compared here.
+/// Unpacks what other archivers packed, through libarchive: the older format's compression, and RAR 5 with a
+/// dictionary. libarchive takes a cut archive for an ordinary end, and some checksums for none, so all is
+/// compared here.
 class ForeignReader {
 public:
-    /// `paths`: all volumes, in order.
-    ForeignReader(std::vector<std::string> paths, Diagnostics &diagnostics);
-    ~ForeignReader();
-    ForeignReader(const ForeignReader &) = delete;
-    ForeignReader &operator=(const ForeignReader &) = delete;
+    /// `path`: the first volume.
+    ForeignReader(const std::string &path, Diagnostics &diagnostics);
 
-    enum class Step { Entry, End, Failed };
-    /// The next entry, which it describes in `header` as far as libarchive knows it. Failed has been
-    /// reported.
-    [[nodiscard]] Step next(FileHeader &header);
-    /// The content of that entry; `expected` tells its size and checksum. False has been reported.
-    [[nodiscard]] bool unpack(const FileHeader &expected, ContentSink &sink);
-    /// Goes on to entry `index`, counted from 0, and unpacks it. Indices have to rise. False has been
-    /// reported.
-    [[nodiscard]] bool unpackEntry(std::size_t index, const FileHeader &expected, ContentSink &sink);
+    /// Entries are counted from 0.
+    struct Place {
+        std::size_t dictionary; ///< the entry that it begins with
+        std::size_t entry;
+    };
+    /// The content of an entry, behind those before it; `name` is for messages. False has been reported.
+    [[nodiscard]] bool unpack(Place place, const std::string &name, ContentSink &sink);
+    /// Whether the archive has a fault that no walk through it gets past.
+    [[nodiscard]] bool failed() const { return m_entries.failed(); }
 
 private:
-    bool open();
-    bool failed(const std::string &name);
+    bool begin(std::size_t first);
+    bool goTo(std::size_t index);
+    bool unpackContent(const FileHeader &expected, ContentSink &sink);
+    bool cannotUnpack();
 
-    std::vector<std::string> m_paths;
     Diagnostics &m_diagnostics;
+    JoinedEntries m_entries;
     std::unique_ptr<archive, void (*)(archive *)> m_archive;
-    bool m_opened = false;
-    std::size_t m_next = 0; // index of the entry that next() will give
+    std::string m_name; ///< of the entry that is wanted, for messages
+    std::size_t m_first = 0;
 };
 
 } // namespace archiver

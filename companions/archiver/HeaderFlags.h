@@ -16,6 +16,7 @@ inline constexpr std::uint64_t continuesAfter = 0x10;
 namespace mainflag {
 inline constexpr std::uint64_t volume = 0x01;
 inline constexpr std::uint64_t number = 0x02;
+inline constexpr std::uint64_t solid = 0x04;
 } // namespace mainflag
 
 namespace fileflag {

@@ -37,7 +37,8 @@ std::optional<MainHeader> parseMainHeader(const HeaderFrame &frame)
     const std::uint64_t flags = reader.vint();
     MainHeader header;
     header.volume = flags & mainflag::volume;
-    if (flags & mainflag::number) header.volumeIndex = reader.vint();
+    header.volumeIndex = flags & mainflag::number ? reader.vint() : 0;
+    header.solid = flags & mainflag::solid;
     if (frame.type != HeaderType::Main || !reader.ok()) return std::nullopt;
     return header;
 }

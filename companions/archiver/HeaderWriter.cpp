@@ -9,16 +9,6 @@ namespace {
 constexpr std::size_t sizeWidth = 6;
 static_assert(largestSize >> 7 * sizeWidth == 0);
 
-/// Puts the checksum and the size before `body`, which begins with the type.
-void putFramed(ByteBuffer &into, const ByteBuffer &body)
-{
-    ByteBuffer checked;
-    putVint(checked, body.size());
-    putBytes(checked, body);
-    putU32(into, crc32(checked));
-    putBytes(into, checked);
-}
-
 void putRecord(ByteBuffer &into, const ByteBuffer &record)
 {
     putVint(into, record.size());
@@ -79,17 +69,24 @@ void putFileFields(ByteBuffer &body, const FileHeader &header)
 
 } // namespace
 
+void putFramed(ByteBuffer &into, const ByteBuffer &body)
+{
+    ByteBuffer checked;
+    putVint(checked, body.size());
+    putBytes(checked, body);
+    putU32(into, crc32(checked));
+    putBytes(into, checked);
+}
+
 void putMainHeader(ByteBuffer &into, const MainHeader &header)
 {
     ByteBuffer body;
     putVint(body, static_cast<std::uint64_t>(HeaderType::Main));
     putVint(body, 0);
-    if (header.volumeIndex > 0) {
-        putVint(body, mainflag::volume | mainflag::number);
-        putVint(body, header.volumeIndex);
-    } else {
-        putVint(body, header.volume ? mainflag::volume : 0);
-    }
+    const std::uint64_t index = header.volumeIndex.value_or(0);
+    putVint(body, (header.volume ? mainflag::volume : 0) | (index > 0 ? mainflag::number : 0) |
+                      (header.solid ? mainflag::solid : 0));
+    if (index > 0) putVint(body, index);
     putFramed(into, body);
 }
 

@@ -13,7 +13,7 @@
 namespace archiver {
 
 inline constexpr std::array<std::uint8_t, 8> signature{0x52, 0x61, 0x72, 0x21, 0x1A, 0x07, 0x01, 0x00};
-/// Of the format before it, which only the foreign reader knows; one byte shorter.
+/// Of the format before it, RAR 3 and 4; one byte shorter.
 inline constexpr std::array<std::uint8_t, 7> oldSignature{0x52, 0x61, 0x72, 0x21, 0x1A, 0x07, 0x00};
 
 inline constexpr std::size_t largestHeader = 2u << 20; ///< bytes after the size field
@@ -39,7 +39,9 @@ struct HeaderFrame {
 
 struct MainHeader {
     bool volume = false;
-    std::uint64_t volumeIndex = 0; ///< 0 for the first
+    std::optional<std::uint64_t> volumeIndex{}; ///< 0 for the first; none where it is not told
+    bool solid = false;
+    bool encrypted = false; ///< so are all headers behind it
 };
 
 [[nodiscard]] std::optional<MainHeader> parseMainHeader(const HeaderFrame &frame);
@@ -78,9 +80,10 @@ struct FileHeader {
     std::optional<Timestamp> modified;
     std::optional<std::uint32_t>
         crc;                 ///< of the unpacked file; with continuesAfter, of this part's packed bytes
-    unsigned version = 0;    ///< of the compression; above 0 there are dictionaries of other sizes
+    bool older = false;      ///< of the format before: other compression, and a link's target is its content
+    unsigned version = 0;    ///< of the compression; in RAR 5 above 0 there are dictionaries of other sizes
     unsigned method = 0;     ///< 0 stored, 1 to 5 packed
-    unsigned dictionary = 0; ///< 128 KiB << dictionary
+    unsigned dictionary = 0; ///< 128 KiB << dictionary; in the older format 64 KiB
     bool solid = false;
     bool encrypted = false;
     std::optional<LinkTarget> link;
@@ -90,11 +93,33 @@ struct FileHeader {
 
 [[nodiscard]] std::optional<FileHeader> parseFileHeader(const HeaderFrame &frame);
 
+/// A header: checksum and size before `body`, which begins with the type.
+void putFramed(ByteBuffer &into, const ByteBuffer &body);
 void putMainHeader(ByteBuffer &into, const MainHeader &header);
 /// The same length for the same name, link and time, whatever the sizes (up to largestSize), flags and
 /// checksum: a header can be replaced when its data is behind it. A file has a checksum always, 0 as long as
 /// none is known.
 void putFileHeader(ByteBuffer &into, const FileHeader &header);
 void putEndHeader(ByteBuffer &into, bool moreVolumes);
+
+/// How one of the two formats writes its headers; the functions are as those above.
+struct HeaderFormat {
+    Bytes signature;
+    std::optional<std::size_t> (*length)(Bytes start);
+    std::optional<HeaderFrame> (*frame)(Bytes header);
+    std::optional<MainHeader> (*mainHeader)(const HeaderFrame &frame);
+    std::optional<FileHeader> (*fileHeader)(const HeaderFrame &frame);
+    std::optional<bool> (*endHeader)(const HeaderFrame &frame);
+    void (*putMain)(ByteBuffer &into, const MainHeader &header);
+    void (*putFile)(ByteBuffer &into, const FileHeader &header);
+    void (*putEnd)(ByteBuffer &into, bool moreVolumes);
+};
+
+inline constexpr HeaderFormat presentFormat{signature,       headerLength,    parseFrame,
+                                            parseMainHeader, parseFileHeader, parseEndHeader,
+                                            putMainHeader,   putFileHeader,   putEndHeader};
+/// RAR 3 and 4. It writes names as they are, one with a zero byte as the two halves of a wide one, no links
+/// and no times.
+extern const HeaderFormat olderFormat;
 
 } // namespace archiver

@@ -23,8 +23,6 @@ public:
     explicit VolumeFiles(std::string firstPath) : m_paths{std::move(firstPath)} {}
     std::unique_ptr<ByteSource> open(std::size_t index) override;
     [[nodiscard]] std::string name(std::size_t index) const override;
-    /// The paths of the volumes opened so far.
-    [[nodiscard]] const std::vector<std::string> &paths() const { return m_paths; }
 
 private:
     mutable std::vector<std::string> m_paths;

@@ -2,6 +2,7 @@
 
 #include "extract/Explanation.h"
 #include "extract/ExtractArguments.h"
+#include "extract/UsualRights.h"
 #include "files/Names.h"
 #include "files/Room.h"
 #include "files/Sizes.h"
@@ -252,7 +253,10 @@ void ArchiveExtraction::unpackInner()
     const QStringList entries = m_innerIsArchive ? entriesOf(inner) : QStringList();
     const QString folder = folderForContents(entries);
     ToolResult result = checkInput(inner);
-    if (result.isSilent()) result = runStage(m_order.archiver, extractArguments::unpackInner(inner, folder));
+    if (result.isSilent()) {
+        const UsualRights rights;
+        result = runStage(m_order.archiver, extractArguments::unpackInner(inner, folder));
+    }
     // Now and then a wrong password decrypts to rubbish, without a word, and some archivers say nothing about
     // rubbish.
     if (result.isSilent() && !m_innerIsArchive) result.output = u"\"%1\" is no archive"_qs.arg(inner);

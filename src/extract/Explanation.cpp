@@ -9,7 +9,7 @@ using Kind = FailedStage::Kind;
 using Place = FailedStage::Place;
 
 /// Below this many free bytes a disk counts as full.
-constexpr qint64 nextToNothing = 64 * 1024;
+constexpr qint64 nextToNothing = qint64(64) * 1024;
 
 QString nameOf(const QString &path) { return quillorentLibrary::lastPathComponent(path); }
 
@@ -142,6 +142,11 @@ QString explainInner(const FailedStage &stage)
                      u"File exists", u"Directory not empty"}))
         return u"A name in \"%1\" is taken by something else in \"%2\": %3. Rename that, or extract "
                "into an empty folder."_qs.arg(name, stage.folder, stage.tool.firstLine());
+    // The stock archiver leaves out links to absolute paths, and takes no argument of ours for otherwise.
+    if (says(stage, {u"symbolic link", u"symlink"}))
+        return u"The archiver left out a link of \"%1\": %2. It makes none that lead to an absolute path or "
+               "out of the folder. Quillorent's own archiver does: choose it on the Tools tab, and extract "
+               "again."_qs.arg(name, stage.tool.firstLine());
     return explainArchive(stage);
 }
 
@@ -164,7 +169,7 @@ QString explainByStage(const FailedStage &stage)
 
 QString explain(const FailedStage &stage)
 {
-    if (const QString text = explainByTool(stage); !text.isEmpty()) return text;
-    if (const QString text = explainByFolder(stage); !text.isEmpty()) return text;
+    if (QString text = explainByTool(stage); !text.isEmpty()) return text;
+    if (QString text = explainByFolder(stage); !text.isEmpty()) return text;
     return explainByStage(stage);
 }

@@ -60,8 +60,8 @@ void lookAtVolumes(const ExtractItem &item, Findings &findings)
     const QString missing = volumes ? whatIsMissing(*volumes) : QString();
     if (!missing.isEmpty())
         findings.addConcern(
-            u"The set of \"%1\" seems incomplete: %2. Put all its volumes into one folder."_qs.arg(
-                lastPathComponent(item.archive), missing));
+            u"The set of \"%1\" seems incomplete or mixed: %2. Put all its volumes, and no others, into one "
+            "folder."_qs.arg(lastPathComponent(item.archive), missing));
 }
 
 void lookAtKey(const ExtractOrder &order, Findings &findings)

@@ -4,6 +4,7 @@
 
 #include <QRegularExpression>
 #include <set>
+#include <sys/stat.h>
 
 namespace fs = std::filesystem;
 
@@ -50,6 +51,12 @@ protected:
 
     const Credentials keys = makeCredentials(folder, "anna");
 };
+
+/// As the tests were started.
+const mode_t usual = [] {
+    const mode_t mask = umask(0);
+    return umask(mask), mask;
+}();
 
 void damage(const fs::path &path)
 {
@@ -229,22 +236,21 @@ TEST_F(ExtractEngine, EachCauseReadsDifferently)
         EXPECT_EQ(summary().find("Failed: "), 0U) << summary();
         EXPECT_FALSE(fs::exists(extracted(folder / "docs")));
     }
-    // A tool that says nothing lets the later stages run, but nobody is told that all is well.
-    for (const auto &[reason, script] :
-         {std::pair{"unRAR 1st: the tool ended with status 1", rar + "; [ $1 != e ]"},
-          {"unRAR 2nd: the tool ended with status 1", "[ $1 = x ] && exit 1; exec " + rar},
-          {"DECODE: the tool ended with status 1", realOpenSsl.toStdString() + " \"$@\"; exit 1"}}) {
-        SCOPED_TRACE(reason);
-        startAnew(out);
-        writeFile(archive, whole);
-        ExtractOrder order = extractOrder({archive});
-        (reason[0] == 'D' ? order.decoder : order.archiver) = writeScript(folder / "silent", script);
-        run(std::move(order));
-        EXPECT_EQ(monitor->console, QString());
-        EXPECT_EQ(monitor->state.foldersDone(), 1);
-        EXPECT_EQ(monitor->record.outcome, Outcome::Failed);
-        EXPECT_NE(summary().find(reason), std::string::npos) << summary();
-    }
+}
+
+// The stock archiver makes empty folders as the process's mask has it.
+TEST_F(ExtractEngine, WhatComesBackHasTheUsersOwnRights)
+{
+    backUp({sample("docs")});
+    const mode_t before = umask(077);
+    ExtractOrder order = extractOrder({archives / "docs.rar.aes.rar"});
+    order.archiver = writeScript(folder / "making", realRar.toStdString() + " \"$@\"; mkdir -p " +
+                                                        (out / "made").string() + "-$1");
+    run(std::move(order));
+    umask(before);
+    EXPECT_EQ(fs::status(out / "made-x").permissions(), fs::perms(0777 & ~usual));
+    EXPECT_EQ(fs::status(out / "made-e").permissions(), fs::perms(0700))
+        << "what is between is for no one else";
 }
 
 TEST_F(ExtractEngine, ADamagedArchiveKeepsTheOthersBack)
@@ -262,7 +268,8 @@ TEST_F(ExtractEngine, ADamagedArchiveKeepsTheOthersBack)
              {"A volume is missing", u"may not be the last"_qs, [](auto &set) { fs::remove(set[3]); }},
              {"A volume is missing", u"volume 3 is missing"_qs, [](auto &set) { fs::remove(set[2]); }},
              {"is cut short", {}, [](auto &set) { fs::resize_file(set[3], 5000); }},
-             {"is cut short", u"volume 2 is shorter"_qs, [](auto &set) { fs::resize_file(set[1], 5000); }},
+             {"is cut short", u"from volume 3 on are leftovers"_qs,
+              [](auto &set) { fs::resize_file(set[1], 5000); }},
              {"is damaged", {}, [](auto &set) { damage(set[1]); }},
          }) {
         SCOPED_TRACE(reason + concern.toStdString());

@@ -1,85 +1,227 @@
-#include "ForeignReader.h"
-
-#include "ContentSink.h"
+#include "ArchiveProcessor.h"
 #include "HuffmanEncoder.h"
 #include "Rar.h"
 
+#include <algorithm>
+#include <functional>
+#include <map>
+
+using namespace archiver;
 namespace fs = std::filesystem;
-using archiver::ForeignReader;
 
 namespace {
 
-/// A packed file. One that says it shares the dictionary of the one before can only be unpacked by the
-/// foreign reader.
-HandmadeEntry packedFile(const std::string &name, const std::string &content, bool sharesDictionary)
-{
-    archiver::HuffmanEncoder encoder;
-    const archiver::Bytes packed = encoder.encode(bytesOf(content), true);
-    HandmadeEntry entry = storedFile(name, content);
-    entry.data.assign(packed.begin(), packed.end());
-    entry.header.packedSize = packed.size();
-    entry.header.method = archiver::HuffmanEncoder::method;
-    entry.header.dictionary = archiver::HuffmanEncoder::dictionary;
-    entry.header.solid = sharesDictionary;
-    return entry;
-}
-
-struct Collected final : archiver::ContentSink {
+/// What comes out of an archive: contents by name, links with an arrow, and what is said.
+struct Unpacked final : EntryReceiver, ContentSink {
+    std::map<std::string, std::string> entries;
+    std::string messages;
     std::string content;
-    bool write(archiver::Bytes bytes) override
+
+    void folder(const FileHeader &header) override { entries[header.name + "/"]; }
+    void link(const FileHeader &header) override { entries[header.name] = "-> " + header.link->path; }
+    ContentSink *beginFile(const FileHeader &) override { return content.clear(), this; }
+    void finishFile(const FileHeader &header) override { entries[header.name] = content; }
+    void abandonFile() override {}
+    bool write(Bytes bytes) override
     {
         content.append(bytes.begin(), bytes.end());
         return true;
     }
 };
 
-using ForeignReaderTest = ArchiverTest;
+class ForeignArchive : public ArchiverTest {
+protected:
+    Unpacked unpack(const std::vector<std::string> &volumes)
+    {
+        for (std::size_t index = 0; index < volumes.size(); ++index)
+            writeFile(temporary / ("set.part" + std::to_string(index + 1) + ".rar"), volumes[index]);
+        fs::remove(temporary / ("set.part" + std::to_string(volumes.size() + 1) + ".rar"));
+        Unpacked unpacked;
+        Diagnostics diagnostics(unpacked.messages);
+        processArchive(temporary / "set.part1.rar", unpacked, diagnostics);
+        return unpacked;
+    }
+};
+
+/// Packed in blocks of that many bytes. What says that it shares the dictionary of the entry before is
+/// nothing that the own reader unpacks.
+HandmadeEntry packedFile(const std::string &name, const std::string &content, bool sharesDictionary,
+                         std::size_t block = HuffmanEncoder::blockInput)
+{
+    HuffmanEncoder encoder;
+    HandmadeEntry entry = storedFile(name, content);
+    entry.data.clear();
+    for (std::size_t at = 0; at < content.size(); at += block) {
+        const Bytes packed = encoder.encode(bytesOf(content.substr(at, block)), at + block >= content.size());
+        entry.data.append(packed.begin(), packed.end());
+    }
+    entry.header.packedSize = entry.data.size();
+    entry.header.method = HuffmanEncoder::method;
+    entry.header.dictionary = HuffmanEncoder::dictionary;
+    entry.header.solid = sharesDictionary;
+    return entry;
+}
+
+/// Packed in the older format, each byte but 255 as a code of eight bits that is the byte itself.
+HandmadeEntry olderPackedFile(const std::string &name, const std::string &content)
+{
+    std::string tables(46, '\0');
+    for (const int bit :
+         {37,  40,  80,  337, 339, 341, 342, 344, 347, 348, 350,
+          351, 353, 356, 357, 359, 360, 362, 365, 366}) // lengths of codes: 8 for 255 literals, 9 for the
+                                                        // last and for the end
+        tables[std::size_t(bit) / 8] = static_cast<char>(tables[std::size_t(bit) / 8] | 0x80 >> bit % 8);
+    HandmadeEntry entry = storedFile(name, content);
+    entry.data = tables + content + std::string("\xFF\x80\0\0\0\0", 6);
+    entry.header.packedSize = entry.data.size();
+    entry.header.method = 3;
+    entry.header.version = 29;
+    return entry;
+}
+
+/// An archive with `record` in the extra area of the header at `at`, which had none.
+std::string withRecord(const std::string &bytes, std::size_t at, const ByteBuffer &record)
+{
+    const std::size_t length = *headerLength(bytesOf(bytes.substr(at)));
+    const std::string header = bytes.substr(at, length);
+    const HeaderFrame frame = *parseFrame(bytesOf(header));
+    ByteBuffer body{static_cast<std::uint8_t>(frame.type), static_cast<std::uint8_t>(frame.flags | 1)};
+    putVint(body, record.size() + 1);
+    if (frame.flags & 2) putVint(body, frame.dataSize);
+    putBytes(body, frame.fields);
+    putVint(body, record.size());
+    putBytes(body, record);
+    ByteBuffer made;
+    putFramed(made, body);
+    return bytes.substr(0, at) + std::string(made.begin(), made.end()) + bytes.substr(at + length);
+}
 
 } // namespace
 
-TEST_F(ForeignReaderTest, unpacksWhatTheOwnReaderLeavesToIt)
+TEST_F(ForeignArchive, thatIsValidComesBack)
 {
-    const std::string content = base64Text(100'000);
     const std::string text = base64Text(5000);
-    std::vector<HandmadeEntry> entries = {packedFile("before", text, false), linkEntry("link", "before"),
-                                          packedFile("middle", content, true), storedFile("after", "2")};
-    writeFile(archive, handmadeArchive(entries, true));
-    EXPECT_EQ(rar({"t", "-idq", archive}).errors, "");
-    EXPECT_EQ(rar({"x", "-idq", archive, out}).errors, "");
-    EXPECT_TRUE(readFile(out / "before") == text);
-    EXPECT_TRUE(readFile(out / "middle") == content);
-    EXPECT_EQ(readFile(out / "after"), "2");
-
-    entries[2].data[5000] ^= 4;
-    writeFile(archive, handmadeArchive(entries, true));
-    const CommandResult result = rar({"x", "-o+", "-idq", archive, temporary / "second"});
-    EXPECT_TRUE(failure(result).starts_with("\nmiddle: ")) << result.errors;
-    EXPECT_FALSE(fs::exists(temporary / "second/middle"));
-    EXPECT_EQ(readFile(temporary / "second/after"), "2");
+    const std::string more = base64Text(100'000);
+    HandmadeEntry empty = packedFile("empty", "", true);
+    const std::string solid = handmadeArchive(
+        {packedFile("before", text, false), storedFile("stored", ""), empty, linkEntry("link", "before"),
+         packedFile("middle", more, true), packedFile("after", text + "x", true), storedFile("last", "2"),
+         packedFile("alone", text, false), packedFile("end", more, true)},
+        presentFormat, {.solid = true});
+    const std::map<std::string, std::string> expected = {
+        {"before", text},      {"stored", ""}, {"empty", ""},   {"link", "-> before"}, {"middle", more},
+        {"after", text + "x"}, {"last", "2"},  {"alone", text}, {"end", more}};
+    const std::size_t mainAt = signature.size();
+    const std::size_t fileAt = mainAt + *headerLength(bytesOf(solid.substr(mainAt)));
+    const ByteBuffer archiveName{2, 1, 5, 'a', '.', 'r', 'a', 'r'};
+    ByteBuffer times{3, 0x1D}; // changed, accessed, nanoseconds, no last change
+    for (std::uint32_t time = 1; time <= 4; ++time)
+        putU32(times, time);
+    ByteBuffer windowsTimes{3, 0x0E};
+    for (std::uint64_t time = 1; time <= 3; ++time)
+        putU64(windowsTimes, 0x01D0'0000'0000'0000 + time);
+    for (const std::string &bytes :
+         {solid, withRecord(solid, mainAt, archiveName), withRecord(solid, fileAt, times),
+          withRecord(solid, fileAt, windowsTimes)}) {
+        const Unpacked unpacked = unpack({bytes});
+        EXPECT_EQ(unpacked.messages, "");
+        EXPECT_TRUE(unpacked.entries == expected);
+    }
 }
 
-TEST_F(ForeignReaderTest, describesEntriesAndNoticesTheEndOfASet)
+TEST_F(ForeignArchive, isReadWhereverItsVolumesEnd)
 {
-    const std::string content = base64Text(60'000);
-    writeFile(temporary / "file", content);
-    ASSERT_EQ(packFile(archive, temporary / "file", "-v10").errors, "");
-    const std::vector<fs::path> volumes = volumesOf(archive);
-    std::vector<std::string> paths(volumes.begin(), volumes.end());
+    constexpr std::size_t block = 2000;
+    const std::string content = base64Text(3 * block);
+    const HandmadeEntry first = packedFile("first", content.substr(0, block), false);
+    const HandmadeEntry entry = packedFile("file", content, true, block);
+    const std::size_t header = packedFile("", content.substr(0, block), true, block).data.size();
+    for (std::size_t cut = header - 3; cut < header + 9; ++cut) {
+        const Unpacked unpacked = unpack(handmadeSet({first, entry}, {cut, 2 * cut}, presentFormat));
+        EXPECT_EQ(unpacked.messages, "") << cut - header;
+        EXPECT_TRUE(unpacked.entries.contains("file") && unpacked.entries.at("file") == content);
+    }
+}
 
-    const auto read = [&paths](std::string &messages) {
-        archiver::Diagnostics diagnostics(messages);
-        ForeignReader reader(paths, diagnostics);
-        archiver::FileHeader header;
-        Collected collected;
-        const bool whole = reader.next(header) == ForeignReader::Step::Entry &&
-                           reader.unpack(header, collected) &&
-                           header.unpackedSize == collected.content.size() &&
-                           reader.next(header) == ForeignReader::Step::End;
-        return std::pair(whole ? header.name : "", collected.content);
-    };
-    std::string messages;
-    EXPECT_TRUE(read(messages) == std::pair(std::string("file"), content)) << messages;
-    paths.pop_back();
-    EXPECT_EQ(read(messages).first, "");
-    EXPECT_NE(messages, "");
+TEST_F(ForeignArchive, thatIsBrokenIsSaidToBeOnceAndKeptBack)
+{
+    using Volumes = std::vector<std::string>;
+    const std::string text = base64Text(6000);
+    const Volumes others = handmadeSet({storedFile("other", text)}, {700, 1900}, presentFormat);
+    const std::vector<std::pair<std::string, std::function<void(Volumes &)>>> cases = {
+        {"Cannot find volume #3.rar", [](auto &set) { set.pop_back(); }},
+        {"Unexpected end of archive #2.rar", [](auto &set) { set[1].resize(500); }},
+        {"file: packed data checksum error in volume #2.rar", [](auto &set) { set[1][500] ^= 1; }},
+        {"#2.rar is not a RAR archive", [](auto &set) { set[1].clear(); }},
+        {"#2.rar is volume 3 of a set, where volume 2 was expected", [](auto &set) { set[1] = set[2]; }},
+        {"#1.rar is not the first volume: start with the first one", [](auto &set) { set[0] = set[1]; }},
+        {"#2.rar does not continue file: it belongs to another set", [&](auto &set) { set[1] = others[1]; }}};
+    for (const HandmadeEntry &entry : {storedFile("file", text), packedFile("file", text, true)})
+        for (auto [message, spoil] : cases) {
+            Volumes set = handmadeSet({packedFile("first", text, false), entry}, {700, 1900}, presentFormat);
+            spoil(set);
+            const Unpacked unpacked = unpack(set);
+            message.replace(message.find('#'), 1, temporary / "set.part");
+            EXPECT_NE(unpacked.messages.find(message), std::string::npos) << unpacked.messages;
+            EXPECT_EQ(std::ranges::count(unpacked.messages, '\n'), 2) << unpacked.messages;
+            EXPECT_FALSE(unpacked.entries.contains("file"));
+        }
+}
+
+TEST_F(ForeignArchive, ofTheOlderFormatIsReadAndChecked)
+{
+    const std::string text = base64Text(900);
+    HandmadeEntry link = storedFile("folder\\link", "../target");
+    link.header.mode = 0120777;
+    const std::string wide("caf???\\z\0\x01\x01"
+                           "caf\xE9\xAC\x3D\xD8\0\xDE\0",
+                           21);
+    const std::map<std::string, std::string> expected = {
+        {"folder/", ""},         {"folder/stored", text}, {"folder/link", "-> ../target"},
+        {"packed", text + text}, {"a\u0308", "NFD"},      {"\u00E4", "NFC"},
+        {"b\xE4", "latin"},      {"empty", ""},           {"caf\u01E9\U0001F600/z", "wide"}};
+    const std::vector<HandmadeEntry> entries = {storedFile("folder\\stored", text),
+                                                link,
+                                                folderEntry("folder"),
+                                                olderPackedFile("packed", text + text),
+                                                storedFile("a\u0308", "NFD"),
+                                                storedFile("\u00E4", "NFC"),
+                                                storedFile("b\xE4", "latin"),
+                                                storedFile("empty", ""),
+                                                storedFile(wide, "wide")};
+    Unpacked unpacked = unpack({handmadeArchive(entries, olderFormat)});
+    EXPECT_EQ(unpacked.messages, "");
+    EXPECT_TRUE(unpacked.entries == expected);
+    for (const HandmadeEntry &entry : {storedFile("file", text), olderPackedFile("file", text)})
+        for (const std::size_t cut : {1u, 100u, 400u}) {
+            unpacked = unpack(handmadeSet({entry}, {cut, 2 * cut}, olderFormat));
+            EXPECT_EQ(unpacked.messages, "");
+            EXPECT_TRUE(unpacked.entries["file"] == text);
+        }
+
+    // A file that is damaged takes no other with it.
+    HandmadeEntry damaged = storedFile("file", text);
+    damaged.data[500] ^= 2;
+    for (const HeaderFormat &format : {presentFormat, olderFormat}) {
+        unpacked = unpack({handmadeArchive({damaged, storedFile("whole", "x")}, format)});
+        EXPECT_EQ(unpacked.messages, "\nfile: checksum error\n");
+        EXPECT_TRUE(unpacked.entries.size() == 1 && unpacked.entries.contains("whole"));
+    }
+    for (HandmadeEntry entry : {storedFile("file", text), olderPackedFile("file", text)}) {
+        entry.header.encrypted = true;
+        unpacked = unpack({handmadeArchive({entry, storedFile("clear", "x")}, olderFormat)});
+        EXPECT_EQ(unpacked.messages, "\nfile is encrypted by the archiver, which is not supported\n");
+        EXPECT_EQ(unpacked.entries, (std::map<std::string, std::string>{{"clear", "x"}}));
+        entry.header.encrypted = false;
+        entry.header.version = entry.header.stored() ? 29 : 20;
+        unpacked = unpack({handmadeArchive({entry}, olderFormat)});
+        EXPECT_EQ(unpacked.messages.find("only the archiver that made it") != std::string::npos,
+                  !entry.header.stored());
+        entry.header.version = 29;
+        entry.data[500] ^= 2;
+        unpacked = unpack({handmadeArchive({entry}, olderFormat)});
+        EXPECT_TRUE(unpacked.messages.starts_with("\nfile: ") && unpacked.entries.empty());
+    }
+    EXPECT_TRUE(unpack({handmadeArchive({}, olderFormat, {.encrypted = true})})
+                    .messages.ends_with("part1.rar is encrypted by the archiver, which is not supported\n"));
 }

@@ -127,19 +127,6 @@ TEST_F(Killed, whatWaitsUnderItsNamesIsNeitherOpenedNorLost)
     }
 }
 
-TEST_F(Killed, aSetOfMoreVolumesThanMayBeOpenIsWritten)
-{
-    const std::string content = randomBytes(100'000);
-    writeFile(temporary / "file", content);
-    fs::create_directory(folder);
-    EXPECT_EQ(runCommand({"sh", "-c", "ulimit -n 40; exec \"$@\"", "sh", QUILLORENT_RAR, "a", "-m0", "-t",
-                          "-v1", "-ep", archive, temporary / "file"})
-                  .errors,
-              "");
-    EXPECT_TRUE(unpacked() == content);
-    EXPECT_EQ(entriesIn(folder), volumesOf(archive).size());
-}
-
 TEST_F(Killed, byASignalItLeavesNothingUnfinishedOrTheNextRunRemovesIt)
 {
     writeFile(temporary / "small", "");

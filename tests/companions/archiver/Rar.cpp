@@ -109,20 +109,39 @@ HandmadeEntry folderEntry(const std::string &name, unsigned mode)
     return entry;
 }
 
-std::string handmadeArchive(const std::vector<HandmadeEntry> &entries, bool solid)
+std::string handmadeArchive(const std::vector<HandmadeEntry> &entries, const archiver::HeaderFormat &format,
+                            const archiver::MainHeader &main)
 {
-    archiver::ByteBuffer bytes(archiver::signature.begin(), archiver::signature.end());
-    if (solid) {
-        const archiver::ByteBuffer checked{3, 1, 0, 4}; // size, type, header's flags, archive's flags
-        archiver::putU32(bytes, archiver::crc32(checked));
-        archiver::putBytes(bytes, checked);
-    } else {
-        archiver::putMainHeader(bytes, {});
-    }
+    archiver::ByteBuffer bytes(format.signature.begin(), format.signature.end());
+    format.putMain(bytes, main);
     for (const HandmadeEntry &entry : entries) {
-        archiver::putFileHeader(bytes, entry.header);
+        format.putFile(bytes, entry.header);
         archiver::putText(bytes, entry.data);
     }
-    archiver::putEndHeader(bytes, false);
+    format.putEnd(bytes, main.volume && !entries.empty() && entries.back().header.continuesAfter);
     return {bytes.begin(), bytes.end()};
+}
+
+std::vector<std::string> handmadeSet(const std::vector<HandmadeEntry> &entries,
+                                     const std::vector<std::size_t> &cuts,
+                                     const archiver::HeaderFormat &format)
+{
+    std::vector<std::string> volumes;
+    std::vector<HandmadeEntry> present = entries;
+    std::size_t start = 0;
+    for (std::size_t index = 0; index <= cuts.size(); ++index) {
+        HandmadeEntry &part = present.back();
+        part = entries.back();
+        const bool isLast = index == cuts.size();
+        const std::size_t end = isLast ? part.data.size() : cuts[index];
+        part.data = part.data.substr(start, end - start);
+        part.header.packedSize = part.data.size();
+        part.header.continuesBefore = index > 0;
+        part.header.continuesAfter = !isLast;
+        if (!isLast) part.header.crc = archiver::crc32(bytesOf(part.data));
+        volumes.push_back(handmadeArchive(present, format, {.volume = true, .volumeIndex = index}));
+        present = {part};
+        start = end;
+    }
+    return volumes;
 }

@@ -42,8 +42,13 @@ HandmadeEntry storedFile(const std::string &name, const std::string &content);
 HandmadeEntry linkEntry(const std::string &name, const std::string &target,
                         archiver::LinkTarget::Kind kind = archiver::LinkTarget::Kind::Symbolic);
 HandmadeEntry folderEntry(const std::string &name, unsigned mode = 0755);
-/// `solid`: it says that entries may share a dictionary.
-std::string handmadeArchive(const std::vector<HandmadeEntry> &entries, bool solid = false);
+std::string handmadeArchive(const std::vector<HandmadeEntry> &entries,
+                            const archiver::HeaderFormat &format = archiver::presentFormat,
+                            const archiver::MainHeader &main = {});
+/// The volumes of a set that ends with the last entry's data, which is cut at these places.
+std::vector<std::string> handmadeSet(const std::vector<HandmadeEntry> &entries,
+                                     const std::vector<std::size_t> &cuts,
+                                     const archiver::HeaderFormat &format);
 
 archiver::Bytes bytesOf(const std::string &text);
 
