@@ -7,6 +7,7 @@
 #include "headless/Password.h"
 #include "headless/Print.h"
 #include "headless/ProgressLine.h"
+#include "keys/SecretRules.h"
 
 #include <QEventLoop>
 #include <QTimer>
@@ -105,6 +106,10 @@ bool supplyPassword(QuillorentAppDelegate &delegate, const QString &file)
         file.isEmpty() ? askForPassword(u"Password for the archives: "_qs) : readPassword(file);
     if (!input.reason.isEmpty()) printError(input.reason);
     if (!input.password) return input.reason.isEmpty();
+    if (const QString refusal = whyBadPassword(*input.password); !refusal.isEmpty()) {
+        printError(refusal);
+        return false;
+    }
 
     delegate.passCombo01.selectIndex(PasswordTab::TypedPassword);
     delegate.secureText01a.setText(*input.password);

@@ -29,7 +29,19 @@ protected:
         click(u"folderButton01"_qs);
         click(u"fileButton01"_qs);
         showTab(u"passwordsPage"_qs);
-        QTest::keyClicks(&widget(u"secureText01a"_qs), u"correct horse"_qs);
+        type(u"correct horse"_qs, u"correct horse"_qs);
+    }
+
+    void type(const QString &password, const QString &repetition)
+    {
+        showTab(u"passwordsPage"_qs);
+        for (const auto &[name, text] :
+             {std::pair{u"secureText01a"_qs, password}, {u"secureText02"_qs, repetition}}) {
+            widget<QLineEdit>(name).selectAll();
+            QTest::keyClick(&widget(name), Qt::Key_Delete);
+            QTest::keyClicks(&widget(name), text);
+        }
+        settle();
         showTab(u"foldersPage"_qs);
     }
 
@@ -75,6 +87,28 @@ TEST_F(BackupTest, AWholeBackupByClicks)
     });
     waitForEnd();
     EXPECT_EQ(archives(), volumes);
+
+    // A mistyped password is asked about before anything is replaced.
+    const auto concern = [&](const QString &launch) {
+        QString said;
+        clickAndAnswer(launch, u"concernsPanel01"_qs, [&] {
+            said = widget<ui::TextArea>(u"concernsText01"_qs).text();
+            QTest::keyClick(&widget(u"concernsPanel01"_qs), Qt::Key_Escape);
+        });
+        waitForEnd();
+        return said;
+    };
+    type(u"correct house"_qs, u"correct house"_qs);
+    EXPECT_TRUE(concern(u"buttonLaunch01"_qs).contains(u"does not open with this password"));
+    EXPECT_EQ(archives(), volumes);
+    for (const QString &volume : volumes)
+        QFile::remove(program.path("archives/" + volume.toStdString()));
+    type(u"correct horse"_qs, u"correct house"_qs);
+    showTab(u"passwordsPage"_qs);
+    EXPECT_TRUE(widget(u"repetitionHint"_qs).isVisible());
+    showTab(u"foldersPage"_qs);
+    EXPECT_TRUE(concern(u"buttonLaunch01"_qs).contains(u"differ"));
+    EXPECT_EQ(archives(), QStringList());
 }
 
 TEST_F(BackupTest, ManyConcernsStayOnTheScreen)
