@@ -110,7 +110,16 @@ TEST(Run, BringsBackWhatItBackedUp)
         home.run({"backup", "Mine", "--password-file", "-", "--yes"}, "from a file\n");
     EXPECT_EQ(typed.status, 0) << typed.errors;
 
-    writeFile(home / "password", std::string("from a file\0x", 13)); // the tools never saw more than this
+    for (const std::string &bad :
+         {std::string("from a file\0x", 13), std::string(), std::string(1024, 'x')}) {
+        writeFile(home / "password", bad);
+        const CommandResult refused = home.extract({home.text("archives")});
+        EXPECT_EQ(refused.status, 2) << refused.errors;
+        EXPECT_TRUE(contains(refused.errors, "assword")) << refused.errors;
+    }
+    writeFile(home / "password", "from a mile");
+    EXPECT_TRUE(contains(home.backUp({}).errors, "does not open with this password"));
+    writeFile(home / "password", "from a file");
     const CommandResult extracted = home.extract({home.text("archives")}, {"--to", home.text("out")});
     EXPECT_EQ(extracted.status, 0) << extracted.errors;
     EXPECT_TRUE(contains(extracted.errors, "Extracted 1 of 1 into \"" + home.text("out")))

@@ -1,6 +1,5 @@
 // The desktop's keychain, in the states that a desktop brings it into, and the items on top of it.
 
-#include "Command.h"
 #include "SecretService.h"
 #include "keychain/EMGenericKeychainItem.h"
 #include "keychain/EMInternetKeychainItem.h"
@@ -310,24 +309,4 @@ TEST_F(KeychainTest, DoesNotWaitForAServiceThatIsSilent)
         keychain()->giveUp();
     EXPECT_EQ(asked.get(), Status::Cancelled);
     session.thaw();
-}
-
-TEST_F(KeychainTest, SharesItsPasswordsWithOtherPrograms)
-{
-    const auto remote = addInternet(u"exämple.org"_qs, u"/files"_qs, 2121, keychainProtocol::ftp);
-    ASSERT_TRUE(remote);
-    remote->setLabel(u"Our files"_qs);
-    const CommandResult shown = runCommand({"secret-tool", "search", "--all", "server", "exämple.org"});
-    for (const char *line :
-         {"label = Our files\n", "secret = of exämple.org\n", "attribute.account = alice\n",
-          "attribute.path = /files\n", "attribute.port = 2121\n", "attribute.protocol = ftp\n"})
-        EXPECT_NE((shown.output + shown.errors).find(line), std::string::npos) << line;
-
-    for (const auto &[account, password, read] :
-         {std::tuple{"bob", "pw", u"it is pw"_qs}, {"carol", "\xff\xfe", u"none"_qs}}) { // that are no text
-        const std::vector<std::string> command{"secret-tool", "store",   "--label=mine", "service",
-                                               "service",     "account", account};
-        ASSERT_EQ(runCommand(command, {.input = password}).status, 0);
-        EXPECT_EQ(stored(QString::fromLatin1(account), u"service"_qs), read);
-    }
 }

@@ -88,26 +88,16 @@ TEST_F(BackupTest, AWholeBackupByClicks)
     waitForEnd();
     EXPECT_EQ(archives(), volumes);
 
-    // A mistyped password is asked about before anything is replaced.
-    const auto concern = [&](const QString &launch) {
-        QString said;
-        clickAndAnswer(launch, u"concernsPanel01"_qs, [&] {
-            said = widget<ui::TextArea>(u"concernsText01"_qs).text();
-            QTest::keyClick(&widget(u"concernsPanel01"_qs), Qt::Key_Escape);
-        });
-        waitForEnd();
-        return said;
-    };
-    type(u"correct house"_qs, u"correct house"_qs);
-    EXPECT_TRUE(concern(u"buttonLaunch01"_qs).contains(u"does not open with this password"));
-    EXPECT_EQ(archives(), volumes);
+    // One that is mistyped, too, where nothing is there to try it on.
     for (const QString &volume : volumes)
         QFile::remove(program.path("archives/" + volume.toStdString()));
     type(u"correct horse"_qs, u"correct house"_qs);
-    showTab(u"passwordsPage"_qs);
-    EXPECT_TRUE(widget(u"repetitionHint"_qs).isVisible());
-    showTab(u"foldersPage"_qs);
-    EXPECT_TRUE(concern(u"buttonLaunch01"_qs).contains(u"differ"));
+    EXPECT_FALSE(widget(u"repetitionHint"_qs).isHidden());
+    clickAndAnswer(u"buttonLaunch01"_qs, u"concernsPanel01"_qs, [this] {
+        EXPECT_TRUE(widget<ui::TextArea>(u"concernsText01"_qs).text().contains(u"differ"));
+        QTest::keyClick(&widget(u"concernsPanel01"_qs), Qt::Key_Escape);
+    });
+    waitForEnd();
     EXPECT_EQ(archives(), QStringList());
 }
 
