@@ -132,6 +132,15 @@ TEST_F(BackupStart, AwaitsTheKeychain)
     expectSuccess();
 
     fs::remove(program.folder() / "archives/docs.rar.aes.rar");
+    fetchFromKeychain(u"anna"_qs);
+    delegate.keychainUser.setText(u"nobody"_qs);
+    delegate.buttonLaunch01b();
+    ASSERT_TRUE(TestProgram::waitUntil(
+        [&] { return delegate.concernsPanel01.place() != outlets::Panel::Place::Hidden; }));
+    EXPECT_TRUE(delegate.concernsText01.text().contains(u"of the account \"anna\""));
+    delegate.concernsPanel01Stop();
+    program.waitForEnd();
+
     fetchFromKeychain(u"nobody"_qs);
     delegate.buttonLaunch01b();
     program.waitForEnd();
