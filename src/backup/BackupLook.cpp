@@ -110,7 +110,7 @@ void lookForMeetings(const BackupOrder &order, Findings &findings)
 QString canonical(const QString &path)
 {
     const QFileInfo file(path);
-    const QString there = file.canonicalFilePath();
+    QString there = file.canonicalFilePath();
     if (!there.isEmpty()) return there;
     const QString folder = QFileInfo(file.path()).canonicalFilePath();
     return folder.isEmpty() ? quillorentLibrary::standardizePath(path)

@@ -10,9 +10,9 @@
 
 namespace {
 
-constexpr qsizetype longestPassword = 1023; // bytes; the tool's buffer
-constexpr qint64 largestFile = 1024 * 1024; // a certificate has some kilobytes
-constexpr int shortestKey = 2048;           // bits
+constexpr qsizetype longestPassword = 1023;         // bytes; the tool's buffer
+constexpr qint64 largestFile = qint64{1024} * 1024; // a certificate has some kilobytes
+constexpr int shortestKey = 2048;                   // bits
 
 struct FreeBio {
     void operator()(BIO *bio) const { BIO_free(bio); }

@@ -75,9 +75,11 @@ TEST_F(BackupStart, NothingReachesARunThatHasBegun)
     const QString profile = delegate.currentProfile();
     for (const auto &[isFetched, tool] : {std::pair{false, realRar}, {true, realOpenSsl}}) {
         SCOPED_TRACE(tool.toStdString());
-        for (const fs::path &path : {here, go, out})
+        // Where an archive is, the encoder runs before the run has begun.
+        for (const fs::path &path : {here, go, out, program.folder() / "archives"})
             fs::remove_all(path);
-        fs::create_directories(out);
+        for (const fs::path &path : {out, program.folder() / "archives"})
+            fs::create_directories(path);
         delegate.setterCurrentProfile(profile);
         delegate.currentRecord().array(u"folders"_qs).clear();
         program.setUpBackup(sources);

@@ -18,7 +18,7 @@ QString noArchives(const QuillorentAppDelegate &delegate)
 QString whyNoPassword(const QuillorentAppDelegate &delegate)
 {
     QString password = delegate.passwordSelector();
-    const QString refusal =
+    QString refusal =
         password.isEmpty()
             ? u"No password is given. Type one on the Passwords tab; without a password nothing "
               "is extracted."_qs
