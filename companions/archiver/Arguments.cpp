@@ -17,6 +17,7 @@ std::optional<Arguments::Command> commandNamed(std::string_view text)
     if (text == "e") return Arguments::Command::ExtractFlat;
     if (text == "x") return Arguments::Command::ExtractPaths;
     if (text == "lb") return Arguments::Command::ListNames;
+    if (text == "p") return Arguments::Command::Print;
     return std::nullopt;
 }
 
@@ -108,6 +109,7 @@ rar t [SWITCH...] ARCHIVE              test an archive
 rar e [SWITCH...] ARCHIVE [FOLDER]     extract all files into one folder
 rar x [SWITCH...] ARCHIVE [FOLDER]     extract with full paths
 rar lb [SWITCH...] ARCHIVE             list the names of all entries
+rar p [SWITCH...] ARCHIVE              print what the files hold
 
   -ep     leave the paths out of the names
   -idq    print nothing but errors (always so)

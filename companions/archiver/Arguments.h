@@ -10,7 +10,7 @@
 namespace archiver {
 
 struct Arguments {
-    enum class Command { Add, Test, ExtractFlat, ExtractPaths, ListNames };
+    enum class Command { Add, Test, ExtractFlat, ExtractPaths, ListNames, Print };
     Command command = Command::Test;
     std::string archive;
     std::vector<std::string> names; ///< sources to add, or the destination (none: the working folder)

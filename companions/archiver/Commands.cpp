@@ -4,8 +4,12 @@
 #include "ArchiveWriter.h"
 #include "EntryLister.h"
 #include "Extractor.h"
+#include "FileDescriptor.h"
 #include "Interrupt.h"
 #include "TreeWalker.h"
+
+#include <algorithm>
+#include <unistd.h>
 
 namespace archiver {
 
@@ -37,6 +41,41 @@ public:
 private:
     ArchiveWriter &m_writer;
     const OutputVolumes &m_output;
+};
+
+/// Prints the content of files, as it comes: what is wrong with it shows at its end.
+class EntryPrinter final : public EntryReceiver, public ContentSink {
+public:
+    explicit EntryPrinter(Diagnostics &diagnostics) : m_diagnostics(diagnostics) {}
+
+    void folder(const FileHeader &) override {}
+    void link(const FileHeader &) override {}
+    /// What comes once again is not printed again.
+    ContentSink *beginFile(const FileHeader &header) override
+    {
+        if (header.name != m_name) m_printed = 0;
+        m_name = header.name;
+        m_seen = 0;
+        return this;
+    }
+    void finishFile(const FileHeader &) override { m_name.clear(); }
+    void abandonFile() override {}
+    bool write(Bytes bytes) override
+    {
+        m_seen += bytes.size();
+        if (m_seen <= m_printed) return true;
+        const Bytes fresh = bytes.last(std::min<std::uint64_t>(bytes.size(), m_seen - m_printed));
+        m_printed = m_seen;
+        if (base::writeFully(STDOUT_FILENO, fresh)) return true;
+        m_diagnostics.reportSystem("Cannot print the content");
+        return false;
+    }
+
+private:
+    Diagnostics &m_diagnostics;
+    std::string m_name;          ///< of the file under way; empty: it came to its end
+    std::uint64_t m_seen = 0;    ///< of its bytes, in this attempt
+    std::uint64_t m_printed = 0; ///< of its bytes, in all
 };
 
 void test(VolumeSource &volumes, Diagnostics &diagnostics)
@@ -101,6 +140,10 @@ void runCommand(const Arguments &arguments, Diagnostics &diagnostics)
         return extract(arguments, diagnostics);
     case Arguments::Command::ListNames:
         return list(arguments.archive, diagnostics);
+    case Arguments::Command::Print: {
+        EntryPrinter printer(diagnostics);
+        return processArchive(arguments.archive, printer, diagnostics);
+    }
     }
 }
 

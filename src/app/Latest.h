@@ -16,6 +16,13 @@ public:
     /// Makes all void that runs.
     void drop() { static_cast<void>(begin()); }
 
+    /// Whether no newer one has begun by now.
+    [[nodiscard]] bool isNewest(int request)
+    {
+        const std::lock_guard lock(m_mutex);
+        return request == m_newest;
+    }
+
     /// Calls `effect` unless a newer request has begun, and lets none begin meanwhile.
     template <class Effect>
     void apply(int request, Effect effect)

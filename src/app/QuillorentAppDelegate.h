@@ -69,6 +69,9 @@ public:
     /// On: a synchronisation that deletes shows first what. Off: it is a concern like others. Set before it
     /// starts.
     bool previewsDeletions = true;
+    /// On: whoever types a password types it twice, the second time into `secureText02`. Set before it is
+    /// asked for.
+    bool asksTwice = false;
     Guarded<bool> compliance;           ///< every registered tool is the right one
     Guarded<int> compliant;             ///< how many are
     Guarded<int> compliantBase;         ///< how many are registered
@@ -176,8 +179,9 @@ public:
     void passCombo01Action();
     void checkBox01Action();
     void checkBox02Action();
-    void passButton01Action(); ///< fetch the password from the keychain
-    void passButton02Action(); ///< store it there
+    void passButton01Action();  ///< fetch the password from the keychain
+    void passButton02Action();  ///< store it there
+    void keychainFieldEdited(); ///< what was typed over it is no account's password any more
     void keychainUnlock01Action();
     void certButton01Action(); ///< choose the certificate
     void certButton01ActionEnd();
@@ -185,7 +189,7 @@ public:
     void pkButton01ActionEnd();
     void certInfo01();   ///< show the certificate in the console
     void certInfo02();   ///< show the private key in the console
-    void describeKeys(); ///< tell of the chosen certificate, and of a key that is missing
+    void describeKeys(); ///< tell of the chosen certificate, and of a key that is missing or does not belong
 
     // Tools
     void selectFile();
@@ -233,12 +237,17 @@ private:
                                   outlets::Panel &sheet); ///< or says why not, in its place
     void showProfile(const QString &name);
 
-    [[nodiscard]] outlets::TextField &shownKeychainField();
+    /// Keeps the path of a certificate or a key that was found good in the record that it was chosen for.
+    void keepChoice(const plist::Dictionary &record, const QString &key, outlets::TextField &field,
+                    const QString &path);
+    [[nodiscard]] outlets::SecretField &shownKeychainField();
     template <class Ask>
     void askKeychain(Ask ask);
     void forgetKeychainAnswers();
 
     Latest m_keychainRequests;
+    Latest m_certificateChoices;
+    Latest m_keyChoices;
     Latest m_keyDescriptions;
     std::atomic<bool> m_goesOn = false; ///< the answer to the question that was asked last
     Guarded<SyncOrder> m_previewedOrder;

@@ -28,3 +28,12 @@ QStringList backupArguments::secondPass(const QString &keepDate, const QString &
     return {u"a"_qs,  u"-m5"_qs, u"-o+"_qs, u"-t"_qs, u"-idq"_qs,
             keepDate, split,     u"-ep"_qs, archive,  encrypted};
 }
+
+QStringList backupArguments::printContent(const QString &archive) { return {u"p"_qs, u"-idq"_qs, archive}; }
+
+// The padding is at the end of the file, which a piece does not have.
+QStringList backupArguments::decryptPiece(const QString &cipher, const QString &piece,
+                                          const QString &password)
+{
+    return {cipher, u"-d"_qs, u"-a"_qs, u"-nopad"_qs, u"-in"_qs, piece, u"-pass"_qs, u"pass:"_qs + password};
+}

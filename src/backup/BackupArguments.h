@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-/// The argument lists of the three tool runs that make a backup.
+/// The argument lists of the three tool runs that make a backup, and of the two that try a password.
 namespace backupArguments {
 
 /// The archiver stores `source` in `archive`, uncompressed: links as links, folders with all below them,
@@ -22,5 +22,11 @@ namespace backupArguments {
 /// size in thousands of bytes, or "".
 [[nodiscard]] QStringList secondPass(const QString &keepDate, const QString &split, const QString &archive,
                                      const QString &encrypted);
+
+/// The archiver prints what the file in `archive` holds; of a set, that is the first volume.
+[[nodiscard]] QStringList printContent(const QString &archive);
+
+/// The encoder decrypts a piece of an encrypted file, in base64, and prints it.
+[[nodiscard]] QStringList decryptPiece(const QString &cipher, const QString &piece, const QString &password);
 
 } // namespace backupArguments

@@ -1,5 +1,7 @@
 #include "backup/BackupLook.h"
 
+#include "backup/PasswordTrial.h"
+
 #include "files/ArchiveFiles.h"
 #include "files/Names.h"
 #include "files/Paths.h"
@@ -108,7 +110,7 @@ void lookForMeetings(const BackupOrder &order, Findings &findings)
 QString canonical(const QString &path)
 {
     const QFileInfo file(path);
-    const QString there = file.canonicalFilePath();
+    QString there = file.canonicalFilePath();
     if (!there.isEmpty()) return there;
     const QString folder = QFileInfo(file.path()).canonicalFilePath();
     return folder.isEmpty() ? quillorentLibrary::standardizePath(path)
@@ -171,6 +173,28 @@ void lookForFormerArchives(const BackupOrder &order, Findings &findings)
     else if (!quillorentLibrary::holdsNothing(order.destination))
         findings.overwrites =
             u"The destination \"%1\" is not empty. Other files stay as they are."_qs.arg(order.destination);
+}
+
+/// A mistyped password is a lost backup: archives that are there tell whether it is mistyped, or else who
+/// typed it twice.
+void lookAtPassword(const BackupOrder &order, Findings &findings)
+{
+    if (order.byCertificate) return;
+    const PasswordTrial trial = tryPassword(order);
+    if (trial.verdict == PasswordTrial::Verdict::Opens) return;
+    if (trial.verdict == PasswordTrial::Verdict::Wrong)
+        findings.addConcern(u"\"%1\" does not open with this password: it is not the password of the "
+                            "archives there, or this one is damaged. If it is mistyped, stop and correct it. "
+                            "If you go on, the new archives open with this password only."_qs.arg(
+                                lastPathComponent(trial.archive)));
+    if (!order.repetition || order.repetition->bytes() == order.password.bytes()) return;
+    findings.addConcern(
+        order.repetition->bytes().isEmpty()
+            ? u"The password was typed only once, and nothing tells whether it is mistyped. Type it again, "
+              u"in "
+              "the second field on the Passwords tab: nobody can open what a mistyped password encrypts."_qs
+            : u"The password and its repetition differ: one of them is mistyped. Type both again on the "
+              "Passwords tab: nobody can open what a mistyped password encrypts."_qs);
 }
 
 void lookAtSource(const BackupOrder &order, const BackupItem &item, Findings &findings)
@@ -237,6 +261,7 @@ void lookAtDisk(BackupOrder &order, Findings &findings, const std::function<bool
     }
     lookForRepetitions(order, findings);
     lookForFormerArchives(order, findings);
+    if (goesOn()) lookAtPassword(order, findings);
     findings.addConcern(concernAboutRecords());
     lookForRoom(order, findings, goesOn);
 }

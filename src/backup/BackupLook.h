@@ -8,6 +8,7 @@
 
 /// Looks at the order and at the disk before anything is written. Takes hold of the destination, ends what
 /// runs that were killed left half done there, and measures the items, which takes long where they are large;
-/// gives up once `goesOn` says no. Runs no tool, unless the archive of a killed run is to be tested.
+/// gives up once `goesOn` says no. Runs tools only where archives are there: to test that of a killed run,
+/// and to try the password on one.
 [[nodiscard]] Findings lookAtBackup(BackupOrder &order, FolderLock &lock,
                                     const std::function<bool()> &goesOn);

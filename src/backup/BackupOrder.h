@@ -33,6 +33,8 @@ struct BackupOrder {
     bool byCertificate = false;
     QString certificate{};
     Secret password{}; ///< empty where it is by certificate
+    /// What was typed the second time; none where nobody was asked to.
+    std::optional<Secret> repetition{};
 
     QString keepDate{};          ///< the archiver's argument, or ""
     QString split{};             ///< the same

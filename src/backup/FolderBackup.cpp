@@ -99,12 +99,13 @@ void FolderBackup::encrypt()
     if (result.isSilent()) result = checkInput(m_paths.stored);
     if (result.isSilent()) {
         QString password = m_order.password.text();
-        result =
-            runStage(m_order.encoder, m_order.byCertificate
-                                          ? backupArguments::encryptByCertificate(
-                                                m_paths.stored, m_paths.encrypted, m_order.certificate)
-                                          : backupArguments::encryptByPassword(m_order.cipher, m_paths.stored,
-                                                                               m_paths.encrypted, password));
+        QStringList arguments = m_order.byCertificate
+                                    ? backupArguments::encryptByCertificate(m_paths.stored, m_paths.encrypted,
+                                                                            m_order.certificate)
+                                    : backupArguments::encryptByPassword(m_order.cipher, m_paths.stored,
+                                                                         m_paths.encrypted, password);
+        result = runStage(m_order.encoder, arguments);
+        wipe(arguments);
         wipe(password);
     }
     m_isEncrypted = judgeStage(u"Encoder"_qs, result, m_paths.encrypted);

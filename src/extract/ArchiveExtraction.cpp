@@ -222,9 +222,10 @@ ToolResult ArchiveExtraction::runDecoder()
         return runStage(m_order.decoder, extractArguments::decryptByCertificate(
                                              paths.encrypted, paths.inner, m_order.key, m_order.certificate));
     QString password = m_order.password.text();
-    ToolResult result =
-        runStage(m_order.decoder,
-                 extractArguments::decryptByPassword(m_command, paths.encrypted, paths.inner, password));
+    QStringList arguments =
+        extractArguments::decryptByPassword(m_command, paths.encrypted, paths.inner, password);
+    ToolResult result = runStage(m_order.decoder, arguments);
+    wipe(arguments);
     wipe(password);
     return result;
 }

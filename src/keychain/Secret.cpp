@@ -25,6 +25,13 @@ Secret Secret::fromText(const QString &text)
     return secret;
 }
 
+Secret Secret::fromText(QString &&text)
+{
+    Secret secret = fromText(std::as_const(text));
+    wipe(text);
+    return secret;
+}
+
 QString Secret::text() const
 {
     if (!bytes().isValidUtf8()) return {};
@@ -44,6 +51,21 @@ void Secret::wipeBytes()
 void wipe(QString &text)
 {
     // A literal's characters count as shared.
-    if (text.isDetached()) explicit_bzero(text.data(), static_cast<std::size_t>(text.size()) * sizeof(QChar));
+    if (text.isDetached()) wipeInPlace(text);
     text = QString();
+}
+
+void wipe(QStringList &texts)
+{
+    for (QString &text : texts)
+        wipe(text);
+    texts.clear();
+}
+
+void wipeInPlace(const QString &text)
+{
+    // What was removed from an end lies beside it still. A text without room of its own is a literal.
+    const auto size = static_cast<std::size_t>(text.capacity()) * sizeof(QChar);
+    if (size)
+        explicit_bzero(const_cast<QChar *>(text.constData()) - text.data_ptr().freeSpaceAtBegin(), size);
 }

@@ -1,5 +1,6 @@
 #include "keys/CertificateSummary.h"
 
+#include "keys/SecretRules.h"
 #include "tools/RegisteredTool.h"
 
 #include <QLocale>
@@ -35,6 +36,7 @@ std::optional<CertificateSummary> quillorentLibrary::readCertificateSummary(cons
                         u"-subject"_qs, u"-nameopt"_qs, u"RFC2253,-esc_msb,utf8"_qs, u"-dates"_qs});
     const QStringList lines = result.text().split(u'\n');
     CertificateSummary summary{.subject = lineAfter(lines, u"subject="_qs),
+                               .key = judgeCertificate(certificate).key,
                                .notBefore = readDate(lineAfter(lines, u"notBefore="_qs)),
                                .notAfter = readDate(lineAfter(lines, u"notAfter="_qs))};
     if (!summary.notBefore.isValid() || !summary.notAfter.isValid()) return std::nullopt;
@@ -44,7 +46,8 @@ std::optional<CertificateSummary> quillorentLibrary::readCertificateSummary(cons
 QString quillorentLibrary::describeCertificate(const CertificateSummary &summary)
 {
     const QString subject = summary.subject.isEmpty() ? u"(no subject)"_qs : summary.subject;
-    return u"%1 – valid from %2 to %3"_qs.arg(subject, day(summary.notBefore), day(summary.notAfter));
+    const QString key = summary.key.isEmpty() ? QString() : u" – "_qs + summary.key;
+    return u"%1%2 – valid from %3 to %4"_qs.arg(subject, key, day(summary.notBefore), day(summary.notAfter));
 }
 
 QString quillorentLibrary::validityWarning(const CertificateSummary &summary, const QDateTime &now)

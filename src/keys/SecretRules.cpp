@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <cstring>
 #include <memory>
 #include <openssl/evp.h>
 #include <openssl/pem.h>
@@ -9,9 +10,9 @@
 
 namespace {
 
-constexpr qsizetype longestPassword = 1023; // bytes; the tool's buffer
-constexpr qint64 largestFile = 1024 * 1024; // a certificate has some kilobytes
-constexpr int shortestKey = 2048;           // bits
+constexpr qsizetype longestPassword = 1023;         // bytes; the tool's buffer
+constexpr qint64 largestFile = qint64{1024} * 1024; // a certificate has some kilobytes
+constexpr int shortestKey = 2048;                   // bits
 
 struct FreeBio {
     void operator()(BIO *bio) const { BIO_free(bio); }
@@ -25,6 +26,13 @@ std::unique_ptr<X509, FreeCertificate> readCertificate(const QByteArray &pem)
     const std::unique_ptr<BIO, FreeBio> bio(BIO_new_mem_buf(pem.constData(), int(pem.size())));
     return std::unique_ptr<X509, FreeCertificate>(
         PEM_read_bio_X509_AUX(bio.get(), nullptr, nullptr, nullptr));
+}
+
+QString describeKey(const EVP_PKEY *key)
+{
+    const char *kind = EVP_PKEY_get0_type_name(key);
+    return u"%1, %2 bits"_qs.arg(QString::fromLatin1(kind ? kind : "unknown kind"))
+        .arg(EVP_PKEY_get_bits(key));
 }
 
 QString refusal(const QString &path, const QString &reason)
@@ -44,7 +52,9 @@ QString whyBadPassword(const QString &password)
                "Use a password of ordinary characters, in UTF-8."_qs;
     if (password.contains(u'\n') || password.contains(u'\r'))
         return u"The password holds a line break, and all behind it would be lost. Use one of a single line."_qs;
-    if (password.toUtf8().size() > longestPassword)
+    QByteArray utf8 = password.toUtf8();
+    explicit_bzero(utf8.data(), static_cast<std::size_t>(utf8.size()));
+    if (utf8.size() > longestPassword)
         return u"The password is longer than %1 bytes, and would be cut. Use a shorter one."_qs.arg(
             longestPassword);
     return {};
@@ -63,13 +73,15 @@ CertificateJudgement judgeCertificate(const QString &path)
                                               ? u"is a private key"_qs
                                               : u"is no certificate in PEM, the text form"_qs)};
     EVP_PKEY *key = X509_get0_pubkey(certificate.get());
+    const QString described = key ? describeKey(key) : QString();
     if (!key || EVP_PKEY_get_base_id(key) != EVP_PKEY_RSA)
-        return {.obstacle =
-                    refusal(path, u"has no RSA key, and nothing can be encrypted to another kind"_qs)};
+        return {.obstacle = refusal(path, u"has no RSA key, and nothing can be encrypted to another kind"_qs),
+                .key = described};
     const int bits = EVP_PKEY_get_bits(key);
-    if (bits >= shortestKey) return {};
+    if (bits >= shortestKey) return {.key = described};
     return {.concern =
                 u"The key of the certificate \"%1\" has %2 bits; less than %3 can be broken."_qs.arg(path)
                     .arg(bits)
-                    .arg(shortestKey)};
+                    .arg(shortestKey),
+            .key = described};
 }

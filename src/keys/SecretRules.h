@@ -10,5 +10,6 @@
 struct CertificateJudgement {
     QString obstacle{}; ///< S/MIME can't encrypt to it
     QString concern{};  ///< it can, and is better not used
+    QString key{};      ///< its kind and size, such as "RSA, 2048 bits"; empty where there is none
 };
 [[nodiscard]] CertificateJudgement judgeCertificate(const QString &path);

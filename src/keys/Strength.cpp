@@ -1,5 +1,6 @@
 #include "keys/Strength.h"
 
+#include <cstring>
 #include <zxcvbn.h>
 
 namespace {
@@ -17,8 +18,9 @@ constexpr double strongBits = 60;
 Strength estimateStrength(const QString &password)
 {
     if (password.isEmpty()) return Strength::None;
-    const QByteArray text = password.left(estimatedCharacters).toUtf8();
+    QByteArray text = QStringView(password).left(estimatedCharacters).toUtf8();
     const double bits = ZxcvbnMatch(text.constData(), nullptr, nullptr);
+    explicit_bzero(text.data(), static_cast<std::size_t>(text.size()));
     if (bits < fairBits) return Strength::Weak;
     return bits < strongBits ? Strength::Fair : Strength::Strong;
 }

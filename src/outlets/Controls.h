@@ -16,11 +16,29 @@ class TextField : public Outlet {
 public:
     using Outlet::Outlet;
 
-    [[nodiscard]] QString text() const { return read(m_text); }
-    void setText(const QString &text) { write(m_text, text); }
+    [[nodiscard]] virtual QString text() const { return read(m_text); }
+    virtual void setText(const QString &text) { write(m_text, text); }
 
 private:
     QString m_text;
+};
+
+/// A field for a password. It shares its characters with nobody, and overwrites them when it gets others and
+/// when it ends. Who asks for the text gets a copy, to be wiped.
+class SecretField : public TextField {
+public:
+    using TextField::TextField;
+    ~SecretField() override;
+
+    [[nodiscard]] QString text() const override;
+    void setText(const QString &text) override;
+    void setText(QString &&text); ///< the text is overwritten, unless it is shared
+
+    [[nodiscard]] bool isEmpty() const;
+    [[nodiscard]] bool holdsSameAs(const SecretField &other) const;
+
+private:
+    QString m_secret;
 };
 
 class CheckBox : public Outlet {

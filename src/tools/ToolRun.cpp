@@ -1,6 +1,6 @@
 #include "tools/ToolRun.h"
 
-#include <QByteArray>
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <condition_variable>
@@ -8,6 +8,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <fstream>
+#include <limits>
 #include <mutex>
 #include <spawn.h>
 #include <string>
@@ -33,17 +34,19 @@ public:
     [[nodiscard]] int writeEnd() const { return m_ends[1]; }
     void closeWriteEnd() { closeEnd(1); }
 
-    QByteArray readToEnd() const
+    /// To the end, or until there are `most` bytes.
+    [[nodiscard]] QByteArray readAtMost(qsizetype most) const
     {
         QByteArray bytes;
         std::array<char, 16384> buffer;
-        for (;;) {
+        while (bytes.size() < most) {
             const ssize_t count = read(m_ends[0], buffer.data(), buffer.size());
             if (count > 0)
                 bytes.append(buffer.data(), count);
             else if (count == 0 || errno != EINTR)
                 return bytes;
         }
+        return bytes;
     }
 
 private:
@@ -149,11 +152,18 @@ public:
         return status;
     }
 
+    /// Kills the tool with all that it started; it is still to be waited for.
+    void kill(pid_t child)
+    {
+        const std::lock_guard lock(m_mutex);
+        ::kill(-child, SIGKILL);
+    }
+
     void signalAll(int signal)
     {
         const std::lock_guard lock(m_mutex);
         for (const pid_t tool : m_tools)
-            kill(-tool, signal);
+            ::kill(-tool, signal);
     }
 
     void waitForNone(std::chrono::milliseconds atMost)
@@ -187,11 +197,46 @@ RunningTools &runningTools()
     return *tools;
 }
 
-ToolResult notStarted(const QString &tool, int error)
+QString whyNotStarted(const QString &tool, int error)
 {
     const QString reason = QString::fromLocal8Bit(std::strerror(error));
-    return {u"Can't start \"%1\": %2. Choose the tool's path on the Tools tab.\n"_qs.arg(tool, reason),
-            false};
+    return u"Can't start \"%1\": %2. Choose the tool's path on the Tools tab.\n"_qs.arg(tool, reason);
+}
+
+/// An argument ends at a zero byte, so a tool would get less than it is to have: part of a password, or of
+/// the name of a file. Empty where there is none. Arguments are in no message, for they may be secret.
+QString whyNoArguments(const QString &tool, const QStringList &arguments)
+{
+    const auto isCut = [](const QString &text) { return text.contains(QChar::Null); };
+    if (!isCut(tool) && std::none_of(arguments.begin(), arguments.end(), isCut)) return {};
+    return u"Can't start \"%1\": a name or a password for it holds a zero byte.\n"_qs.arg(
+        QString(tool).remove(QChar::Null));
+}
+
+/// What a tool wrote, and how it ended.
+struct RawResult {
+    QByteArray bytes{};
+    QString problem{}; ///< why it was not started; empty where it was
+    int waitStatus = 0;
+};
+
+RawResult runRaw(const QString &tool, const QStringList &arguments, int inherited, qsizetype most)
+{
+    if (const QString problem = whyNoArguments(tool, arguments); !problem.isEmpty())
+        return {.problem = problem};
+    OutputPipe pipe;
+    if (pipe.error()) return {.problem = whyNotStarted(tool, pipe.error())};
+
+    pid_t child = 0;
+    const int error =
+        runningTools().start(child, ArgumentVector(tool, arguments), pipe.writeEnd(), inherited);
+    if (error) return {.problem = whyNotStarted(tool, error)};
+
+    pipe.closeWriteEnd();
+    RawResult result{.bytes = pipe.readAtMost(most)};
+    if (result.bytes.size() >= most) runningTools().kill(child);
+    result.waitStatus = runningTools().waitFor(child);
+    return result;
 }
 
 /// Silence is how a tool reports success, and one that crashed or was killed is silent too: its end is put
@@ -208,21 +253,22 @@ QString describeEnd(const QString &tool, int status)
 
 ToolResult runTool(const QString &tool, const QStringList &arguments, int inherited)
 {
-    OutputPipe pipe;
-    if (pipe.error()) return notStarted(tool, pipe.error());
-
-    pid_t child = 0;
-    const int error =
-        runningTools().start(child, ArgumentVector(tool, arguments), pipe.writeEnd(), inherited);
-    if (error) return notStarted(tool, error);
-
-    pipe.closeWriteEnd();
-    QByteArray bytes = pipe.readToEnd();
-    const int status = runningTools().waitFor(child);
-    bytes += describeEnd(tool, status).toUtf8();
+    const RawResult raw = runRaw(tool, arguments, inherited, std::numeric_limits<qsizetype>::max());
+    if (!raw.problem.isEmpty()) return {raw.problem, false};
+    const int status = raw.waitStatus;
+    const QByteArray bytes = raw.bytes + describeEnd(tool, status).toUtf8();
     const int exitStatus = WIFEXITED(status) ? WEXITSTATUS(status) : 0;
     if (!bytes.isValidUtf8()) return {std::nullopt, true, exitStatus};
     return {QString::fromUtf8(bytes), true, exitStatus};
+}
+
+std::optional<QByteArray> firstBytesOf(const QString &tool, const QStringList &arguments, qsizetype most)
+{
+    const RawResult raw = runRaw(tool, arguments, -1, most);
+    const bool isCut = raw.bytes.size() >= most;
+    const bool isWell = WIFEXITED(raw.waitStatus) && WEXITSTATUS(raw.waitStatus) == 0;
+    if (!raw.problem.isEmpty() || !(isCut || isWell)) return std::nullopt;
+    return raw.bytes.first(std::min(most, raw.bytes.size()));
 }
 
 void endTools(std::chrono::milliseconds grace)

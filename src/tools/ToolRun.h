@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 #include <chrono>
@@ -28,8 +29,14 @@ struct ToolResult {
 
 /// Runs `tool` (an absolute path) to its end and blocks the calling thread. No shell takes part: each
 /// argument arrives as it is, empty ones too. The child has no controlling terminal, so that it can't stop
-/// for a prompt. It inherits the descriptor `inherited` as it is, unless that is -1.
+/// for a prompt. It inherits the descriptor `inherited` as it is, unless that is -1. An argument with a zero
+/// byte, of which the tool would get a part, keeps it from being started.
 [[nodiscard]] ToolResult runTool(const QString &tool, const QStringList &arguments, int inherited = -1);
+
+/// The same for a tool that prints bytes: at most the first `most` of them, and then the tool is killed. None
+/// where it could not be started, or ended by itself otherwise than well.
+[[nodiscard]] std::optional<QByteArray> firstBytesOf(const QString &tool, const QStringList &arguments,
+                                                     qsizetype most);
 
 /// Ends every tool that runs, with all that it started: asks first, and kills what is still there after
 /// `grace`. Blocks until then at the longest. Any thread may call.

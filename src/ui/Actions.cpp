@@ -116,6 +116,8 @@ constexpr ActionRow table[] = {
     {"checkBox02"_name, send<&Controller::checkBox02Action>},
     {"passButton01"_name, send<&Controller::passButton01Action>},
     {"passButton02"_name, send<&Controller::passButton02Action>},
+    {"keychainPass"_name, send<&Controller::keychainFieldEdited>},
+    {"keychainClear"_name, send<&Controller::keychainFieldEdited>},
     {"keychainUnlock01"_name, send<&Controller::keychainUnlock01Action>},
     {"certButton01"_name, send<&Controller::certButton01Action>},
     {"certInfoButton01"_name, send<&Controller::certInfo01>},

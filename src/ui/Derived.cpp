@@ -2,6 +2,8 @@
 
 #include "app/QuillorentAppDelegate.h"
 #include "app/synchronisation/SyncOrders.h"
+#include "keychain/Secret.h"
+#include "keys/SecretRules.h"
 #include "keys/Strength.h"
 #include "sync/SyncMeaning.h"
 #include "ui/Protection.h"
@@ -67,7 +69,7 @@ void showFolders(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
 {
     enableBySelection(queue, all.listTableView, *form.folderButton02);
     queue.watch({&all.passCombo01, &all.checkBox01, &all.secureText01a, &all.secureText01b, &all.keychainUser,
-                 &all.keychainPass, &all.keychainClear, &all.certFile01},
+                 &all.keychainPass, &all.keychainClear, &all.keychainOrigin, &all.certFile01},
                 [&] { form.protectionText->setText(protectionText(all)); });
     queue.watch(all.prefText01, [&] { form.volumeHint->setText(volumeHint(all.prefText01.text())); });
     queue.watch(all.checkBox04, [&] {
@@ -89,8 +91,16 @@ void showPasswords(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
     leadToShownField(queue, all.checkBox01, *form.typedLabel, *form.secureText01a, *form.secureText01b);
     leadToShownField(queue, all.checkBox02, *form.keychainLabel, *form.keychainPass, *form.keychainClear);
     queue.watch({&all.checkBox01, &all.secureText01a, &all.secureText01b}, [&] {
-        const outlets::TextField &typed = all.checkBox01.isOn() ? all.secureText01a : all.secureText01b;
-        form.strengthHint->setText(strengthHint(typed.text()));
+        QString typed = (all.checkBox01.isOn() ? all.secureText01a : all.secureText01b).text();
+        const QString refusal = typed.isEmpty() ? QString() : whyBadPassword(typed);
+        form.strengthHint->setText(refusal.isEmpty() ? strengthHint(typed) : refusal);
+        wipe(typed);
+    });
+    queue.watch({&all.checkBox01, &all.secureText01a, &all.secureText01b, &all.secureText02}, [&] {
+        const bool isHidden = all.checkBox01.isOn();
+        const outlets::SecretField &typed = isHidden ? all.secureText01a : all.secureText01b;
+        form.secureText02->setEchoMode(isHidden ? QLineEdit::Password : QLineEdit::Normal);
+        form.repetitionHint->setVisible(!all.secureText02.isEmpty() && !all.secureText02.holdsSameAs(typed));
     });
     queue.watch({&all.checkBox01, &all.checkBox02, &all.keychainPass, &all.keychainClear},
                 [&] { form.keychainConflict->setVisible(isKeychainFieldAmbiguous(all)); });

@@ -12,19 +12,22 @@ QString tr(const char *text) { return QCoreApplication::translate("Protection", 
 
 QString ofTypedPassword(const PasswordTab &tab)
 {
-    const outlets::TextField &field = tab.checkBox01.isOn() ? tab.secureText01a : tab.secureText01b;
-    return field.text().isEmpty() ? tr("Typed password – not entered yet") : tr("Typed password");
+    const outlets::SecretField &field = tab.checkBox01.isOn() ? tab.secureText01a : tab.secureText01b;
+    return field.isEmpty() ? tr("Typed password – not entered yet") : tr("Typed password");
 }
 
 QString ofKeychain(const PasswordTab &tab)
 {
     const QString account = tab.keychainUser.text();
-    const outlets::TextField &counting = tab.checkBox01.isOn() ? tab.keychainPass : tab.keychainClear;
+    const QString origin = tab.keychainOrigin.text();
+    const outlets::SecretField &counting = tab.checkBox01.isOn() ? tab.keychainPass : tab.keychainClear;
     if (isKeychainFieldAmbiguous(tab))
         return tr("Password from the keychain – please look at the Passwords tab");
-    if (account.isEmpty()) return tr("Password from the keychain – no account chosen yet");
-    return counting.text().isEmpty() ? tr("Password from the keychain – not fetched yet")
-                                     : tr("Password from the keychain, account %1").arg(account);
+    if (counting.isEmpty() && account.isEmpty())
+        return tr("Password from the keychain – no account chosen yet");
+    if (counting.isEmpty()) return tr("Password from the keychain – not fetched yet");
+    return origin.isEmpty() ? tr("Password typed for the keychain – not stored in it")
+                            : tr("Password from the keychain, account %1").arg(origin);
 }
 
 QString ofCertificate(const PasswordTab &tab)
@@ -38,8 +41,7 @@ QString ofCertificate(const PasswordTab &tab)
 
 bool isKeychainFieldAmbiguous(const PasswordTab &tab)
 {
-    return tab.checkBox01.isOn() != tab.checkBox02.isOn() &&
-           tab.keychainPass.text() != tab.keychainClear.text();
+    return tab.checkBox01.isOn() != tab.checkBox02.isOn() && !tab.keychainPass.holdsSameAs(tab.keychainClear);
 }
 
 QString protectionText(const PasswordTab &tab)

@@ -1,5 +1,6 @@
 #include "ui/Ties.h"
 
+#include "keychain/Secret.h"
 #include "outlets/Controls.h"
 #include "outlets/Panel.h"
 #include "outlets/Progress.h"
@@ -9,6 +10,7 @@
 #include "ui/LevelBar.h"
 #include "ui/OutletTableView.h"
 #include "ui/PanelDialog.h"
+#include "ui/SecretEdit.h"
 #include "ui/Spinner.h"
 #include "ui/StepperButtons.h"
 #include "ui/TextArea.h"
@@ -40,6 +42,17 @@ void connectWidget(RefreshQueue &queue, outlets::TextField &field, QLineEdit &ed
         if (!edit.isReadOnly()) return;
         edit.setCursorPosition(0);
         edit.setToolTip(plainToolTip(field.text()));
+    });
+    QObject::connect(&edit, &QLineEdit::textEdited, &edit,
+                     [&field](const QString &text) { field.setText(text); });
+}
+
+void connectWidget(RefreshQueue &queue, outlets::SecretField &field, SecretEdit &edit)
+{
+    queue.watch(field, [&field, &edit] {
+        QString text = field.text();
+        if (!edit.holds(text)) edit.setSecret(std::move(text));
+        wipe(text);
     });
     QObject::connect(&edit, &QLineEdit::textEdited, &edit,
                      [&field](const QString &text) { field.setText(text); });
@@ -206,6 +219,8 @@ bool tieAs(RefreshQueue &queue, outlets::Outlet &outlet, QWidget &widget)
 bool tie(RefreshQueue &queue, outlets::Outlet &outlet, QWidget &widget)
 {
     using namespace outlets;
+    // A password in any other widget would leave copies.
+    if (dynamic_cast<SecretField *>(&outlet)) return tieAs<SecretField, SecretEdit>(queue, outlet, widget);
     return tieAs<TextField, QLineEdit>(queue, outlet, widget) ||
            tieAs<TextField, QLabel>(queue, outlet, widget) ||
            tieAs<TextField, TextArea>(queue, outlet, widget) ||

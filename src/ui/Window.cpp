@@ -52,6 +52,7 @@ Window::Window(QuillorentAppDelegate &controller)
     controller.openPanel = [this](const outlets::OpenPanel &panel) { return askForPaths(panel, this); };
     controller.openAddress = [](const QString &address) { QDesktopServices::openUrl(QUrl(address)); };
     controller.showsUpdates = true;
+    controller.asksTwice = true;
 }
 
 Window::~Window()
@@ -59,6 +60,7 @@ Window::~Window()
     m_controller.openPanel = [](const outlets::OpenPanel &) { return std::nullopt; };
     m_controller.openAddress = [](const QString &) {};
     m_controller.showsUpdates = false;
+    m_controller.asksTwice = false;
 }
 
 QList<QWidget *> Window::roots() { return QList<QWidget *>{this} + m_panels->all(); }

@@ -113,6 +113,55 @@ TEST_F(BackupFindings, TellWhatIsWrongAndWhatToDo)
     }
 }
 
+// Of each kind of archive, whole and in volumes; "" where nothing is found but what will be replaced.
+TEST_F(BackupFindings, TellAMistypedPassword)
+{
+    writeFile(docs / "file", randomBytes(5'000));
+    const auto lookWith = [&](const QString &cipher, const QString &extension, const QString &password,
+                              const std::optional<QString> &repetition) {
+        return look([&](BackupOrder &o) {
+            o.cipher = cipher;
+            o.items = {backupItem(text(docs), o.destination, u"docs"_qs, u".rar"_qs, extension)};
+            o.asksBeforeReplacing = false;
+            o.password = Secret::fromText(password);
+            if (repetition) o.repetition = Secret::fromText(*repetition);
+        });
+    };
+    const QString right = u"correct horse"_qs;
+    for (const auto &[cipher, extension, volume] : {std::tuple{u"aes-256-cbc"_qs, u".aes"_qs, 0},
+                                                    {u"bf-cbc"_qs, u".bf"_qs, 0},
+                                                    {u"des-ede3-cbc"_qs, u".3d"_qs, 2},
+                                                    {u"aes-256-cbc"_qs, u".aes"_qs, 1}}) {
+        SCOPED_TRACE(cipher.toStdString() + " " + std::to_string(volume));
+        fs::remove_all(archives);
+        fs::create_directories(archives);
+        EXPECT_EQ(lookWith(cipher, extension, right, {}), QString());
+        EXPECT_EQ(lookWith(cipher, extension, right, right), QString());
+        EXPECT_TRUE(lookWith(cipher, extension, right, u""_qs).contains(u"only once"));
+        EXPECT_TRUE(lookWith(cipher, extension, right, u"correct house"_qs).contains(u"differ"));
+
+        BackupOrder order = backupOrder({docs}, volume);
+        order.cipher = cipher;
+        order.items = {backupItem(text(docs), order.destination, u"docs"_qs, u".rar"_qs, extension)};
+        run(std::move(order));
+        expectSuccess();
+        EXPECT_EQ(lookWith(cipher, extension, right, u""_qs), QString());
+        for (const auto &repetition : {std::optional<QString>(), std::optional(u"correct house"_qs)}) {
+            const QString found = lookWith(cipher, extension, u"correct house"_qs, repetition);
+            EXPECT_TRUE(found.startsWith(u"\"docs.rar"_qs + extension) &&
+                        found.contains(u"does not open with this"))
+                << qPrintable(found);
+            EXPECT_FALSE(found.contains(u'\n')) << "one thing is wrong";
+        }
+    }
+    // Where none can be tried, nothing is claimed of it.
+    const QString first = text(archives / "docs.rar.aes.part1.rar");
+    ASSERT_TRUE(QFile::exists(first)) << namesIn(archives);
+    QFile::remove(first);
+    EXPECT_EQ(lookWith(u"aes-256-cbc"_qs, u".aes"_qs, u"correct house"_qs, {}), QString());
+    EXPECT_TRUE(lookWith(u"aes-256-cbc"_qs, u".aes"_qs, right, u""_qs).contains(u"only once"));
+}
+
 TEST_F(BackupFindings, KeepRunsApart)
 {
     // A tool that is left running holds the folder, though its program does not any more.

@@ -1,7 +1,9 @@
 #include "EngineRun.h"
+#include "SecretService.h"
 #include "TestProgram.h"
 
 #include "app/folders/Decisions.h"
+#include "keychain/EMGenericKeychainItem.h"
 #include "keychain/Keychain.h"
 #include "runs/Run.h"
 #include "tools/ToolRun.h"
@@ -13,34 +15,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Answers when it is told to, and holds one password.
-class SlowKeychain : public Keychain {
-public:
-    std::atomic<bool> answers = false;
-    std::atomic<bool> knows = true;
-
-    KeychainAnswer findGenericPassword(const GenericPasswordKey &) override
-    {
-        while (!answers)
-            std::this_thread::sleep_for(std::chrono::milliseconds(1));
-        if (!knows) return {KeychainStatus::ItemNotFound};
-        return {KeychainStatus::Success, std::make_shared<KeychainItemReference>(),
-                Secret::fromText(u"correct horse"_qs)};
-    }
-    KeychainAnswer findInternetPassword(const InternetPasswordKey &) override { return {}; }
-    KeychainAnswer addGenericPassword(const GenericPasswordKey &, Secret) override { return {}; }
-    KeychainAnswer addInternetPassword(const InternetPasswordKey &, Secret) override { return {}; }
-    KeychainStatus modifyAttributesAndData(const KeychainItemHandle &, const QList<KeychainAttribute> &,
-                                           std::optional<Secret>) override
-    {
-        return KeychainStatus::Refused;
-    }
-    KeychainStatus deleteItem(const KeychainItemHandle &) override { return KeychainStatus::Refused; }
-    KeychainStatus lock() override { return KeychainStatus::Refused; }
-    KeychainStatus unlock() override { return KeychainStatus::Refused; }
-    void giveUp() override { answers = true; }
-};
-
 /// The program with a profile of one folder; the engines bring back what it makes.
 class BackupStart : public EngineTest {
 protected:
@@ -49,15 +23,18 @@ protected:
         program.start();
         program.setUpBackup({toQString(docs)});
         delegate.checkBox04.setOn(false);
-        setKeychain(slow);
+        keyring.start();
+        setKeychain(nullptr);
+        EMGenericKeychainItem::addGenericKeychainItemForService(u"com.brolvanek.Quillorent.encrypt"_qs,
+                                                                u"anna"_qs, u"correct horse"_qs);
     }
 
     [[nodiscard]] std::string made() const { return namesIn(program.folder() / "archives"); }
 
-    void fetchFromKeychain()
+    void fetchFromKeychain(const QString &account)
     {
         delegate.passCombo01.selectIndex(PasswordTab::KeychainPassword);
-        delegate.keychainUser.setText(u"anna"_qs);
+        delegate.keychainUser.setText(account);
         delegate.passButton01Action();
     }
 
@@ -77,7 +54,7 @@ protected:
 
     TestProgram program;
     QuillorentAppDelegate &delegate = program.delegate();
-    const std::shared_ptr<SlowKeychain> slow = std::make_shared<SlowKeychain>();
+    SecretService keyring;
     const fs::path docs = sample("docs", "content");
     const fs::path here = folder / "here";
     const fs::path go = folder / "go";
@@ -96,12 +73,13 @@ TEST_F(BackupStart, NothingReachesARunThatHasBegun)
         made.push_back(program.folder() / "archives" / (name + ".rar.aes.rar"));
     }
     const QString profile = delegate.currentProfile();
-    slow->answers = true;
     for (const auto &[isFetched, tool] : {std::pair{false, realRar}, {true, realOpenSsl}}) {
         SCOPED_TRACE(tool.toStdString());
-        for (const fs::path &path : {here, go, out})
+        // Where an archive is, the encoder runs before the run has begun.
+        for (const fs::path &path : {here, go, out, program.folder() / "archives"})
             fs::remove_all(path);
-        fs::create_directories(out);
+        for (const fs::path &path : {out, program.folder() / "archives"})
+            fs::create_directories(path);
         delegate.setterCurrentProfile(profile);
         delegate.currentRecord().array(u"folders"_qs).clear();
         program.setUpBackup(sources);
@@ -110,8 +88,7 @@ TEST_F(BackupStart, NothingReachesARunThatHasBegun)
         program.useTool(u"RAR"_qs, realRar.toStdString());
         program.useTool(tool == realRar ? u"RAR"_qs : u"OpenSSL"_qs, gate(tool).toStdString());
         const auto fetch = [&](bool isKnown) {
-            slow->knows = isKnown;
-            fetchFromKeychain();
+            fetchFromKeychain(isKnown ? u"anna"_qs : u"nobody"_qs);
             return TestProgram::waitUntil([&] { return !delegate.keychainIndicator01.isAnimating(); });
         };
         ASSERT_TRUE(!isFetched || fetch(true));
@@ -141,14 +118,14 @@ TEST_F(BackupStart, NothingReachesARunThatHasBegun)
 TEST_F(BackupStart, AwaitsTheKeychain)
 {
     for (const bool isSwitched : {true, false}) {
-        slow->answers = false;
+        keyring.freeze();
         const auto profile = delegate.currentProfile();
-        fetchFromKeychain();
+        fetchFromKeychain(u"anna"_qs);
         delegate.buttonLaunch01b();
         EXPECT_TRUE(delegate.isRunActive());
         EXPECT_EQ(made(), "");
         if (isSwitched) switchProfile();
-        slow->answers = true;
+        keyring.thaw();
         program.waitForEnd();
         EXPECT_EQ(made(), isSwitched ? "" : "docs.rar.aes.rar");
         delegate.setterCurrentProfile(profile);
@@ -157,8 +134,16 @@ TEST_F(BackupStart, AwaitsTheKeychain)
     expectSuccess();
 
     fs::remove(program.folder() / "archives/docs.rar.aes.rar");
-    slow->knows = false;
-    fetchFromKeychain();
+    fetchFromKeychain(u"anna"_qs);
+    delegate.keychainUser.setText(u"nobody"_qs);
+    delegate.buttonLaunch01b();
+    ASSERT_TRUE(TestProgram::waitUntil(
+        [&] { return delegate.concernsPanel01.place() != outlets::Panel::Place::Hidden; }));
+    EXPECT_TRUE(delegate.concernsText01.text().contains(u"of the account \"anna\""));
+    delegate.concernsPanel01Stop();
+    program.waitForEnd();
+
+    fetchFromKeychain(u"nobody"_qs);
     delegate.buttonLaunch01b();
     program.waitForEnd();
     EXPECT_TRUE(program.lastWarning().contains(u"No password was fetched"))

@@ -141,6 +141,7 @@ TEST_F(ExtractFindings, AreShownAndMayBeOverruled)
              {u"not this profile's own"_qs, [&] { delegate.currentRecord().remove(u"extractpath"_qs); }},
              {u"No archives"_qs, [&] { delegate.extractButton03Action(); }},
              {u"No password"_qs, [&] { delegate.secureText01a.setText({}); }},
+             {u"line break"_qs, [&] { delegate.secureText01a.setText(u"correct\nhorse"_qs); }},
              {u"No certificate"_qs, [&] { delegate.passCombo01.selectIndex(PasswordTab::Certificate); }},
              {text(out), [] {}},
              {text(out), [&] { goesOn = true; }},

@@ -182,6 +182,8 @@ TEST(Run, BringsBackWhatItBackedUp)
         home.run({"backup", "Mine", "--password-file", "-", "--yes"}, "from a file\n");
     EXPECT_EQ(typed.status, 0) << typed.errors;
 
+    writeFile(home / "password", "from a mile");
+    EXPECT_TRUE(contains(home.backUp({}).errors, "does not open with this password"));
     // A pipe that nobody closes.
     fs::remove(home / "password");
     home.launcher = {"sh", "-c", "mkfifo $0; exec 3<>$0; echo from a file >&3; exec \"$@\"",

@@ -1,6 +1,5 @@
 // The desktop's keychain, in the states that a desktop brings it into, and the items on top of it.
 
-#include "Command.h"
 #include "SecretService.h"
 #include "keychain/EMGenericKeychainItem.h"
 #include "keychain/EMInternetKeychainItem.h"
@@ -8,7 +7,6 @@
 
 #include <future>
 #include <gtest/gtest.h>
-#include <thread>
 
 using namespace std::chrono_literals;
 using Generic = EMGenericKeychainItem;
@@ -225,33 +223,8 @@ TEST_F(KeychainTest, RefusesWhatNoItemHasAndSaysWhy)
                                     keychain()->statusText(Status::ItemNotFound)));
     EXPECT_FALSE(logged().join(u' ').contains(u"sesame"));
 
-    const auto added = keychain()->addGenericPassword({"service", "account"}, Secret("pw"));
-    ASSERT_EQ(added.status, Status::Success);
-    const auto modify = [&](const KeychainItemHandle &item, KeychainTag tag, const QByteArray &value) {
-        return keychain()->modifyAttributesAndData(item, {{tag, value}}, std::nullopt);
-    };
-    EXPECT_EQ(modify(added.item, KeychainTag::Server, "host"), Status::NoSuchAttribute);
-    EXPECT_EQ(modify(added.item, KeychainTag::Port, "22"), Status::InvalidValue);
-    EXPECT_EQ(modify(added.item, KeychainTag::Account, "\xff"), Status::InvalidValue);
-    EXPECT_EQ(modify(nullptr, KeychainTag::Account, "bob"), Status::InvalidItem);
+    EXPECT_EQ(keychain()->modifyAttributesAndData(nullptr, {}, std::nullopt), Status::InvalidItem);
     EXPECT_EQ(keychain()->deleteItem(nullptr), Status::InvalidItem);
-}
-
-TEST_F(KeychainTest, IsUsedByTwoThreadsAtOnce)
-{
-    std::atomic<int> added = 0;
-    {
-        std::vector<std::jthread> threads;
-        for (const QString &own : {u"one"_qs, u"two"_qs})
-            threads.emplace_back([&added, own] {
-                for (int round = 0; round < 5; ++round) {
-                    if (add(u"shared %1"_qs.arg(round), own)) ++added;
-                    ASSERT_TRUE(add(own + QString::number(round), own));
-                    EXPECT_EQ(stored(own + QString::number(round)), u"it is "_qs + own);
-                }
-            });
-    }
-    EXPECT_EQ(added, 5) << "each shared name is one thread's alone";
 }
 
 TEST_F(KeychainTest, SaysInWhichStateTheServiceIs)
@@ -310,24 +283,4 @@ TEST_F(KeychainTest, DoesNotWaitForAServiceThatIsSilent)
         keychain()->giveUp();
     EXPECT_EQ(asked.get(), Status::Cancelled);
     session.thaw();
-}
-
-TEST_F(KeychainTest, SharesItsPasswordsWithOtherPrograms)
-{
-    const auto remote = addInternet(u"exämple.org"_qs, u"/files"_qs, 2121, keychainProtocol::ftp);
-    ASSERT_TRUE(remote);
-    remote->setLabel(u"Our files"_qs);
-    const CommandResult shown = runCommand({"secret-tool", "search", "--all", "server", "exämple.org"});
-    for (const char *line :
-         {"label = Our files\n", "secret = of exämple.org\n", "attribute.account = alice\n",
-          "attribute.path = /files\n", "attribute.port = 2121\n", "attribute.protocol = ftp\n"})
-        EXPECT_NE((shown.output + shown.errors).find(line), std::string::npos) << line;
-
-    for (const auto &[account, password, read] :
-         {std::tuple{"bob", "pw", u"it is pw"_qs}, {"carol", "\xff\xfe", u"none"_qs}}) { // that are no text
-        const std::vector<std::string> command{"secret-tool", "store",   "--label=mine", "service",
-                                               "service",     "account", account};
-        ASSERT_EQ(runCommand(command, {.input = password}).status, 0);
-        EXPECT_EQ(stored(QString::fromLatin1(account), u"service"_qs), read);
-    }
 }

@@ -148,7 +148,8 @@ TEST_F(Certificates, AnAnswerThatComesLateStaysWithItsProfile)
     delegate.openPanel = [](const outlets::OpenPanel &) { return QStringList{file(u"anna.pem"_qs)}; };
     // The file is looked at while the other profile is opened.
     const fs::path tool = program.folder() / "openssl";
-    writeFile(tool, "#!/bin/sh\nuntil [ -e \"$0.go-on\" ]; do sleep 0.01; done\nexec openssl \"$@\"\n");
+    writeFile(tool, "#!/bin/sh\ncase \"$*\" in *anna*) until [ -e \"$0.go-on\" ]; do sleep 0.01; done;; "
+                    "esac\nexec openssl \"$@\"\n");
     fs::permissions(tool, fs::perms::owner_all);
     program.useTool(u"OpenSSL"_qs, tool);
     delegate.certButton01Action();
@@ -157,6 +158,24 @@ TEST_F(Certificates, AnAnswerThatComesLateStaysWithItsProfile)
     ASSERT_TRUE(waitForThreads(60s));
     EXPECT_EQ(delegate.certFile01.text(), QString());
     EXPECT_EQ(delegate.listPlist().dictionary(first).string(u"lastcertfile"_qs), file(u"anna.pem"_qs));
+
+    // Nor does a choice come back that another one has followed.
+    for (const auto &[action, extension, field] :
+         {std::tuple{std::function<void()>([&] { delegate.certButton01Action(); }), u".pem"_qs,
+                     &delegate.certFile01},
+          {std::function<void()>([&] { delegate.pkButton01Action(); }), u"-key.pem"_qs,
+           &delegate.pkFile01}}) {
+        fs::remove(tool.string() + ".go-on");
+        QString name = u"anna"_qs;
+        delegate.openPanel = [&](const outlets::OpenPanel &) { return QStringList{file(name + extension)}; };
+        action();
+        name = u"bert"_qs;
+        action();
+        EXPECT_TRUE(TestProgram::waitUntil([&] { return field->text() == file(name + extension); }));
+        writeFile(tool.string() + ".go-on", "");
+        ASSERT_TRUE(waitForThreads(60s));
+        EXPECT_EQ(field->text(), file(name + extension));
+    }
 }
 
 TEST_F(Certificates, PublicKeyStandsBetweenItsMarkers)
@@ -190,6 +209,12 @@ TEST_F(Certificates, TellWhomTheyAreForAndHowLong)
     EXPECT_TRUE(delegate.pkWarning01.text().contains(u"No private key"));
     chooseKey(u"anna-key.pem"_qs);
     EXPECT_TRUE(delegate.pkWarning01.isHidden());
+    chooseCertificate(u"bert.pem"_qs);
+    EXPECT_TRUE(delegate.pkWarning01.text().contains(u"does not belong"));
+    EXPECT_TRUE(delegate.certSummary01.text().contains(u"RSA, 2048 bits"));
+    chooseCertificate(u"ec.pem"_qs);
+    EXPECT_TRUE(delegate.certSummary01.text().contains(u"EC, 256 bits"));
+    EXPECT_TRUE(delegate.certWarning01.text().contains(u"no RSA key"));
     delegate.pkFile01.setText(file(u"missing.pem"_qs));
     delegate.describeKeys();
     ASSERT_TRUE(waitForThreads(60s));

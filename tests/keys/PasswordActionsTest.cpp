@@ -1,6 +1,7 @@
 #include "ProgramTest.h"
 #include "SecretService.h"
 #include "keychain/EMGenericKeychainItem.h"
+#include "keychain/Keychain.h"
 #include "keys/Strength.h"
 #include "tools/Threads.h"
 
@@ -71,6 +72,7 @@ TEST_F(PasswordActions, StoresAndFetchesByTheShownField)
     delegate.checkBox02.setOn(false);
     delegate.checkBox02Action();
     EXPECT_TRUE(delegate.keychainPass.isHidden() && !delegate.keychainClear.isHidden());
+    EXPECT_EQ(delegate.keychainOrigin.text(), u"holiday"_qs);
     EXPECT_EQ(delegate.keychainClear.text(), u"fjord ¤ 7"_qs);
     delegate.keychainClear.setText(u"another one"_qs);
     EXPECT_TRUE(answerTo(storing).contains(u"already"));
@@ -112,10 +114,13 @@ TEST_F(PasswordActions, SaysWhatIsTheMatterWithTheKeychain)
     using Keyring = SecretService::Keyring;
     store(u"holiday"_qs, u"fjord"_qs);
     delegate.keychainUser.setText(u"holiday"_qs);
-    for (const auto &[action, unlocked, password] :
-         {std::tuple(fetching, u"was fetched"_qs, u"fjord"_qs), {storing, u"is unlocked"_qs, u"typed"_qs}}) {
+    for (const auto &[action, typed, unlocked, password] :
+         {std::tuple(fetching, u""_qs, u"was fetched"_qs, u"fjord"_qs),
+          {fetching, u"typed"_qs, u"is unlocked"_qs, u"typed"_qs},
+          {storing, u"typed"_qs, u"is unlocked"_qs, u"typed"_qs}}) {
         session.start(Keyring::Locked);
-        delegate.keychainPass.setText(u"typed"_qs);
+        delegate.keychainPass.setText(typed);
+        delegate.keychainFieldEdited();
         EXPECT_TRUE(answerTo(action).contains(u"is locked"));
         EXPECT_TRUE(answerTo(unlocking).contains(u"still locked")); // nobody is there to be asked
         EXPECT_FALSE(delegate.keychainUnlock01.isHidden());
@@ -126,6 +131,41 @@ TEST_F(PasswordActions, SaysWhatIsTheMatterWithTheKeychain)
     }
     session.stop();
     EXPECT_TRUE(answerTo(fetching).contains(u"No keychain service runs"));
+    EXPECT_EQ(delegate.keychainPass.text(), u"typed"_qs);
+}
+
+// What is of no use neither takes the place of what is there, nor is it called fetched or stored.
+TEST_F(PasswordActions, RefusesWhatNoArchiveCanBeEncryptedWith)
+{
+    struct Case {
+        QByteArray secret;
+        QString words;
+        bool isFetched; ///< into the field, so that it is seen
+        bool isStored;
+    };
+    for (const auto &[secret, words, isFetched, isStored] :
+         {Case{"fjord", u"was fetched"_qs, true, true}, Case{"", u"No password is given"_qs, true, true},
+          Case{QByteArray("a\0b", 3), u"zero byte"_qs, false, false},
+          Case{"a\nb", u"line break"_qs, false, false}, Case{QByteArray(1024, 'x'), u"1023"_qs, false, false},
+          Case{"\xff", u"no text"_qs, false, true}}) {
+        SCOPED_TRACE(words.toStdString());
+        const QString account = u"account of "_qs + words;
+        ASSERT_EQ(keychain()->addGenericPassword({service.toUtf8(), account.toUtf8()}, Secret(secret)).status,
+                  KeychainStatus::Success);
+        delegate.keychainPass.setText(u"former"_qs);
+        delegate.keychainOrigin.setText(u"other"_qs);
+        delegate.keychainUser.setText(account);
+        const QString answer = answerTo(fetching);
+        EXPECT_TRUE(answer.contains(words)) << qPrintable(answer);
+        EXPECT_EQ(delegate.keychainPass.text(), isFetched ? QString::fromUtf8(secret) : u"former"_qs);
+        EXPECT_EQ(delegate.keychainOrigin.text(), !isFetched         ? u"other"_qs
+                                                  : secret.isEmpty() ? u""_qs
+                                                                     : account);
+
+        delegate.keychainUser.setText(account + u'2');
+        delegate.keychainPass.setText(QString::fromUtf8(secret));
+        EXPECT_EQ(answerTo(storing).contains(u"The password was stored"), isStored);
+    }
 }
 
 TEST(Strength, TellsWhatIsGuessedFromWhatIsNot)

@@ -45,7 +45,7 @@ const std::map<std::string, int> floors{{"plist", 1},    {"outlets", 1}, {"keych
                                         {"settings", 2}, {"keys", 2},    {"updates", 2},  {"tools", 2},
                                         {"runs", 3},     {"backup", 4},  {"extract", 4},  {"sync", 4},
                                         {"app", 5},      {"ui", 6},      {"headless", 6}};
-const std::map<std::string, std::string> neighbours{{"keys", "tools"}};
+const std::map<std::string, std::string> neighbours{{"keys", "tools"}, {"outlets", "keychain"}};
 
 bool pointsDown(const Include &include)
 {

@@ -54,6 +54,7 @@ void TestProgram::setUpBackup(const QStringList &folders, const QString &passwor
     m_delegate->fileButton01Action();
     m_delegate->passCombo01.selectIndex(PasswordTab::TypedPassword);
     m_delegate->secureText01a.setText(password);
+    m_delegate->secureText02.setText(password);
 }
 
 void TestProgram::useTool(const QString &name, const fs::path &executable)

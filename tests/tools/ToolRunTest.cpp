@@ -69,6 +69,11 @@ TEST(RunTool, SaysWhyAToolCanNotStart)
         EXPECT_TRUE(result.text().contains(path)) << qPrintable(result.text());
     }
     EXPECT_FALSE(runTool({}, {}).isSilent());
+    // It would get the half of the second argument.
+    const Stub stub(folder.path(), "tool", "arguments");
+    const ToolResult cut = runStub(stub, {u"a"_qs, u"sesame\0b"_qs});
+    EXPECT_TRUE(!cut.wasStarted && cut.text().contains(u"zero byte")) << qPrintable(cut.text());
+    EXPECT_FALSE(cut.text().contains(u"sesame"));
 
     // Nor is a crash a success.
     const ToolResult crash = runStub(Stub(folder.path(), "tool", "crash"));

@@ -1,4 +1,3 @@
-#include "Credentials.h"
 #include "SecretService.h"
 #include "TestWindow.h"
 
@@ -136,6 +135,8 @@ TEST_F(ActionsTest, TheKeychainIsAskedWhileTheWindowGoesOn)
     EXPECT_EQ(delegate.keychainUser.text(), u"holiday typed meanwhile"_qs);
     session.thaw();
     EXPECT_TRUE(says(u"was fetched"_qs));
+    const auto &protection = widget<QLabel>(u"protectionText"_qs);
+    EXPECT_TRUE(protection.text().endsWith(u"account holiday")) << "the chosen one holds nothing";
 
     // Seen, changed, and then not the text that counts: nobody may overlook that.
     click(u"checkBox02"_qs);
@@ -143,24 +144,7 @@ TEST_F(ActionsTest, TheKeychainIsAskedWhileTheWindowGoesOn)
     QTest::keyClicks(&widget(u"keychainClear"_qs), u"!"_qs);
     settle();
     EXPECT_TRUE(widget(u"keychainConflict"_qs).isVisible());
-    EXPECT_TRUE(widget<QLabel>(u"protectionText"_qs).text().contains(u"look at the Passwords tab"));
-}
-
-TEST_F(ActionsTest, ACertificateIsCheckedAndToldOf)
-{
-    const Credentials keys = makeCredentials(program.folder(), "old", Validity::EndedIn2021);
-    showTab(u"passwordsPage"_qs);
-    QTest::keyClick(&widget(u"passCombo01"_qs), Qt::Key_End);
-    settle();
-    QString chosen = toQString(keys.key);
-    delegate.openPanel = [&](const outlets::OpenPanel &) { return QStringList{chosen}; };
-    clickAndAnswer(u"certButton01"_qs, u"certPanel01"_qs, [&] { click(u"certPanel01CloseButton"_qs); });
-    chosen = toQString(keys.certificate);
-    click(u"certButton01"_qs);
-    EXPECT_TRUE(waitUntil([&] { return widget(u"certWarning01"_qs).isVisible(); }));
-    EXPECT_TRUE(widget<QLabel>(u"certSummary01"_qs).text().startsWith(u"CN=old"));
-    EXPECT_TRUE(widget<QLabel>(u"protectionText"_qs).text().endsWith(u"old.pem"));
-    clickAndAnswer(u"certInfoButton01"_qs, u"consolePanel01"_qs, [] {});
+    EXPECT_TRUE(protection.text().contains(u"look at the Passwords tab"));
 }
 
 TEST_F(ActionsTest, ChoosersTakeFilesAndFoldersTogetherAndToolsWithoutExtension)

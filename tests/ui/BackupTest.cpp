@@ -29,7 +29,19 @@ protected:
         click(u"folderButton01"_qs);
         click(u"fileButton01"_qs);
         showTab(u"passwordsPage"_qs);
-        QTest::keyClicks(&widget(u"secureText01a"_qs), u"correct horse"_qs);
+        type(u"correct horse"_qs, u"correct horse"_qs);
+    }
+
+    void type(const QString &password, const QString &repetition)
+    {
+        showTab(u"passwordsPage"_qs);
+        for (const auto &[name, text] :
+             {std::pair{u"secureText01a"_qs, password}, {u"secureText02"_qs, repetition}}) {
+            widget<QLineEdit>(name).selectAll();
+            QTest::keyClick(&widget(name), Qt::Key_Delete);
+            QTest::keyClicks(&widget(name), text);
+        }
+        settle();
         showTab(u"foldersPage"_qs);
     }
 
@@ -75,6 +87,18 @@ TEST_F(BackupTest, AWholeBackupByClicks)
     });
     waitForEnd();
     EXPECT_EQ(archives(), volumes);
+
+    // One that is mistyped, too, where nothing is there to try it on.
+    for (const QString &volume : volumes)
+        QFile::remove(program.path("archives/" + volume.toStdString()));
+    type(u"correct horse"_qs, u"correct house"_qs);
+    EXPECT_FALSE(widget(u"repetitionHint"_qs).isHidden());
+    clickAndAnswer(u"buttonLaunch01"_qs, u"concernsPanel01"_qs, [this] {
+        EXPECT_TRUE(widget<ui::TextArea>(u"concernsText01"_qs).text().contains(u"differ"));
+        QTest::keyClick(&widget(u"concernsPanel01"_qs), Qt::Key_Escape);
+    });
+    waitForEnd();
+    EXPECT_EQ(archives(), QStringList());
 }
 
 TEST_F(BackupTest, ManyConcernsStayOnTheScreen)

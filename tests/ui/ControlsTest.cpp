@@ -2,11 +2,16 @@
 
 #include "TestWindow.h"
 
+#include "keychain/Secret.h"
 #include "ui/OutletTableModel.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <array>
+#include <fcntl.h>
+#include <fstream>
+#include <unistd.h>
 
 namespace {
 
@@ -146,6 +151,39 @@ protected:
     }
 };
 
+/// Whether a text of which each character is changed by its lowest bit, as Qt keeps it or as bytes, is
+/// anywhere in what this process has written.
+bool isInMemory(const QByteArray &scrambled)
+{
+    std::array<char, 1 << 16> piece{};
+    const int memory = ::open("/proc/self/mem", O_RDONLY);
+    const auto isAt = [&](const char *place, qsizetype width) {
+        for (qsizetype i = 0; i < scrambled.size(); ++i)
+            if (place[i * width] != (scrambled[i] ^ 1)) return false;
+        return true;
+    };
+    const auto isIn = [&](off_t begin, off_t end) {
+        const auto longest = scrambled.size() * 2;
+        for (off_t at = begin; at < end; at += ssize_t(piece.size()) - longest) {
+            const ssize_t count = pread(memory, piece.data(), piece.size(), at);
+            for (ssize_t i = 0; i + longest <= count; ++i)
+                if (isAt(&piece[size_t(i)], 1) || isAt(&piece[size_t(i)], 2)) return true;
+        }
+        return false;
+    };
+    bool isFound = false;
+    std::ifstream maps("/proc/self/maps");
+    for (std::string line; !isFound && std::getline(maps, line);) {
+        constexpr off_t most = 256 << 20; // a sanitizer's own are larger
+        const off_t begin = off_t(std::stoull(line, nullptr, 16));
+        const off_t end = off_t(std::stoull(line.substr(line.find('-') + 1), nullptr, 16));
+        if (line[line.find(' ') + 2] == 'w' && end - begin < most) isFound = isIn(begin, end);
+    }
+    explicit_bzero(piece.data(), piece.size());
+    close(memory);
+    return isFound;
+}
+
 } // namespace
 
 TEST_F(ControlsTest, KeepTheirStateUnderTheirOwnKeyAtOnce)
@@ -216,9 +254,9 @@ TEST_F(ControlsTest, ACancelledChooserChangesNothing)
 
 TEST_F(ControlsTest, NoSecretIsSeenInTheNextProfile)
 {
-    outlets::TextField *const fields[] = {&delegate.secureText01a,  &delegate.secureText01b,
-                                          &delegate.keychainPass,   &delegate.keychainClear,
-                                          &delegate.keychainText01, &delegate.keychainUser};
+    outlets::TextField *const fields[] = {
+        &delegate.secureText01a, &delegate.secureText01b,  &delegate.secureText02,   &delegate.keychainPass,
+        &delegate.keychainClear, &delegate.keychainText01, &delegate.keychainOrigin, &delegate.keychainUser};
     for (outlets::TextField *field : fields)
         field->setText(u"secret"_qs);
     delegate.keychainUnlock01.setHidden(false);
@@ -226,4 +264,21 @@ TEST_F(ControlsTest, NoSecretIsSeenInTheNextProfile)
     for (const outlets::TextField *field : fields)
         EXPECT_EQ(field->text(), QString()) << qPrintable(field->name());
     EXPECT_TRUE(delegate.keychainUnlock01.isHidden());
+}
+
+// In none of the program's memory: not in what was freed, nor in the room that a field has.
+TEST_F(ControlsTest, NoSecretStaysInMemory)
+{
+    showTab(u"passwordsPage"_qs);
+    const QByteArray scrambled = "insrd6c`uudsx"; // the test must not find its own copy
+    for (const char character : scrambled) {
+        for (const QString &name : {u"secureText01a"_qs, u"secureText02"_qs, u"keychainPass"_qs})
+            QTest::keyClick(&widget(name), static_cast<char>(character ^ 1));
+        settle();
+    }
+    ASSERT_TRUE(isInMemory(scrambled)) << "the search finds nothing";
+    static_cast<void>(Secret::fromText(delegate.passwordSelector()));
+    open(plist::Dictionary::make());
+    settle();
+    EXPECT_FALSE(isInMemory(scrambled));
 }

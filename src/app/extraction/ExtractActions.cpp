@@ -4,6 +4,7 @@
 #include "extract/Candidates.h"
 #include "extract/ExtractLook.h"
 #include "extract/ExtractRun.h"
+#include "keys/SecretRules.h"
 
 namespace {
 
@@ -12,6 +13,18 @@ QString noArchives(const QuillorentAppDelegate &delegate)
     const QStringList shown = delegate.extractFullList.strings();
     const QString leftOut = describeLeftOut(shown, shown, {});
     return leftOut.isEmpty() ? u"No archives are chosen. Add those that are to be extracted."_qs : leftOut;
+}
+
+QString whyNoPassword(const QuillorentAppDelegate &delegate)
+{
+    QString password = delegate.passwordSelector();
+    QString refusal =
+        password.isEmpty()
+            ? u"No password is given. Type one on the Passwords tab; without a password nothing "
+              "is extracted."_qs
+            : whyBadPassword(password);
+    wipe(password);
+    return refusal;
 }
 
 /// What keeps an extraction from starting, in words that say what to do; the empty string where nothing does.
@@ -26,10 +39,8 @@ QString whatIsMissing(const QuillorentAppDelegate &delegate)
     if (delegate.extractList.count() == 0) return noArchives(delegate);
     if (delegate.passCombo01.selectedIndex() == PasswordTab::Certificate && !delegate.pkeySelector())
         return u"No certificate is chosen. Choose one on the Passwords tab."_qs;
-    if (delegate.passwordSelector().isEmpty())
-        return u"No password is given. Type one on the Passwords tab; without a password nothing is "
-               "extracted."_qs;
-    return {};
+    return delegate.passCombo01.selectedIndex() == PasswordTab::Certificate ? QString()
+                                                                            : whyNoPassword(delegate);
 }
 
 /// What the look, the question and the work have in common.

@@ -8,6 +8,25 @@
 
 namespace {
 
+bool holdsNoPassword(const QuillorentAppDelegate &delegate)
+{
+    QString password = delegate.passwordSelector();
+    const bool isEmpty = password.isEmpty();
+    wipe(password);
+    return isEmpty;
+}
+
+/// The keychain's field keeps what it holds when a fetch fails, and then it is of another account.
+QString whatIsOdd(const QuillorentAppDelegate &delegate)
+{
+    const QString origin = delegate.keychainOrigin.text();
+    const QString account = delegate.keychainUser.text();
+    if (delegate.passCombo01.selectedIndex() != PasswordTab::KeychainPassword) return {};
+    if (origin.isEmpty() || origin == account) return {};
+    return u"The password is that of the account \"%1\", and the account that is chosen is \"%2\". Fetch its "
+           "password on the Passwords tab, or choose the other account again."_qs.arg(origin, account);
+}
+
 /// What keeps a backup from starting, in words that say what to do; the empty string where nothing does.
 QString whatIsMissing(const QuillorentAppDelegate &delegate)
 {
@@ -18,8 +37,7 @@ QString whatIsMissing(const QuillorentAppDelegate &delegate)
     // A record without a destination leaves the one of the profile before it on screen.
     if (record.string(u"path"_qs) != destination)
         return u"The destination that is shown is not this profile's own. Choose it again."_qs;
-    if (delegate.passwordSelector().isEmpty() &&
-        delegate.passCombo01.selectedIndex() == PasswordTab::KeychainPassword)
+    if (delegate.passCombo01.selectedIndex() == PasswordTab::KeychainPassword && holdsNoPassword(delegate))
         return u"No password was fetched from the keychain. See the Passwords tab; without a password nothing is backed up."_qs;
     if (record.array(u"folders"_qs).count() == 0)
         return u"The profile has no folders. Add those that are to be backed up."_qs;
@@ -35,9 +53,12 @@ struct Backup {
 RunStart prepare(QuillorentAppDelegate &delegate, bool mayOverwrite)
 {
     const auto backup = std::make_shared<Backup>(Backup{readBackupOrder(delegate.currentProfile())});
-    const auto look = [backup, missing = whatIsMissing(delegate)](const std::function<bool()> &goesOn) {
+    const auto look = [backup, missing = whatIsMissing(delegate),
+                       odd = whatIsOdd(delegate)](const std::function<bool()> &goesOn) {
         if (!missing.isEmpty()) return Findings{.obstacles = {missing}};
-        return lookAtBackup(*backup->order, backup->lock, goesOn);
+        Findings findings = lookAtBackup(*backup->order, backup->lock, goesOn);
+        findings.addConcern(odd);
+        return findings;
     };
     const auto work = [&delegate, backup](RunMonitor &monitor) {
         runBackup(*backup->order, delegate, monitor, std::move(backup->lock));

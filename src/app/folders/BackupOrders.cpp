@@ -28,6 +28,8 @@ std::shared_ptr<BackupOrder> readOptions(const QString &profile, const QString &
         order->certificate = delegate.passwordSelector();
     else
         order->password = Secret::fromText(delegate.passwordSelector());
+    if (delegate.asksTwice && delegate.passCombo01.selectedIndex() <= PasswordTab::TypedPassword)
+        order->repetition = Secret::fromText(delegate.secureText02.text());
     order->keepDate = quillorentLibrary::decideKeepDate();
     order->split = quillorentLibrary::decideSplit();
     order->volumeSize = delegate.partSize();

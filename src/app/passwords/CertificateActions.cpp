@@ -2,6 +2,7 @@
 #include "keys/CertificateSummary.h"
 #include "keys/Certificates.h"
 #include "keys/Refusals.h"
+#include "keys/SecretRules.h"
 #include "tools/Threads.h"
 
 #include <QFileInfo>
@@ -21,15 +22,17 @@ void showOrHide(outlets::TextField &field, const QString &text)
     field.setHidden(text.isEmpty());
 }
 
-/// What a missing private key means; empty where there is one.
-QString keyWarning(const QString &key)
+/// What a private key that is missing, or belongs to another certificate, means; empty where there is the
+/// right one.
+QString keyWarning(const QString &certificate, const QString &key)
 {
     const QString meaning = u"Nothing that is encrypted for this certificate can be opened without its "
                             u"private key: make sure that you "
                             "have it, and a copy in a safe place."_qs;
     if (key.isEmpty()) return u"No private key is chosen. "_qs + meaning;
     if (!QFileInfo(key).isFile()) return u"The private key is not where it was. "_qs + meaning;
-    return {};
+    if (quillorentLibrary::testKey(certificate, key)) return {};
+    return quillorentLibrary::whyNoKey(certificate, key);
 }
 
 /// What to tell of the chosen certificate.
@@ -43,8 +46,11 @@ CertificateNotes notesOn(const QString &certificate)
     if (certificate.isEmpty()) return {};
     const auto summary = quillorentLibrary::readCertificateSummary(certificate);
     if (!summary) return {.warning = quillorentLibrary::whyNoCertificate(certificate)};
-    return {quillorentLibrary::describeCertificate(*summary),
-            quillorentLibrary::validityWarning(*summary, QDateTime::currentDateTimeUtc())};
+    const CertificateJudgement judgement = judgeCertificate(certificate);
+    QStringList warnings{quillorentLibrary::validityWarning(*summary, QDateTime::currentDateTimeUtc()),
+                         judgement.obstacle, judgement.concern};
+    warnings.removeAll(QString());
+    return {quillorentLibrary::describeCertificate(*summary), warnings.join(u'\n')};
 }
 
 } // namespace
@@ -56,17 +62,19 @@ void QuillorentAppDelegate::certButton01Action()
     const auto chosen = openPanel(keyChooser(u"Choose a certificate"_qs));
     if (!chosen) return;
     const QString path = chosen->value(0);
-    detachThread(u"check-cert"_qs, [this, path, record = currentRecord()] {
-        if (path.isEmpty() || !quillorentLibrary::testCert(path, u"Validity"_qs)) {
-            certPanelText01.setText(quillorentLibrary::whyNoCertificate(path));
-            certPanel01.runModal();
-            return;
-        }
-        record.setValue(u"lastcertfile"_qs, path);
-        if (!record.isSameObject(currentRecord())) return; // another profile was opened in the meantime
-        certFile01.setText(path);
-        describeKeys();
-    });
+    detachThread(u"check-cert"_qs,
+                 [this, path, record = currentRecord(), request = m_certificateChoices.begin()] {
+                     if (path.isEmpty() || !quillorentLibrary::testCert(path, u"Validity"_qs)) {
+                         const QString why = quillorentLibrary::whyNoCertificate(path);
+                         if (!m_certificateChoices.isNewest(request))
+                             return; // another one was chosen in the meantime
+                         certPanelText01.setText(why);
+                         certPanel01.runModal();
+                         return;
+                     }
+                     m_certificateChoices.apply(
+                         request, [&] { keepChoice(record, u"lastcertfile"_qs, certFile01, path); });
+                 });
 }
 
 void QuillorentAppDelegate::pkButton01Action()
@@ -74,17 +82,26 @@ void QuillorentAppDelegate::pkButton01Action()
     const auto chosen = openPanel(keyChooser(u"Choose the private key"_qs));
     if (!chosen) return;
     const QString path = chosen->value(0);
-    detachThread(u"check-key"_qs, [this, path, certificate = certFile01.text(), record = currentRecord()] {
+    detachThread(u"check-key"_qs, [this, path, certificate = certFile01.text(), record = currentRecord(),
+                                   request = m_keyChoices.begin()] {
         if (path.isEmpty() || !quillorentLibrary::testKey(certificate, path)) {
-            pkPanelText01.setText(quillorentLibrary::whyNoKey(certificate, path));
+            const QString why = quillorentLibrary::whyNoKey(certificate, path);
+            if (!m_keyChoices.isNewest(request)) return;
+            pkPanelText01.setText(why);
             pkPanel01.runModal();
             return;
         }
-        record.setValue(u"lastpkfile"_qs, path);
-        if (!record.isSameObject(currentRecord())) return;
-        pkFile01.setText(path);
-        describeKeys();
+        m_keyChoices.apply(request, [&] { keepChoice(record, u"lastpkfile"_qs, pkFile01, path); });
     });
+}
+
+void QuillorentAppDelegate::keepChoice(const plist::Dictionary &record, const QString &key,
+                                       outlets::TextField &field, const QString &path)
+{
+    record.setValue(key, path);
+    if (!record.isSameObject(currentRecord())) return; // another profile was opened in the meantime
+    field.setText(path);
+    describeKeys();
 }
 
 void QuillorentAppDelegate::certButton01ActionEnd() { closeSheet(certPanel01); }
@@ -117,7 +134,7 @@ void QuillorentAppDelegate::describeKeys()
     detachThread(u"describe-keys"_qs,
                  [this, request, certificate = certFile01.text(), key = pkFile01.text()] {
                      const CertificateNotes notes = notesOn(certificate);
-                     const QString missing = certificate.isEmpty() ? QString() : keyWarning(key);
+                     const QString missing = certificate.isEmpty() ? QString() : keyWarning(certificate, key);
                      m_keyDescriptions.apply(request, [&] {
                          showOrHide(certSummary01, notes.summary);
                          showOrHide(certWarning01, notes.warning);

@@ -1,5 +1,6 @@
 #include "app/QuillorentAppDelegate.h"
 #include "keychain/EMGenericKeychainItem.h"
+#include "keys/SecretRules.h"
 #include "tools/Threads.h"
 
 namespace {
@@ -12,8 +13,10 @@ QString textOf(const outlets::TextField &field) { return field.text().isNull() ?
 /// What a request to the keychain comes to.
 struct Answer {
     KeychainStatus status = KeychainStatus::Success;
-    QString text{};                    ///< for the person who asked
-    std::optional<QString> password{}; ///< for the field, where it was asked for
+    QString text{};                   ///< for the person who asked
+    std::optional<Secret> password{}; ///< for the field; none: it keeps what it holds
+    std::optional<Secret> stored{};   ///< what was taken from the field
+    QString origin{};                 ///< the account that either of them is of; empty: of none
 };
 
 /// The words for an end that is told of by this tab's own account; any other end is the keychain's to
@@ -30,33 +33,74 @@ QString describe(KeychainStatus status, const Words &words)
     return status == words.expectedFailure ? words.failure : keychain()->statusText(status);
 }
 
+/// The same for what a keychain gives: a null text is no text at all.
+QString whyNotUsable(const QString &password)
+{
+    if (password.isNull())
+        return u"It is no text, in UTF-8. Another program stored it: choose another account."_qs;
+    return whyBadPassword(password);
+}
+
 Answer fetch(const QString &account)
 {
     const Words words{u"The password of \"%1\" was fetched from the keychain."_qs.arg(account),
                       KeychainStatus::ItemNotFound,
                       u"The keychain holds no password of \"%1\". Check the account name; or type the "
                       "password and store it."_qs.arg(account)};
-    KeychainStatus status{};
-    const auto item = EMGenericKeychainItem::genericKeychainItemForService(service(), account, &status);
-    return {status, describe(status, words), item ? item->password() : QString()};
+    Answer answer;
+    const auto item =
+        EMGenericKeychainItem::genericKeychainItemForService(service(), account, &answer.status);
+    answer.text = describe(answer.status, words);
+    if (!item && answer.status == KeychainStatus::Success)
+        answer.text = keychain()->statusText(KeychainStatus::Refused);
+    if (!item) {
+        // Only where there is none is it known that the field's text is not its password.
+        if (answer.status == KeychainStatus::ItemNotFound) answer.password.emplace();
+        return answer;
+    }
+    QString password = item->password();
+    const QString refusal = whyNotUsable(password);
+    if (!refusal.isEmpty())
+        answer.text = u"What the keychain holds of \"%1\" is of no use. "_qs.arg(account) + refusal;
+    // An empty one is shown as what it is.
+    if (refusal.isEmpty() || (password.isEmpty() && !password.isNull())) {
+        answer.password = Secret::fromText(password);
+        if (refusal.isEmpty()) answer.origin = account;
+    }
+    wipe(password);
+    return answer;
 }
 
-Answer store(const QString &account, const QString &password)
+Answer store(const QString &account, const Secret &secret)
 {
+    QString password = secret.text();
+    // That it is not empty is for whoever uses it to see.
+    const QString refusal = password.isEmpty() ? QString() : whyBadPassword(password);
+    if (!refusal.isEmpty()) {
+        wipe(password);
+        return {KeychainStatus::InvalidValue, u"Nothing was stored. "_qs + refusal};
+    }
     const Words words{
         u"The password was stored in the keychain for \"%1\"."_qs.arg(account), KeychainStatus::DuplicateItem,
         u"The keychain holds a password of \"%1\" already, and it stays as it is. Choose another "
         "account name, or remove the old one in your desktop's password program "
         "first."_qs.arg(account)};
-    KeychainStatus status{};
-    EMGenericKeychainItem::addGenericKeychainItemForService(service(), account, password, &status);
-    return {status, describe(status, words)};
+    Answer answer;
+    EMGenericKeychainItem::addGenericKeychainItemForService(service(), account, password, &answer.status);
+    answer.text = describe(answer.status, words);
+    if (answer.status == KeychainStatus::Success && !password.isEmpty()) {
+        answer.stored = Secret::fromText(password);
+        answer.origin = account;
+    }
+    wipe(password);
+    return answer;
 }
 
 /// Unlocks, and then fetches where there is an account to fetch for and nothing typed that would be lost.
 Answer unlock(const QString &account, bool isFetchWanted)
 {
-    Answer answer{.status = EMKeychainItem::unlockKeychain()};
+    Answer answer;
+    answer.status = EMKeychainItem::unlockKeychain();
     if (answer.status == KeychainStatus::Success && isFetchWanted) return fetch(account);
     answer.text = answer.status == KeychainStatus::Success ? u"The keychain is unlocked."_qs
                                                            : keychain()->statusText(answer.status);
@@ -84,13 +128,18 @@ void QuillorentAppDelegate::askKeychain(Ask ask)
         m_keychainRequests.apply(request, [&] {
             keychainText01.setText(answer.text);
             keychainUnlock01.setHidden(!isLocked(answer.status));
-            if (answer.password) shownKeychainField().setText(*answer.password);
+            outlets::SecretField &field = shownKeychainField();
+            if (answer.password) field.setText(answer.password->text());
+            // What was typed in the meantime is not what was stored.
+            const bool isStored =
+                answer.stored && Secret::fromText(field.text()).bytes() == answer.stored->bytes();
+            if (answer.password || isStored) keychainOrigin.setText(answer.origin);
         });
         keychainIndicator01.stopAnimation();
     });
 }
 
-outlets::TextField &QuillorentAppDelegate::shownKeychainField()
+outlets::SecretField &QuillorentAppDelegate::shownKeychainField()
 {
     return checkBox02.isOn() ? keychainPass : keychainClear;
 }
@@ -105,16 +154,20 @@ void QuillorentAppDelegate::passButton01Action()
 void QuillorentAppDelegate::passButton02Action()
 {
     const QString account = textOf(keychainUser);
-    askKeychain([account, password = textOf(shownKeychainField())] { return store(account, password); });
+    const auto password = std::make_shared<Secret>(Secret::fromText(shownKeychainField().text()));
+    askKeychain([account, password] { return store(account, *password); });
     currentRecord().setValue(u"lastkeychainuser"_qs, account);
 }
 
 void QuillorentAppDelegate::keychainUnlock01Action()
 {
     const QString account = textOf(keychainUser);
-    const bool isFetchWanted = !account.isEmpty() && shownKeychainField().text().isEmpty();
+    const bool wouldLose = !shownKeychainField().isEmpty() && keychainOrigin.text().isEmpty();
+    const bool isFetchWanted = !account.isEmpty() && !wouldLose;
     askKeychain([account, isFetchWanted] { return unlock(account, isFetchWanted); });
 }
+
+void QuillorentAppDelegate::keychainFieldEdited() { keychainOrigin.setText({}); }
 
 void QuillorentAppDelegate::forgetKeychainAnswers()
 {

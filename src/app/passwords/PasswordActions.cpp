@@ -3,10 +3,11 @@
 namespace {
 
 /// Of a pair of fields for one password, shows the masked one or the clear one, with the text of the other.
-void showOneOf(const outlets::CheckBox &maskedWanted, outlets::TextField &masked, outlets::TextField &clear)
+void showOneOf(const outlets::CheckBox &maskedWanted, outlets::SecretField &masked,
+               outlets::SecretField &clear)
 {
-    outlets::TextField &shown = maskedWanted.isOn() ? masked : clear;
-    outlets::TextField &hidden = maskedWanted.isOn() ? clear : masked;
+    outlets::SecretField &shown = maskedWanted.isOn() ? masked : clear;
+    outlets::SecretField &hidden = maskedWanted.isOn() ? clear : masked;
     shown.setText(hidden.text());
     shown.setHidden(false);
     hidden.setHidden(true);

@@ -51,9 +51,10 @@ void QuillorentAppDelegate::setterCurrentProfile(const QString &name)
     forgetKeychainAnswers();
     // No password typed for one profile may be seen in the next. The destination, the extraction folder and
     // the volume size stay as they are where the new record has none.
-    for (outlets::TextField *field :
-         {&keychainPass, &keychainClear, &keychainUser, &secureText01a, &secureText01b, &pkFile01,
-          &certFile01, &syncTextDestPath, &syncTextSourcePath, &syncUser, &syncServer, &syncPort})
+    for (outlets::TextField *field : std::initializer_list<outlets::TextField *>{
+             &keychainPass, &keychainClear, &keychainOrigin, &keychainUser, &secureText01a, &secureText01b,
+             &secureText02, &pkFile01, &certFile01, &syncTextDestPath, &syncTextSourcePath, &syncUser,
+             &syncServer, &syncPort})
         field->setText({});
 
     applyRecord(currentRecord());

@@ -71,6 +71,7 @@ void expectContent(const std::vector<fs::path> &volumes, const std::string &cont
     EXPECT_EQ(ours.errors + other.errors, "");
     EXPECT_EQ(third.status, 0) << third.output;
     // Long texts are compared as a whole: googletest would take minutes over their difference.
+    EXPECT_TRUE(rar({"p", "-idq", first}).output == content);
     EXPECT_TRUE(readFile(temporary / "ours/file") == content);
     EXPECT_TRUE(readFile(temporary / "other/file") == content);
     EXPECT_TRUE(readFile(temporary / "third/file") == content);
