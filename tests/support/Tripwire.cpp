@@ -10,6 +10,7 @@
 //   exit STATUS            without a word
 //   say TEXT               on standard error
 //   limit BYTES, full BYTES  a file that grows over them ends the process by a signal, or gives a write error
+//   late                   from now on, what is written fails when it is to be made durable
 //   fill FOLDER            leaves no room on its file system; the file is called "filler"
 //   folder PATH, fifo PATH, link PATH TARGET  puts such a thing there, in place of a file
 //   mode OCTAL PATH        takes permissions away
@@ -96,6 +97,12 @@ void act()
 void actAt(const std::string &moment)
 {
     if (plan && plan->moment == moment) act();
+}
+
+bool failsLate()
+{
+    if (plan && plan->deed == "late") errno = ENOSPC;
+    return plan && plan->deed == "late";
 }
 
 void countChange()
@@ -196,12 +203,12 @@ int mkdirat(int a, const char *b, mode_t c) noexcept { return passOn<int>("mkdir
 int fsync(int a)
 {
     note("safe", a, "", AT_EMPTY_PATH);
-    return passOn<int>("fsync", a);
+    return failsLate() ? -1 : passOn<int>("fsync", a);
 }
 int fdatasync(int a)
 {
     note("safe", a, "", AT_EMPTY_PATH);
-    return passOn<int>("fdatasync", a);
+    return failsLate() ? -1 : passOn<int>("fdatasync", a);
 }
 int openat64(int a, const char *b, int flags, ...)
 {
