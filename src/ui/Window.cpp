@@ -63,6 +63,14 @@ Window::~Window()
 
 QList<QWidget *> Window::roots() { return QList<QWidget *>{this} + m_panels->all(); }
 
+void Window::comeToFront()
+{
+    setWindowState((windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
+    show();
+    raise();
+    activateWindow();
+}
+
 // What a form can't say.
 void Window::finishForm()
 {
