@@ -1,6 +1,8 @@
 // Making, naming, saving and opening profiles.
 
+#include "FullDisk.h"
 #include "ProgramTest.h"
+#include "Tree.h"
 #include "plist/File.h"
 #include "settings/Paths.h"
 #include "tools/Threads.h"
@@ -36,7 +38,11 @@ protected:
             refusal = delegate.warningText04.text();
             delegate.panelNoname();
         });
-        delegate.warningText01.observe([this] { warnings.append(delegate.warningText01.text()); });
+        delegate.savePanel01.observe([this] {
+            if (delegate.savePanel01.place() == outlets::Panel::Place::Hidden) return;
+            told.append(delegate.saveText01.text());
+            delegate.savePanel01Close();
+        });
     }
 
     /// Opens the sheet, and answers it.
@@ -70,7 +76,7 @@ protected:
 
     const QString first = delegate.currentProfile();
     QString refusal;
-    QStringList warnings;
+    QStringList told;
 };
 
 } // namespace
@@ -126,8 +132,9 @@ TEST_F(Profiles, NamesThatAreEmptyOrTakenAreRefused)
 {
     const plist::Dictionary before = delegate.listPlist().deepCopy();
     for (const Sheet &sheet : {renaming, making, duplicating})
-        for (const auto &[name, reason] :
-             {std::pair{QString(), u"none was typed"_qs}, {first, u"already"_qs}}) {
+        for (const auto &[name, reason] : {std::pair{QString(), u"none was typed"_qs},
+                                           {u" \t"_qs, u"none was typed"_qs},
+                                           {first, u"already"_qs}}) {
             refusal.clear();
             confirm(sheet, name);
             EXPECT_TRUE(refusal.contains(reason)) << refusal.toStdString();
@@ -159,24 +166,33 @@ TEST_F(Profiles, TheSelectedOneOpensAtStartUpOrTheLast)
     EXPECT_EQ(delegate.profileCombo01.selectedTitle(), u"b"_qs);
 }
 
-TEST_F(Profiles, WhatCanNotBeSavedIsTold)
+TEST_F(Profiles, WhatCanNotBeSavedIsToldAndTheOldFilesStay)
 {
-    // Nobody may write where a folder stands in the file's place.
-    const QString settings = quillorentLibrary::settingsPath();
-    const QString profiles = quillorentLibrary::profilesPath();
-    using Save = std::pair<std::function<void(C &)>, QString>;
-    for (const auto &[save, taken] : {Save{&C::saveSettings1Action, settings},
-                                      {&C::profileButton01Action, profiles},
-                                      {&C::setterDefaultProfile, settings},
-                                      {&C::setterDefaultProfile, profiles}}) {
-        for (const QString &path : {settings, profiles})
-            std::filesystem::remove_all(path.toStdString());
-        writeFile(taken.toStdString() + "/taken", "x");
-        delegate.warningText01.setText({});
-        warnings.clear();
-        save(delegate);
+    const std::filesystem::path config = program.folder() / "config";
+    const FullDisk disk(config);
+    if (!disk.isThere()) GTEST_SKIP() << "file systems can't be mounted here, the disk was not full";
+    const QStringList both{quillorentLibrary::profilesPath(), quillorentLibrary::settingsPath()};
+    const TreeSnapshot before = snapshotTree(config);
+    delegate.configPlist().dictionary(u"resources"_qs).setSwitch(u"autosave"_qs, true);
+    delegate.addFolders({QString(10'000, u'x')});
+    delegate.configPlist().setValue(u"new"_qs, u"");
+    struct Save {
+        std::function<void(C &)> action;
+        QStringList told;
+    };
+    for (const Save &save : {Save{&C::profileButton01Action, {both[0]}},
+                             Save{&C::saveSettings1Action, {both[1]}}, Save{&C::setterDefaultProfile, both},
+                             Save{[](C &c) {
+                                      c.profileButton01Action();
+                                      c.saveSettings1Action();
+                                  },
+                                  both},
+                             Save{&C::applicationWillTerminate, {}}}) {
+        told.clear();
+        save.action(delegate);
         ASSERT_TRUE(waitForThreads(60s));
-        ASSERT_EQ(warnings.size(), 1);
-        EXPECT_TRUE(warnings.first().contains(taken));
+        for (const QString &path : both)
+            EXPECT_EQ(told.join(u' ').count(path), save.told.count(path)) << told.join(u' ').toStdString();
+        EXPECT_EQ(treeDifference(before, snapshotTree(config), {.root = false}), "");
     }
 }

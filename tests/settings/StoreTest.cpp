@@ -1,10 +1,13 @@
 #include "settings/Store.h"
 #include "plist/File.h"
 #include "plist/Value.h"
+#include "settings/UserFile.h"
 
 #include "TemporaryFolder.h"
 
+#include <future>
 #include <gtest/gtest.h>
+#include <sstream>
 #include <thread>
 #include <unistd.h>
 
@@ -60,6 +63,7 @@ protected:
         writeFile(templates / "config.plist", document(versionElement("2") + newKey));
         writeFile(templates / "profiles.plist",
                   document("<key>Default profile</key><dict>" + newKey + "</dict>"));
+        static_cast<void>(takeNotices()); // of other tests
     }
     ~Store() override
     {
@@ -71,11 +75,31 @@ protected:
 
     TemporaryFolder folder;
     fs::path config = folder / "new" / "config";
-    fs::path templates = folder / "templates";
+    fs::path templates = folder / "share/quillorent";
     fs::path settings = config / settingsName;
     fs::path profiles = config / profilesName;
     fs::path damaged = config / (settingsName + ".damaged");
+    fs::path kept = config / (settingsName + ".kept");
 };
+
+/// The elements of profiles, each of one value: "A=1 B=2".
+std::string profilesOf(const std::string &words)
+{
+    std::string elements;
+    std::istringstream stream(words);
+    for (std::string word; stream >> word;)
+        elements += "<key>" + word.substr(0, 1) + "</key><dict><key>value</key><string>" + word.substr(2) +
+                    "</string></dict>";
+    return elements;
+}
+
+std::string wordsOf(const Dictionary &profiles)
+{
+    QStringList words;
+    for (const QString &name : profiles.keys())
+        words.append(name + u'=' + profiles.dictionary(name).string(u"value"_s).value_or(QString()));
+    return words.join(u' ').toStdString();
+}
 
 Dictionary someSettings()
 {
@@ -131,7 +155,7 @@ TEST_F(Store, KeepsWhatCannotBeReadWhenItIsSavedOver)
         EXPECT_FALSE(readSettings());
         EXPECT_FALSE(areSettingsSaved(someSettings()));
         EXPECT_EQ(readFile(settings), content);
-        EXPECT_EQ(saveSettings(someSettings()), QString());
+        EXPECT_EQ(saveSettings(someSettings()).reason, QString());
         EXPECT_TRUE(areSettingsSaved(someSettings()));
         EXPECT_EQ(readSettings(), someSettings());
     }
@@ -153,9 +177,12 @@ TEST_F(Store, ReplacesAFileThatMayNotBeWrittenAndKeepsIt)
         fs::permissions(settings, fs::perms{0400});
         const OrdinaryUser user(folder.path());
         EXPECT_EQ(readSettings().string(u"version"_s), u"2");
+        const QString said = takeNotices().join(u' ');
+        EXPECT_EQ(said.contains(QString::fromStdString(kept.string())), !content.empty())
+            << said.toStdString();
     }
-    EXPECT_EQ(readFile(damaged), old);
-    EXPECT_FALSE(fs::exists(damaged.string() + ".1"));
+    EXPECT_EQ(readFile(kept), old);
+    EXPECT_FALSE(fs::exists(kept.string() + ".1"));
     EXPECT_EQ(fs::status(settings).permissions(), fs::perms{0600});
 }
 
@@ -170,9 +197,10 @@ TEST_F(Store, LeavesAFileThatMayNotBeWrittenWhereNothingCanReplaceIt)
         if (!hasTemplate) fs::remove(templates / "config.plist");
         const OrdinaryUser user(folder.path());
         EXPECT_EQ(readSettings().string(u"version"_s), u"old");
-        EXPECT_NE(saveSettings(someSettings()), QString());
+        EXPECT_EQ(takeNotices().isEmpty(), !hasTemplate) << "that nothing can be saved is not said";
+        EXPECT_FALSE(saveSettings(someSettings()).isDone());
         EXPECT_EQ(readFile(settings), document(versionElement("old")));
-        EXPECT_FALSE(fs::exists(damaged));
+        EXPECT_FALSE(fs::exists(kept));
         fs::permissions(config, fs::perms{0700});
         fs::permissions(settings, fs::perms{0600});
     }
@@ -180,7 +208,7 @@ TEST_F(Store, LeavesAFileThatMayNotBeWrittenWhereNothingCanReplaceIt)
 
 TEST_F(Store, FollowsLinks)
 {
-    const fs::path kept = folder / "kept.plist";
+    const fs::path linked = folder / "kept.plist";
     fs::create_directories(config);
     fs::create_symlink("../../kept.plist", settings);
     fs::create_symlink("/nonexistent/folder/file", profiles);
@@ -189,13 +217,13 @@ TEST_F(Store, FollowsLinks)
     EXPECT_TRUE(fs::is_symlink(settings) && fs::is_symlink(profiles));
 
     // The link is what is kept, though its content was kept before.
-    writeFile(kept, document(versionElement("old")));
-    fs::copy_file(kept, damaged);
-    fs::permissions(kept, fs::perms{0400});
+    writeFile(linked, document(versionElement("old")));
+    fs::copy_file(linked, kept);
+    fs::permissions(linked, fs::perms{0400});
     const OrdinaryUser user(folder.path());
     EXPECT_TRUE(readSettings().contains(u"new"_s));
-    EXPECT_EQ(fs::read_symlink(damaged.string() + ".1"), "../../kept.plist");
-    EXPECT_EQ(readFile(kept), document(versionElement("old")));
+    EXPECT_EQ(fs::read_symlink(kept.string() + ".1"), "../../kept.plist");
+    EXPECT_EQ(readFile(linked), document(versionElement("old")));
 }
 
 TEST_F(Store, NeedsItsTemplates)
@@ -208,6 +236,101 @@ TEST_F(Store, NeedsItsTemplates)
     writeFile(settings, document(versionElement("1")));
     EXPECT_EQ(readSettings().keys(), (QStringList{u"version"_s}));
     EXPECT_EQ(readFile(settings), document(versionElement("1")));
+}
+
+TEST_F(Store, FinishesAMergeThatOneFileRefused)
+{
+    // The profiles may not be replaced, then they can't be read.
+    const fs::path linked = folder / "locked/profiles";
+    for (const std::string &content : {document("<key>Mine</key><dict/>"), halfWritten}) {
+        writeFile(settings, document(versionElement("1")));
+        writeFile(linked, content);
+        fs::remove(profiles);
+        fs::create_symlink(linked, profiles);
+        fs::permissions(linked.parent_path(), fs::perms{0500});
+        {
+            const OrdinaryUser user(folder.path());
+            EXPECT_EQ(readSettings().string(u"version"_s), u"1");
+            EXPECT_EQ(readFile(settings), document(versionElement("1")));
+        }
+        fs::permissions(linked.parent_path(), fs::perms{0700});
+        writeFile(linked, document("<key>Mine</key><dict/>"));
+        EXPECT_EQ(readSettings().string(u"version"_s), u"2");
+        EXPECT_TRUE(readProfiles().dictionary(u"Mine"_s).contains(u"new"_s));
+    }
+}
+
+TEST_F(Store, FindsItsCompanionsAgain)
+{
+    const fs::path companion = folder / "libexec/quillorent/rar";
+    writeFile(companion, "");
+    fs::permissions(companion, fs::perms{0700});
+    writeFile(folder / "old/quillorent/rar", ""); // it is still there
+    const std::string rows[][2] = {{"/gone/libexec/quillorent/rar", companion},
+                                   {"/gone/bin/rar", "/gone/bin/rar"},
+                                   {"/gone/quillorent/openssl", "/gone/quillorent/openssl"},
+                                   {folder / "old/quillorent/rar", folder / "old/quillorent/rar"}};
+    std::string tools = "<key>table</key><dict/>";
+    for (const auto &[path, expected] : rows)
+        tools += "<key>" + path + "</key><string>" + path + "</string>";
+    writeFile(settings, document(versionElement("2") + "<key>external</key><dict>" + tools + "</dict>"));
+    for (const bool isFirst : {true, false}) {
+        const Dictionary read = readSettings().dictionary(u"external"_s);
+        for (const auto &[path, expected] : rows)
+            EXPECT_EQ(read.string(QString::fromStdString(path)).value_or(QString()).toStdString(), expected);
+        EXPECT_EQ(takeNotices().size(), isFirst);
+        EXPECT_NE(readFile(settings).find("<string>" + companion.string()), std::string::npos) << "not saved";
+    }
+}
+
+TEST_F(Store, KeepsWhatOthersSaved)
+{
+    struct Case {
+        std::string theirs;
+        InConflict inConflict;
+        std::string expected;
+        std::string kept; ///< the words of the copy beside it
+    };
+    const std::string copy = profiles.string() + ".kept";
+    for (const Case &c : {
+             Case{"A=1 B=2 D=1", InConflict::Ask, "A=2 B=2 D=1", ""},
+             Case{"A=3 B=2 C=1", InConflict::Ask, "A=3 B=2 C=1", ""}, // nothing is written
+             Case{"A=3 B=2 C=1", InConflict::KeepMine, "A=2 B=2 C=1", "A=3 B=2 C=1"},
+             Case{"A=3 B=2 C=1", InConflict::TakeTheirs, "A=3 B=2 C=1", "A=2 B=1 C=1"},
+         }) {
+        SCOPED_TRACE(c.theirs + std::to_string(int(c.inConflict)));
+        writeFile(profiles, document(profilesOf("A=1 B=1 C=1")));
+        const Dictionary mine = readProfiles();
+        mine.dictionary(u"A"_s).setValue(u"value"_s, u"2");
+        writeFile(profiles, document(profilesOf(c.theirs)));
+        const Saved saved = saveProfiles(mine, c.inConflict);
+        const bool isAsked = c.inConflict == InConflict::Ask && !saved.conflicts.isEmpty();
+        EXPECT_TRUE(saved.isDone());
+        EXPECT_EQ(saved.conflicts.join(u' '), c.theirs[2] == '3' ? u"A"_s : QString());
+        EXPECT_EQ(wordsOf(plist::readFile(profilesPath()).dictionary), c.expected);
+        EXPECT_EQ(wordsOf(mine), isAsked ? "A=2 B=1 C=1" : c.expected);
+        EXPECT_EQ(areProfilesSaved(mine), !isAsked);
+        EXPECT_EQ(wordsOf(plist::readFile(QString::fromStdString(copy)).dictionary), c.kept);
+        EXPECT_EQ(takeNotices().size(), c.kept.empty() ? 0 : 1);
+        fs::remove(copy);
+
+        // What was taken over is no change of mine, and goes when they remove it.
+        if (isAsked) continue;
+        writeFile(profiles, document(profilesOf("A=" + c.expected.substr(2, 1))));
+        EXPECT_EQ(saveProfiles(mine).conflicts, QStringList());
+        EXPECT_EQ(wordsOf(mine), c.expected.substr(0, 3));
+    }
+}
+
+TEST_F(Store, TellsWhatIsSavedWhileADiskIsSlow)
+{
+    static_cast<void>(readSettings());
+    std::future<bool> look;
+    settingsFile().change([&](const Dictionary &) {
+        look = std::async(std::launch::async, [] { return areSettingsSaved(someSettings()); });
+        EXPECT_EQ(look.wait_for(std::chrono::seconds(20)), std::future_status::ready)
+            << "it waits for the disk";
+    });
 }
 
 TEST_F(Store, MayBeSavedByManyThreads)

@@ -86,9 +86,10 @@ TEST_F(BindingTest, EscapeAsksThePanelsClosingAction)
 {
     for (outlets::Panel *const each :
          {&delegate.warningPanel01, &delegate.warningPanel03, &delegate.warningPanel02,
-          &delegate.concernsPanel01, &delegate.extractPanel01, &delegate.consolePanel01}) {
+          &delegate.concernsPanel01, &delegate.extractPanel01, &delegate.savePanel01, &delegate.quitPanel01,
+          &delegate.conflictPanel01, &delegate.settingsPanel01, &delegate.consolePanel01}) {
         outlets::Panel &panel = *each;
-        const bool asSheet = each != &delegate.consolePanel01;
+        const bool asSheet = each != &delegate.consolePanel01 && each != &delegate.settingsPanel01;
         SCOPED_TRACE(panel.name().toStdString());
         asSheet ? panel.beginSheet() : panel.orderFront();
         settle();

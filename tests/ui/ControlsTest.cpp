@@ -183,6 +183,7 @@ TEST_F(ControlsTest, ShowTheirKeyOrItsAbsence)
         open(round);
         for (const Control &control : controls())
             EXPECT_EQ(shown(control), valueOf(control, round)) << qPrintable(control.key);
+        EXPECT_FALSE(widget<QComboBox>(u"prefSelector02"_qs).currentText().isEmpty());
         EXPECT_EQ(delegate.syncView.isHidden(), !delegate.syncCheck01.isOn());
         EXPECT_EQ(delegate.partSize(), delegate.prefText01.text());
         EXPECT_EQ(delegate.partSize(), QString::number(delegate.prefStepper01.value()));

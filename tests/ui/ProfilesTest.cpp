@@ -1,13 +1,17 @@
+#include "Command.h"
 #include "TestWindow.h"
 
 #include "plist/File.h"
 #include "settings/Paths.h"
+#include "ui/SingleWindow.h"
 
 #include <QDir>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <csignal>
 
 namespace {
 
@@ -72,9 +76,9 @@ TEST_F(ProfilesTest, WhatIsNotSavedShowsAndIsAskedFor)
     // Nobody may write where a folder stands in the file's place; then there is room again.
     const QString path = quillorentLibrary::profilesPath();
     ASSERT_TRUE(QFile::remove(path) && QDir().mkpath(path + u"/taken"_qs));
-    clickAndAnswer(u"profileButton01"_qs, u"warningPanel01"_qs, [&] {
-        EXPECT_TRUE(delegate.warningText01.text().contains(path));
-        click(u"warningPanel01CloseButton"_qs);
+    clickAndAnswer(u"profileButton01"_qs, u"savePanel01"_qs, [&] {
+        EXPECT_TRUE(delegate.saveText01.text().contains(path));
+        click(u"savePanel01CloseButton"_qs);
     });
     ASSERT_TRUE(QDir(path).removeRecursively());
     window.close();
@@ -92,4 +96,105 @@ TEST_F(ProfilesTest, WhatIsDiscardedIsGone)
     QTest::mouseClick(answer(QMessageBox::Discard), Qt::LeftButton);
     EXPECT_TRUE(waitUntil([&] { return !window.isVisible(); }));
     EXPECT_FALSE(plist::readFile(quillorentLibrary::profilesPath()).dictionary == delegate.listPlist());
+}
+
+TEST_F(ProfilesTest, QuittingTellsWhatItCanNotSave)
+{
+    // Nobody may write where a folder stands in the file's place.
+    const QString path = quillorentLibrary::profilesPath();
+    ASSERT_TRUE(QFile::remove(path) && QDir().mkpath(path + u"/taken"_qs));
+    const QSignalSpy closed(&window, &ui::Window::closed);
+    const QString copies = program.path("copies");
+    ASSERT_TRUE(QDir().mkpath(copies));
+    delegate.addFolders({u"/one more"_qs});
+    delegate.openPanel = [&](const outlets::OpenPanel &) { return QStringList{copies}; };
+    struct Answer {
+        QString button;
+        bool ends;
+    };
+    for (const Answer &answer : {Answer{u"Again"_qs, false}, Answer{u"Stay"_qs, false},
+                                 Answer{u"Copy"_qs, true}, Answer{u"Leave"_qs, true}}) {
+        SCOPED_TRACE(answer.button.toStdString());
+        const auto before = closed.count();
+        auto &panel = widget(u"quitPanel01"_qs);
+        if (!panel.isVisible()) window.close();
+        ASSERT_TRUE(waitUntil([&] { return panel.isVisible(); }));
+        EXPECT_TRUE(window.isVisible() && panel.windowTitle() == u"Can't save");
+        EXPECT_TRUE(delegate.quitText01.text().contains(path));
+        click(u"quitPanel01"_qs + answer.button);
+        if (answer.button == u"Again") continue; // and it fails again
+        ASSERT_TRUE(waitForThreads(std::chrono::seconds(60)));
+        EXPECT_EQ(waitUntil([&] { return closed.count() > before || !answer.ends; }), true);
+        EXPECT_EQ(window.isVisible(), !answer.ends);
+        window.show();
+    }
+    EXPECT_EQ(QDir(copies).entryList(QDir::Files).size(), 1);
+    const QString copy = QDir(copies).filePath(QFileInfo(path).fileName());
+    EXPECT_TRUE(plist::readFile(copy).dictionary == delegate.listPlist());
+
+    ASSERT_TRUE(QDir(path).removeRecursively());
+    window.close();
+    EXPECT_TRUE(waitUntil([&] { return !window.isVisible(); }));
+    EXPECT_TRUE(plist::readFile(path).dictionary == delegate.listPlist());
+}
+
+TEST_F(ProfilesTest, WhatOthersChangedTooIsAskedFor)
+{
+    const QString path = quillorentLibrary::profilesPath();
+    for (const QString &answer : {u"Stop"_qs, u"Mine"_qs, u"Theirs"_qs}) {
+        const plist::Dictionary theirs = plist::readFile(path).dictionary;
+        const QString name = delegate.currentProfile();
+        theirs.dictionary(name).setValue(u"part"_qs, answer + u" of theirs"_qs);
+        theirs.setValue(u"New "_qs + answer, plist::Dictionary::make());
+        ASSERT_EQ(plist::writeFile(path, theirs), QString());
+        delegate.prefStepper01Action(answer + u" of mine"_qs);
+        clickAndAnswer(u"profileButton01"_qs, u"conflictPanel01"_qs, [&] {
+            EXPECT_TRUE(delegate.conflictText01.text().contains(name));
+            click(u"conflictPanel01"_qs + answer);
+        });
+        ASSERT_TRUE(waitForThreads(std::chrono::seconds(60)));
+        settle();
+        const QString expected = answer + (answer == u"Theirs" ? u" of theirs"_qs : u" of mine"_qs);
+        EXPECT_EQ(widget<QLineEdit>(u"prefText01"_qs).text(), expected);
+        const bool isSaved = answer != u"Stop";
+        EXPECT_EQ(plist::readFile(path).dictionary == delegate.listPlist(), isSaved);
+        EXPECT_EQ(delegate.profileCombo01.titles().contains(u"New "_qs + answer), isSaved);
+        EXPECT_EQ(delegate.settingsText01.text().contains(path + u".kept"_qs), isSaved);
+    }
+}
+
+TEST_F(ProfilesTest, ASecondStartRaisesTheFirstWindow)
+{
+    const TemporaryFolder runtime;
+    std::filesystem::permissions(runtime.path(), std::filesystem::perms{0700});
+    qputenv("XDG_RUNTIME_DIR", runtime.path().c_str());
+    const std::string config = quillorentLibrary::preferencesFolder().toStdString();
+    const auto start = [&](const std::string &folder) {
+        return std::make_unique<BackgroundProgram>(
+            std::vector<std::string>{QUILLORENT},
+            CommandOptions{.environment = {{"XDG_CONFIG_HOME", folder}}}, (runtime / "log").string());
+    };
+    const auto sockets = [&] {
+        return std::ranges::count_if(std::filesystem::directory_iterator(runtime.path()),
+                                     [](const auto &entry) { return entry.is_socket(); });
+    };
+    // One that was killed leaves its socket, and keeps nobody out.
+    const auto killed = start(config);
+    ASSERT_TRUE(waitUntil([&] { return sockets() == 1; }));
+    killed->signal(SIGKILL);
+    ASSERT_TRUE(waitUntil([&] { return killed->hasEnded(); }));
+    ui::SingleWindow single(quillorentLibrary::preferencesFolder());
+    ASSERT_TRUE(single.take());
+    QObject::connect(&single, &ui::SingleWindow::raiseRequested, &window, &ui::Window::comeToFront);
+    window.showMinimized();
+
+    const auto second = start(config);
+    EXPECT_TRUE(waitUntil([&] { return second->hasEnded(); }));
+    EXPECT_FALSE(window.isMinimized());
+    const auto other = start(program.path("other").toStdString());
+    EXPECT_TRUE(waitUntil([&] { return sockets() == 2; })) << "settings of its own, a window of its own";
+    single.giveUp();
+    const auto next = start(config);
+    EXPECT_TRUE(waitUntil([&] { return sockets() == 2; }));
+    EXPECT_FALSE(other->hasEnded() || next->hasEnded());
 }
