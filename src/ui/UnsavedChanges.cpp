@@ -47,7 +47,8 @@ bool UnsavedChanges::mayClose()
     if (m_mayLose) return true;
     look();
     if (!m_window.isWindowModified()) return true;
-    if (m_question || m_controller.savesForQuitting()) return false;
+    const bool isAsked = m_question && m_question->isVisible();
+    if (isAsked || m_controller.savesForQuitting()) return false;
     const bool savesByItself = m_controller.configPlist().dictionary(u"resources"_qs).isOn(u"autosave"_qs);
     savesByItself ? m_controller.saveForQuitting() : ask();
     return false;

@@ -92,6 +92,7 @@ void Window::addShortcuts()
 
 void Window::closeEvent(QCloseEvent *event)
 {
+    m_mayStop = m_mayStop && m_controller.isRunActive(); // said of this run, not of a later one
     if (m_controller.isRunActive() && !m_mayStop) {
         event->ignore();
         askToStop();

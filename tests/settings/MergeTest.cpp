@@ -57,7 +57,6 @@ TEST(MergeData, AddsWhatIsMissing)
              Merge{"config", "l[ ]", "l[ a l ]", "l[ l ]"},
              Merge{"config", "t{ a=user }", "t{ a=1 b=2 }", "t{ a=user t{ a=1 b=2 } }"},
              Merge{"config", "t{ b=own a=user } l[ a b ]", "t{ a=1 } l[ b a ]", "t{ b=own a=user } l[ a b ]"},
-             Merge{"config", "", "n# b!", ""},
              Merge{"config", "l= t=", "l[ a ] t{ a= }", "l= t="},
              Merge{"Config", "version=1", "version=2 a=", "version=1"}, // no type that is known
              Merge{"profile", "P{ part=5 } Q{ }", "Default_profile{ part=1 path= n# }",
@@ -65,7 +64,6 @@ TEST(MergeData, AddsWhatIsMissing)
              Merge{"profile", "P{ l[ a ] } Q{ }", "Default_profile{ l[ b ] }", "P{ l[ a l ] } Q{ l[ b ] }"},
              Merge{"profile", "P{ t{ } } Q{ }", "Default_profile{ t{ a=1 } }", "P{ t{ } } Q{ t{ a=1 } }"},
              Merge{"profile", "P{ t{ } }", "Default_profile{ t{ a=1 } } t{ b=2 }", "P{ t{ t{ b=2 } } }"},
-             Merge{"profile", "", "Default_profile{ part=1 }", ""},
              Merge{"profile", "version=1", "Default_profile{ part=1 }", "version=1"},
          }) {
         SCOPED_TRACE(std::string(merge.user) + " and " + merge.newDict);
@@ -80,16 +78,6 @@ TEST(MergeData, AddsWhatIsMissing)
         quillorentLibrary::mergeData(user, parsed(merge.newDict), u"2"_s, u"config"_s);
         EXPECT_EQ(user, parsed(merge.expected));
     }
-}
-
-TEST(MergeData, StoresTheTemplatesOwnObjects)
-{
-    const Dictionary user = Dictionary::make();
-    const Dictionary newDict = parsed("l[ a ] t{ }");
-    quillorentLibrary::mergeData(user, newDict, u"2"_s, u"config"_s);
-    EXPECT_TRUE(user.array(u"l"_s).isSameObject(newDict.array(u"l"_s)));
-    EXPECT_TRUE(user.dictionary(u"t"_s).isSameObject(newDict.dictionary(u"t"_s)));
-    EXPECT_FALSE(quillorentLibrary::mergeData({}, newDict, u"2"_s, u"config"_s));
 }
 
 TEST(Reconcile, UnitesWhatBothSidesChanged)

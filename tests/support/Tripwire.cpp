@@ -99,12 +99,6 @@ void actAt(const std::string &moment)
     if (plan && plan->moment == moment) act();
 }
 
-bool failsLate()
-{
-    if (plan && plan->deed == "late") errno = ENOSPC;
-    return plan && plan->deed == "late";
-}
-
 void countChange()
 {
     static int count = 0;
@@ -203,12 +197,14 @@ int mkdirat(int a, const char *b, mode_t c) noexcept { return passOn<int>("mkdir
 int fsync(int a)
 {
     note("safe", a, "", AT_EMPTY_PATH);
-    return failsLate() ? -1 : passOn<int>("fsync", a);
+    if (plan && plan->deed == "late") return errno = ENOSPC, -1;
+    return passOn<int>("fsync", a);
 }
 int fdatasync(int a)
 {
     note("safe", a, "", AT_EMPTY_PATH);
-    return failsLate() ? -1 : passOn<int>("fdatasync", a);
+    if (plan && plan->deed == "late") return errno = ENOSPC, -1;
+    return passOn<int>("fdatasync", a);
 }
 int openat64(int a, const char *b, int flags, ...)
 {

@@ -24,10 +24,9 @@ bool QuillorentAppDelegate::noRepeatedProfileName(const QString &name) const
 bool QuillorentAppDelegate::canHaveProfiles()
 {
     if (listPlist()) return true;
-    warningText04.setText(
-        u"There can be no profiles, for their file can't be read:\n%1\n\nRepair it, or move it "
-        "away, and start the program again."_qs.arg(quillorentLibrary::whyProfilesAreUnread()));
-    warningPanel04.runModal();
+    tellOfFiles({u"There can be no profiles, for their file can't be read:\n%1\nRepair it, or move it away, "
+                 u"and start "
+                 "the program again."_qs.arg(quillorentLibrary::whyProfilesAreUnread())});
     return false;
 }
 

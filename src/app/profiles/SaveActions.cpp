@@ -106,8 +106,10 @@ void QuillorentAppDelegate::tellOfFiles(const QStringList &notices)
     if (notices.isEmpty()) return;
     const std::lock_guard oneAfterAnother(m_fileNotices);
     const bool isShown = settingsPanel01.place() != outlets::Panel::Place::Hidden;
-    const QString before = isShown ? settingsText01.text() + u"\n\n"_qs : QString();
-    settingsText01.setText(before + notices.join(u"\n\n"_qs));
+    QStringList shown = isShown ? settingsText01.text().split(u"\n\n"_qs) : QStringList();
+    shown.append(notices);
+    shown.removeDuplicates();
+    settingsText01.setText(shown.join(u"\n\n"_qs));
     settingsPanel01.orderFront();
 }
 
