@@ -39,9 +39,9 @@ plist::Dictionary makeDefaultProfile()
 /// What a person must know of a file that gave no dictionary.
 QString describeUnreadable(const QString &what, const QString &reason)
 {
-    return u"The %1 can't be read:\n%2\nTheir file stays as it is. Repair it, or move it away: the next "
-           u"start "
-           "makes a new one."_qs.arg(what, reason);
+    return u"The %1 can't be read:\n%2\n"
+           "Their file stays as it is. Repair it, or move it away: the next start makes a new one."_qs.arg(
+               what, reason);
 }
 
 } // namespace

@@ -25,7 +25,7 @@ plist::Dictionary readSettings()
     checkVersion();
     QStringList found;
     settingsFile().change([&](const plist::Dictionary &settings) { found = findCompanionsAgain(settings); });
-    const plist::Dictionary settings = settingsFile().read();
+    plist::Dictionary settings = settingsFile().read();
     findCompanionsAgain(settings); // where that could not be saved
     if (!found.isEmpty())
         settingsFile().notice(

@@ -116,9 +116,8 @@ QString UserFile::keepLoser(const QString &path, const plist::Dictionary &mine, 
                               ? keepCopy(path, KeptAs::Former)
                               : keepContent(path, plist::toDocument(mine).bytes);
     if (!kept.isSafe) return path + u": what is to be replaced can't be kept beside it"_qs;
-    notice((inConflict == InConflict::KeepMine
-                ? u"“%1” was saved. What others had changed in it is kept as “%2”."_qs
-                : u"“%1” stays as others changed it. What you had changed is kept as “%2”."_qs)
+    notice((inConflict == InConflict::KeepMine ? u"What others had changed in “%1” is kept as “%2”."_qs
+                                               : u"What you had changed in “%1” is kept as “%2”."_qs)
                .arg(path, kept.path));
     return {};
 }

@@ -17,10 +17,9 @@ QString quoted(const QStringList &names) { return u"“"_qs + names.join(u"”, 
 QString describeConflict(const SavedFile &file, const QStringList &names)
 {
     return u"Another window or program has changed the file of the %1 since it was read here, and both of "
-           u"you "
-           "have changed %2.\n\nWhichever you choose, the other one is kept beside the file. What only one "
-           "of "
-           "you has changed is saved in any case."_qs.arg(file.name, quoted(names));
+           "you have changed %2.\n\n"
+           "Whichever you choose, the other one is kept beside the file. What only one of you has changed is "
+           "saved in any case."_qs.arg(file.name, quoted(names));
 }
 
 /// Of some saves, what is to be told.
@@ -51,16 +50,16 @@ std::optional<QString> QuillorentAppDelegate::save(const SavedFile &file)
         saved = file.save(content, *choice);
     }
     QStringList notices = quillorentLibrary::takeNotices();
-    if (!saved.takenOver.isEmpty())
+    if (saved.isDone() && !saved.takenOver.isEmpty())
         notices.append(
             u"Another window or program has changed %1: that is taken over."_qs.arg(quoted(saved.takenOver)));
     if (!notices.isEmpty()) showFilesAgain();
     tellOfFiles(notices);
 
-    if (saved.reason.isEmpty()) return QString();
-    return u"The %1 could not be saved:\n%2\n\nWhat you changed is kept only as long as the program runs. "
-           u"Make "
-           "room, or make the folder writable, and save again."_qs.arg(file.name, saved.reason);
+    if (saved.isDone()) return QString();
+    return u"The %1 could not be saved:\n%2\n\n"
+           "What you changed is kept only as long as the program runs. Make room, or make the folder "
+           "writable, and save again."_qs.arg(file.name, saved.reason);
 }
 
 std::optional<InConflict> QuillorentAppDelegate::askInConflict(const QString &text)
@@ -91,7 +90,9 @@ void QuillorentAppDelegate::showFilesAgain()
     refreshProfileCombo();
     if (names.contains(currentProfile())) {
         profileCombo01.selectTitle(currentProfile());
+        const int source = passCombo01.selectedIndex();
         applyRecord(currentRecord());
+        if (passCombo01.selectedIndex() != source) passCombo01Action();
         listTableView.reloadData();
         syncTableView.reloadData();
     } else {
