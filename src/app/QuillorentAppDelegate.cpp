@@ -28,6 +28,7 @@ QuillorentAppDelegate::QuillorentAppDelegate()
 
     passCombo01.selectIndex(TypedPassword);
     prefSelector01.selectIndex(0);
+    prefSelector02.selectIndex(0); // there is one
     checkBox01.setOn(true);
     checkBox03.setOn(true);
     checkBox02.setOn(true);

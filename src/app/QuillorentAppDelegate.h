@@ -13,6 +13,7 @@
 #include "app/passwords/PasswordTab.h"
 #include "app/profiles/OptionsPanel.h"
 #include "app/profiles/ProfileSheets.h"
+#include "app/profiles/SavePanels.h"
 #include "app/synchronisation/PreviewTable.h"
 #include "app/synchronisation/SyncSheet.h"
 #include "app/synchronisation/SyncTab.h"
@@ -23,6 +24,7 @@
 #include "plist/Value.h"
 #include "runs/RunRecord.h"
 #include "runs/RunState.h"
+#include "settings/Store.h"
 #include "sync/SyncOrder.h"
 
 #include <atomic>
@@ -32,6 +34,7 @@
 struct Findings;
 struct Preview;
 struct RunStart;
+struct SavedFile;
 class RunMonitor;
 
 /// The controller: all state of the program, what every control holds, and what every control does. It knows
@@ -47,6 +50,7 @@ class QuillorentAppDelegate : public RunState,
                               public SyncSheet,
                               public OptionsPanel,
                               public ProfileSheets,
+                              public SavePanels,
                               public ToolsTab,
                               public UpdateNote,
                               public Messages {
@@ -91,8 +95,18 @@ public:
 
     // Start-up and quitting
     void applicationDidFinishLaunching();
-    /// Saves where the settings say so, then endRuns(); takes a second or two.
+    /// Saves what is changed where the settings say so, and asks nobody any more; then endRuns(). Takes a
+    /// second or two.
     void applicationWillTerminate();
+    /// Saves what is changed, and returns at once. What fails is told in `quitPanel01`, and asked about.
+    void saveForQuitting();
+    [[nodiscard]] bool savesForQuitting() const { return m_savesForQuitting; }
+    /// Whether that ended so that the program may end; true once for each time.
+    [[nodiscard]] bool takeMayQuit() { return m_mayQuit.exchange(false); }
+    void quitPanel01Again();
+    void quitPanel01Copy();  ///< into a folder of the user's choice
+    void quitPanel01Leave(); ///< without saving
+    void quitPanel01Stay();
     /// Cancels for good and returns when no thread and no tool is left.
     void endRuns();
 
@@ -121,6 +135,11 @@ public:
     [[nodiscard]] bool noRepeatedProfileName(const QString &name) const; ///< no profile has it yet
     void setterDefaultProfile();                                         ///< open this profile at start-up
     void saveSettings1Action();
+    void conflictPanel01Mine(); ///< where others have changed the file as well
+    void conflictPanel01Theirs();
+    void conflictPanel01Stop(); ///< save neither
+    void savePanel01Close();
+    void settingsPanel01Close();
     void autosaveCheck01Action();
     void updatesCheck01Action();
     void prefSelector01Action();
@@ -214,6 +233,23 @@ public:
 private:
     void applyRecord(const plist::Dictionary &record);
     void showPartSize(const QString &size);
+    void showSwitches();   ///< those of the settings
+    void showFilesAgain(); ///< others have changed what is shown; any thread
+    void tellOfFiles(const QStringList &notices);
+
+    // On threads that save
+    enum class QuitChoice { Stay, Again, Copy, Leave };
+    /// Gives what to tell whoever thinks that it is saved: nothing where it is. None: they chose not to.
+    [[nodiscard]] std::optional<QString> save(const SavedFile &file);
+    [[nodiscard]] std::optional<quillorentLibrary::InConflict> askInConflict(const QString &text);
+    void tellUnlessSaved(const QStringList &failures);
+    [[nodiscard]] bool isUnsaved(const SavedFile &file) const;
+    [[nodiscard]] bool saveOrAsk();                         ///< whether the program may end
+    [[nodiscard]] std::optional<QStringList> saveChanged(); ///< what failed; none as for save()
+    [[nodiscard]] QStringList saveCopies();                 ///< what failed
+    void answerConflict(std::optional<quillorentLibrary::InConflict> choice);
+    void answerQuitting(QuitChoice choice);
+
     void closeSheet(outlets::Panel &sheet);
     /// Lets the user choose one folder, shows it, and keeps it under `key` in the current record.
     void chooseFolder(const QString &title, outlets::TextField &field, const QString &key);
@@ -233,6 +269,8 @@ private:
     [[nodiscard]] RunStart prepareTransfer(const SyncOrder &order);
     [[nodiscard]] RunStart prepareConfirmed(const SyncOrder &order);
 
+    /// Says so where there are no profiles to add to, for their file can't be read.
+    [[nodiscard]] bool canHaveProfiles();
     [[nodiscard]] bool acceptName(const QString &name,
                                   outlets::Panel &sheet); ///< or says why not, in its place
     void showProfile(const QString &name);
@@ -251,6 +289,17 @@ private:
     Latest m_keyDescriptions;
     std::atomic<bool> m_goesOn = false; ///< the answer to the question that was asked last
     Guarded<SyncOrder> m_previewedOrder;
+
+    std::mutex m_saveQuestions; // held while one is asked, never on the main thread
+    std::mutex m_fileNotices;
+    Guarded<std::optional<quillorentLibrary::InConflict>> m_conflictChoice;
+    Guarded<QString> m_copyFolder;
+    std::atomic<QuitChoice> m_quitChoice = QuitChoice::Stay;
+    std::atomic<bool> m_savesForQuitting = false;
+    std::atomic<bool> m_mayQuit = false;
+    std::atomic<bool> m_leavesUnsaved = false; ///< the user said so
+    std::atomic<bool> m_endsUnasked = false;   ///< there is no window any more
+
     listTable m_listTable{listTableView};
     extractTable m_extractTable;
     syncTable m_syncTable{syncTableView};

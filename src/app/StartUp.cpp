@@ -1,8 +1,7 @@
 #include "app/QuillorentAppDelegate.h"
+#include "app/profiles/SavedFile.h"
 #include "app/tools/Compliance.h"
 #include "keychain/Keychain.h"
-#include "plist/File.h"
-#include "settings/Paths.h"
 #include "settings/Store.h"
 #include "tools/Threads.h"
 #include "tools/ToolRun.h"
@@ -37,12 +36,12 @@ plist::Dictionary makeDefaultProfile()
     return record;
 }
 
-/// What a person must know of a file that gave no dictionary; empty where it gave one.
-QString describeUnreadable(const QString &path, const plist::Dictionary &dictionary)
+/// What a person must know of a file that gave no dictionary.
+QString describeUnreadable(const QString &what, const QString &reason)
 {
-    if (dictionary) return {};
-    return u"\nA settings file can't be read:\n%1\nIt stays as it is. Repair it, or move it "
-           "away: the next start makes a new one.\n"_qs.arg(plist::readFile(path).reason);
+    return u"The %1 can't be read:\n%2\n"
+           "Their file stays as it is. Repair it, or move it away: the next start makes a new one."_qs.arg(
+               what, reason);
 }
 
 } // namespace
@@ -64,16 +63,20 @@ void QuillorentAppDelegate::applicationDidFinishLaunching()
     checkForUpdatesAtStart();
     detachThread(u"left-in-clear"_qs, [this] { showLeftInClear(); });
 
-    consoleTextView01.append(describeUnreadable(quillorentLibrary::settingsPath(), configPlist()));
-    consoleTextView01.append(describeUnreadable(quillorentLibrary::profilesPath(), listPlist()));
-    if (!consoleTextView01.text().isEmpty()) consolePanel01.orderFront();
+    QStringList notices = quillorentLibrary::takeNotices();
+    if (!configPlist())
+        notices.append(describeUnreadable(u"settings"_qs, quillorentLibrary::whySettingsAreUnread()));
+    if (!listPlist())
+        notices.append(describeUnreadable(u"profiles"_qs, quillorentLibrary::whyProfilesAreUnread()));
+    tellOfFiles(notices);
 }
 
 void QuillorentAppDelegate::applicationWillTerminate()
 {
-    if (configPlist().dictionary(u"resources"_qs).isOn(u"autosave"_qs)) {
-        profileButton01Action();
-        saveSettings1Action();
+    m_endsUnasked = true;
+    if (configPlist().dictionary(u"resources"_qs).isOn(u"autosave"_qs) && !m_leavesUnsaved) {
+        if (isUnsaved(profilesToSave())) profileButton01Action();
+        if (isUnsaved(settingsToSave())) saveSettings1Action();
     }
 
     endRuns();

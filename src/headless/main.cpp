@@ -4,6 +4,7 @@
 #include "headless/ExtractCommand.h"
 #include "headless/Print.h"
 #include "headless/SyncCommand.h"
+#include "tools/RegisteredTool.h"
 #include "tools/Verification.h"
 
 #include <QCoreApplication>
@@ -13,20 +14,19 @@ namespace {
 
 ExitStatus listTools(const QuillorentAppDelegate &delegate)
 {
+    if (!delegate.configPlist()) return RunFailed; // which is told
     bool allPass = true;
-    const plist::Dictionary tools = delegate.configPlist().dictionary(u"external"_qs);
-    for (const QString &name : tools.keys()) {
+    for (const QString &name : registeredTools()) {
         const bool passes = quillorentLibrary::testAll(name);
         allPass = allPass && passes;
-        print(
-            QStringList{name, tools.string(name).value_or(QString()), passes ? u"ok"_qs : u"not ok"_qs}.join(
-                u'\t'));
+        print(QStringList{name, registeredTool(name), passes ? u"ok"_qs : u"not ok"_qs}.join(u'\t'));
     }
     return allPass ? Done : RunFailed;
 }
 
 ExitStatus listProfiles(const QuillorentAppDelegate &delegate)
 {
+    if (!delegate.listPlist()) return RunFailed; // likewise
     for (const QString &name : delegate.listPlist().keys())
         print((name == delegate.currentProfile() ? u"* "_qs : u"  "_qs) + name);
     return Done;
@@ -37,7 +37,7 @@ bool openProfile(QuillorentAppDelegate &delegate, const QString &name)
 {
     const QStringList names = delegate.listPlist().keys();
     if (names.isEmpty()) {
-        printError(u"There are no profiles, or their file can't be read."_qs);
+        if (delegate.listPlist()) printError(u"There are no profiles."_qs);
         return false;
     }
     if (name.isEmpty()) return true;
@@ -85,6 +85,7 @@ int main(int argc, char **argv)
     prepareProcess(parsed.options->passwordFile == u"-");
     QuillorentAppDelegate delegate;
     delegate.applicationDidFinishLaunching();
+    if (const QString notices = delegate.settingsText01.text(); !notices.isEmpty()) printError(notices);
     const ExitStatus status = runCommand(delegate, *parsed.options);
     // Nothing is saved: a run without a window leaves the user's files as they are.
     delegate.endRuns();

@@ -2,6 +2,7 @@
 
 #include "plist/Dictionary.h"
 
+#include <QByteArray>
 #include <QString>
 
 namespace plist {
@@ -24,10 +25,17 @@ struct FileContent {
 /// are refused.
 [[nodiscard]] FileContent readFile(const QString &path);
 
+/// A dictionary as the bytes of an XML property list, or the reason why it can't be put into one: characters
+/// that XML can't carry, containers below the deepest level, and whatever else readFile() would refuse.
+struct Document {
+    QByteArray bytes;
+    QString reason; ///< empty where `bytes` are whole
+};
+[[nodiscard]] Document toDocument(const Dictionary &dictionary);
+
 /// Writes the dictionary as an XML property list, readable by the user alone, whole or not at all; a symbolic
-/// link is followed. Gives the reason where that failed, and the empty string where it did not. What
-/// readFile() would refuse is not written: characters that XML can't carry, and containers below the deepest
-/// level.
+/// link is followed. Gives the reason where that failed, and the empty string where it did not. What has no
+/// document is not written.
 [[nodiscard]] QString writeFile(const QString &path, const Dictionary &dictionary);
 
 } // namespace plist

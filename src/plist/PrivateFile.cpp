@@ -2,7 +2,9 @@
 
 #include <QFileInfo>
 #include <QSaveFile>
+#include <cerrno>
 #include <optional>
+#include <unistd.h>
 
 namespace plist {
 
@@ -21,22 +23,55 @@ std::optional<QString> targetOf(const QString &path)
     return file.filePath();
 }
 
+// commit() overlooks this one, too; and a disk may tell only now that it is full. Some file systems can't
+// sync.
+int failureOfSync(int file)
+{
+    if (fsync(file) == 0 || errno == EINVAL || errno == ENOTSUP) return 0;
+    return errno;
+}
+
 } // namespace
+
+PendingFile::PendingFile(const QString &path, const QByteArray &content) : m_path(path) { prepare(content); }
+
+PendingFile::~PendingFile() = default;
+PendingFile::PendingFile(PendingFile &&) noexcept = default;
+PendingFile &PendingFile::operator=(PendingFile &&) noexcept = default;
+
+void PendingFile::fail(const QString &why)
+{
+    m_reason = u"%1: it can't be written: %2"_qs.arg(m_path, why);
+    m_file.reset();
+}
+
+void PendingFile::prepare(const QByteArray &content)
+{
+    const auto target = targetOf(m_path);
+    if (!target) return fail(u"its links lead in a circle"_qs);
+    m_file = std::make_unique<QSaveFile>(*target);
+
+    if (!m_file->open(QIODevice::WriteOnly)) return fail(m_file->errorString());
+    // Before anything is in it: a new file would have the process's mode, a replaced one that of the old.
+    if (!m_file->setPermissions(QFile::ReadOwner | QFile::WriteOwner)) return fail(m_file->errorString());
+    // Flushed here: commit() overlooks what fails on the way out of the buffer, and would put half a file in
+    // place.
+    if (m_file->write(content) != content.size() || !m_file->flush()) return fail(m_file->errorString());
+    if (const int error = failureOfSync(m_file->handle())) fail(qt_error_string(error));
+}
+
+QString PendingFile::commit()
+{
+    if (!m_file) return m_reason;
+    m_isCommitted = m_file->commit();
+    if (!m_isCommitted) fail(m_file->errorString());
+    m_file.reset();
+    return m_reason;
+}
 
 QString replacePrivateFile(const QString &path, const QByteArray &content)
 {
-    const auto target = targetOf(path);
-    if (!target) return u"%1: it can't be written: its links lead in a circle"_qs.arg(path);
-    QSaveFile file(*target);
-    const auto failure = [&] { return u"%1: it can't be written: %2"_qs.arg(path, file.errorString()); };
-
-    if (!file.open(QIODevice::WriteOnly)) return failure();
-    // Before anything is in it: a new file would have the process's mode, a replaced one that of the old.
-    if (!file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)) return failure();
-    // Flushed here: commit() overlooks what fails on the way out of the buffer, and would put half a file in
-    // place.
-    if (file.write(content) != content.size() || !file.flush()) return failure();
-    return file.commit() ? QString{} : failure();
+    return PendingFile(path, content).commit();
 }
 
 } // namespace plist

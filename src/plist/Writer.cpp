@@ -131,13 +131,19 @@ void Writer::writeText(const QString &element, const QString &text)
 
 } // namespace
 
-QString writeFile(const QString &path, const Dictionary &dictionary)
+Document toDocument(const Dictionary &dictionary)
 {
-    if (!dictionary) return u"%1: there is nothing to write"_qs.arg(path);
+    if (!dictionary) return {{}, u"there is nothing to write"_qs};
     Writer writer;
     writer.writeDocument(dictionary);
-    if (!writer.reason().isEmpty()) return u"%1: %2"_qs.arg(path, writer.reason());
-    return replacePrivateFile(path, writer.bytes());
+    return {writer.bytes(), writer.reason()};
+}
+
+QString writeFile(const QString &path, const Dictionary &dictionary)
+{
+    const Document document = toDocument(dictionary);
+    if (!document.reason.isEmpty()) return u"%1: %2"_qs.arg(path, document.reason);
+    return replacePrivateFile(path, document.bytes);
 }
 
 } // namespace plist

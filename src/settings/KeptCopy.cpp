@@ -1,5 +1,6 @@
 #include "settings/KeptCopy.h"
 
+#include "plist/PrivateFile.h"
 #include "settings/UserFile.h"
 
 #include <QFile>
@@ -28,52 +29,81 @@ bool haveSameContent(const QString &left, const QString &right)
     return one.error() == QFile::NoError && other.error() == QFile::NoError;
 }
 
-/// Where a file is to be kept, and whether it lies there already.
+bool isTaken(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink();
+}
+
+QString numbered(const QString &path, int number)
+{
+    return number == 0 ? path : u"%1.%2"_qs.arg(path).arg(number);
+}
+
+/// Where `content` lies already, or else the first free place.
 struct Place {
     QString path;
-    bool isTaken = false;
+    bool isThere = false;
 };
 
-Place placeFor(const QString &path, bool mayBeThere = true)
+Place placeFor(const QString &content, const QString &path)
 {
-    Place place{path + u".damaged"_qs};
-    for (int number = 1;; ++number) {
-        const QFileInfo info(place.path);
-        if (!info.exists() && !info.isSymLink()) return place;
-        if (mayBeThere && haveSameContent(path, place.path)) return {place.path, true};
-        place.path = u"%1.damaged.%2"_qs.arg(path).arg(number);
+    for (int number = 0;; ++number) {
+        const QString place = numbered(path, number);
+        if (!isTaken(place)) return {place};
+        if (!content.isEmpty() && haveSameContent(content, place)) return {place, true};
     }
 }
 
-void report(const QString &path, const Place &place)
+QString nameFor(const QString &path, KeptAs as)
 {
-    qCWarning(logSettings).noquote() << path << "is replaced; what it held is kept in" << place.path;
+    return path + (as == KeptAs::Damaged ? u".damaged"_qs : u".kept"_qs);
+}
+
+KeptCopy kept(const QString &path, const QString &place)
+{
+    qCWarning(logSettings).noquote() << path << "is replaced; what it held is kept in" << place;
+    return {true, place};
+}
+
+/// Whether all of it has arrived: on a full disk, copying does not notice what is lost.
+bool copyWhole(const QString &from, const QString &to)
+{
+    // A pipe would not end, and a folder can't be copied this way.
+    if (!QFileInfo(from).isFile() || !QFile::copy(from, to)) return false;
+    QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner);
+    if (haveSameContent(from, to)) return true;
+    QFile::remove(to);
+    return false;
 }
 
 } // namespace
 
-bool keepCopy(const QString &path)
+KeptCopy keepCopy(const QString &path, KeptAs as)
 {
-    if (isEmptyFile(path)) return true;
-    const Place place = placeFor(path);
-    if (!place.isTaken) {
-        // A pipe would not end, and a folder can't be copied this way.
-        if (!QFileInfo(path).isFile() || !QFile::copy(path, place.path)) return false;
-        QFile::setPermissions(place.path, QFile::ReadOwner | QFile::WriteOwner);
-    }
-    report(path, place);
-    return true;
+    if (isEmptyFile(path)) return {true, {}};
+    const Place place = placeFor(path, nameFor(path, as));
+    if (!place.isThere && !copyWhole(path, place.path)) return {};
+    return kept(path, place.path);
 }
 
-bool moveAside(const QString &path)
+KeptCopy keepContent(const QString &path, const QByteArray &content)
+{
+    const QString place = freePath(nameFor(path, KeptAs::Former));
+    if (!plist::replacePrivateFile(place, content).isEmpty()) return {};
+    return kept(path, place);
+}
+
+KeptCopy moveAside(const QString &path)
 {
     // Of a link, the link is what is worth keeping: where it leads to is recorded nowhere else.
     const bool isLink = QFileInfo(path).isSymLink();
-    if (!isLink && isEmptyFile(path)) return QFile::remove(path);
-    const Place place = placeFor(path, !isLink);
-    if (place.isTaken ? !QFile::remove(path) : !QFile::rename(path, place.path)) return false;
-    report(path, place);
-    return true;
+    if (!isLink && isEmptyFile(path)) return {QFile::remove(path), {}};
+    const Place place = placeFor(isLink ? QString() : path, nameFor(path, KeptAs::Former));
+    if (place.isThere ? !QFile::remove(path) : !QFile::rename(path, place.path)) return {};
+    return kept(path, place.path);
 }
+
+QString freePath(const QString &path) { return placeFor({}, path).path; }
 
 } // namespace quillorentLibrary

@@ -1,17 +1,31 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
-/// Files that are about to be replaced and hold what could not be read or changed: they are kept beside their
-/// successors as "<path>.damaged", ".damaged.1" and so on. One that was kept already with the same content is
-/// not kept twice, and none that was kept is ever replaced. An empty file is not worth keeping.
+/// What is about to be replaced and is kept beside its successor, readable by the user alone: as
+/// "<path>.damaged" what could not be read, as "<path>.kept" what could; then ".damaged.1" and so on. What
+/// was kept already with the same content is not kept twice, and nothing that was kept is ever replaced. An
+/// empty file is not worth keeping.
 namespace quillorentLibrary {
 
-/// Keeps a copy, readable by the user alone; the file stays. False where that failed.
-[[nodiscard]] bool keepCopy(const QString &path);
+enum class KeptAs { Damaged, Former };
 
-/// Keeps the file itself, or the link that it is; nothing is at the path afterwards. False where that failed,
-/// and the file is where it was.
-[[nodiscard]] bool moveAside(const QString &path);
+struct KeptCopy {
+    bool isSafe = false; ///< false: it could not be kept, and is where it was
+    QString path;        ///< where it lies; empty where there was nothing worth keeping
+};
+
+/// Keeps a copy; the file stays.
+[[nodiscard]] KeptCopy keepCopy(const QString &path, KeptAs as);
+
+/// Keeps what was to be written to the path.
+[[nodiscard]] KeptCopy keepContent(const QString &path, const QByteArray &content);
+
+/// Keeps the file itself, or the link that it is, as a former one; nothing is at the path afterwards.
+[[nodiscard]] KeptCopy moveAside(const QString &path);
+
+/// The path itself, or the first of "<path>.1", "<path>.2" and so on at which nothing is.
+[[nodiscard]] QString freePath(const QString &path);
 
 } // namespace quillorentLibrary

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 
 namespace quillorentLibrary {
 
@@ -45,6 +46,16 @@ QString resourceFolder()
 QString settingsTemplatePath() { return QDir(resourceFolder()).filePath(u"config.plist"_qs); }
 
 QString profilesTemplatePath() { return QDir(resourceFolder()).filePath(u"profiles.plist"_qs); }
+
+QString companionFolder() { return QDir::cleanPath(resourceFolder() + u"/../../libexec/quillorent"_qs); }
+
+bool makePrivateFolder(const QString &folder)
+{
+    if (QFileInfo(folder).isDir()) return true;
+    const QString parent = QFileInfo(folder).path();
+    return parent != folder && makePrivateFolder(parent) &&
+           QDir().mkdir(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
 
 void setResourceFolder(const QString &folder) { resourceFolderOverride() = folder; }
 

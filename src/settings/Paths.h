@@ -17,6 +17,12 @@ namespace quillorentLibrary {
 [[nodiscard]] QString settingsTemplatePath();
 [[nodiscard]] QString profilesTemplatePath();
 
+/// Where the program's companions lie: ../libexec/quillorent, likewise.
+[[nodiscard]] QString companionFolder();
+
+/// Makes a folder, and what is missing above it, for the user alone. Says whether it is there now.
+[[nodiscard]] bool makePrivateFolder(const QString &folder);
+
 /// For programs that don't lie in the program's own folder, which the tests are: looks for the program's
 /// files here instead. An empty path undoes it. To be called before any thread is started.
 void setResourceFolder(const QString &folder);

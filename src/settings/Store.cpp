@@ -1,14 +1,37 @@
 #include "settings/Store.h"
 
+#include "plist/File.h"
+#include "settings/Companions.h"
+#include "settings/KeptCopy.h"
 #include "settings/Upgrade.h"
 #include "settings/UserFile.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 namespace quillorentLibrary {
+
+namespace {
+
+QString saveCopy(const plist::Dictionary &content, const QString &folder, const QString &path)
+{
+    return plist::writeFile(freePath(QDir(folder).filePath(QFileInfo(path).fileName())), content);
+}
+
+} // namespace
 
 plist::Dictionary readSettings()
 {
     checkVersion();
-    return settingsFile().read();
+    QStringList found;
+    settingsFile().change([&](const plist::Dictionary &settings) { found = findCompanionsAgain(settings); });
+    plist::Dictionary settings = settingsFile().read();
+    findCompanionsAgain(settings); // where that could not be saved
+    if (!found.isEmpty())
+        settingsFile().notice(
+            u"The program has been moved. Its own tools are used from where they are now, in "
+            "“%1”: %2."_qs.arg(companionFolder(), found.join(u", "_qs)));
+    return settings;
 }
 
 plist::Dictionary readProfiles()
@@ -17,13 +40,35 @@ plist::Dictionary readProfiles()
     return profilesFile().read();
 }
 
-QString saveSettings(const plist::Dictionary &settings) { return settingsFile().save(settings); }
+Saved saveSettings(const plist::Dictionary &settings, InConflict inConflict)
+{
+    return settingsFile().save(settings, inConflict);
+}
 
-QString saveProfiles(const plist::Dictionary &profiles) { return profilesFile().save(profiles); }
+Saved saveProfiles(const plist::Dictionary &profiles, InConflict inConflict)
+{
+    return profilesFile().save(profiles, inConflict);
+}
 
 bool areSettingsSaved(const plist::Dictionary &settings) { return settingsFile().holds(settings); }
 
 bool areProfilesSaved(const plist::Dictionary &profiles) { return profilesFile().holds(profiles); }
+
+QString whySettingsAreUnread() { return settingsFile().whyUnread(); }
+
+QString whyProfilesAreUnread() { return profilesFile().whyUnread(); }
+
+QStringList takeNotices() { return settingsFile().takeNotices() + profilesFile().takeNotices(); }
+
+QString saveCopyOfSettings(const plist::Dictionary &settings, const QString &folder)
+{
+    return saveCopy(settings, folder, settingsPath());
+}
+
+QString saveCopyOfProfiles(const plist::Dictionary &profiles, const QString &folder)
+{
+    return saveCopy(profiles, folder, profilesPath());
+}
 
 plist::Dictionary dictionaryByDeepCopy(const plist::Dictionary &dictionary) { return dictionary.deepCopy(); }
 

@@ -4,10 +4,11 @@
 #include "plist/PrivateFile.h"
 #include "settings/KeptCopy.h"
 #include "settings/Paths.h"
+#include "settings/Reconcile.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <utility>
 
 namespace quillorentLibrary {
 
@@ -15,20 +16,11 @@ Q_LOGGING_CATEGORY(logSettings, "quillorent.settings")
 
 namespace {
 
-// Folders that are missing are made for the user alone.
-bool makeFolder(const QString &folder)
-{
-    if (QFileInfo(folder).isDir()) return true;
-    const QString parent = QFileInfo(folder).path();
-    return parent != folder && makeFolder(parent) &&
-           QDir().mkdir(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-}
-
 /// Gives the reason where it can't be made, else an empty text.
 QString makeFolderFor(const QString &path)
 {
     const QString folder = QFileInfo(path).path();
-    return makeFolder(folder) ? QString() : u"The folder can't be made: "_qs + folder;
+    return makePrivateFolder(folder) ? QString() : u"The folder can't be made: "_qs + folder;
 }
 
 void logReason(const QString &reason)
@@ -54,12 +46,19 @@ void UserFile::makeUsable()
     }
     const QByteArray content = source.readAll();
 
-    if (file.exists() && !moveAside(path)) {
-        qCWarning(logSettings).noquote() << path << "may not be written, nor moved out of the way";
-        return;
+    if (file.exists()) {
+        const KeptCopy kept = moveAside(path);
+        if (!kept.isSafe)
+            return notice(
+                u"“%1” may not be written, nor moved out of the way: what is changed can't be saved."_qs.arg(
+                    path));
+        if (!kept.path.isEmpty())
+            notice(u"“%1” may not be written by this user. It is kept as “%2”, and a new one with the "
+                   "program's own settings has taken its place."_qs.arg(path, kept.path));
     }
-    const QString reason = makeFolderFor(path);
-    logReason(reason.isEmpty() ? plist::replacePrivateFile(path, content) : reason);
+    const QString noFolder = makeFolderFor(path);
+    const QString reason = noFolder.isEmpty() ? plist::replacePrivateFile(path, content) : noFolder;
+    if (!reason.isEmpty()) notice(reason);
 }
 
 plist::Dictionary UserFile::read()
@@ -75,70 +74,131 @@ plist::Dictionary UserFile::readTemplate() const
     return content.dictionary;
 }
 
-QString UserFile::save(const plist::Dictionary &dictionary)
+Saved UserFile::save(const plist::Dictionary &dictionary, InConflict inConflict)
 {
     const std::lock_guard lock(m_mutex);
-    return saveLocked(dictionary);
+    if (!dictionary) return {};
+    const QString path = m_path();
+    // A copy: the window may change the dictionary while it is written.
+    const plist::Dictionary mine = dictionary.deepCopy();
+    const bool isThere = QFileInfo::exists(path);
+    const plist::Dictionary there = isThere ? plist::readFile(path).dictionary : plist::Dictionary();
+    const plist::Dictionary base = content();
+    const Reconciled all = reconcile(base, mine, there ? there : base, m_depth,
+                                     inConflict == InConflict::TakeTheirs ? Prefer::Theirs : Prefer::Mine);
+
+    Saved saved{.reason = {}, .conflicts = all.conflicts, .takenOver = all.takenOver};
+    if (inConflict == InConflict::Ask && !all.conflicts.isEmpty()) return saved;
+    saved.reason = makeFolderFor(path);
+    if (saved.isDone() && isThere && !there) saved.reason = keepUnreadable(path);
+    if (saved.isDone() && !all.conflicts.isEmpty()) saved.reason = keepLoser(path, mine, inConflict);
+    if (saved.isDone()) saved.reason = plist::writeFile(path, all.content);
+    logReason(saved.reason);
+    if (!saved.isDone()) return saved;
+    setContent(all.content);
+    takeOver(dictionary, mine, all.content, m_depth);
+    return saved;
 }
 
-bool UserFile::holds(const plist::Dictionary &dictionary)
+QString UserFile::keepUnreadable(const QString &path)
 {
-    const std::lock_guard lock(m_mutex);
-    return m_content == dictionary;
+    const KeptCopy kept = keepCopy(path, KeptAs::Damaged);
+    if (!kept.isSafe) return path + u" can't be read, nor kept beside a new one: it is not saved over"_qs;
+    if (!kept.path.isEmpty())
+        notice(u"“%1” could not be read when it was saved over. What it held is kept as “%2”."_qs.arg(
+            path, kept.path));
+    return {};
 }
 
-void UserFile::change(const std::function<void(const plist::Dictionary &)> &work)
+QString UserFile::keepLoser(const QString &path, const plist::Dictionary &mine, InConflict inConflict)
+{
+    const KeptCopy kept = inConflict == InConflict::KeepMine
+                              ? keepCopy(path, KeptAs::Former)
+                              : keepContent(path, plist::toDocument(mine).bytes);
+    if (!kept.isSafe) return path + u": what is to be replaced can't be kept beside it"_qs;
+    notice((inConflict == InConflict::KeepMine ? u"What others had changed in “%1” is kept as “%2”."_qs
+                                               : u"What you had changed in “%1” is kept as “%2”."_qs)
+               .arg(path, kept.path));
+    return {};
+}
+
+bool UserFile::holds(const plist::Dictionary &dictionary) const { return content() == dictionary; }
+
+QString UserFile::whyUnread() const
+{
+    const std::lock_guard lock(m_stateMutex);
+    return m_reason;
+}
+
+QStringList UserFile::takeNotices()
+{
+    const std::lock_guard lock(m_stateMutex);
+    return std::exchange(m_notices, {});
+}
+
+void UserFile::notice(const QString &text)
+{
+    logReason(text);
+    const std::lock_guard lock(m_stateMutex);
+    if (!m_notices.contains(text)) m_notices.append(text);
+}
+
+plist::Dictionary UserFile::content() const
+{
+    const std::lock_guard lock(m_stateMutex);
+    return m_contentPath == m_path() ? m_content : plist::Dictionary();
+}
+
+void UserFile::setContent(const plist::Dictionary &content)
+{
+    const std::lock_guard lock(m_stateMutex);
+    m_content = content;
+    m_contentPath = m_path();
+}
+
+bool UserFile::change(const std::function<void(const plist::Dictionary &)> &work,
+                      const std::function<bool()> &atLast)
 {
     const std::lock_guard lock(m_mutex);
     const plist::Dictionary dictionary = readLocked();
-    if (!dictionary) return;
+    if (!dictionary) return false;
     work(dictionary);
-    static_cast<void>(saveLocked(dictionary)); // logged; the next start tries again
+    if (holds(dictionary)) return atLast();
+
+    const plist::Document document = plist::toDocument(dictionary);
+    if (!document.reason.isEmpty()) {
+        logReason(m_path() + u": "_qs + document.reason);
+        return false;
+    }
+    plist::PendingFile pending(m_path(), document.bytes);
+    const QString reason = pending.reason().isEmpty() && atLast() ? pending.commit() : pending.reason();
+    logReason(reason);
+    if (pending.isCommitted()) setContent(dictionary.deepCopy());
+    return pending.isCommitted();
 }
 
 plist::Dictionary UserFile::readLocked()
 {
-    const plist::FileContent content = plist::readFile(m_path());
+    const plist::FileContent read = plist::readFile(m_path());
     // A start reads each file several times; one message says it.
-    if (!content.reason.isEmpty() && content.reason != m_reported)
-        qCWarning(logSettings).noquote() << content.reason;
-    m_reported = content.reason;
-    m_content = content.dictionary.deepCopy();
-    return content.dictionary;
-}
-
-QString UserFile::saveLocked(const plist::Dictionary &dictionary)
-{
-    if (!dictionary) return {};
-    // A copy: the window may change the dictionary while it is written.
-    const plist::Dictionary content = dictionary.deepCopy();
-    const QString reason = write(content);
-    logReason(reason);
-    if (reason.isEmpty()) m_content = content;
-    return reason;
-}
-
-QString UserFile::write(const plist::Dictionary &dictionary) const
-{
-    const QString path = m_path();
-    const QString noFolder = makeFolderFor(path);
-    if (!noFolder.isEmpty()) return noFolder;
-
-    const bool isThere = QFileInfo::exists(path);
-    if (isThere && !plist::readFile(path).dictionary && !keepCopy(path))
-        return path + u" can't be read, nor kept beside a new one: it is not saved over"_qs;
-    return plist::writeFile(path, dictionary);
+    if (!read.reason.isEmpty() && read.reason != whyUnread()) logReason(read.reason);
+    setContent(read.dictionary.deepCopy());
+    const std::lock_guard lock(m_stateMutex);
+    m_reason = read.reason;
+    return read.dictionary;
 }
 
 UserFile &settingsFile()
 {
-    static UserFile file(settingsPath, settingsTemplatePath);
+    constexpr int entriesOfTables = 2;
+    static UserFile file(settingsPath, settingsTemplatePath, entriesOfTables);
     return file;
 }
 
 UserFile &profilesFile()
 {
-    static UserFile file(profilesPath, profilesTemplatePath);
+    constexpr int wholeProfiles = 1;
+    static UserFile file(profilesPath, profilesTemplatePath, wholeProfiles);
     return file;
 }
 

@@ -1,5 +1,7 @@
 #include "tools/RegisteredTool.h"
 
+#include "plist/Value.h"
+
 namespace {
 
 std::function<plist::Dictionary()> &toolSettings()
@@ -15,6 +17,15 @@ void setToolSettings(std::function<plist::Dictionary()> settings) { toolSettings
 std::optional<QString> toolSetting(const QString &table, const QString &name)
 {
     return toolSettings()().dictionary(table).string(name);
+}
+
+QStringList registeredTools()
+{
+    QStringList names;
+    const QList<plist::Dictionary::Entry> entries = toolSettings()().dictionary(u"external"_qs).entries();
+    for (const auto &[name, value] : entries)
+        if (value.isString()) names.append(name);
+    return names;
 }
 
 QString registeredTool(const QString &name) { return toolSetting(u"external"_qs, name).value_or(QString()); }

@@ -13,6 +13,10 @@ void setToolSettings(std::function<plist::Dictionary()> settings);
 /// where either is missing.
 [[nodiscard]] std::optional<QString> toolSetting(const QString &table, const QString &name);
 
+/// The names of all tools that the settings register, in their order. What gives no path as its text, such as
+/// a table that lies there, is no tool.
+[[nodiscard]] QStringList registeredTools();
+
 /// The path that is registered for the tool; empty where none is.
 [[nodiscard]] QString registeredTool(const QString &name);
 

@@ -4,6 +4,7 @@
 #include "ui/Appearance.h"
 #include "ui/PanelDialog.h"
 #include "ui/ProgressFigures.h"
+#include "ui_ChoicePanel.h"
 #include "ui_ConcernsPanel01.h"
 #include "ui_ConsolePanel01.h"
 #include "ui_ExtractPanel01.h"
@@ -79,6 +80,31 @@ PanelDialog *makeMessage(QWidget &window, const QString &panel, const QString &t
     return dialog;
 }
 
+/// What a sheet is made of that asks what to do about something; the first button is what Return presses.
+struct ChoiceSheet {
+    QString panel; ///< its buttons are named after it
+    QString text;
+    QString title;
+    QList<std::pair<QString, QString>> buttons; ///< the end of the name, and the title; up to four
+};
+
+PanelDialog *makeChoice(QWidget &window, const ChoiceSheet &sheet)
+{
+    Ui::ChoicePanel form;
+    PanelDialog *dialog = makePanel(form, window);
+    dialog->setObjectName(sheet.panel);
+    dialog->setWindowTitle(sheet.title);
+    form.choiceText->setObjectName(sheet.text);
+    showIcon(*form.choiceIcon, u"dialog-warning"_qs);
+    QList<QPushButton *> buttons{form.firstButton, form.secondButton, form.otherButton, form.stayButton};
+    for (const auto &[name, title] : sheet.buttons) {
+        buttons.first()->setObjectName(sheet.panel + name);
+        buttons.takeFirst()->setText(title);
+    }
+    qDeleteAll(buttons);
+    return dialog;
+}
+
 /// What a sheet that asks for a profile's name is made of.
 struct NameSheet {
     QString panel;       ///< its buttons are named after it
@@ -115,6 +141,8 @@ QList<QWidget *> makeMessages(QWidget &window)
             makeMessage(window, u"warningPanel04"_qs, u"warningText04"_qs, tr("No such name")),
             makeMessage(window, u"certPanel01"_qs, u"certPanelText01"_qs, tr("Certificate not accepted")),
             makeMessage(window, u"pkPanel01"_qs, u"pkPanelText01"_qs, tr("Private key not accepted")),
+            makeMessage(window, u"savePanel01"_qs, u"saveText01"_qs, tr("Can't save")),
+            makeMessage(window, u"settingsPanel01"_qs, u"settingsText01"_qs, tr("Settings and profiles")),
             makeMessage(window, u"noPathPanel01"_qs, u"noPathText01"_qs, tr("Programs are missing"))};
 }
 
@@ -126,6 +154,19 @@ QList<QWidget *> makeQuestions(QWidget &window)
         makeWithIcon<WarningPanel03, &WarningPanel03::questionIcon>(window, u"dialog-question"_qs),
         makeWithIcon<ConcernsPanel01, &ConcernsPanel01::concernsIcon>(window, u"dialog-question"_qs),
         makeWithIcon<ExtractPanel01, &ExtractPanel01::damageIcon>(window, u"dialog-warning"_qs),
+        makeChoice(window, {u"conflictPanel01"_qs,
+                            u"conflictText01"_qs,
+                            tr("Changed by others, too"),
+                            {{u"Mine"_qs, tr("&Save what I changed")},
+                             {u"Theirs"_qs, tr("&Take what is in the file")},
+                             {u"Stop"_qs, tr("&Cancel")}}}),
+        makeChoice(window, {u"quitPanel01"_qs,
+                            u"quitText01"_qs,
+                            tr("Can't save"),
+                            {{u"Again"_qs, tr("&Try again")},
+                             {u"Copy"_qs, tr("&Save a copy...")},
+                             {u"Leave"_qs, tr("&Quit without saving")},
+                             {u"Stay"_qs, tr("&Cancel")}}}),
     };
 }
 

@@ -16,7 +16,11 @@ UnsavedChanges::UnsavedChanges(QuillorentAppDelegate &controller, QMainWindow &w
     : m_controller(controller), m_window(window), m_text(text)
 {
     auto *timer = new QTimer(this);
-    connect(timer, &QTimer::timeout, this, &UnsavedChanges::look);
+    connect(timer, &QTimer::timeout, this, [this] {
+        look();
+        // Taken once: what comes between, such as a run that begins, keeps the window open.
+        if (m_controller.takeMayQuit()) closeAnyhow();
+    });
     timer->start(500ms);
 }
 
@@ -29,23 +33,24 @@ void UnsavedChanges::look()
                    : profiles           ? tr("Profiles not saved")
                    : settings           ? tr("Settings not saved")
                                         : QString());
-    if (!m_closesWhenSaved || isSaving()) return;
-    m_closesWhenSaved = false;
-    // What could not be saved was told of; the window stays, for another try.
-    if (!m_window.isWindowModified()) m_window.close();
 }
 
-bool UnsavedChanges::isSaving() const
+void UnsavedChanges::closeAnyhow()
 {
-    return m_controller.indicator01.isAnimating() || m_controller.indicator03.isAnimating();
+    m_mayLose = true;
+    m_window.close();
+    m_mayLose = false;
 }
 
 bool UnsavedChanges::mayClose()
 {
+    if (m_mayLose) return true;
     look();
+    if (!m_window.isWindowModified()) return true;
+    const bool isAsked = m_question && m_question->isVisible();
+    if (isAsked || m_controller.savesForQuitting()) return false;
     const bool savesByItself = m_controller.configPlist().dictionary(u"resources"_qs).isOn(u"autosave"_qs);
-    if (savesByItself || m_mayLose || !m_window.isWindowModified()) return true;
-    if (!m_question && !m_closesWhenSaved) ask();
+    savesByItself ? m_controller.saveForQuitting() : ask();
     return false;
 }
 
@@ -57,19 +62,11 @@ void UnsavedChanges::ask()
     m_question->setInformativeText(tr("Without saving they are lost when the program ends."));
     m_question->setDefaultButton(QMessageBox::Save);
     m_question->setAttribute(Qt::WA_DeleteOnClose);
-    connect(m_question->button(QMessageBox::Save), &QAbstractButton::clicked, this, &UnsavedChanges::save);
-    connect(m_question->button(QMessageBox::Discard), &QAbstractButton::clicked, this, [this] {
-        m_mayLose = true;
-        m_window.close();
-    });
+    connect(m_question->button(QMessageBox::Save), &QAbstractButton::clicked, this,
+            [this] { m_controller.saveForQuitting(); });
+    connect(m_question->button(QMessageBox::Discard), &QAbstractButton::clicked, this,
+            &UnsavedChanges::closeAnyhow);
     m_question->open();
-}
-
-void UnsavedChanges::save()
-{
-    m_closesWhenSaved = true;
-    m_controller.profileButton01Action();
-    m_controller.saveSettings1Action();
 }
 
 } // namespace ui

@@ -19,22 +19,20 @@ public:
     /// All three must outlive it; `text` is where it says what is not saved.
     UnsavedChanges(QuillorentAppDelegate &controller, QMainWindow &window, QLabel &text);
 
-    /// Whether the window may close now. If not, a question is open, and the window is closed when it is
-    /// answered so.
+    /// Whether the window may close now. If not, something is being saved or a question is open, and the
+    /// window is closed when that has ended so.
     [[nodiscard]] bool mayClose();
 
 private:
     void look();
     void ask();
-    void save();
-    [[nodiscard]] bool isSaving() const;
+    void closeAnyhow();
 
     QuillorentAppDelegate &m_controller;
     QMainWindow &m_window;
     QLabel &m_text;
     QPointer<QMessageBox> m_question; ///< while it is asked
-    bool m_closesWhenSaved = false;
-    bool m_mayLose = false; ///< the user said so
+    bool m_mayLose = false;           ///< the user said so, or it is saved
 };
 
 } // namespace ui

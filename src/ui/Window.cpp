@@ -65,6 +65,14 @@ Window::~Window()
 
 QList<QWidget *> Window::roots() { return QList<QWidget *>{this} + m_panels->all(); }
 
+void Window::comeToFront()
+{
+    setWindowState((windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
+    show();
+    raise();
+    activateWindow();
+}
+
 // What a form can't say.
 void Window::finishForm()
 {
@@ -86,6 +94,7 @@ void Window::addShortcuts()
 
 void Window::closeEvent(QCloseEvent *event)
 {
+    m_mayStop = m_mayStop && m_controller.isRunActive(); // said of this run, not of a later one
     if (m_controller.isRunActive() && !m_mayStop) {
         event->ignore();
         askToStop();

@@ -29,6 +29,8 @@ public:
     /// Everything that shows an outlet stands in one of these: the window and its panels.
     [[nodiscard]] QList<QWidget *> roots();
 
+    void comeToFront(); ///< also where it was minimised
+
 Q_SIGNALS:
     void closed();
 

@@ -1,11 +1,14 @@
 #include "app/Process.h"
 #include "app/QuillorentAppDelegate.h"
 #include "app/TerminationSignals.h"
+#include "settings/Paths.h"
 #include "ui/Appearance.h"
 #include "ui/CommandLine.h"
+#include "ui/SingleWindow.h"
 #include "ui/Window.h"
 
 #include <QApplication>
+#include <cstdio>
 
 int main(int argc, char *argv[])
 {
@@ -17,6 +20,13 @@ int main(int argc, char *argv[])
     QApplication::setQuitOnLastWindowClosed(false);
     ui::setUpAppearance();
 
+    static_cast<void>(quillorentLibrary::makePrivateFolder(quillorentLibrary::preferencesFolder()));
+    ui::SingleWindow single(quillorentLibrary::preferencesFolder());
+    if (!single.take()) {
+        std::fputs("Quillorent is open already; its window comes to the front.\n", stderr);
+        return 0;
+    }
+
     const auto quit = [] { QCoreApplication::exit(0); };
     const TerminationSignals terminationSignals;
     QObject::connect(&terminationSignals, &TerminationSignals::received, &application, quit);
@@ -25,9 +35,11 @@ int main(int argc, char *argv[])
     {
         ui::Window window(controller);
         QObject::connect(&window, &ui::Window::closed, &application, quit);
+        QObject::connect(&single, &ui::SingleWindow::raiseRequested, &window, &ui::Window::comeToFront);
         window.show();
         controller.applicationDidFinishLaunching();
         QCoreApplication::exec();
+        single.giveUp();
     }
     // Ending saves, and waits for what still works. The user need not look at a window that does not answer:
     // its going reaches the screen first.

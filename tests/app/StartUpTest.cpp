@@ -1,5 +1,6 @@
 #include "TestProgram.h"
 #include "settings/Store.h"
+#include "tools/Threads.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +10,7 @@ TEST(StartUp, GivesANewUserAProfileAndFiles)
     program.start();
     QuillorentAppDelegate &delegate = program.delegate();
     EXPECT_EQ(delegate.currentProfile(), u"Default profile"_qs);
-    EXPECT_EQ(delegate.consolePanel01.place(), outlets::Panel::Place::Hidden);
+    EXPECT_EQ(delegate.settingsPanel01.place(), outlets::Panel::Place::Hidden);
     EXPECT_EQ(delegate.decryptionCombo01.selectedIndex(), 4);
     EXPECT_FALSE(delegate.currentProfileTextView.isHidden());
     const plist::Dictionary made = delegate.defaultProfile();
@@ -28,12 +29,9 @@ TEST(StartUp, DoesNothingWithDamagedFilesButSay)
         writeFile(file.toStdString(), "<plist>half");
     QuillorentAppDelegate &delegate = program.delegate();
     delegate.applicationDidFinishLaunching();
-    EXPECT_FALSE(delegate.configPlist());
-    EXPECT_TRUE(delegate.currentProfile().isEmpty());
-    EXPECT_TRUE(delegate.profileCombo01.titles().isEmpty());
     for (const QString &file : files)
-        EXPECT_TRUE(delegate.consoleTextView01.text().contains(file)) << qPrintable(file);
-    EXPECT_EQ(delegate.consolePanel01.place(), outlets::Panel::Place::Window);
+        EXPECT_TRUE(delegate.settingsText01.text().contains(file)) << qPrintable(file);
+    EXPECT_EQ(delegate.settingsPanel01.place(), outlets::Panel::Place::Window);
     EXPECT_FALSE(delegate.checkBox04.isOn());
 
     // Every control still works, and none of it reaches the files.
@@ -41,23 +39,51 @@ TEST(StartUp, DoesNothingWithDamagedFilesButSay)
     delegate.prefStepper01Action(u"1"_qs);
     delegate.profileButton02Action();
     delegate.setterDefaultProfile();
+    delegate.profileButton04Action();
+    EXPECT_EQ(delegate.profilePanel02.place(), outlets::Panel::Place::Hidden);
+    EXPECT_TRUE(delegate.settingsText01.text().contains(u"no profiles"));
     delegate.applicationWillTerminate();
     for (const QString &file : files)
         EXPECT_EQ(readFile(file.toStdString()), "<plist>half");
 }
 
-TEST(Quitting, SavesOnlyWhereTheSettingsSaySo)
+TEST(Quitting, SavesWhatIsChangedWhereTheSettingsSaySo)
 {
-    for (const bool autosave : {true, false}) {
-        TestProgram program;
-        program.start();
-        QuillorentAppDelegate &delegate = program.delegate();
-        const plist::Dictionary resources = delegate.configPlist().dictionary(u"resources"_qs);
-        resources.setSwitch(u"autosave"_qs, autosave);
-        resources.setValue(u"changed"_qs, u"");
-        delegate.addFolders({u"/remember/me"_qs});
-        delegate.applicationWillTerminate();
-        EXPECT_EQ(quillorentLibrary::readSettings() == delegate.configPlist(), autosave);
-        EXPECT_EQ(quillorentLibrary::readProfiles() == delegate.listPlist(), autosave);
+    const std::string other = "<key>Other</key><dict/>";
+    for (const bool autosave : {true, false})
+        for (const bool isChanged : {true, false}) {
+            TestProgram program;
+            program.start();
+            QuillorentAppDelegate &delegate = program.delegate();
+            delegate.configPlist().dictionary(u"resources"_qs).setSwitch(u"autosave"_qs, autosave);
+            delegate.saveSettings1Action();
+            ASSERT_TRUE(waitForThreads(std::chrono::seconds(60)));
+            // Another window has made a profile, and changed this one.
+            const std::filesystem::path file = quillorentLibrary::profilesPath().toStdString();
+            std::string text = readFile(file);
+            text.replace(text.find("10000"), 5, "20000");
+            writeFile(file, text.insert(text.rfind("</dict>"), other));
+            if (isChanged) delegate.addFolders({u"/remember/me"_qs});
+            delegate.applicationWillTerminate();
+
+            const bool isSaved = autosave && isChanged;
+            EXPECT_EQ(readFile(isSaved ? file.string() + ".kept" : file.string()), text);
+            EXPECT_EQ(quillorentLibrary::readProfiles() == delegate.listPlist(), isSaved);
+            EXPECT_TRUE(quillorentLibrary::readProfiles().contains(u"Other"_qs));
+        }
+}
+
+TEST(Panel, WaitsOnAnotherThreadAndWakesForQuitting)
+{
+    TestProgram program;
+    outlets::Panel &panel = program.delegate().progressPanel01;
+    const std::function<void()> endings[] = {[&] { panel.close(); }, [&] { program.delegate().endRuns(); }};
+    for (const auto &end : endings) {
+        detachThread(u"asks"_qs, [&] { panel.runModal(); });
+        ASSERT_TRUE(TestProgram::waitUntil([&] { return panel.place() == outlets::Panel::Place::Sheet; }));
+        EXPECT_FALSE(waitForThreads(std::chrono::milliseconds(20)));
+        end();
+        EXPECT_TRUE(waitForThreads(std::chrono::seconds(30)));
     }
+    panel.runModal(); // and nobody waits from now on
 }

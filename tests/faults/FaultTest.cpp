@@ -1,5 +1,6 @@
 #include "FaultHome.h"
 #include "Parallel.h"
+#include "ProgramHome.h"
 
 #include <atomic>
 #include <csignal>
@@ -133,6 +134,26 @@ TEST(Permission, GoesAtEachStage)
                    home.becomeOrdinaryUser();
                    return true;
                });
+}
+
+TEST(Settings, StayWhereTheirMergeCanNotBeWritten)
+{
+    for (const std::string deed : {"late", "full\n500"}) {
+        ProgramHome home(QUILLORENT_RUN);
+        const std::string version = "<key>version</key>\n\t<string>";
+        home.changeSettings(version + "1", version + "0");
+        home.writeProfile();
+        const auto files = [&] { return readFile(home.settings()) + readFile(home.profiles()); };
+        const std::string before = files();
+        home.environment["LD_PRELOAD"] = QUILLORENT_TRIPWIRE_LIBRARY;
+        home.environment["ASAN_OPTIONS"] = "verify_asan_link_order=0";
+        home.environment["QUILLORENT_TRIPWIRE"] = QUILLORENT_RUN "\nprofiles\nstart\n" + deed;
+        const CommandResult listed = home.run({"profiles"});
+        EXPECT_EQ(listed.output, "  Default profile\n* Mine\n") << listed.errors;
+        EXPECT_TRUE(contains(listed.errors, "can't be written")) << listed.errors;
+        EXPECT_EQ(files(), before);
+        EXPECT_EQ(namesIn(home / "config").size(), 2U) << "a part of it lies there";
+    }
 }
 
 // A file system may write names before contents: what is not safe when its predecessor goes can be lost with

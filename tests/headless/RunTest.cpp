@@ -73,7 +73,10 @@ TEST(Run, ListsProfilesAndTools)
     const CommandResult good = home.run({"tools"});
     EXPECT_EQ(good.output, rows);
     EXPECT_EQ(good.status, 0);
-    home.changeSettings("/usr/bin/rsync", "/nowhere/rsync");
+    // What a new version of the template brings lies in a table of its own.
+    home.changeSettings("<string>/usr/bin/rsync",
+                        "<string>/nowhere/rsync</string><key>external</key><dict/>"
+                        "<key>Number</key><integer>1</integer><key>x</key><string>");
     const CommandResult bad = home.run({"tools"});
     EXPECT_TRUE(contains(bad.output, "RSync\t/nowhere/rsync\tnot ok\n")) << bad.output;
     EXPECT_EQ(bad.status, 1);
@@ -112,7 +115,7 @@ TEST(Run, SaysWhyItCanNotStart)
     const std::string endless = "/dev/zero";
     expectReasons(home, {{{"backup", "Mine", "--password-file", endless}, 2, "Give a file"}});
     writeFile(home.settings(), "damaged");
-    expectReasons(home, {{{"backup", "Mine"}, 2, "settings"}});
+    expectReasons(home, {{{"backup", "Mine"}, 2, home.settings()}, {{"tools"}, 1, home.settings()}});
     EXPECT_EQ(readFile(home.settings()), "damaged");
 }
 

@@ -3,10 +3,8 @@
 
 #include "TemporaryFolder.h"
 
-#include <csignal>
 #include <gtest/gtest.h>
 #include <limits>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace fs = std::filesystem;
@@ -168,42 +166,8 @@ TEST_F(PlistFile, RefusesToWriteWhatItCouldNotReadBackAndKeepsTheOldFile)
     EXPECT_EQ(readFile(file), "old");
 }
 
-TEST_F(PlistFile, KeepsTheOldFileWhereTheNewOneIsNotWhole)
+TEST_F(PlistFile, IsNotWrittenWhereItCanNotLie)
 {
-    // No file may grow beyond this, as on a full disk.
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit full{500, before.rlim_max};
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    for (const int size : {1'000, 100'000}) { // what fits into a buffer fails at the very end
-        const Dictionary dictionary = Dictionary::make();
-        dictionary.setValue(u"text"_s, QString(size, u'x'));
-        writeFile(file, "old");
-        setrlimit(RLIMIT_FSIZE, &full);
-        const QString reason = plist::writeFile(path, dictionary);
-        setrlimit(RLIMIT_FSIZE, &before);
-        EXPECT_TRUE(reason.startsWith(path)) << reason.toStdString();
-        EXPECT_EQ(readFile(file), "old");
-        EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 1) << "a part of it lies there";
-    }
-    std::signal(SIGXFSZ, handler);
-}
-
-TEST_F(PlistFile, IsWrittenThroughLinksForTheUserAlone)
-{
-    writeFile(folder / "kept/old", "old");
-    fs::permissions(folder / "kept/old", fs::perms{0644});
-    fs::create_symlink("second", folder / "first");
-    fs::create_symlink("kept/old", folder / "second");
-    fs::create_symlink("kept/new", folder / "dangling");
-    for (const auto &[link, kept] : {std::pair{"first", "kept/old"}, std::pair{"dangling", "kept/new"}}) {
-        EXPECT_EQ(plist::writeFile(toQString(folder / link), Dictionary::make()), QString());
-        EXPECT_TRUE(fs::is_symlink(folder / link)) << link;
-        EXPECT_TRUE(plist::readFile(toQString(folder / kept)).dictionary) << link;
-        EXPECT_EQ(fs::status(folder / kept).permissions(), fs::perms{0600}) << link;
-    }
-    EXPECT_TRUE(fs::is_symlink(folder / "second"));
-
     fs::create_symlink("loop", folder / "loop");
     for (const fs::path &place : {folder / "loop", folder.path(), folder / "missing/list"})
         EXPECT_NE(plist::writeFile(toQString(place), Dictionary::make()), QString()) << place;

@@ -1,11 +1,12 @@
 #include "settings/Store.h"
 #include "plist/File.h"
 #include "plist/Value.h"
+#include "settings/UserFile.h"
 
 #include "TemporaryFolder.h"
 
+#include <future>
 #include <gtest/gtest.h>
-#include <thread>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -60,6 +61,7 @@ protected:
         writeFile(templates / "config.plist", document(versionElement("2") + newKey));
         writeFile(templates / "profiles.plist",
                   document("<key>Default profile</key><dict>" + newKey + "</dict>"));
+        static_cast<void>(takeNotices()); // of other tests
     }
     ~Store() override
     {
@@ -71,10 +73,11 @@ protected:
 
     TemporaryFolder folder;
     fs::path config = folder / "new" / "config";
-    fs::path templates = folder / "templates";
+    fs::path templates = folder / "share/quillorent";
     fs::path settings = config / settingsName;
     fs::path profiles = config / profilesName;
     fs::path damaged = config / (settingsName + ".damaged");
+    fs::path kept = config / (settingsName + ".kept");
 };
 
 Dictionary someSettings()
@@ -131,7 +134,7 @@ TEST_F(Store, KeepsWhatCannotBeReadWhenItIsSavedOver)
         EXPECT_FALSE(readSettings());
         EXPECT_FALSE(areSettingsSaved(someSettings()));
         EXPECT_EQ(readFile(settings), content);
-        EXPECT_EQ(saveSettings(someSettings()), QString());
+        EXPECT_EQ(saveSettings(someSettings()).reason, QString());
         EXPECT_TRUE(areSettingsSaved(someSettings()));
         EXPECT_EQ(readSettings(), someSettings());
     }
@@ -153,9 +156,12 @@ TEST_F(Store, ReplacesAFileThatMayNotBeWrittenAndKeepsIt)
         fs::permissions(settings, fs::perms{0400});
         const OrdinaryUser user(folder.path());
         EXPECT_EQ(readSettings().string(u"version"_s), u"2");
+        const QString said = takeNotices().join(u' ');
+        EXPECT_EQ(said.contains(QString::fromStdString(kept.string())), !content.empty())
+            << said.toStdString();
     }
-    EXPECT_EQ(readFile(damaged), old);
-    EXPECT_FALSE(fs::exists(damaged.string() + ".1"));
+    EXPECT_EQ(readFile(kept), old);
+    EXPECT_FALSE(fs::exists(kept.string() + ".1"));
     EXPECT_EQ(fs::status(settings).permissions(), fs::perms{0600});
 }
 
@@ -170,9 +176,10 @@ TEST_F(Store, LeavesAFileThatMayNotBeWrittenWhereNothingCanReplaceIt)
         if (!hasTemplate) fs::remove(templates / "config.plist");
         const OrdinaryUser user(folder.path());
         EXPECT_EQ(readSettings().string(u"version"_s), u"old");
-        EXPECT_NE(saveSettings(someSettings()), QString());
+        EXPECT_EQ(takeNotices().isEmpty(), !hasTemplate) << "that nothing can be saved is not said";
+        EXPECT_FALSE(saveSettings(someSettings()).isDone());
         EXPECT_EQ(readFile(settings), document(versionElement("old")));
-        EXPECT_FALSE(fs::exists(damaged));
+        EXPECT_FALSE(fs::exists(kept));
         fs::permissions(config, fs::perms{0700});
         fs::permissions(settings, fs::perms{0600});
     }
@@ -180,50 +187,77 @@ TEST_F(Store, LeavesAFileThatMayNotBeWrittenWhereNothingCanReplaceIt)
 
 TEST_F(Store, FollowsLinks)
 {
-    const fs::path kept = folder / "kept.plist";
+    const fs::path linked = folder / "kept.plist";
     fs::create_directories(config);
-    fs::create_symlink("../../kept.plist", settings);
+    fs::create_symlink("../../second.plist", settings);
+    fs::create_symlink("kept.plist", folder / "second.plist");
     fs::create_symlink("/nonexistent/folder/file", profiles);
     EXPECT_TRUE(readSettings()); // the template, through a link to what was not there
     EXPECT_FALSE(readProfiles());
     EXPECT_TRUE(fs::is_symlink(settings) && fs::is_symlink(profiles));
 
     // The link is what is kept, though its content was kept before.
-    writeFile(kept, document(versionElement("old")));
-    fs::copy_file(kept, damaged);
-    fs::permissions(kept, fs::perms{0400});
+    writeFile(linked, document(versionElement("old")));
+    fs::copy_file(linked, kept);
+    fs::permissions(linked, fs::perms{0400});
     const OrdinaryUser user(folder.path());
     EXPECT_TRUE(readSettings().contains(u"new"_s));
-    EXPECT_EQ(fs::read_symlink(damaged.string() + ".1"), "../../kept.plist");
-    EXPECT_EQ(readFile(kept), document(versionElement("old")));
+    EXPECT_EQ(fs::read_symlink(kept.string() + ".1"), "../../second.plist");
+    EXPECT_EQ(readFile(linked), document(versionElement("old")));
 }
 
-TEST_F(Store, NeedsItsTemplates)
+TEST_F(Store, FinishesAMergeThatOneFileRefused)
 {
-    fs::remove_all(templates);
-    EXPECT_FALSE(readSettings());
-    EXPECT_FALSE(fs::exists(settings));
-
-    writeFile(templates / "config.plist", document(newKey)); // gives no version
-    writeFile(settings, document(versionElement("1")));
-    EXPECT_EQ(readSettings().keys(), (QStringList{u"version"_s}));
-    EXPECT_EQ(readFile(settings), document(versionElement("1")));
-}
-
-TEST_F(Store, MayBeSavedByManyThreads)
-{
-    const Dictionary shared = someSettings();
-    {
-        std::vector<std::jthread> threads;
-        for (int thread = 0; thread < 3; ++thread)
-            threads.emplace_back([=] {
-                for (int round = 0; round < 20; ++round) {
-                    shared.setValue(u"key"_s + QString::number(thread), round);
-                    saveSettings(shared);
-                    EXPECT_TRUE(readSettings().contains(u"version"_s));
-                }
-            });
+    // The profiles may not be replaced, then they can't be read.
+    const fs::path linked = folder / "locked/profiles";
+    for (const std::string &content : {document("<key>Mine</key><dict/>"), halfWritten}) {
+        writeFile(settings, document(versionElement("1")));
+        writeFile(linked, content);
+        fs::remove(profiles);
+        fs::create_symlink(linked, profiles);
+        fs::permissions(linked.parent_path(), fs::perms{0500});
+        {
+            const OrdinaryUser user(folder.path());
+            EXPECT_EQ(readSettings().string(u"version"_s), u"1");
+            EXPECT_EQ(readFile(settings), document(versionElement("1")));
+        }
+        fs::permissions(linked.parent_path(), fs::perms{0700});
+        writeFile(linked, document("<key>Mine</key><dict/>"));
+        EXPECT_EQ(readSettings().string(u"version"_s), u"2");
+        EXPECT_TRUE(readProfiles().dictionary(u"Mine"_s).contains(u"new"_s));
     }
-    // The last save wrote the state of its turn, to which all threads had come.
-    EXPECT_EQ(readSettings(), shared);
+}
+
+TEST_F(Store, FindsItsCompanionsAgain)
+{
+    const std::string companion = folder / "libexec/quillorent/rar";
+    const std::string former = folder / "old/quillorent/rar"; // it is still there
+    for (const std::string &path : {companion, former}) {
+        writeFile(path, "");
+        fs::permissions(path, fs::perms{0700});
+    }
+    std::string tools = "<key>table</key><dict/>";
+    const std::string gone = "/gone/libexec/quillorent/rar";
+    for (const std::string &path :
+         {gone, former, std::string("/gone/bin/rar"), std::string("/quillorent/openssl")})
+        tools += "<key>" + path + "</key><string>" + path + "</string>";
+    writeFile(settings, document(versionElement("2") + "<key>external</key><dict>" + tools + "</dict>"));
+    for (const bool isFirst : {true, false}) {
+        const Dictionary read = readSettings().dictionary(u"external"_s);
+        for (const QString &key : read.keys().mid(1))
+            EXPECT_EQ(read.string(key)->toStdString(),
+                      key.toStdString() == gone ? companion : key.toStdString());
+        EXPECT_EQ(takeNotices().size(), isFirst) << "it is not saved";
+    }
+}
+
+TEST_F(Store, TellsWhatIsSavedWhileADiskIsSlow)
+{
+    static_cast<void>(readSettings());
+    std::future<bool> look;
+    settingsFile().change([&](const Dictionary &) {
+        look = std::async(std::launch::async, [] { return areSettingsSaved(someSettings()); });
+        EXPECT_EQ(look.wait_for(std::chrono::seconds(20)), std::future_status::ready)
+            << "it waits for the disk";
+    });
 }

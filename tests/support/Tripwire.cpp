@@ -10,6 +10,7 @@
 //   exit STATUS            without a word
 //   say TEXT               on standard error
 //   limit BYTES, full BYTES  a file that grows over them ends the process by a signal, or gives a write error
+//   late                   from now on, what is written fails when it is to be made durable
 //   fill FOLDER            leaves no room on its file system; the file is called "filler"
 //   folder PATH, fifo PATH, link PATH TARGET  puts such a thing there, in place of a file
 //   mode OCTAL PATH        takes permissions away
@@ -196,11 +197,13 @@ int mkdirat(int a, const char *b, mode_t c) noexcept { return passOn<int>("mkdir
 int fsync(int a)
 {
     note("safe", a, "", AT_EMPTY_PATH);
+    if (plan && plan->deed == "late") return errno = ENOSPC, -1;
     return passOn<int>("fsync", a);
 }
 int fdatasync(int a)
 {
     note("safe", a, "", AT_EMPTY_PATH);
+    if (plan && plan->deed == "late") return errno = ENOSPC, -1;
     return passOn<int>("fdatasync", a);
 }
 int openat64(int a, const char *b, int flags, ...)

@@ -2,7 +2,6 @@
 
 #include "ProgramTest.h"
 #include "Stub.h"
-#include "app/tools/PathTable.h"
 #include "tools/Verification.h"
 
 using namespace quillorentLibrary;
@@ -24,7 +23,6 @@ TEST_F(Verification, CountsTheToolsThatAreInOrder)
     EXPECT_FALSE(compliance());
     EXPECT_EQ(delegate.compliant(), 2);
     EXPECT_EQ(delegate.compliantBase(), 3);
-    EXPECT_DOUBLE_EQ(delegate.level01.state().warning, 2.05);
     EXPECT_DOUBLE_EQ(delegate.level01.state().critical, 2.04);
 
     for (const QString &name : table(u"external"_qs).keys())
@@ -53,24 +51,4 @@ TEST_F(Verification, NeedsBothTexts)
         table(missing).setValue(u"RAR"_qs, *text);
     }
     EXPECT_FALSE(testAll(u"no such tool"_qs));
-}
-
-// Typing and choosing a path is for the tests of the window.
-TEST_F(Verification, TheTableShowsPathsAndTheChooserBeginsThere)
-{
-    outlets::TableDataSource &rows = *delegate.pathTableView.dataSource();
-    rows.setObjectValue(u"another name"_qs, u"c10"_qs, 2);
-    QStringList cells;
-    for (const QString &column : {u"c10"_qs, u"c20"_qs, u"c30"_qs, u"c40"_qs, u"c99"_qs})
-        cells.append(rows.objectValue(column, 2).toString());
-    EXPECT_EQ(cells.join(u'|'), u"RSync|/usr/bin/rsync|true||"_qs);
-
-    delegate.openPanel = [](const outlets::OpenPanel &panel) {
-        EXPECT_EQ(panel.directory, u"/usr/bin"_qs);
-        EXPECT_EQ(panel.allowedFileTypes, QStringList{u""_qs});
-        return QStringList{u"/chosen"_qs};
-    };
-    const plist::Dictionary before = table(u"external"_qs).deepCopy();
-    delegate.selectFile();
-    EXPECT_TRUE(table(u"external"_qs) == before) << "no row is selected";
 }

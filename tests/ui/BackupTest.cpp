@@ -168,8 +168,7 @@ TEST_F(BackupTest, ClosingDuringARunAsks)
     settle();
     ASSERT_TRUE(button(u"&Stop and quit"_qs));
     button(u"&Stop and quit"_qs)->click();
-    settle();
-    EXPECT_EQ(closed.count(), 1);
+    EXPECT_TRUE(waitUntil([&] { return closed.count() == 1; }));
     delegate.applicationWillTerminate();
     EXPECT_EQ(toolsRunning(), 0);
 }

@@ -4,12 +4,8 @@
 #include "ui/RefreshQueue.h"
 #include "ui/TextArea.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
 #include <QPlainTextEdit>
 #include <QProgressBar>
-#include <QStackedWidget>
 #include <thread>
 
 namespace {
@@ -59,11 +55,6 @@ TEST_F(BindingTest, ChangesOfOtherThreadsShow)
 {
     onAnotherThread([this] {
         delegate.outputText01.setText(u"<b>done</b>"_qs);
-        delegate.checkBox05.setOn(false);
-        delegate.profileCombo01.setTitles({u"one"_qs, u"two"_qs});
-        delegate.profileCombo01.selectTitle(u"two"_qs);
-        delegate.passTabs.selectIndex(2);
-        delegate.secureText01b.setHidden(false);
         delegate.view01progressIndicator01.setMaximum(8e12);
         delegate.view01progressIndicator01.setValue(6e12);
         delegate.consoleTextView01.setText(u"first\n"_qs);
@@ -73,10 +64,6 @@ TEST_F(BindingTest, ChangesOfOtherThreadsShow)
     settle();
 
     EXPECT_EQ(widget<ui::TextArea>(u"outputText01"_qs).text(), u"<b>done</b>"_qs);
-    EXPECT_FALSE(widget<QCheckBox>(u"checkBox05"_qs).isChecked());
-    EXPECT_EQ(widget<QComboBox>(u"profileCombo01"_qs).currentText(), u"two"_qs);
-    EXPECT_EQ(widget<QStackedWidget>(u"passTabs"_qs).currentIndex(), 2);
-    EXPECT_FALSE(widget(u"secureText01b"_qs).isHidden());
     const auto &bar = widget<QProgressBar>(u"view01progressIndicator01"_qs);
     EXPECT_EQ(bar.value() * 4, bar.maximum() * 3);
     EXPECT_EQ(widget<QPlainTextEdit>(u"consoleTextView01"_qs).toPlainText(), u"first\nsecond"_qs);
@@ -86,9 +73,10 @@ TEST_F(BindingTest, EscapeAsksThePanelsClosingAction)
 {
     for (outlets::Panel *const each :
          {&delegate.warningPanel01, &delegate.warningPanel03, &delegate.warningPanel02,
-          &delegate.concernsPanel01, &delegate.extractPanel01, &delegate.consolePanel01}) {
+          &delegate.concernsPanel01, &delegate.extractPanel01, &delegate.savePanel01, &delegate.quitPanel01,
+          &delegate.conflictPanel01, &delegate.settingsPanel01, &delegate.consolePanel01}) {
         outlets::Panel &panel = *each;
-        const bool asSheet = each != &delegate.consolePanel01;
+        const bool asSheet = each != &delegate.consolePanel01 && each != &delegate.settingsPanel01;
         SCOPED_TRACE(panel.name().toStdString());
         asSheet ? panel.beginSheet() : panel.orderFront();
         settle();

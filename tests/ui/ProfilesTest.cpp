@@ -1,15 +1,30 @@
+#include "Command.h"
 #include "TestWindow.h"
 
 #include "plist/File.h"
 #include "settings/Paths.h"
+#include "ui/SingleWindow.h"
 
 #include <QDir>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <csignal>
 
 namespace {
+
+/// One of the sheets that ask for a name.
+struct Sheet {
+    QString button;
+    QString panel;
+    QString field;
+};
+
+const Sheet renaming{u"profileButton03"_qs, u"profilePanel01"_qs, u"panel01text02"_qs};
+const Sheet making{u"profileButton04"_qs, u"profilePanel02"_qs, u"panel02text01"_qs};
+const Sheet duplicating{u"profileButton06"_qs, u"profilePanel03"_qs, u"panel03text02"_qs};
 
 class ProfilesTest : public WindowTest {
 protected:
@@ -19,32 +34,85 @@ protected:
             if (box->isVisible()) return qobject_cast<QPushButton *>(box->button(which));
         return nullptr;
     }
+
+    void name(
+        const Sheet &sheet, const QString &text, const std::function<void()> &before = [] {})
+    {
+        clickAndAnswer(sheet.button, sheet.panel, [&] {
+            before();
+            QTest::keyClicks(&widget(sheet.field), text);
+            QTest::keyClick(&widget(sheet.field), Qt::Key_Return);
+        });
+        EXPECT_TRUE(waitForThreads(std::chrono::seconds(60)));
+        EXPECT_FALSE(widget(sheet.panel).isVisible());
+    }
+    void answerDeletion(const QString &button)
+    {
+        clickAndAnswer(u"profileButton07"_qs, u"profilePanel04"_qs, [&] { click(button); });
+    }
+    plist::Dictionary record(const QString &profile) { return delegate.listPlist().dictionary(profile); }
+    QStringList names() { return delegate.listPlist().keys(); }
+    const QString first = delegate.currentProfile();
 };
 
 } // namespace
 
-TEST_F(ProfilesTest, SheetsAskForNames)
+TEST_F(ProfilesTest, AreMadeRenamedDuplicatedAndDeleted)
 {
+    std::filesystem::create_directories(program.folder() / "home/Pictures");
     EXPECT_FALSE(widget(u"profileButton07"_qs).isEnabled()) << "the last profile stays";
-    clickAndAnswer(u"profileButton04"_qs, u"profilePanel02"_qs, [&] {
-        QTest::keyClicks(&widget(u"panel02text01"_qs), u"Second"_qs);
-        QTest::keyClick(&widget(u"panel02text01"_qs), Qt::Key_Return);
+    delegate.passCombo01.selectIndex(PasswordTab::Certificate);
+    name(making, u"Second"_qs, [&] { click(u"mustDos01"_qs); });
+    EXPECT_EQ(delegate.currentProfile(), u"Second"_qs);
+    EXPECT_EQ(delegate.passCombo01.selectedIndex(), PasswordTab::TypedPassword);
+    EXPECT_EQ(record(u"Second"_qs).array(u"folders"_qs).strings(),
+              QStringList{program.path("home/Pictures")});
+    EXPECT_EQ(delegate.defaultProfile().array(u"folders"_qs).count(), 0) << "the copy is not deep";
+
+    click(u"defaultProfileButton"_qs);
+    const plist::Dictionary second = record(u"Second"_qs);
+    name(renaming, u"Renamed"_qs, [&] { EXPECT_EQ(delegate.panel01text01.text(), u"Second"_qs); });
+    EXPECT_EQ(names(), (QStringList{first, u"Renamed"_qs}));
+    EXPECT_EQ(delegate.profileCombo01.titles(), names());
+    EXPECT_TRUE(record(u"Renamed"_qs).isSameObject(second));
+    name(duplicating, u"Twin"_qs);
+    EXPECT_EQ(widget<QLabel>(u"currentProfileTextView"_qs).text(), u"Twin"_qs);
+    EXPECT_TRUE(record(u"Twin"_qs).isSameObject(second)) << "one record until it is saved and read again";
+    name(renaming, u"Sibling"_qs);
+    EXPECT_EQ(delegate.setting(u"resources"_qs, u"selectedprofile"_qs), u"Renamed"_qs) << "at the next start";
+
+    // The chooser may show another profile than the one in use; that one stays in use.
+    delegate.profileCombo01.selectTitle(u"Renamed"_qs);
+    answerDeletion(u"panel04cancel"_qs);
+    EXPECT_EQ(names().size(), 3);
+    answerDeletion(u"panel04ok"_qs);
+    EXPECT_EQ(names(), (QStringList{first, u"Sibling"_qs}));
+    EXPECT_EQ(delegate.currentProfile(), u"Sibling"_qs);
+    answerDeletion(u"panel04ok"_qs);
+    EXPECT_EQ(delegate.profileCombo01.selectedTitle(), first);
+    EXPECT_EQ(delegate.currentProfile(), first);
+}
+
+TEST_F(ProfilesTest, NamesThatAreEmptyOrTakenAreRefused)
+{
+    QString refusal;
+    delegate.warningPanel04.observe([&] {
+        if (delegate.warningPanel04.place() == outlets::Panel::Place::Hidden) return;
+        refusal = delegate.warningText04.text();
+        delegate.panelNoname();
     });
-    EXPECT_TRUE(waitUntil([&] { return widget<QLabel>(u"currentProfileTextView"_qs).text() == u"Second"; }));
-    for (const QString &sheet : {u"profileButton03 profilePanel01 panel01text02"_qs,
-                                 u"profileButton06 profilePanel03 panel03text02"_qs}) {
-        const QStringList names = sheet.split(u' ');
-        clickAndAnswer(names[0], names[1], [&] { click(names[1] + u"Cancel"_qs); });
-        EXPECT_FALSE(widget(names[1]).isVisible());
-        clickAndAnswer(names[0], names[1], [&] {
-            QTest::keyClicks(&widget(names[2]), u"Name of "_qs + names[1]);
-            click(names[1] + u"Ok"_qs);
-        });
-        EXPECT_EQ(delegate.currentProfile(), u"Name of "_qs + names[1]);
+    for (const Sheet &sheet : {renaming, making, duplicating}) {
+        clickAndAnswer(sheet.button, sheet.panel, [&] { click(sheet.panel + u"Cancel"_qs); });
+        for (const auto &[typed, reason] : {std::pair{u""_qs, u"none was typed"_qs},
+                                            {u"  "_qs, u"none was typed"_qs},
+                                            {first, u"already"_qs}}) {
+            refusal.clear();
+            name(sheet, typed);
+            EXPECT_TRUE(refusal.contains(reason)) << refusal.toStdString();
+            EXPECT_EQ(names(), QStringList{first});
+        }
     }
-    clickAndAnswer(u"profileButton07"_qs, u"profilePanel04"_qs, [&] { click(u"panel04ok"_qs); });
-    EXPECT_EQ(delegate.listPlist().count(), 2);
-    ASSERT_TRUE(waitForThreads(std::chrono::seconds(60)));
+    EXPECT_TRUE(delegate.noRepeatedProfileName(first.toUpper()));
 }
 
 TEST_F(ProfilesTest, WhatIsNotSavedShowsAndIsAskedFor)
@@ -63,33 +131,117 @@ TEST_F(ProfilesTest, WhatIsNotSavedShowsAndIsAskedFor)
     EXPECT_TRUE(window.isWindowModified());
 
     const QSignalSpy closed(&window, &ui::Window::closed);
+    const QString path = quillorentLibrary::profilesPath();
     window.close();
     QTest::mouseClick(answer(QMessageBox::Cancel), Qt::LeftButton);
     settle();
     EXPECT_TRUE(window.isVisible());
     EXPECT_EQ(closed.count(), 0);
 
-    // Nobody may write where a folder stands in the file's place; then there is room again.
-    const QString path = quillorentLibrary::profilesPath();
-    ASSERT_TRUE(QFile::remove(path) && QDir().mkpath(path + u"/taken"_qs));
-    clickAndAnswer(u"profileButton01"_qs, u"warningPanel01"_qs, [&] {
-        EXPECT_TRUE(delegate.warningText01.text().contains(path));
-        click(u"warningPanel01CloseButton"_qs);
-    });
-    ASSERT_TRUE(QDir(path).removeRecursively());
+    window.close();
+    QTest::mouseClick(answer(QMessageBox::Discard), Qt::LeftButton);
+    EXPECT_TRUE(waitUntil([&] { return closed.count() == 1; }));
+    EXPECT_FALSE(plist::readFile(path).dictionary == delegate.listPlist());
+    window.show();
+
     window.close();
     QTest::mouseClick(answer(QMessageBox::Save), Qt::LeftButton);
-    EXPECT_TRUE(waitUntil([&] { return closed.count() == 1; }));
+    EXPECT_TRUE(waitUntil([&] { return closed.count() == 2; }));
     EXPECT_TRUE(plist::readFile(path).dictionary == delegate.listPlist());
 }
 
-TEST_F(ProfilesTest, WhatIsDiscardedIsGone)
+TEST_F(ProfilesTest, QuittingTellsWhatItCanNotSave)
 {
-    delegate.autosaveCheck01.setOn(false);
-    delegate.autosaveCheck01Action();
+    const QString path = quillorentLibrary::profilesPath();
+    const QDir copies(program.path("archives"));
+    // Nobody may write where a folder stands in the file's place.
+    ASSERT_TRUE(QFile::remove(path) && QDir().mkpath(path + u"/taken"_qs));
     delegate.addFolders({u"/one more"_qs});
+    delegate.openPanel = [&](const outlets::OpenPanel &) { return QStringList{copies.path()}; };
+    const QSignalSpy closed(&window, &ui::Window::closed);
+    auto &panel = widget(u"quitPanel01"_qs);
+    int endings = 0;
+    for (const QString &answer : {u"Again"_qs, u"Stay"_qs, u"Copy"_qs, u"Leave"_qs}) {
+        SCOPED_TRACE(answer.toStdString());
+        window.show();
+        if (!panel.isVisible()) window.close();
+        ASSERT_TRUE(waitUntil([&] { return panel.isVisible(); }));
+        EXPECT_TRUE(window.isVisible() && panel.windowTitle() == u"Can't save");
+        EXPECT_TRUE(delegate.quitText01.text().contains(path));
+        click(u"quitPanel01"_qs + answer);
+        if (answer == u"Again") continue; // and it fails again
+        ASSERT_TRUE(waitForThreads(std::chrono::seconds(60)));
+        if (answer != u"Stay") ++endings;
+        EXPECT_TRUE(waitUntil([&] { return closed.count() == endings; }));
+    }
+    EXPECT_EQ(copies.entryList(QDir::Files).size(), 1);
+    EXPECT_TRUE(plist::readFile(copies.filePath(QFileInfo(path).fileName())).dictionary ==
+                delegate.listPlist());
+    ASSERT_TRUE(QDir(path).removeRecursively());
+    window.show();
     window.close();
-    QTest::mouseClick(answer(QMessageBox::Discard), Qt::LeftButton);
-    EXPECT_TRUE(waitUntil([&] { return !window.isVisible(); }));
-    EXPECT_FALSE(plist::readFile(quillorentLibrary::profilesPath()).dictionary == delegate.listPlist());
+    EXPECT_TRUE(waitUntil([&] { return closed.count() == endings + 1; }));
+    EXPECT_TRUE(plist::readFile(path).dictionary == delegate.listPlist());
+}
+
+TEST_F(ProfilesTest, WhatOthersChangedTooIsAskedFor)
+{
+    const QString path = quillorentLibrary::profilesPath();
+    for (const QString &answer : {u"Stop"_qs, u"Mine"_qs, u"Theirs"_qs}) {
+        const plist::Dictionary theirs = plist::readFile(path).dictionary;
+        const QString name = delegate.currentProfile();
+        theirs.dictionary(name).setValue(u"part"_qs, answer + u" of theirs"_qs);
+        theirs.setValue(u"New "_qs + answer, plist::Dictionary::make());
+        ASSERT_EQ(plist::writeFile(path, theirs), QString());
+        delegate.prefStepper01Action(answer + u" of mine"_qs);
+        clickAndAnswer(u"profileButton01"_qs, u"conflictPanel01"_qs, [&] {
+            EXPECT_TRUE(delegate.conflictText01.text().contains(name));
+            click(u"conflictPanel01"_qs + answer);
+        });
+        ASSERT_TRUE(waitForThreads(std::chrono::seconds(60)));
+        settle();
+        const QString expected = answer + (answer == u"Theirs" ? u" of theirs"_qs : u" of mine"_qs);
+        EXPECT_EQ(widget<QLineEdit>(u"prefText01"_qs).text(), expected);
+        const bool isSaved = answer != u"Stop";
+        EXPECT_EQ(plist::readFile(path).dictionary == delegate.listPlist(), isSaved);
+        EXPECT_EQ(delegate.profileCombo01.titles().contains(u"New "_qs + answer), isSaved);
+        const QString kept = path + (answer == u"Theirs" ? u".kept.1"_qs : u".kept"_qs);
+        EXPECT_EQ(delegate.settingsText01.text().contains(kept), isSaved);
+        if (!isSaved) continue;
+        const QString lost = answer + (answer == u"Mine" ? u" of theirs"_qs : u" of mine"_qs);
+        EXPECT_EQ(plist::readFile(kept).dictionary.dictionary(name).string(u"part"_qs), lost);
+    }
+}
+
+TEST_F(ProfilesTest, ASecondStartRaisesTheFirstWindow)
+{
+    const TemporaryFolder runtime;
+    std::filesystem::permissions(runtime.path(), std::filesystem::perms{0700});
+    qputenv("XDG_RUNTIME_DIR", runtime.path().c_str());
+    const std::string config = quillorentLibrary::preferencesFolder().toStdString();
+    const auto start = [&](const std::string &folder) {
+        return std::make_unique<BackgroundProgram>(
+            std::vector<std::string>{QUILLORENT},
+            CommandOptions{.environment = {{"XDG_CONFIG_HOME", folder}}}, (runtime / "log").string());
+    };
+    const auto sockets = [&] {
+        return std::ranges::count_if(std::filesystem::directory_iterator(runtime.path()),
+                                     [](const auto &entry) { return entry.is_socket(); });
+    };
+    // One that was killed leaves its socket, and keeps nobody out.
+    const auto killed = start(config);
+    ASSERT_TRUE(waitUntil([&] { return sockets() == 1; }));
+    killed->signal(SIGKILL);
+    ASSERT_TRUE(waitUntil([&] { return killed->hasEnded(); }));
+    ui::SingleWindow single(quillorentLibrary::preferencesFolder());
+    ASSERT_TRUE(single.take());
+    QObject::connect(&single, &ui::SingleWindow::raiseRequested, &window, &ui::Window::comeToFront);
+    window.showMinimized();
+
+    const auto second = start(config);
+    EXPECT_TRUE(waitUntil([&] { return second->hasEnded(); }));
+    EXPECT_FALSE(window.isMinimized());
+    const auto other = start(program.path("other").toStdString());
+    EXPECT_TRUE(waitUntil([&] { return sockets() == 2; })) << "settings of its own, a window of its own";
+    EXPECT_FALSE(other->hasEnded());
 }

@@ -87,11 +87,15 @@ TEST_F(TableTest, ToolsAreJudgedInWords)
     EXPECT_TRUE(waitUntil([&] { return status(0) == u"right tool" && status(2) == u"right tool"; }));
     EXPECT_EQ(widget<ui::LevelBar>(u"level01"_qs).text(), u"3 of 3 tools are in order"_qs);
 
-    delegate.openPanel = [](const outlets::OpenPanel &) { return QStringList{u"/usr/bin/true"_qs}; };
+    delegate.openPanel = [](const outlets::OpenPanel &panel) {
+        EXPECT_EQ(panel.directory, u"/usr/bin"_qs);
+        return QStringList{u"/usr/bin/true"_qs};
+    };
+    delegate.selectFile(); // no row is selected: the first one stays
     showTab(u"toolsPage"_qs);
     const QModelIndex place = tools().outletModel().index(1, tools().outletModel().columnOf(u"c40"_qs));
     QTest::mouseClick(tools().indexWidget(place), Qt::LeftButton);
-    EXPECT_TRUE(waitUntil([&] { return status(1) == u"not usable"; }));
+    EXPECT_TRUE(waitUntil([&] { return status(1) == u"not usable" && status(0) == u"right tool"; }));
     EXPECT_EQ(delegate.setting(u"external"_qs, u"OpenSSL"_qs), u"/usr/bin/true"_qs);
     EXPECT_TRUE(waitUntil([&] { return widget<ui::LevelBar>(u"level01"_qs).text().startsWith(u'2'); }));
 }

@@ -45,9 +45,7 @@ void QuillorentAppDelegate::setterCurrentProfile(const QString &name)
     profileCombo01.selectTitle(name);
     currentProfileTextView.setText(name);
 
-    updatesCheck01.setOn(configPlist().dictionary(u"updates"_qs).isOn(u"automatic"_qs));
-    autosaveCheck01.setOn(configPlist().dictionary(u"resources"_qs).isOn(u"autosave"_qs));
-
+    showSwitches();
     forgetKeychainAnswers();
     // No password typed for one profile may be seen in the next. The destination, the extraction folder and
     // the volume size stay as they are where the new record has none.
@@ -62,6 +60,12 @@ void QuillorentAppDelegate::setterCurrentProfile(const QString &name)
     listTableView.reloadData();
     extractTableView.reloadData();
     syncTableView.reloadData();
+}
+
+void QuillorentAppDelegate::showSwitches()
+{
+    updatesCheck01.setOn(configPlist().dictionary(u"updates"_qs).isOn(u"automatic"_qs));
+    autosaveCheck01.setOn(configPlist().dictionary(u"resources"_qs).isOn(u"autosave"_qs));
 }
 
 void QuillorentAppDelegate::applyRecord(const plist::Dictionary &record)

@@ -9,7 +9,7 @@ namespace {
 /// Why a profile can't be called so; empty where it can.
 QString whyNotNamed(const QuillorentAppDelegate &delegate, const QString &name)
 {
-    if (name.isEmpty()) return u"A profile needs a name, and none was typed."_qs;
+    if (name.trimmed().isEmpty()) return u"A profile needs a name, and none was typed."_qs;
     if (delegate.noRepeatedProfileName(name)) return {};
     return u"There is a profile \"%1\" already. Choose another name."_qs.arg(name);
 }
@@ -19,6 +19,15 @@ QString whyNotNamed(const QuillorentAppDelegate &delegate, const QString &name)
 bool QuillorentAppDelegate::noRepeatedProfileName(const QString &name) const
 {
     return !listPlist().contains(name);
+}
+
+bool QuillorentAppDelegate::canHaveProfiles()
+{
+    if (listPlist()) return true;
+    tellOfFiles({u"There can be no profiles, for their file can't be read:\n%1\nRepair it, or move it away, "
+                 u"and start "
+                 "the program again."_qs.arg(quillorentLibrary::whyProfilesAreUnread())});
+    return false;
 }
 
 bool QuillorentAppDelegate::acceptName(const QString &name, outlets::Panel &sheet)
@@ -44,6 +53,7 @@ void QuillorentAppDelegate::panelNoname() { closeSheet(warningPanel04); }
 
 void QuillorentAppDelegate::profileButton03Action()
 {
+    if (!canHaveProfiles()) return;
     panel01text01.setText(profileCombo01.selectedTitle());
     profilePanel01.runModal();
     panel01text02.setText({});
@@ -70,6 +80,7 @@ void QuillorentAppDelegate::profileButton03ActionEnd() { closeSheet(profilePanel
 
 void QuillorentAppDelegate::profileButton04Action()
 {
+    if (!canHaveProfiles()) return;
     panel02text01.setText({});
     mustDos01.setOn(false);
     profilePanel02.runModal();
@@ -95,6 +106,7 @@ void QuillorentAppDelegate::profileButton04ActionEnd() { closeSheet(profilePanel
 
 void QuillorentAppDelegate::profileButton06Action()
 {
+    if (!canHaveProfiles()) return;
     panel03text01.setText(profileCombo01.selectedTitle());
     profilePanel03.runModal();
     panel03text02.setText({});

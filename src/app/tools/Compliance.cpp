@@ -24,7 +24,7 @@ bool quillorentLibrary::compliance()
     delegate.compliant.set(0);
     int tools = 0;
     int passing = 0;
-    for (const QString &name : delegate.configPlist().dictionary(u"external"_qs).keys()) {
+    for (const QString &name : registeredTools()) {
         ++tools;
         if (testAll(name)) ++passing;
     }

@@ -2,6 +2,7 @@
 
 #include "app/QuillorentAppDelegate.h"
 #include "app/tools/Compliance.h"
+#include "tools/RegisteredTool.h"
 #include "tools/Verification.h"
 
 namespace {
@@ -10,11 +11,11 @@ plist::Dictionary registry() { return theDelegate().configPlist().dictionary(u"e
 
 } // namespace
 
-int pathTable::numberOfRows() const { return int(registry().count()); }
+int pathTable::numberOfRows() const { return int(registeredTools().size()); }
 
 QVariant pathTable::objectValue(const QString &column, int row) const
 {
-    const QString tool = registry().keys().value(row);
+    const QString tool = registeredTools().value(row);
     if (column == u"c10") return tool;
     if (column == u"c20") return registry().string(tool).value_or(QString());
     if (column == u"c30") return quillorentLibrary::testAll(tool);
@@ -23,7 +24,7 @@ QVariant pathTable::objectValue(const QString &column, int row) const
 
 void pathTable::setObjectValue(const QVariant &value, const QString &column, int row)
 {
-    const QString tool = registry().keys().value(row);
+    const QString tool = registeredTools().value(row);
     if (column != u"c20" || tool.isNull()) return;
     registry().setValue(tool, value.toString());
     theDelegate().pathTableView.reloadData();
@@ -33,7 +34,7 @@ void QuillorentAppDelegate::selectFile()
 {
     const auto chosen =
         openPanel({.title = u"Choose a tool"_qs, .directory = u"/usr/bin"_qs, .allowedFileTypes = {u""_qs}});
-    const QString tool = registry().keys().value(pathTableView.selectedRow());
+    const QString tool = registeredTools().value(pathTableView.selectedRow());
     if (chosen && !chosen->isEmpty() && !tool.isNull()) registry().setValue(tool, chosen->first());
     quillorentLibrary::updateCompliance();
     pathTableView.reloadData();

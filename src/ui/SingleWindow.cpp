@@ -1,0 +1,67 @@
+#include "ui/SingleWindow.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFileInfo>
+#include <QLocalSocket>
+#include <QLockFile>
+#include <QStandardPaths>
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace ui {
+
+namespace {
+
+QString socketFor(const QString &folder)
+{
+    const QFileInfo info(folder);
+    const QString place = info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
+    const QByteArray hash = QCryptographicHash::hash(place.toUtf8(), QCryptographicHash::Sha256).toHex();
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation))
+        .filePath(u"quillorent-"_qs + QString::fromLatin1(hash.left(16)));
+}
+
+/// Whether a window answers that it comes to the front.
+bool raisesOther(const QString &path)
+{
+    QLocalSocket socket;
+    socket.connectToServer(path);
+    return socket.waitForConnected(1000) && (socket.bytesAvailable() > 0 || socket.waitForReadyRead(5000));
+}
+
+} // namespace
+
+SingleWindow::SingleWindow(const QString &folder) : m_path(socketFor(folder))
+{
+    m_server.setSocketOptions(QLocalServer::UserAccessOption);
+    connect(&m_server, &QLocalServer::newConnection, this, &SingleWindow::answer);
+}
+
+bool SingleWindow::take()
+{
+    // Of two that start at once, the second looks when the first listens.
+    QLockFile turn(m_path + u".lock"_qs);
+    turn.setStaleLockTime(0);
+    turn.tryLock(10'000);
+
+    if (raisesOther(m_path)) return false;
+    QLocalServer::removeServer(m_path);
+    if (!m_server.listen(m_path))
+        qWarning("%s: %s", qUtf8Printable(m_path), qUtf8Printable(m_server.errorString()));
+    return true;
+}
+
+void SingleWindow::answer()
+{
+    while (QLocalSocket *socket = m_server.nextPendingConnection()) {
+        connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+        socket->write("1");
+        socket->flush();
+        socket->disconnectFromServer();
+        Q_EMIT raiseRequested();
+    }
+}
+
+} // namespace ui
