@@ -249,8 +249,11 @@ bool FaultHome::isNew() const
 /// A tool may outlive a killed program until its stage ends, no longer; and no other end at all.
 void FaultHome::expectNoTools(bool mayFinish) const
 {
-    for (int tries = mayFinish ? 2000 : 20; tries > 0 && !m_home.processes().empty(); --tries)
+    int quiet = 0; // looks in a row: one that is just being started has neither arguments nor environment
+    for (int tries = mayFinish ? 2000 : 20; tries > 0 && quiet < 3; --tries) {
+        quiet = m_home.processes().empty() ? quiet + 1 : 0;
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
     for (const int process : m_home.processes()) {
         ADD_FAILURE() << "a tool is left running";
         kill(process, SIGKILL);
