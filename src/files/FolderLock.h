@@ -15,7 +15,10 @@ public:
     FolderLock &operator=(const FolderLock &) = delete;
 
     /// A file system that knows no locks gives one that holds nothing, as does a folder that can't be opened.
+    /// Blocks for a fraction of a second where somebody else holds it.
     [[nodiscard]] static FolderLock take(const QString &folder);
+    /// Whether anybody holds the folder, this program included.
+    [[nodiscard]] static bool isHeld(const QString &folder);
 
     /// Whether somebody else holds the folder.
     [[nodiscard]] bool isBusy() const { return m_isBusy; }
@@ -23,6 +26,8 @@ public:
     [[nodiscard]] int descriptor() const { return m_folder; }
 
 private:
+    [[nodiscard]] static FolderLock tryTake(const QString &folder, int kind);
+
     int m_folder = -1;
     bool m_isBusy = false;
 };

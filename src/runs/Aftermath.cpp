@@ -106,7 +106,7 @@ void forAllClear(Use use)
 {
     for (const KeptRecord &kept : keptRecords()) {
         // What a run that is at work makes is not left yet.
-        const bool isAtWork = !kept.record.ended.isValid() && FolderLock::take(kept.record.folder).isBusy();
+        const bool isAtWork = !kept.record.ended.isValid() && FolderLock::isHeld(kept.record.folder);
         if (isAtWork) continue;
         for (const ItemRecord &item : kept.record.items)
             for (const LeftFile &file : stillThere(item))

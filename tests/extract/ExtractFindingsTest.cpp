@@ -1,6 +1,8 @@
 #include "EngineRun.h"
 #include "TestProgram.h"
 
+#include <thread>
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -98,10 +100,15 @@ TEST_F(ExtractFindings, TellWhatIsWrongAndWhatToDo)
             EXPECT_TRUE(!hasSign || lines[i][0] == part[0]);
         }
     }
-    const FolderLock held = FolderLock::take(text(out));
+    FolderLock held = FolderLock::take(text(out));
     FolderLock lock;
     ExtractOrder order = extractOrder({archive});
     EXPECT_TRUE(lookAtExtraction(order, lock).obstacles.value(0).startsWith(u"Another run"));
+    // What holds it for a moment is no run.
+    std::thread asking(
+        [held = std::move(held)] { std::this_thread::sleep_for(std::chrono::milliseconds(20)); });
+    EXPECT_EQ(lookAtExtraction(order, lock).obstacles, QStringList());
+    asking.join();
 }
 
 // What is in the way of an extraction that goes on all the same stays, under another name.
