@@ -3,7 +3,6 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <cstdlib>
 #include <fcntl.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
@@ -61,22 +60,52 @@ void writeAll(Pipe &pipe, const std::string &bytes)
     Pipe::closeEnd(pipe.write);
 }
 
-/// In the child of a fork.
-[[noreturn]] void becomeProgram(const std::vector<std::string> &arguments, const CommandOptions &options,
-                                std::array<int, 3> descriptors)
-{
-    for (int standard = 0; standard < 3; ++standard)
-        dup2(descriptors[static_cast<std::size_t>(standard)], standard);
-    if (!options.folder.empty() && chdir(options.folder.c_str()) != 0) _exit(126);
-    for (const auto &[name, value] : options.environment)
-        setenv(name.c_str(), value.c_str(), 1);
-    std::vector<char *> argv;
-    for (const std::string &argument : arguments)
-        argv.push_back(const_cast<char *>(argument.c_str()));
-    argv.push_back(nullptr);
-    execvp(argv.front(), argv.data());
-    _exit(127);
-}
+/// All that a child needs, made before the fork: behind it nothing may be allocated, for another thread may
+/// have been at that, whose lock would stay locked.
+class Launch {
+public:
+    Launch(const std::vector<std::string> &arguments, const CommandOptions &options)
+        : m_folder(options.folder), m_arguments(arguments)
+    {
+        std::map<std::string, std::string> environment = options.environment;
+        for (char **entry = environ; *entry; ++entry) {
+            const std::string text = *entry;
+            const std::size_t sign = text.find('=');
+            if (sign != std::string::npos)
+                environment.try_emplace(text.substr(0, sign), text.substr(sign + 1));
+        }
+        for (const auto &[name, value] : environment)
+            m_environment.push_back(name + '=' + value);
+        m_argumentPointers = pointersTo(m_arguments);
+        m_environmentPointers = pointersTo(m_environment);
+    }
+
+    [[noreturn]] void become(std::array<int, 3> descriptors)
+    {
+        for (int standard = 0; standard < 3; ++standard)
+            dup2(descriptors[static_cast<std::size_t>(standard)], standard);
+        if (!m_folder.empty() && chdir(m_folder.c_str()) != 0) _exit(126);
+        environ = m_environmentPointers.data(); // where the program is looked for, too
+        execvp(m_argumentPointers.front(), m_argumentPointers.data());
+        _exit(127);
+    }
+
+private:
+    static std::vector<char *> pointersTo(std::vector<std::string> &texts)
+    {
+        std::vector<char *> pointers;
+        for (std::string &text : texts)
+            pointers.push_back(text.data());
+        pointers.push_back(nullptr);
+        return pointers;
+    }
+
+    std::string m_folder;
+    std::vector<std::string> m_arguments;
+    std::vector<std::string> m_environment;
+    std::vector<char *> m_argumentPointers;
+    std::vector<char *> m_environmentPointers;
+};
 
 pid_t forkOrThrow()
 {
@@ -93,10 +122,11 @@ BackgroundProgram::BackgroundProgram(const std::vector<std::string> &arguments, 
     Pipe input; // what is written must fit into it
     writeAll(input, options.input);
     const int output = open(log.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600);
+    Launch launch(arguments, options);
     m_process = forkOrThrow();
     if (m_process == 0) {
         prctl(PR_SET_PDEATHSIG, SIGKILL);
-        becomeProgram(arguments, options, {input.read, output, output});
+        launch.become({input.read, output, output});
     }
     close(output);
 }
@@ -124,8 +154,9 @@ CommandResult runCommand(const std::vector<std::string> &arguments, const Comman
     Pipe input;
     Pipe output;
     Pipe errors;
+    Launch launch(arguments, options);
     const pid_t child = forkOrThrow();
-    if (child == 0) becomeProgram(arguments, options, {input.read, output.write, errors.write});
+    if (child == 0) launch.become({input.read, output.write, errors.write});
     Pipe::closeEnd(output.write);
     Pipe::closeEnd(errors.write);
 
