@@ -107,7 +107,7 @@ TEST(Run, SaysWhyItCanNotStart)
              {"from a file\rx", "line break"},
              {"from a file\xff", "not UTF-8"},
              {std::string(1024, 'x'), "longer than 1023 bytes"},
-             {std::string(9'000'000, 'x'), "Give a file whose first line is the password alone"}}) {
+             {std::string(8'000'000, 'x'), "Give a file whose first line is the password alone"}}) {
         writeFile(home / "password", content);
         expectReasons(home, {{{"backup", "Mine", "--password-file", password}, 2, reason},
                              {extract(home.text("docs")), 2, reason}});

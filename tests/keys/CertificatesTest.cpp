@@ -160,21 +160,25 @@ TEST_F(Certificates, AnAnswerThatComesLateStaysWithItsProfile)
     EXPECT_EQ(delegate.listPlist().dictionary(first).string(u"lastcertfile"_qs), file(u"anna.pem"_qs));
 
     // Nor does a choice come back that another one has followed.
-    for (const auto &[action, extension, field] :
-         {std::tuple{std::function<void()>([&] { delegate.certButton01Action(); }), u".pem"_qs,
-                     &delegate.certFile01},
-          {std::function<void()>([&] { delegate.pkButton01Action(); }), u"-key.pem"_qs,
-           &delegate.pkFile01}}) {
+    struct Choice {
+        std::function<void()> action;
+        QString extension;
+        outlets::TextField *field;
+    };
+    for (const Choice &choice :
+         {Choice{[&] { delegate.certButton01Action(); }, u".pem"_qs, &delegate.certFile01},
+          Choice{[&] { delegate.pkButton01Action(); }, u"-key.pem"_qs, &delegate.pkFile01}}) {
+        const auto chosen = [&](const QString &name) { return file(name + choice.extension); };
         fs::remove(tool.string() + ".go-on");
         QString name = u"anna"_qs;
-        delegate.openPanel = [&](const outlets::OpenPanel &) { return QStringList{file(name + extension)}; };
-        action();
+        delegate.openPanel = [&](const outlets::OpenPanel &) { return QStringList{chosen(name)}; };
+        choice.action();
         name = u"bert"_qs;
-        action();
-        EXPECT_TRUE(TestProgram::waitUntil([&] { return field->text() == file(name + extension); }));
+        choice.action();
+        EXPECT_TRUE(TestProgram::waitUntil([&] { return choice.field->text() == chosen(name); }));
         writeFile(tool.string() + ".go-on", "");
         ASSERT_TRUE(waitForThreads(60s));
-        EXPECT_EQ(field->text(), file(name + extension));
+        EXPECT_EQ(choice.field->text(), chosen(name));
     }
 }
 
