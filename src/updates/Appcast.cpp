@@ -118,7 +118,7 @@ AppcastContent readAppcast(const QByteArray &feed)
         }
         const Release release = ItemReader().read(xml);
         if (release.version.isEmpty() || release.page.isEmpty()) continue;
-        if (!content.newest || compareVersions(release.version, content.newest->version) > 0)
+        if (!content.newest || std::is_gt(compareVersions(release.version, content.newest->version)))
             content.newest = release;
     }
     if (xml.hasError())

@@ -14,7 +14,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(logUpdates, "quillorent.updates")
 
-constexpr qint64 maximumFeedSize = 1024 * 1024;
+constexpr qint64 maximumFeedSize = 1 << 20;
 constexpr std::chrono::milliseconds patience = 30s;
 
 const QString ownVersion = QStringLiteral(QUILLORENT_VERSION);
@@ -99,6 +99,6 @@ void SUUpdater::judge(const QByteArray &feed) const
     const AppcastContent content = readAppcast(feed);
     if (!content.reason.isEmpty())
         qCInfo(logUpdates).noquote() << "The feed of updates can't be read:" << content.reason;
-    if (content.newest && compareVersions(content.newest->version, ownVersion) > 0)
+    if (content.newest && std::is_gt(compareVersions(content.newest->version, ownVersion)))
         m_client.showRelease(*content.newest);
 }
