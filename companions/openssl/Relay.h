@@ -32,6 +32,7 @@ public:
     void beforeFirstWord(std::function<void()> call) { m_beforeFirstWord = std::move(call); }
 
     [[nodiscard]] Result run();
+    [[nodiscard]] int outputError() const { return m_result.outputError; } ///< so far
 
 private:
     struct Drain {

@@ -77,11 +77,6 @@ bool ResultFile::openTarget()
     return m_unstaged || fail(errno);
 }
 
-std::string ResultFile::pathForTool() const
-{
-    return isStaged() ? base::descriptorPath(m_descriptor) : m_path.value_or("");
-}
-
 bool ResultFile::write(Bytes bytes) { return base::writeFully(m_descriptor, bytes) || fail(errno); }
 
 bool ResultFile::isFull() const

@@ -26,8 +26,6 @@ public:
     [[nodiscard]] bool isStaged() const { return static_cast<bool>(m_staged); }
     /// Opens a target that isn't staged. False: problem() says why.
     [[nodiscard]] bool openTarget();
-    /// What the tool has to open where it is to write itself.
-    [[nodiscard]] std::string pathForTool() const;
     [[nodiscard]] bool write(Bytes bytes) override;
     /// Whether the file system has next to no room left.
     [[nodiscard]] bool isFull() const;

@@ -81,9 +81,10 @@ private:
     /// Before anything that the tool makes of it, which nobody would understand.
     void tellWhereFull()
     {
-        if (!m_hasToldFull && m_output.isFull())
-            complain("there is next to no space left for " + *m_run.output);
-        m_hasToldFull = m_hasToldFull || m_output.isFull();
+        // By the time that anybody looks there may be room again.
+        const bool isFull = m_relay.outputError() == ENOSPC || m_output.isFull();
+        if (isFull && !m_hasToldFull) complain("there is next to no space left for " + *m_run.output);
+        m_hasToldFull = m_hasToldFull || isFull;
     }
 
     bool start(Secret &password)
@@ -103,7 +104,7 @@ private:
         const ToolStreams streams{m_run.stream ? input.read.get() : given,
                                   output.write.get(),
                                   errors.write.get(),
-                                  {passwordEnd.get(), m_output.descriptor()}};
+                                  {passwordEnd.get()}};
         const pid_t child = startTool(m_tool, toolArguments(passwordEnd.get()), streams, m_signals);
         if (child < 0) return cannotStart();
         m_signals.watch(child);
@@ -118,17 +119,15 @@ private:
         return false;
     }
 
-    [[nodiscard]] bool collectsOutput() const
-    {
-        // Without /proc the tool can't open what has no name.
-        return m_output.isStaged() && (m_run.collectsOutput || access("/proc/self/fd", X_OK) != 0);
-    }
+    /// The front writes the result file itself: where a disk is full for a moment the tool may lose a piece
+    /// of what it writes, say nothing, and end well.
+    [[nodiscard]] bool collectsOutput() const { return m_output.isStaged(); }
 
     [[nodiscard]] std::vector<std::string> toolArguments(int passwordEnd) const
     {
         std::vector<std::string> added;
         if (m_run.hasPassword) added.insert(added.end(), {"-pass", "fd:" + std::to_string(passwordEnd)});
-        if (m_run.output && !collectsOutput()) added.insert(added.end(), {"-out", m_output.pathForTool()});
+        if (m_run.output && !collectsOutput()) added.insert(added.end(), {"-out", *m_run.output});
         std::vector<std::string> arguments = m_run.arguments;
         arguments.insert(arguments.begin() + 1, added.begin(), added.end());
         return arguments;

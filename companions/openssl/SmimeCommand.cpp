@@ -67,8 +67,6 @@ CommandPlan planToolDecryption(const CommandLine &line)
     const std::vector<std::string> given =
         line.without([](const Option &option) { return option.name == "out"; });
     run.arguments.insert(run.arguments.end(), given.begin(), given.end());
-    // The tool does not notice when the disk is too full for the last few kilobytes.
-    run.collectsOutput = true;
     return run;
 }
 

@@ -27,8 +27,6 @@ struct ToolRun {
     int openInput = -1;
     /// The stream that it gets instead. Nothing: a file, or the program's own standard input.
     std::optional<BegunStream> stream{};
-    /// The front writes the result file itself, from the tool's standard output.
-    bool collectsOutput = false;
     /// The caller asked for something to read, so what the tool prints is no sign of failure.
     bool mayPrint = false;
     /// Lines of its standard error that say nothing new and are left out, without their ends.

@@ -38,9 +38,10 @@ inline std::vector<std::string> asOrdinaryUser(const std::filesystem::path &fold
 inline std::string stepsOf(const std::filesystem::path &log, const std::filesystem::path &folder)
 {
     std::string steps;
+    const std::string ending = (folder / "").string(); // with a slash
     std::istringstream stream(readFile(log));
     for (std::string line; std::getline(stream, line);)
-        steps += line.ends_with(" " + folder.string() + "/") ? 'D' : line[0];
+        steps += line.ends_with(ending) ? 'D' : line[0];
     return steps;
 }
 

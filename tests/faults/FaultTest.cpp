@@ -39,6 +39,7 @@ const std::vector<Fault> &faults()
         {"tool interrupted", "start", signalled("kill", SIGINT), Ends::Fails},
         {"tool crashes in the middle", "start", "limit\n5000", Ends::Fails},
         {"write error", "start", "full\n5000", Ends::Fails},
+        {"write error that goes away", "start", "gap\n5000", Ends::Fails},
         {"status 1 and no word", "start", "exit\n1", Ends::Fails},
         {"status 1 and no word, work done", "end", "exit\n1", Ends::Fails},
         {"status 0 and no product", "start", "exit\n0", Ends::Fails},

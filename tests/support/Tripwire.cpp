@@ -10,6 +10,7 @@
 //   exit STATUS            without a word
 //   say TEXT               on standard error
 //   limit BYTES, full BYTES  a file that grows over them ends the process by a signal, or gives a write error
+//   gap BYTES              the same error, once: afterwards there is room again
 //   late                   from now on, what is written fails when it is to be made durable
 //   fill FOLDER            leaves no room on its file system; the file is called "filler"
 //   folder PATH, fifo PATH, link PATH TARGET  puts such a thing there, in place of a file
@@ -59,9 +60,15 @@ std::vector<std::string> linesOf(const char *text)
 
 void limitFiles(const std::string &bytes, void (*onSignal)(int))
 {
-    const rlimit limit{std::stoul(bytes), std::stoul(bytes)};
+    const rlimit limit{std::stoul(bytes), RLIM_INFINITY};
     setrlimit(RLIMIT_FSIZE, &limit);
     std::signal(SIGXFSZ, onSignal);
+}
+
+void liftLimit(int)
+{
+    const rlimit none{RLIM_INFINITY, RLIM_INFINITY};
+    setrlimit(RLIMIT_FSIZE, &none);
 }
 
 void fill(const std::string &folder)
@@ -86,6 +93,7 @@ void act()
     if (deed == "say" && write(STDERR_FILENO, path, plan->first.size()) < 0) _exit(1);
     if (deed == "limit") limitFiles(plan->first, SIG_DFL);
     if (deed == "full") limitFiles(plan->first, SIG_IGN);
+    if (deed == "gap") limitFiles(plan->first, liftLimit);
     if (deed == "fill") fill(plan->first);
     if (deed == "mode") chmod(plan->second.c_str(), mode_t(std::stoul(plan->first, nullptr, 8)));
     if (deed == "folder" || deed == "fifo" || deed == "link") unlink(path);

@@ -6,7 +6,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Runs a tool with this content, which is called with `-out FILE` after the command's name.
+/// Runs a tool with this content, whose standard output is to become the file.
 int runScript(const TemporaryFolder &folder, const std::string &content, const std::string &output,
               Secret &password)
 {
@@ -23,9 +23,9 @@ int runScript(const TemporaryFolder &folder, const std::string &content, const s
 TEST(RunTool, TellsAMisbehavingToolAndLeavesTheOlderResult)
 {
     const std::vector<std::pair<std::string, std::string>> toolsAndMessages{
-        {"#!/bin/sh\necho half > \"$3\"; exit 3", "exit status 3"},
-        {"#!/bin/sh\necho half > \"$3\"; kill -SEGV $$", "signal 11"},
-        {"#!/bin/sh\necho whole > \"$3\"; echo odd >&2", "odd"},
+        {"#!/bin/sh\necho half; exit 3", "exit status 3"},
+        {"#!/bin/sh\necho half; kill -SEGV $$", "signal 11"},
+        {"#!/bin/sh\necho whole; echo odd >&2", "odd"},
         {"no program", "cannot run"}};
     const TemporaryFolder folder;
     Secret password;
@@ -47,7 +47,7 @@ TEST(RunTool, WipesThePasswordThatItHandedOn)
     Secret password;
     const std::string longest(Secret::maximumSize, 'x');
     ASSERT_TRUE(password.assign(longest));
-    EXPECT_EQ(runScript(folder, "#!/bin/sh\neval \"cat <&${3#fd:}\" > \"$5\"", folder / "got", password), 0);
+    EXPECT_EQ(runScript(folder, "#!/bin/sh\neval \"cat <&${3#fd:}\"", folder / "got", password), 0);
     EXPECT_EQ(readFile(folder / "got"), longest + "\n");
     EXPECT_EQ(password.text(), "");
 }
