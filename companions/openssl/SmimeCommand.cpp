@@ -4,6 +4,7 @@
 #include "CommandLine.h"
 #include "PassPhrase.h"
 #include "Secret.h"
+#include "WipedBytes.h"
 
 #include <algorithm>
 #include <array>
@@ -105,16 +106,14 @@ bool takePassPhrase(const CommandLine &line, SmimeDecryption &decryption, Secret
     }
     char *const text = option->value + inlinePassPhrase.size();
     decryption.hasPassPhrase = passPhrase.assign(text);
-    wipeMemory(text, std::strlen(text));
+    base::wipe(text, std::strlen(text));
     return decryption.hasPassPhrase;
 }
 
 CommandPlan planOwnDecryption(const CommandLine &line, Secret &passPhrase)
 {
     SmimeDecryption decryption;
-    decryption.input = valueOf(line, "in");
-    decryption.output = valueOf(line, "out");
-    decryption.isOurs = isOurs(line);
+    decryption.files = {valueOf(line, "in"), valueOf(line, "out"), isOurs(line)};
     decryption.recipient = valueOf(line, "recip");
     // The tool looks for the key beside the certificate, too.
     decryption.keyFile = valueOf(line, "inkey").value_or(decryption.recipient.value_or(""));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FileConversion.h"
 #include "smime/EncryptedMessage.h"
 
 #include <optional>
@@ -10,9 +11,7 @@ class Secret;
 /// A decryption with a certificate's private key that the front does itself: the system's tool holds the
 /// whole message in memory and takes none that is larger than 2 GB.
 struct SmimeDecryption {
-    std::optional<std::string> input;  ///< nothing: standard input
-    std::optional<std::string> output; ///< nothing: standard output
-    bool isOurs = false;               ///< as in ToolRun
+    FilePair files;
     MessageForm form = MessageForm::Smime;
     std::string keyFile;
     /// The certificate of the only recipient to try. Nothing: all are tried.

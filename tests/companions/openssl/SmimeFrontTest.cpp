@@ -114,7 +114,7 @@ TEST_F(SmimeFront, TellsInOneLineWhyItDoesNotDecrypt)
          "G was not opened: the private key key2 does not belong to the certificate cert"},
         {"-in G -inkey key2 cert2", "G is not for the certificate cert2"},
         {"-in G -inkey key2", "G cannot be opened with the private key key2"},
-        {"-in half -inkey key cert", "half ends too early: the message was cut short"},
+        {"-in half -inkey key cert", "half ends too early: it was cut short"},
         {"-in more -inkey key cert", "more goes on after the end of the message"},
         {"-in spoilt -inkey key cert", "spoilt is damaged: its byte 901 is none of a base64 text"},
         {"-in none -inkey key cert", "none is empty"},
