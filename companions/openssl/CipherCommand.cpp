@@ -93,13 +93,6 @@ std::optional<std::string> passPhraseSource(const CommandLine &line)
     return source && isPassPhraseSource(source) ? std::optional<std::string>(source) : std::nullopt;
 }
 
-/// The file that an option names; nothing: a standard stream.
-std::optional<std::string> fileOf(const CommandLine &line, std::string_view option)
-{
-    const char *const name = line.value(option);
-    return name && std::string_view(name) != "-" ? std::optional<std::string>(name) : std::nullopt;
-}
-
 /// Whether it is what the program runs that these tools belong to: `CIPHER [-d] -a [-salt] -in … -out … -pass
 /// pass:…`.
 bool isOurs(const CommandLine &line)
@@ -120,8 +113,8 @@ ToolRun planToolRun(const CommandLine &line, bool hasPassword)
     if (!line.has({"bufsize"})) append(run.arguments, {"-bufsize", std::string(bufferSize)});
     run.isOurs = isOurs(line);
     run.hasPassword = hasPassword;
-    run.output = fileOf(line, "out");
-    if (run.isOurs) run.input = fileOf(line, "in");
+    run.output = line.file("out");
+    if (run.isOurs) run.input = line.file("in");
     run.mayPrint = line.has({"p", "P", "v", "debug", "help", "list", "ciphers"});
     append(run.arguments, line.without([&run](const Option &each) {
         return each.name == "out" || spelledPassword(each) || (run.input && each.name == "in") ||
@@ -175,7 +168,7 @@ std::optional<CipherRun> planOwnRun(const CommandLine &line)
     auto derivations = derivationsOf(line, isDecryption);
     if (!cipher.get() || !derivations) return std::nullopt;
     return CipherRun{
-        {fileOf(line, "in"), fileOf(line, "out"), isOurs(line)},
+        {line.file("in"), line.file("out"), isOurs(line)},
         isDecryption,
         {std::move(cipher), line.has({"a", "base64"}), !line.has({"nopad"}), std::move(*derivations)}};
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "PasswordFile.h"
-#include "SmimeDecryption.h"
+#include "SmimeRun.h"
 #include "ToolRun.h"
 
 #include <span>
@@ -25,7 +25,7 @@ struct CipherRun {
     PasswordFile file;
 };
 
-using CommandPlan = std::variant<PassThrough, Refusal, ToolRun, CipherRun, SmimeDecryption>;
+using CommandPlan = std::variant<PassThrough, Refusal, ToolRun, CipherRun, SmimeDecryption, SmimeEncryption>;
 
 /// What to do for this command line (without the program's name). A password in it moves to `password` and is
 /// overwritten in the memory of the arguments, so that the system's list of processes shows it no longer.

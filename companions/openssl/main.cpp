@@ -50,6 +50,8 @@ int main(int argc, char **argv)
     }
     if (const SmimeDecryption *const decryption = std::get_if<SmimeDecryption>(&plan))
         return decryptSmime(*decryption, password);
+    if (const SmimeEncryption *const encryption = std::get_if<SmimeEncryption>(&plan))
+        return encryptSmime(*encryption);
     const auto tool = findTool(toolCandidates(std::getenv("PATH")), ownIdentities(argv[0]));
     if (!tool) {
         complain("the system has no openssl program: install its package");

@@ -1,11 +1,11 @@
-#include "SmimeDecryption.h"
+#include "SmimeRun.h"
 
 #include "Complaint.h"
 #include "PassPhrase.h"
 #include "Secret.h"
 #include "smime/BackgroundSink.h"
-#include "smime/KeyFile.h"
 #include "smime/KeyOpener.h"
+#include "smime/MessageEncryption.h"
 
 namespace {
 
@@ -48,5 +48,13 @@ int decryptSmime(const SmimeDecryption &decryption, Secret &passPhrase)
                        decryption.recipient ? KeyOpener::Scope::Certificate : KeyOpener::Scope::All);
         BackgroundSink rear(output);
         return decryptMessage(input, decryption.form, keys, rear, fault) && rear.finish();
+    });
+}
+
+int encryptSmime(const SmimeEncryption &encryption)
+{
+    return convert(encryption.files, [&](ByteSource &input, ByteSink &output, Fault &fault) {
+        return encryptMessage(input, encryption.form, encryption.recipients, encryption.cipher.get(), output,
+                              fault);
     });
 }
