@@ -27,16 +27,12 @@ TEST_F(CipherFront, WritesAndReadsWhatTheSystemsToolDoesByteForByte)
     const std::string today = " -pbkdf2 -iter 600000 -md sha256";
     const std::string legacy = " -provider legacy -provider default";
     const std::string fast = " -pbkdf2 -iter 1";
-    struct Case {
-        std::string cipher, password;
-        std::vector<std::size_t> sizes;
-        std::string ours{}, stocks{};
-    };
     // Around the ends of blocks and lines, of what fits into a buffer, and all of this with the salt before
     // it.
     const std::vector<std::size_t> sizes{0,       1,       15,      16,      31,      32,       47,
                                          48,      49,      65'535,  65'536,  196'592, 196'593,  196'608,
                                          262'127, 262'128, 262'129, 262'144, 262'145, 1'000'001};
+    using Case = std::tuple<std::string, std::string, std::vector<std::size_t>, std::string, std::string>;
     for (const auto &[cipher, password, ownSizes, ours, stocks] :
          std::vector<Case>{{"aes-256-cbc", "p\xc3\xa4ss w\"or'd", {100'003}, "", today},
                            {"des-ede3-cbc", "x", {100'003}, "", today},
@@ -57,20 +53,18 @@ TEST_F(CipherFront, WritesAndReadsWhatTheSystemsToolDoesByteForByte)
             const Arguments pass{"-pass", "pass:" + password};
             const std::string oracle = "enc -" + cipher + stocks;
             EXPECT_TRUE(succeeds(front, cipher + ours + " -a -salt -in F -out G", pass));
-            EXPECT_TRUE(succeeds(stock, oracle + " -d -a -in G -out H", pass));
-            EXPECT_TRUE(readFile(folder / "H") == plain);
-            EXPECT_TRUE(succeeds(front, cipher + ours + " -d -a -salt -in G -out H", pass));
-            EXPECT_TRUE(readFile(folder / "H") == plain);
             // With a salt that is told the tool leaves out what it would write before.
-            std::string raw = runIn(folder, stock, "base64 -d -in G").output.substr(0, 16);
+            const std::string raw = runIn(folder, stock, "base64 -d -in G").output.substr(0, 16);
             std::ostringstream salt;
             for (const char each : raw.substr(8))
                 salt << std::hex << std::setw(2) << std::setfill('0') << (each & 0xff);
             writeFile(folder / "R",
                       raw + runIn(folder, stock, oracle + " -in F -S " + salt.str(), pass).output);
             EXPECT_TRUE(readFile(folder / "G") == runIn(folder, stock, "base64 -in R").output);
-            EXPECT_TRUE(succeeds(front, cipher + ours + " -d -in R -out H", pass));
-            EXPECT_TRUE(readFile(folder / "H") == plain);
+            for (const std::string input : {"-a -salt -in G", "-in R"}) {
+                EXPECT_TRUE(succeeds(front, cipher + ours + " -d -out H " + input, pass));
+                EXPECT_TRUE(readFile(folder / "H") == plain);
+            }
         }
 }
 
