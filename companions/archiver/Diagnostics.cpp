@@ -11,18 +11,24 @@ namespace archiver {
 
 bool Diagnostics::report(std::string_view message)
 {
-    ++m_count;
     std::string line = "\n";
     line += message;
     line += '\n';
+    repeat(line);
+    return false;
+}
+
+void Diagnostics::repeat(std::string_view messages)
+{
+    if (messages.empty()) return;
+    ++m_count;
     if (m_collected) {
-        *m_collected += line;
-        return false;
+        *m_collected += messages;
+        return;
     }
     // One call for each message: several archivers may share a pipe.
-    const ssize_t written = write(STDERR_FILENO, line.data(), line.size());
+    const ssize_t written = write(STDERR_FILENO, messages.data(), messages.size());
     static_cast<void>(written); // the exit status still tells
-    return false;
 }
 
 bool Diagnostics::reportSystem(std::string_view message)

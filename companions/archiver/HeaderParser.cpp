@@ -2,6 +2,8 @@
 #include "HeaderFlags.h"
 #include "Headers.h"
 
+#include <algorithm>
+
 namespace archiver {
 
 namespace {
@@ -42,6 +44,17 @@ void parseTimes(ByteReader reader, FileHeader &header)
     if (reader.ok() && time.nanoseconds < 1'000'000'000) header.modified = time;
 }
 
+void parseHash(ByteReader reader, FileHeader &header)
+{
+    constexpr std::uint64_t blake2sp = 0;
+    if (reader.vint() != blake2sp) return;
+    FileHeader::Hash hash{};
+    const Bytes bytes = reader.take(hash.size());
+    if (!reader.ok()) return;
+    std::ranges::copy(bytes, hash.begin());
+    header.hash = hash;
+}
+
 bool parseLink(ByteReader reader, FileHeader &header)
 {
     LinkTarget link;
@@ -63,6 +76,7 @@ bool parseExtra(Bytes extra, FileHeader &header)
         const std::uint64_t kind = record.vint();
         if (!reader.ok() || !record.ok()) return false;
         if (kind == extrarecord::encryption) header.encrypted = true;
+        if (kind == extrarecord::hash) parseHash(record, header);
         if (kind == extrarecord::times) parseTimes(record, header);
         if (kind == extrarecord::link && !parseLink(record, header)) return false;
     }
