@@ -1,6 +1,6 @@
 #include "Diagnostics.h"
 
-#include "Utf8.h"
+#include "EntryName.h"
 
 #include <array>
 #include <cerrno>
@@ -45,7 +45,7 @@ std::string printable(std::string_view name)
     std::string text;
     if (name.size() > longest) return printable(name.substr(0, longest)) + "…";
     while (!name.empty()) {
-        const std::size_t length = utf8::sequenceLength(name);
+        const std::size_t length = utf8Length(name);
         const auto byte = static_cast<unsigned char>(name.front());
         if (length == 0 || byte < 0x20 || byte == 0x7f) {
             text += {'\\', 'x', digits[byte >> 4], digits[byte & 15]};
