@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <functional>
 #include <map>
+#include <mutex>
 
 using namespace archiver;
 namespace fs = std::filesystem;
@@ -12,21 +13,34 @@ namespace fs = std::filesystem;
 namespace {
 
 /// What comes out of an archive: contents by name, links with an arrow, and what is said.
-struct Unpacked final : EntryReceiver, ContentSink {
+struct Unpacked {
     std::map<std::string, std::string> entries;
     std::string messages;
-    std::string content;
+};
 
-    void folder(const FileHeader &header) override { entries[header.name + "/"]; }
-    void link(const FileHeader &header) override { entries[header.name] = "-> " + header.link->path; }
-    ContentSink *beginFile(const FileHeader &) override { return content.clear(), this; }
-    void finishFile(const FileHeader &header) override { entries[header.name] = content; }
-    void abandonFile() override {}
+/// Several threads have one each.
+class Collector final : public EntryReceiver {
+public:
+    Collector(Unpacked &all, std::mutex &mutex) : m_all(all), m_mutex(mutex) {}
+    void folder(const FileHeader &header) override { add(header.name + "/", ""); }
+    void link(const FileHeader &header) override { add(header.name, "-> " + header.link->path); }
+    bool beginFile(const FileHeader &) override { return m_content.clear(), true; }
+    void finishFile(const FileHeader &header) override { add(header.name, m_content); }
     bool write(Bytes bytes) override
     {
-        content.append(bytes.begin(), bytes.end());
+        m_content.append(bytes.begin(), bytes.end());
         return true;
     }
+
+private:
+    void add(const std::string &name, const std::string &content)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_all.entries[name] = content;
+    }
+    Unpacked &m_all;
+    std::mutex &m_mutex;
+    std::string m_content;
 };
 
 class ForeignArchive : public ArchiverTest {
@@ -38,7 +52,9 @@ protected:
         fs::remove(temporary / ("set.part" + std::to_string(volumes.size() + 1) + ".rar"));
         Unpacked unpacked;
         Diagnostics diagnostics(unpacked.messages);
-        processArchive(temporary / "set.part1.rar", unpacked, diagnostics);
+        std::mutex mutex;
+        const auto make = [&](Diagnostics &) { return std::make_unique<Collector>(unpacked, mutex); };
+        processArchive(temporary / "set.part1.rar", {make}, diagnostics);
         return unpacked;
     }
 };
