@@ -148,6 +148,8 @@ public:
     void prefStepper01Action(const QString &senderText); ///< sent by `prefStepper01` and by `prefText01`
     void prefCheck01Action();                            ///< `checkBox04`
     void checkBox05Action();
+    void checkBox06Action();
+    void prefCheck03Action(); ///< the same, where the other options are
 
     // Folders
     void folderButton01Action();
@@ -233,6 +235,7 @@ public:
 private:
     void applyRecord(const plist::Dictionary &record);
     void showPartSize(const QString &size);
+    void showCompression(bool isOn);
     void showSwitches();   ///< those of the settings
     void showFilesAgain(); ///< others have changed what is shown; any thread
     void tellOfFiles(const QStringList &notices);

@@ -2,10 +2,14 @@
 
 // Arguments that are off are passed as empty ones, which the archiver skips.
 
-QStringList backupArguments::firstPass(const QString &keepDate, const QString &archive, const QString &source)
+QStringList backupArguments::firstPass(FirstPass how, const QString &keepDate, const QString &archive,
+                                       const QString &source)
 {
-    return {u"a"_qs,  u"-r"_qs, u"-ol"_qs,  u"-o+"_qs, u"-m0"_qs,
-            keepDate, u"-t"_qs, u"-idq"_qs, archive,   source};
+    // Solid: many small files that resemble each other are what gains most.
+    const QStringList method =
+        how == FirstPass::Compresses ? QStringList{u"-m3"_qs, u"-s"_qs} : QStringList{u"-m0"_qs};
+    return QStringList{u"a"_qs, u"-r"_qs, u"-ol"_qs, u"-o+"_qs} + method +
+           QStringList{keepDate, u"-t"_qs, u"-idq"_qs, archive, source};
 }
 
 QStringList backupArguments::encryptByPassword(const QString &cipher, const QString &archive,

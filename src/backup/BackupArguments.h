@@ -6,9 +6,12 @@
 /// The argument lists of the three tool runs that make a backup, and of the two that try a password.
 namespace backupArguments {
 
-/// The archiver stores `source` in `archive`, uncompressed: links as links, folders with all below them,
-/// tested after writing. `keepDate` is "-tl" or "".
-[[nodiscard]] QStringList firstPass(const QString &keepDate, const QString &archive, const QString &source);
+enum class FirstPass { Stores, Compresses };
+
+/// The archiver puts `source` into `archive`: links as links, folders with all below them, tested after
+/// writing. `keepDate` is "-tl" or "".
+[[nodiscard]] QStringList firstPass(FirstPass how, const QString &keepDate, const QString &archive,
+                                    const QString &source);
 
 /// The encoder encrypts `archive` into `encrypted` as salted base64, by a password.
 [[nodiscard]] QStringList encryptByPassword(const QString &cipher, const QString &archive,

@@ -36,6 +36,7 @@ struct BackupOrder {
     /// What was typed the second time; none where nobody was asked to.
     std::optional<Secret> repetition{};
 
+    bool compresses = false;     ///< before it encrypts
     QString keepDate{};          ///< the archiver's argument, or ""
     QString split{};             ///< the same
     QString volumeSize{};        ///< thousands of bytes, as it was typed; none (null) where it is not split

@@ -85,9 +85,12 @@ void FolderBackup::storeFolder()
     if (isCancelled()) return;
     setStage(u"storing"_qs);
     ToolResult result = makeWay(m_paths.stored); // the archiver would update what is there
-    if (result.isSilent())
+    if (result.isSilent()) {
+        using enum backupArguments::FirstPass;
         result =
-            runStage(m_order.archiver, backupArguments::firstPass(m_order.keepDate, m_paths.stored, m_item));
+            runStage(m_order.archiver, backupArguments::firstPass(m_order.compresses ? Compresses : Stores,
+                                                                  m_order.keepDate, m_paths.stored, m_item));
+    }
     judgeStage(u"RAR 1st"_qs, result, m_paths.stored, LogOutput::Yes);
 }
 

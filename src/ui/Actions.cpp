@@ -100,6 +100,7 @@ constexpr ActionRow table[] = {
     {"prefText01"_name, send<&Controller::prefStepper01Action>},
     {"prefStepper01"_name, send<&Controller::prefStepper01Action>},
     {"checkBox05"_name, send<&Controller::checkBox05Action>},
+    {"checkBox06"_name, send<&Controller::checkBox06Action>},
     {"protectionButton"_name, showPasswords},
     {"buttonLaunch01"_name, send<&Controller::buttonLaunch01>},
 
@@ -179,6 +180,7 @@ constexpr ActionRow table[] = {
     {"prefSelector01"_name, send<&Controller::prefSelector01Action>},
     {"prefSelector02"_name, send<&Controller::prefSelector02Action>},
     {"prefCheck02"_name, send<&Controller::prefCheck02Action>},
+    {"prefCheck03"_name, send<&Controller::prefCheck03Action>},
     {"updatesCheck01"_name, send<&Controller::updatesCheck01Action>},
 
     {"progressPanel01"_name, cancelRun<&Controller::buttonCancel01>},

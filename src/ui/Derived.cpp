@@ -6,6 +6,7 @@
 #include "keys/SecretRules.h"
 #include "keys/Strength.h"
 #include "sync/SyncMeaning.h"
+#include "ui/CompressionHint.h"
 #include "ui/Protection.h"
 #include "ui/RefreshQueue.h"
 #include "ui_MainWindow.h"
@@ -71,6 +72,7 @@ void showFolders(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
     queue.watch({&all.passCombo01, &all.checkBox01, &all.secureText01a, &all.secureText01b, &all.keychainUser,
                  &all.keychainPass, &all.keychainClear, &all.keychainOrigin, &all.certFile01},
                 [&] { form.protectionText->setText(protectionText(all)); });
+    new CompressionHint(all, queue, *form.compressionGain);
     queue.watch(all.prefText01, [&] { form.volumeHint->setText(volumeHint(all.prefText01.text())); });
     queue.watch(all.checkBox04, [&] {
         for (QWidget *widget : std::initializer_list<QWidget *>{form.prefText01, form.prefStepper01,

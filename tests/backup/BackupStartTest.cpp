@@ -209,6 +209,29 @@ TEST_F(BackupStart, SaysWhatIsMissing)
     }
 }
 
+TEST_F(BackupStart, CompressesBeforeItEncryptsWhereTheProfileSaysSo)
+{
+    program.useTool(u"RAR"_qs, writeScript(folder / "rar", "echo \"$@\"").toStdString());
+    delegate.checkBox05.setOn(false);
+    for (const auto &[value, method] : {std::pair{std::optional<QString>(), u" -m0 "_qs},
+                                        {u"1"_qs, u" -m3 -s "_qs},
+                                        {std::nullopt, u" -m0 "_qs},
+                                        {u"0"_qs, u" -m0 "_qs}}) {
+        const plist::Dictionary record = delegate.currentRecord();
+        value ? record.setValue(u"compress"_qs, *value) : record.remove(u"compress"_qs);
+        record.setValue(u"keepdate"_qs, u"0");
+        delegate.setterCurrentProfile(delegate.currentProfile());
+        delegate.secureText01a.setText(u"correct horse"_qs);
+        delegate.buttonLaunch01b();
+        program.waitForEnd();
+        const QString said = delegate.consoleTextView01.text();
+        EXPECT_TRUE(said.contains(u"a -r -ol -o+"_qs + method + u" -t -idq "_qs + program.path("archives") +
+                                  u"/docs.rar "_qs + toQString(docs)))
+            << qPrintable(said);
+        EXPECT_EQ(record.string(u"compress"_qs), value);
+    }
+}
+
 TEST_F(BackupStart, FollowsTheProfileAndTheSettings)
 {
     using namespace quillorentLibrary;

@@ -36,6 +36,8 @@ QList<Control> controls()
         {u"split"_qs, u"checkBox04"_qs, {}, {u"0"_qs, u"1"_qs}, u"0"_qs},
         {u"keepdate"_qs, u"checkBox05"_qs, {}, truths, u"0"_qs},
         {u"emptydir"_qs, u"prefCheck02"_qs, {}, truths, u"1"_qs},
+        {u"compress"_qs, u"checkBox06"_qs, {}, truths, u"0"_qs},
+        {u"compress"_qs, u"prefCheck03"_qs, {}, truths, u"0"_qs},
         {u"rsyncdelete1"_qs, u"checkBoxSync1"_qs, {}, truths, u"0"_qs},
         {u"rsyncdelete2"_qs, u"checkBoxSync2"_qs, {}, truths, u"0"_qs},
         {u"isremotesync"_qs, u"syncCheck01"_qs, {}, {u"0"_qs, u"1"_qs}, u"0"_qs},
@@ -243,6 +245,7 @@ TEST_F(ControlsTest, ShowTheirKeyOrItsAbsence)
             EXPECT_EQ(shown(control), control.without.value_or(valueOf(control, round)))
                 << qPrintable(control.key);
         EXPECT_TRUE(delegate.syncView.isHidden());
+        EXPECT_FALSE(delegate.currentRecord().contains(u"compress"_qs)) << "showing a profile changes it";
     }
     delegate.currentRecord().setValue(u"path"_qs, u"");
     delegate.setterCurrentProfile(u"opened"_qs);

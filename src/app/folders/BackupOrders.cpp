@@ -30,6 +30,7 @@ std::shared_ptr<BackupOrder> readOptions(const QString &profile, const QString &
         order->password = Secret::fromText(delegate.passwordSelector());
     if (delegate.asksTwice && delegate.passCombo01.selectedIndex() <= PasswordTab::TypedPassword)
         order->repetition = Secret::fromText(delegate.secureText02.text());
+    order->compresses = delegate.checkBox06.isOn();
     order->keepDate = quillorentLibrary::decideKeepDate();
     order->split = quillorentLibrary::decideSplit();
     order->volumeSize = delegate.partSize();

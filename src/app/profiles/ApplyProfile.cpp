@@ -82,6 +82,7 @@ void QuillorentAppDelegate::applyRecord(const plist::Dictionary &record)
     if (const auto part = record.string(u"part"_qs)) showPartSize(*part);
     checkBox04.setOn(record.isOn(u"split"_qs));
     checkBox05.setOn(record.isOn(u"keepdate"_qs));
+    showCompression(record.isOn(u"compress"_qs));
 
     // A record without these two reads as "not 0", unlike every other switch.
     syncSelector01.selectIndex(record.string(u"rsyncmode"_qs) == u"0"_qs ? 0 : 1);
@@ -103,6 +104,12 @@ void QuillorentAppDelegate::showPartSize(const QString &size)
     partSize.set(size);
     prefStepper01.setValue(int(plist::Value(size).integer().value_or(0)));
     prefText01.setText(size);
+}
+
+void QuillorentAppDelegate::showCompression(bool isOn)
+{
+    checkBox06.setOn(isOn);
+    prefCheck03.setOn(isOn);
 }
 
 void QuillorentAppDelegate::profileButton02Action()

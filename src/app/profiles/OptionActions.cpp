@@ -31,6 +31,18 @@ void QuillorentAppDelegate::checkBox05Action()
     currentRecord().setSwitch(u"keepdate"_qs, checkBox05.isOn());
 }
 
+void QuillorentAppDelegate::checkBox06Action()
+{
+    showCompression(checkBox06.isOn());
+    currentRecord().setSwitch(u"compress"_qs, checkBox06.isOn());
+}
+
+void QuillorentAppDelegate::prefCheck03Action()
+{
+    showCompression(prefCheck03.isOn());
+    checkBox06Action();
+}
+
 void QuillorentAppDelegate::autosaveCheck01Action()
 {
     configPlist().dictionary(u"resources"_qs).setSwitch(u"autosave"_qs, autosaveCheck01.isOn());

@@ -9,4 +9,5 @@ struct OptionsPanel : virtual outlets::Registry {
     outlets::Selector prefSelector01{*this, u"prefSelector01"_qs}; ///< symmetric method
     outlets::Selector prefSelector02{*this, u"prefSelector02"_qs}; ///< asymmetric method: there is one
     outlets::CheckBox prefCheck02{*this, u"prefCheck02"_qs};       ///< treat every destination as empty
+    outlets::CheckBox prefCheck03{*this, u"prefCheck03"_qs}; ///< compress before encrypting, as `checkBox06`
 };
