@@ -17,7 +17,8 @@ void QuillorentAppDelegate::chooseFolder(const QString &title, outlets::TextFiel
     const auto chosen = openPanel({.title = title,
                                    .canChooseFiles = false,
                                    .canChooseDirectories = true,
-                                   .canCreateDirectories = true});
+                                   .canCreateDirectories = true,
+                                   .directory = field.text()});
     if (!chosen || chosen->isEmpty()) return;
     field.setText(chosen->first());
     currentRecord().setValue(key, chosen->first());

@@ -6,7 +6,9 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QSortFilterProxyModel>
+#include <QStandardPaths>
 #include <QTreeView>
+#include <QUrl>
 #include <memory>
 
 namespace ui {
@@ -93,6 +95,28 @@ void setFilter(QFileDialog &dialog, const QStringList &extensions)
     dialog.setProxyModel(new ExtensionFilter(extensions, &dialog));
 }
 
+/// Where people look: their own folders, and the disks that they have put in. Only names are read of those:
+/// one that doesn't answer must not keep the dialog from opening.
+QList<QUrl> places()
+{
+    QStringList paths;
+    using Location = QStandardPaths;
+    for (const auto each : {Location::HomeLocation, Location::DocumentsLocation, Location::PicturesLocation,
+                            Location::DesktopLocation})
+        paths.append(Location::standardLocations(each).value(0));
+    const QString user = qEnvironmentVariable("USER");
+    for (const QString &folder : {u"/media/"_qs + user, u"/run/media/"_qs + user}) {
+        if (user.isEmpty()) break;
+        for (const QString &name : QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+            paths.append(QDir(folder).filePath(name));
+    }
+    paths.removeDuplicates();
+    QList<QUrl> urls;
+    for (const QString &path : paths)
+        urls.append(QUrl::fromLocalFile(path));
+    return urls;
+}
+
 } // namespace
 
 std::unique_ptr<QFileDialog> makeOpenPanelDialog(const outlets::OpenPanel &panel, QWidget *parent)
@@ -107,7 +131,8 @@ std::unique_ptr<QFileDialog> makeOpenPanelDialog(const outlets::OpenPanel &panel
     dialog->setOption(QFileDialog::DontResolveSymlinks, !panel.resolvesAliases);
     setFilter(*dialog, panel.allowedFileTypes);
     dialog->resize(780, 480);
-    if (!panel.directory.isEmpty()) dialog->setDirectory(panel.directory);
+    dialog->setDirectory(QFileInfo(panel.directory).isDir() ? panel.directory : QDir::homePath());
+    dialog->setSidebarUrls(places());
     return dialog;
 }
 
