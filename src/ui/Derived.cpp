@@ -47,6 +47,16 @@ QString strengthHint(const QString &password)
     return {};
 }
 
+/// Names the profile in use, with the sign that it has changes; the program's name follows by itself.
+void nameWindow(RefreshQueue &queue, outlets::TextField &profile, QWidget &window)
+{
+    queue.watch(profile, [&profile, &window] {
+        QString name = profile.text();
+        name.replace(u"[*]"_qs, u"[*][*]"_qs); // which the toolkit would take for the sign
+        window.setWindowTitle(name.isEmpty() ? u"Quillorent"_qs : name + u"[*]"_qs);
+    });
+}
+
 /// Of a list, what can be removed is what is selected.
 void enableBySelection(RefreshQueue &queue, outlets::TableView &list, QWidget &button)
 {
@@ -62,6 +72,7 @@ void leadToShownField(RefreshQueue &queue, outlets::CheckBox &isMasked, QLabel &
 
 void showProfiles(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
 {
+    nameWindow(queue, all.currentProfileTextView, *form.centralWidget->window());
     queue.watch(all.profileCombo01,
                 [&] { form.profileButton07->setEnabled(all.profileCombo01.titles().size() > 1); });
 }

@@ -1,6 +1,7 @@
 #include "ui/PanelDialog.h"
 
 #include <QHideEvent>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QPushButton>
 #include <QShowEvent>
@@ -60,9 +61,23 @@ void PanelDialog::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
     if (event->spontaneous()) return;
+    focusFirst();
+    Q_EMIT visibilityChanged(true);
+}
+
+// What a person types next is meant for the field that is to be filled; a space must not press a button.
+void PanelDialog::focusFirst()
+{
     for (auto *button : findChildren<QPushButton *>())
         if (button->isDefault()) button->setFocus();
-    Q_EMIT visibilityChanged(true);
+    for (QWidget *next = nextInFocusChain(); next != this; next = next->nextInFocusChain()) {
+        const auto *edit = qobject_cast<QLineEdit *>(next);
+        if (!edit || edit->isReadOnly() || !edit->isEnabled() || !edit->isVisible() ||
+            !edit->text().isEmpty())
+            continue;
+        next->setFocus();
+        return;
+    }
 }
 
 void PanelDialog::hideEvent(QHideEvent *event)

@@ -33,6 +33,7 @@ protected:
 
 private:
     void openAsSheet();
+    void focusFirst();
     void blockContents(bool block);
 
     bool m_windowClosable = false;

@@ -39,8 +39,8 @@ protected:
         const Sheet &sheet, const QString &text, const std::function<void()> &before = [] {})
     {
         clickAndAnswer(sheet.button, sheet.panel, [&] {
+            QTest::keyClicks(widget(sheet.panel).focusWidget(), text);
             before();
-            QTest::keyClicks(&widget(sheet.field), text);
             QTest::keyClick(&widget(sheet.field), Qt::Key_Return);
         });
         EXPECT_TRUE(waitForThreads(std::chrono::seconds(60)));
@@ -64,6 +64,7 @@ TEST_F(ProfilesTest, AreMadeRenamedDuplicatedAndDeleted)
     delegate.passCombo01.selectIndex(PasswordTab::Certificate);
     name(making, u"Second"_qs, [&] { click(u"mustDos01"_qs); });
     EXPECT_EQ(delegate.currentProfile(), u"Second"_qs);
+    EXPECT_EQ(window.windowTitle(), u"Second[*]"_qs);
     EXPECT_EQ(delegate.passCombo01.selectedIndex(), PasswordTab::TypedPassword);
     EXPECT_EQ(record(u"Second"_qs).array(u"folders"_qs).strings(),
               QStringList{program.path("home/Pictures")});
