@@ -53,7 +53,7 @@ template <class T, class Read>
 QList<T> listOf(const QJsonValue &value, Read read)
 {
     QList<T> list;
-    for (const QJsonValue &entry : value.toArray())
+    for (const auto &entry : value.toArray())
         list.append(read(entry));
     return list;
 }

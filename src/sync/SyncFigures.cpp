@@ -17,6 +17,8 @@ using namespace std::chrono_literals;
 
 /// Shared with the thread that measures, which may be in the midst of a large folder when the run ends.
 struct SyncFigures::Growth {
+    explicit Growth(SyncOrder given) : order(std::move(given)) {}
+
     const SyncOrder order;
     std::atomic<bool> isWanted = true;
     std::atomic<quint64> bytes = 0;
