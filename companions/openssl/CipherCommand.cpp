@@ -1,7 +1,5 @@
-#include "CipherCommand.h"
-
-#include "CipherName.h"
 #include "CommandLine.h"
+#include "CommandPlan.h"
 #include "PassPhrase.h"
 #include "Secret.h"
 #include "WipedBytes.h"
@@ -192,14 +190,10 @@ Finding findPassword(const CommandLine &line, bool isDecryption, Secret &passwor
 
 } // namespace
 
-bool isCipherCommand(std::span<char *const> arguments)
-{
-    return !cipherOf(readCommandLine(arguments)).empty();
-}
-
-CommandPlan planCipherCommand(std::span<char *const> arguments, Secret &password)
+std::optional<CommandPlan> planCipherCommand(std::span<char *const> arguments, Secret &password)
 {
     const CommandLine line = readCommandLine(arguments);
+    if (cipherOf(line).empty()) return std::nullopt;
     const PasswordState passwordState = takePassword(line, password);
     if (passwordState == PasswordState::HoldsLineBreak)
         return Refusal{"the password holds a line break, and the system's tool reads one line only: "

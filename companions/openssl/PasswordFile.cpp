@@ -1,6 +1,6 @@
 #include "PasswordFile.h"
 
-#include "smime/BackgroundSink.h"
+#include "BackgroundSink.h"
 #include "smime/Base64Sink.h"
 #include "smime/Base64Source.h"
 #include "smime/CipherSink.h"
@@ -45,7 +45,7 @@ bool encrypt(const PasswordFile &file, std::string_view password, ByteSource &in
     std::ranges::copy(mark, header.begin());
     KeyMaterial material;
     Base64Sink text(output);
-    BackgroundSink rear(file.isBase64 ? static_cast<ByteSink &>(text) : output);
+    base::BackgroundSink rear(file.isBase64 ? static_cast<ByteSink &>(text) : output);
     CipherSink front(rear);
     if (RAND_bytes(header.data() + mark.size(), saltSize) <= 0 ||
         !material.derive(cipher, file.derivations.back(), password, saltOf(header)) ||
@@ -130,7 +130,7 @@ private:
 
     bool decryptAll()
     {
-        BackgroundSink rear(m_front);
+        base::BackgroundSink rear(m_front);
         bool isWritten = rear.write(m_start);
         for (Bytes piece; isWritten && !(piece = m_bytes.available()).empty(); m_bytes.skip(piece.size()))
             isWritten = rear.write(piece);

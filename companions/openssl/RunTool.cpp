@@ -4,6 +4,7 @@
 #include "FileSource.h"
 #include "Relay.h"
 #include "ResultFile.h"
+#include "Secret.h"
 #include "StopSignals.h"
 #include "ToolProcess.h"
 #include "WipedBytes.h"

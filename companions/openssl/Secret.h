@@ -1,5 +1,8 @@
 #pragma once
 
+#include "WipedBytes.h"
+
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string_view>
@@ -17,9 +20,20 @@ public:
     Secret &operator=(const Secret &) = delete;
 
     /// Takes a copy of `text`. False, and the secret is empty: it is longer than maximumSize.
-    [[nodiscard]] bool assign(std::string_view text);
+    [[nodiscard]] bool assign(std::string_view text)
+    {
+        wipe();
+        if (text.size() > maximumSize) return false;
+        std::ranges::copy(text, m_bytes.begin());
+        m_size = text.size();
+        return true;
+    }
     [[nodiscard]] std::string_view text() const { return {m_bytes.data(), m_size}; }
-    void wipe();
+    void wipe()
+    {
+        base::wipe(m_bytes.data(), m_bytes.size());
+        m_size = 0;
+    }
 
 private:
     std::array<char, maximumSize> m_bytes{};

@@ -1,7 +1,5 @@
-#include "SmimeCommand.h"
-
-#include "CipherName.h"
 #include "CommandLine.h"
+#include "CommandPlan.h"
 #include "PassPhrase.h"
 #include "Secret.h"
 #include "WipedBytes.h"
@@ -173,18 +171,12 @@ CommandPlan planDecryption(const CommandLine &line, Secret &passPhrase)
 
 } // namespace
 
-bool isSmimeCommand(std::span<char *const> arguments)
-{
-    if (std::string_view(arguments.front()) != "smime") return false;
-    const CommandLine line = readCommandLine(arguments);
-    const Option *const operation = operationOf(line);
-    return operation && (operation->name == "encrypt" || operation->name == "decrypt");
-}
-
-CommandPlan planSmimeCommand(std::span<char *const> arguments, Secret &passPhrase)
+std::optional<CommandPlan> planSmimeCommand(std::span<char *const> arguments, Secret &passPhrase)
 {
     const CommandLine line = readCommandLine(arguments);
-    const bool isEncryption = operationOf(line)->name == "encrypt";
+    const Option *const operation = line.command() == "smime" ? operationOf(line) : nullptr;
+    const bool isEncryption = operation && operation->name == "encrypt";
+    if (!isEncryption && !(operation && operation->name == "decrypt")) return std::nullopt;
     CommandPlan plan = isEncryption ? planEncryption(line) : planDecryption(line, passPhrase);
     if (ToolRun *const run = std::get_if<ToolRun>(&plan)) {
         run->output = line.file("out");

@@ -1,9 +1,9 @@
 #include "SmimeRun.h"
 
+#include "BackgroundSink.h"
 #include "Complaint.h"
 #include "PassPhrase.h"
 #include "Secret.h"
-#include "smime/BackgroundSink.h"
 #include "smime/KeyOpener.h"
 #include "smime/MessageEncryption.h"
 
@@ -46,7 +46,7 @@ int decryptSmime(const SmimeDecryption &decryption, Secret &passPhrase)
     return convert(decryption.files, [&](ByteSource &input, ByteSink &output, Fault &fault) {
         KeyOpener keys(identity.key, identity.certificate.handle ? &identity.certificate : nullptr,
                        decryption.recipient ? KeyOpener::Scope::Certificate : KeyOpener::Scope::All);
-        BackgroundSink rear(output);
+        base::BackgroundSink rear(output);
         return decryptMessage(input, decryption.form, keys, rear, fault) && rear.finish();
     });
 }

@@ -6,7 +6,7 @@
 #include "CommandPlan.h"
 #include "Complaint.h"
 #include "HandedArguments.h"
-#include "RunTool.h"
+#include "Secret.h"
 #include "ToolLocation.h"
 #include "ToolProcess.h"
 

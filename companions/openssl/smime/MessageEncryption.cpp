@@ -92,7 +92,7 @@ bool encryptMessage(ByteSource &input, MessageForm form, const std::vector<Certi
 {
     const bool isText = form == MessageForm::Smime;
     Base64Sink text(output);
-    BackgroundSink rear(isText ? static_cast<ByteSink &>(text) : output);
+    base::BackgroundSink rear(isText ? static_cast<ByteSink &>(text) : output);
     const CryptoHandle<BIO> sink = openSink(rear);
     const CryptoHandle<PKCS7> envelope = makeEnvelope(recipients, cipher);
     const bool isWritten = sink && envelope && (!isText || writeText(output, header)) &&

@@ -9,12 +9,34 @@ namespace fs = std::filesystem;
 
 namespace {
 
+const std::string rar5("Rar!\x1a\x07\x01\x00", 8);
+const std::string rar4("Rar!\x1a\x07\x00", 7);
+
 class CipherFront : public testing::Test {
 protected:
     testing::AssertionResult succeeds(const std::string &program, const std::string &line,
                                       const Arguments &more)
     {
         return isSilentSuccess(runIn(folder, program, line, more));
+    }
+
+    /// Encrypts by the system's tool to G. With a salt of ours, so that what a wrong password makes of the
+    /// padding is the same in every run; such a file comes without it.
+    void encrypt(const std::string &plain, const std::string &options, const std::string &password = "right")
+    {
+        writeFile(folder / "F", plain);
+        const Arguments pass{"-pass", "pass:" + password};
+        ASSERT_EQ(runIn(folder, stock, "enc -in F -out G -S 53616c7453616c74 " + options, pass).status, 0);
+        writeFile(folder / "G", "Salted__SaltSalt" + readFile(folder / "G"));
+    }
+    CommandResult decrypt(const std::string &options)
+    {
+        fs::remove(folder / "H");
+        return runIn(folder, front, options + " -d -in G -out H");
+    }
+    bool isRefused(const std::string &options, const std::string &reason = "bad decrypt")
+    {
+        return decrypt(options).output.find(reason) != std::string::npos && !fs::exists(folder / "H");
     }
 
     TemporaryFolder folder;
@@ -86,14 +108,12 @@ TEST_F(CipherFront, MeansByEveryOptionWhatTheToolMeansAndChoosesWhatIsLeftOpen)
         {"enc -e -rc4-40 -k x", legacy},
         {"des -k x", legacy},
         {"enc -base64", ""}};
-    for (const auto &[line, choice] : linesAndChoices) {
-        const std::string expected = runIn(folder, stock, line + choice + " -nosalt -in F").output;
-        EXPECT_NE(expected, "");
-        EXPECT_TRUE(runIn(folder, front, line + " -nosalt -in F").output == expected) << line;
-        if (line.find("aes256") == std::string::npos) continue;
-        writeFile(folder / "G", expected);
-        EXPECT_EQ(runIn(folder, front, line + " -d -nosalt -in G").output, "text") << line;
-    }
+    for (const auto &[line, choice] : linesAndChoices)
+        for (const std::string more : {" -nosalt", ""}) { // which only the tool does, and what the front does
+            writeFile(folder / "G", runIn(folder, front, line + more + " -in F").output);
+            for (const std::string &each : {stock + " " + line + choice, "'" + front + "' " + line})
+                EXPECT_EQ(runIn(folder, "sh", "-c", {each + more + " -d -in G"}).output, "text") << each;
+        }
 }
 
 TEST_F(CipherFront, TellsAFailureAndLeavesNoResult)
@@ -110,6 +130,7 @@ TEST_F(CipherFront, TellsAFailureAndLeavesNoResult)
                                                  {"-in folder -out H", "pass:x", "directory"},
                                                  {"-in F -out missing/H", "pass:x", "No such file"},
                                                  {"-in F -out H", "file:missing", "No such file"},
+                                                 {"-in F -out H", "fd:9", "Bad file descriptor"},
                                                  {"-in F -out H", "pass:one\ntwo", "line break"},
                                                  {"-in F -out H", "pass:" + longest + "x", "1023 bytes"},
                                                  {"-in F -out H", "pass:" + longest + "x\n", "line break"}}) {
@@ -131,14 +152,11 @@ TEST_F(CipherFront, FollowsNamesThatAPersonGives)
     EXPECT_TRUE(readFile(folder / "old").starts_with("Salted__"));
     EXPECT_EQ(fs::status(folder / "old").permissions(), fs::perms{0600});
 
-    const std::string encrypt = "aes256 -in F -nosalt -k x";
-    const std::string output = runIn(folder, front, encrypt, quick).output;
-    EXPECT_EQ(output.size(), 16U);
-    EXPECT_EQ(runIn(folder, front, encrypt + " -out /dev/stdout", quick).output, output);
-    EXPECT_TRUE(succeeds(front, encrypt + " -out /dev/null", quick));
+    const std::string encryptTo = "aes256 -a -in F -k x -out ";
+    for (const char *const name : {"/dev/stdout", "/proc/self/fd/1", "-"})
+        EXPECT_TRUE(runIn(folder, front, encryptTo + name, quick).output.starts_with("U2FsdGVk"));
+    EXPECT_TRUE(succeeds(front, encryptTo + "/dev/null", quick));
     EXPECT_EQ(entriesIn(folder.path()), 3);
-    EXPECT_TRUE(runIn(folder, front, "aes256 -a -in F -out /proc/self/fd/1 -pass pass:x")
-                    .output.starts_with("U2FsdGVk"));
 }
 
 // In a folder that others may write to, anything can wait under the program's names.
@@ -199,18 +217,14 @@ TEST_F(CipherFront, LeavesAWriteProtectedFileAlone)
     fs::permissions(folder / "G", fs::perms{0444});
     fs::copy_file(inner, folder / inner.filename());
     const Arguments user = asOrdinaryUser(folder.path(), front);
-    const Arguments program = user + words("aes256 -a -in F -out G -k x");
-    for (const Arguments &derivation : {Arguments(), quick}) {
-        const CommandResult result = runCommand(program + derivation, {.folder = folder.path()});
-        EXPECT_NE(result.status, 0);
-        EXPECT_NE(result.errors.find("Permission denied"), std::string::npos) << result.errors;
-        EXPECT_EQ(readFile(folder / "G"), "protected");
-    }
+    const Arguments line = words("aes256 -a -in F -out G -k x");
+    EXPECT_NE(runCommand(user + line, {.folder = folder.path()}).errors.find("denied"), std::string::npos);
+    EXPECT_EQ(readFile(folder / "G"), "protected");
     // What can't be looked into belongs to root, whoever runs it.
     const std::string script = "mkfifo -m 666 pipe; \"$@\" & exec 3>pipe; stat -c %u /proc/$!/mem";
-    const Arguments line = words("aes256 -d -in pipe -out H -k x");
     const CommandResult result =
-        runCommand(Arguments{"sh", "-c", script, "sh"} + user + line, {.folder = folder.path()});
+        runCommand(Arguments{"sh", "-c", script, "sh"} + user + words("aes256 -d -in pipe -out H -k x"),
+                   {.folder = folder.path()});
     EXPECT_EQ(result.output, "0\n") << result.errors;
 }
 
@@ -219,10 +233,8 @@ TEST_F(CipherFront, DoesOtherwiseWhatTheSystemsToolDoes)
     writeFile(folder / "F", "text");
     for (const char *const command : {"-h", "x509 -help", "no-such-command -x", "aes-256-cbc -help",
                                       "smime -encrypt -help", "dgst -sha256 F"}) {
-        const CommandResult expected = runIn(folder, stock, command);
-        const CommandResult result = runIn(folder, front, command);
-        EXPECT_EQ(result.output, expected.output);
-        EXPECT_EQ(result.status, expected.status);
+        const CommandResult expected = runIn(folder, stock, command), result = runIn(folder, front, command);
+        EXPECT_TRUE(result.output == expected.output && result.status == expected.status) << result.output;
     }
 }
 
@@ -272,14 +284,76 @@ TEST_F(CipherFront, TakesTheToolAndItsTracesAlongWhenItIsStoppedAndShowsNoPasswo
                     runCommand(Arguments{"sh", "-c", script, std::to_string(signal), front} + words(line),
                                {.folder = folder.path(), .environment = environment});
                 EXPECT_EQ(result.status, 128 + signal) << result.errors;
-                EXPECT_EQ(result.output.find("hush"), std::string::npos);
-                EXPECT_EQ(result.output.find("lives"), std::string::npos);
+                for (const char *const word : {"hush", "lives"})
+                    EXPECT_EQ(result.output.find(word), std::string::npos);
                 const bool isLeft = signal == SIGKILL && environment != fileSystems[0];
                 EXPECT_EQ(entriesIn(folder.path()), entries + (isLeft ? 1 : 0));
                 EXPECT_TRUE(succeeds(front, "aes256 -in F -out G -k x", quick));
                 fs::remove(folder / "G");
                 EXPECT_EQ(entriesIn(folder.path()), entries);
             }
+}
+
+TEST_F(CipherFront, FindsAnOlderDerivationForAnArchiveAndForNothingElse)
+{
+    using Row = std::array<std::string, 3>; // the last is asked of the front
+    const std::vector<Row> derivations{
+        {"-md sha256", rar5}, {"-md md5", rar4}, {"-pbkdf2", rar5}, {"-md sha1", rar4, " -md sha1"}};
+    for (const std::string cipher :
+         {"aes-256-cbc", "aes-128-ctr", "bf-cbc -provider legacy -provider default"})
+        for (const auto &[derivation, signature, asked] : derivations) {
+            SCOPED_TRACE(cipher + " " + derivation);
+            const std::string options = "-" + cipher + " " + derivation;
+            const std::string decryption = words(cipher).front() + " -salt" + asked;
+            encrypt(signature + binaryData(5'000), options);
+            EXPECT_TRUE(isSilentSuccess(decrypt(decryption + " -k right")));
+            EXPECT_TRUE(readFile(folder / "H") == readFile(folder / "F"));
+            if (!cipher.starts_with("aes-256")) continue; // which cipher it is makes no difference any more
+            EXPECT_TRUE(isRefused(decryption + " -k wrong"));
+            encrypt("Rar!" + binaryData(5'000), options);
+            EXPECT_TRUE(isRefused(decryption + " -k right"));
+        }
+    encrypt(rar5, "-aes256 -md md5"); // a file of its first two blocks alone
+    EXPECT_TRUE(isSilentSuccess(decrypt("aes256 -k right")));
+    // A password that is right must not be called wrong.
+    encrypt(rar5 + binaryData(5'000), "-aes256 -md md5");
+    const std::string whole = readFile(folder / "G");
+    writeFile(folder / "G", whole.substr(0, 4'000));
+    EXPECT_TRUE(isRefused("aes256 -k right", "is damaged"));
+    writeFile(folder / "G", whole.substr(0, 3'999));
+    EXPECT_TRUE(isRefused("aes256 -k right", "ends too early"));
+}
+
+TEST_F(CipherFront, TakesInputAndPasswordFromWhereverTheyCome)
+{
+    const std::string plain = rar5 + binaryData(100'000);
+    // A variable can hold what no pipe to the tool can.
+    encrypt(rar4 + plain, "-aes256 -md md5", "two\nlines");
+    EXPECT_TRUE(isSilentSuccess(
+        runIn(folder, "env", "",
+              {"P=two\nlines", front, "aes256", "-d", "-in", "G", "-out", "H", "-pass", "env:P"})));
+    encrypt(plain, "-aes256 -md md5");
+    ASSERT_EQ(runIn(folder, stock, "base64 -in G -out H").status, 0);
+    fs::rename(folder / "H", folder / "G");
+    writeFile(folder / "P", "right\nrest");
+    writeFile(folder / "PG", "right\n" + readFile(folder / "G"));
+    for (const std::string line :
+         {"-in G -pass file:P", "-in G -pass env:P", "-in G -pass stdin <P", "-in G -pass fd:3 3<P",
+          "-in G -pass stdin -pass pass:right </dev/null", "-k right <G", "cat G | -in - -k right",
+          "-pass stdin <PG", "cat PG | -pass stdin", "-in /dev/stdin -k right <G", "-pass fd:3 3<P <G"}) {
+        const std::size_t start = line.find('|') + 1; // 0: it has none
+        const std::string script =
+            line.substr(0, start) + " '" + front + "' aes256 -d -a " + line.substr(start);
+        const CommandResult result = runIn(folder, "env", "P=right sh -c", {script});
+        EXPECT_TRUE(result.status == 0 && result.output == plain) << line << result.output.substr(0, 200);
+    }
+    // And with one question to a person, on a terminal of its own.
+    const std::string command = "'" + front + "' aes256 -d -a -in G -out H";
+    const CommandResult result =
+        runCommand({"script", "-qec", command, "/dev/null"}, {.folder = folder.path(), .input = "right\n"});
+    EXPECT_TRUE(result.status == 0 && readFile(folder / "H") == plain) << result.output;
+    const std::size_t question = result.output.find("password:");
+    EXPECT_TRUE(question != std::string::npos && question == result.output.rfind("password:"));
 }
 
 } // namespace

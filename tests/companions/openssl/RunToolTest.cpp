@@ -1,5 +1,6 @@
 #include "RunTool.h"
 #include "Front.h"
+#include "Secret.h"
 #include "ToolLocation.h"
 
 namespace fs = std::filesystem;

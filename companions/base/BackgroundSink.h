@@ -1,10 +1,12 @@
 #pragma once
 
-#include "ByteStreams.h"
 #include "OrderedWork.h"
+#include "Streams.h"
 #include "WipedBytes.h"
 
 #include <atomic>
+
+namespace base {
 
 /// Hands on to another sink, on a thread of its own, what is written to it.
 class BackgroundSink final : public ByteSink {
@@ -19,7 +21,7 @@ public:
 
 private:
     struct Piece {
-        base::WipedBytes bytes;
+        WipedBytes bytes;
         std::size_t size = 0;
     };
 
@@ -30,5 +32,7 @@ private:
     ByteSink &m_next;
     std::atomic<bool> m_hasFailed = false;
     Piece *m_begun = nullptr; ///< that isn't full yet; null: none
-    base::OrderedWork<Piece> m_work;
+    OrderedWork<Piece> m_work;
 };
+
+} // namespace base

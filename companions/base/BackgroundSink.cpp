@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace base {
+
 namespace {
 
 constexpr std::size_t pieceSize = 262'144; // in bytes: what two threads' caches hold
@@ -43,7 +45,7 @@ BackgroundSink::Piece &BackgroundSink::begunPiece()
         m_work.release();
         m_begun = m_work.free();
     }
-    if (m_begun->bytes.size() == 0) m_begun->bytes = base::WipedBytes(pieceSize);
+    if (m_begun->bytes.size() == 0) m_begun->bytes = WipedBytes(pieceSize);
     return *m_begun;
 }
 
@@ -58,3 +60,5 @@ void BackgroundSink::handOn(Piece &piece)
     if (!m_hasFailed && !m_next.write({piece.bytes.data(), piece.size})) m_hasFailed = true;
     piece.size = 0;
 }
+
+} // namespace base
