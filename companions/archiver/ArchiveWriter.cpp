@@ -6,6 +6,9 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <limits>
+#include <new>
+#include <thread>
+#include <utility>
 
 namespace archiver {
 
@@ -17,6 +20,15 @@ constexpr std::uint64_t spaceBehindBlock = 32;
 constexpr std::uint64_t smallestPart = 64;
 
 constexpr std::uint64_t largeFile = 8u << 20; // from here on a thread more makes up for its start
+
+/// A single core is served best without any; more than a few would wait for the one that reads and writes,
+/// and each takes memory.
+unsigned packingThreads()
+{
+    constexpr unsigned most = 4;
+    const unsigned cores = std::thread::hardware_concurrency();
+    return cores < 2 ? 0 : std::min(cores, most);
+}
 
 Timestamp modifiedTime(const struct stat &status)
 {
@@ -42,7 +54,6 @@ void keepNewest(std::optional<Timestamp> &newest, const struct stat &status)
 ArchiveWriter::ArchiveWriter(OutputVolumes &output, Packing packing, Diagnostics &diagnostics)
     : m_output(output), m_packing(packing), m_diagnostics(diagnostics)
 {
-    if (packing == Packing::Pack) m_block.resize(HuffmanEncoder::blockInput);
 }
 
 bool ArchiveWriter::addFolder(const struct stat &status, const std::string &name)
@@ -64,10 +75,10 @@ bool ArchiveWriter::addLink(const struct stat &status, const std::string &name, 
 
 bool ArchiveWriter::addWithoutData(const FileHeader &header)
 {
-    m_header = header;
-    m_headerBytes.clear();
-    putFileHeader(m_headerBytes, header);
-    return makeRoom(m_headerBytes.size(), 0) && m_output.append(m_headerBytes);
+    if (m_packing == Packing::Store) return writeHeader(header);
+    if (!openPiece(0)) return false;
+    m_piece->parts.push_back({.header = header});
+    return true;
 }
 
 bool ArchiveWriter::addFile(int file, const struct stat &status, const std::string &name,
@@ -79,25 +90,19 @@ bool ArchiveWriter::addFile(int file, const struct stat &status, const std::stri
         return true;
     }
     keepNewest(m_newestFile, status);
-    m_header = describe(status, name);
-    m_header.unpackedSize = static_cast<std::uint64_t>(status.st_size);
-    m_fileCrc = 0;
     // Some file systems give no sizes: those files are read to their end.
     const bool sizeKnown = status.st_size > 0;
-    Source source{file, sizeKnown ? m_header.unpackedSize : std::numeric_limits<std::uint64_t>::max(),
-                  sizeKnown, path};
-    const bool large = m_header.unpackedSize >= largeFile;
-    if (large) m_output.writeInBackground(true);
-    const bool added = addContent(source);
-    if (large) m_output.writeInBackground(false);
-    return added;
+    Source source{file, describe(status, name), std::numeric_limits<std::uint64_t>::max(), sizeKnown, path};
+    source.header.unpackedSize = static_cast<std::uint64_t>(status.st_size);
+    if (sizeKnown) source.left = source.header.unpackedSize;
+    return addContent(source);
 }
 
 bool ArchiveWriter::addContent(Source &source)
 {
     if (m_packing == Packing::Store || !source.sizeKnown) return addStored(source);
-    if (source.left <= HuffmanEncoder::blockInput) return addPackedWhole(source);
-    return shouldPack(source) ? addPackedBlocks(source) : addStored(source);
+    if (source.left <= Piece::mostContent) return addWhole(source);
+    return shouldPack(source) ? addLarge(source) : addStored(source);
 }
 
 std::size_t ArchiveWriter::read(Source &source, std::span<std::uint8_t> into)
@@ -117,9 +122,21 @@ std::size_t ArchiveWriter::read(Source &source, std::span<std::uint8_t> into)
     return got;
 }
 
+/// What is as it was needs no thread but one that writes while the next bytes are read.
 bool ArchiveWriter::addStored(Source &source)
 {
-    if (!beginPart()) return false;
+    if (!finish()) return false;
+    m_header = source.header;
+    m_fileCrc = 0;
+    const bool large = m_header.unpackedSize >= largeFile;
+    if (large) m_output.writeInBackground(true);
+    const bool added = beginPart() && storeContent(source) && endPart(false);
+    if (large) m_output.writeInBackground(false);
+    return added;
+}
+
+bool ArchiveWriter::storeContent(Source &source)
+{
     std::uint64_t size = 0;
     while (source.left > 0) {
         if (m_output.room() == 0 && !continueInNextVolume()) return false;
@@ -134,54 +151,132 @@ bool ArchiveWriter::addStored(Source &source)
         size += count;
     }
     m_header.unpackedSize = size;
-    return endPart(false);
+    return true;
 }
 
-bool ArchiveWriter::shouldPack(const Source &source)
+bool ArchiveWriter::shouldPack(const Source &source) const
 {
     // Some blocks from all over the file stand for it: what they gain is what it gains, about.
     constexpr std::uint64_t samples = 16;
     constexpr std::size_t sampleSize = 64 << 10;
     std::size_t before = 0;
     std::size_t after = 0;
+    ByteBuffer block(sampleSize);
     for (std::uint64_t sample = 0; sample < samples; ++sample) {
         const std::uint64_t offset = (source.left - sampleSize) / (samples - 1) * sample;
-        const ssize_t count = base::readFullyAt(source.file, std::span(m_block).first(sampleSize), offset);
+        const ssize_t count = base::readFullyAt(source.file, block, offset);
         if (count <= 0) return false; // addStored() will meet the fault, and report it
-        const Bytes bytes = Bytes(m_block).first(static_cast<std::size_t>(count));
+        const Bytes bytes = Bytes(block).first(static_cast<std::size_t>(count));
         before += bytes.size();
         after += HuffmanEncoder::estimate(bytes);
     }
     return after < before;
 }
 
-bool ArchiveWriter::addPackedWhole(Source &source)
+bool ArchiveWriter::addWhole(Source &source)
 {
-    const Bytes content = Bytes(m_block).first(read(source, m_block));
-    m_fileCrc = crc32(content);
-    m_header.unpackedSize = content.size();
-    if (content.empty()) return beginPart() && endPart(false);
-    const Bytes packed = m_encoder.encode(content, true);
-    if (packed.size() >= content.size()) return beginPart() && putStored(content) && endPart(false);
-    m_header.method = HuffmanEncoder::method;
-    m_header.dictionary = HuffmanEncoder::dictionary;
-    return beginPart() && putBlock(packed, true) && endPart(false);
+    const auto size = static_cast<std::size_t>(source.left);
+    if (!openPiece(size)) return false;
+    addPart(source, size, Coding::Literals);
+    return true;
 }
 
-bool ArchiveWriter::addPackedBlocks(Source &source)
+bool ArchiveWriter::addLarge(Source &source)
 {
-    m_header.method = HuffmanEncoder::method;
-    m_header.dictionary = HuffmanEncoder::dictionary;
-    if (!beginPart()) return false;
-    while (source.left > 0) {
-        if (interrupted()) return false;
-        const Bytes content = Bytes(m_block).first(read(source, m_block));
-        if (content.empty()) break;
-        m_fileCrc = crc32(content, m_fileCrc);
-        const bool last = source.left == 0;
-        if (!putBlock(m_encoder.encode(content, last), last)) return false;
+    bool first = true;
+    while (first || source.left > 0) {
+        if (interrupted() || !openPiece(Piece::mostContent)) return false;
+        addPart(source, Piece::mostContent, Coding::Literals);
+        m_piece->parts.back().first = std::exchange(first, false);
     }
-    return endPart(false);
+    return true;
+}
+
+/// Reads the next bytes of a file into the piece; of one that became shorter, what is there.
+void ArchiveWriter::addPart(Source &source, std::size_t size, Coding coding)
+{
+    Piece &piece = *m_piece;
+    const std::size_t begin = piece.used;
+    piece.used += read(source, std::span(piece.content).subspan(begin, size));
+    piece.parts.push_back({source.header, coding, true, source.left == 0, begin, piece.used - begin});
+}
+
+/// Sees to it that there is a piece with room for a part of that size.
+bool ArchiveWriter::openPiece(std::size_t size)
+{
+    if (m_piece && !m_piece->hasRoomFor(size)) givePiece();
+    if (m_piece) return true;
+    if (!m_work) {
+        // One is filled and one is written while the others are packed.
+        const unsigned threads = packingThreads();
+        const std::size_t pieces = threads == 0 ? 1 : threads + 2;
+        m_work = std::make_unique<base::OrderedWork<Piece>>(threads, pieces, [](Piece &piece) {
+            thread_local Packer packer;
+            packer.pack(piece);
+        });
+    }
+    while (!(m_piece = m_work->free()))
+        if (!writeOldestPiece()) return false;
+    m_piece->clear();
+    m_piece->content.resize(Piece::mostContent);
+    return true;
+}
+
+void ArchiveWriter::givePiece()
+{
+    m_piece = nullptr;
+    m_work->give();
+}
+
+bool ArchiveWriter::finish()
+{
+    if (!m_work) return true;
+    if (m_piece) givePiece();
+    while (m_work->take())
+        if (!writeOldestPiece()) return false;
+    return true;
+}
+
+bool ArchiveWriter::writeOldestPiece()
+{
+    Piece &piece = *m_work->take();
+    if (piece.outOfMemory) throw std::bad_alloc();
+    for (Part &part : piece.parts)
+        if (!writePart(piece, part)) return false;
+    m_work->release();
+    return true;
+}
+
+bool ArchiveWriter::writeHeader(const FileHeader &header)
+{
+    m_header = header;
+    m_headerBytes.clear();
+    putFileHeader(m_headerBytes, header);
+    return makeRoom(m_headerBytes.size(), 0) && m_output.append(m_headerBytes);
+}
+
+bool ArchiveWriter::writePart(const Piece &piece, Part &part)
+{
+    if (interrupted()) return false;
+    if (part.coding == Coding::None) return writeHeader(part.header);
+    if (part.first) {
+        m_header = std::move(part.header);
+        if (part.last) m_header.unpackedSize = part.size;
+        if (part.coding != Coding::Store) m_header.method = HuffmanEncoder::method;
+        if (part.coding != Coding::Store) m_header.dictionary = HuffmanEncoder::dictionary;
+        if (!beginPart()) return false;
+    }
+    m_fileCrc = part.first ? part.crc : joinedCrc32(m_fileCrc, part.crc, part.size);
+    const bool written =
+        part.coding == Coding::Store ? putStored(piece.contentOf(part)) : putBlocks(piece.packed, part);
+    return written && (!part.last || endPart(false));
+}
+
+bool ArchiveWriter::putBlocks(const PackedBlocks &packed, const Part &part)
+{
+    for (std::size_t index = part.firstBlock; index < part.endBlock; ++index)
+        if (!putBlock(packed.at(index), part.last && index + 1 == part.endBlock)) return false;
+    return true;
 }
 
 bool ArchiveWriter::makeRoom(std::size_t headerSize, std::uint64_t dataSize)

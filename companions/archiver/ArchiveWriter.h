@@ -1,7 +1,8 @@
 #pragma once
 
-#include "HuffmanEncoder.h"
+#include "OrderedWork.h"
 #include "OutputVolumes.h"
+#include "Packer.h"
 
 #include <optional>
 #include <string>
@@ -10,7 +11,8 @@
 namespace archiver {
 
 /// Writes entries one behind the other, with no need to know a file's content or final size before: the
-/// header goes in front of the data first, and is replaced when the data is there.
+/// header goes in front of the data first, and is replaced when the data is there. What is to be packed is
+/// read in pieces, which are packed on all cores and written in their order.
 ///
 /// Each function gives false when the archive can't go on. What is wrong with a source file alone is
 /// reported, and nothing else happens.
@@ -26,6 +28,9 @@ public:
     [[nodiscard]] bool addFolder(const struct stat &status, const std::string &name);
     [[nodiscard]] bool addLink(const struct stat &status, const std::string &name, const std::string &target);
 
+    /// Writes what is still being packed, behind the last entry.
+    [[nodiscard]] bool finish();
+
     /// Time of the newest file or link; without any, of the newest folder.
     [[nodiscard]] std::optional<Timestamp> newest() const
     {
@@ -36,6 +41,7 @@ private:
     /// What is left to read of the present file, and how it is called.
     struct Source {
         int file;
+        FileHeader header;
         std::uint64_t left;
         bool sizeKnown;
         const std::string &path;
@@ -44,14 +50,23 @@ private:
     [[nodiscard]] bool addWithoutData(const FileHeader &header);
     [[nodiscard]] bool addContent(Source &source);
     [[nodiscard]] bool addStored(Source &source);
-    [[nodiscard]] bool addPackedWhole(Source &source);
-    [[nodiscard]] bool addPackedBlocks(Source &source);
-    [[nodiscard]] bool shouldPack(const Source &source);
+    [[nodiscard]] bool storeContent(Source &source);
+    [[nodiscard]] bool addWhole(Source &source);
+    [[nodiscard]] bool addLarge(Source &source);
+    [[nodiscard]] bool shouldPack(const Source &source) const;
+
+    void addPart(Source &source, std::size_t size, Coding coding);
+    [[nodiscard]] bool openPiece(std::size_t size);
+    void givePiece();
+    [[nodiscard]] bool writeOldestPiece();
+    [[nodiscard]] bool writePart(const Piece &piece, Part &part);
+    [[nodiscard]] bool writeHeader(const FileHeader &header);
 
     [[nodiscard]] bool makeRoom(std::size_t headerSize, std::uint64_t dataSize);
     [[nodiscard]] bool beginPart();
     [[nodiscard]] bool endPart(bool continues);
     [[nodiscard]] bool continueInNextVolume();
+    [[nodiscard]] bool putBlocks(const PackedBlocks &packed, const Part &part);
     [[nodiscard]] bool putBlock(Bytes block, bool last);
     [[nodiscard]] bool putStored(Bytes bytes);
     [[nodiscard]] bool putData(Bytes bytes);
@@ -62,16 +77,17 @@ private:
     OutputVolumes &m_output;
     Packing m_packing;
     Diagnostics &m_diagnostics;
-    HuffmanEncoder m_encoder;
-    ByteBuffer m_block;
 
-    FileHeader m_header; ///< of the present file
+    FileHeader m_header; ///< of the file that is being written
     ByteBuffer m_headerBytes;
     std::uint64_t m_headerOffset = 0;
     std::uint32_t m_fileCrc = 0; ///< of its content
     std::uint32_t m_partCrc = 0; ///< of what this volume has of it, where the size of volumes is limited
     std::optional<Timestamp> m_newestFile;
     std::optional<Timestamp> m_newestFolder;
+
+    std::unique_ptr<base::OrderedWork<Piece>> m_work; ///< none before there is anything to pack
+    Piece *m_piece = nullptr;                         ///< that is being filled; none is open
 };
 
 } // namespace archiver

@@ -69,7 +69,7 @@ void add(const Arguments &arguments, Diagnostics &diagnostics)
                       arguments.bareNames ? TreeWalker::Names::Bare : TreeWalker::Names::Path, diagnostics);
     for (const std::string &source : arguments.names)
         if (!walker.walk(source)) return;
-    if (!diagnostics.silent() || !output.finish()) return;
+    if (!writer.finish() || !diagnostics.silent() || !output.finish()) return;
     if (arguments.test) processVolumes(*output.written(), entryTesters(), diagnostics);
     if (!diagnostics.silent() || interrupted()) return;
     const bool published = output.publish(arguments.timeOfNewest ? writer.newest() : std::nullopt);

@@ -18,6 +18,7 @@ namespace archiver {
 namespace {
 
 constexpr std::size_t bufferSize = 512 << 10;
+constexpr std::size_t worthNoCopy = 128 << 10;
 constexpr std::uint64_t smallestLastVolume = 512; // readers look for the signature of shorter files in vain
 
 /// The written volumes, read through the descriptors that they were written through; messages name the
@@ -143,6 +144,11 @@ bool OutputVolumes::flushWhenFull()
 
 bool OutputVolumes::append(Bytes bytes)
 {
+    if (bytes.size() >= worthNoCopy) {
+        if (!flush()) return false;
+        m_position += bytes.size();
+        return m_writer.writeAtOnce(m_files.back().descriptor(), bytes) || cannotWrite();
+    }
     while (!bytes.empty()) {
         const std::span<std::uint8_t> space = buffer();
         const std::size_t count = std::min(space.size(), bytes.size());

@@ -44,7 +44,7 @@ protected:
         struct stat status {};
         fstat(file, &status);
         status.st_size += lost;
-        EXPECT_TRUE(output.begin() && writer.addFile(file, status, "file", "PATH/file"));
+        EXPECT_TRUE(output.begin() && writer.addFile(file, status, "file", "PATH/file") && writer.finish());
         close(file);
         EXPECT_TRUE(lost > 0 || (output.finish() && output.publish(std::nullopt)));
         return messages;

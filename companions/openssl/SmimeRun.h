@@ -1,18 +1,20 @@
 #pragma once
 
+#include "CipherName.h"
+#include "FileConversion.h"
 #include "smime/EncryptedMessage.h"
+#include "smime/KeyFile.h"
 
 #include <optional>
 #include <string>
+#include <vector>
 
 class Secret;
 
 /// A decryption with a certificate's private key that the front does itself: the system's tool holds the
 /// whole message in memory and takes none that is larger than 2 GB.
 struct SmimeDecryption {
-    std::optional<std::string> input;  ///< nothing: standard input
-    std::optional<std::string> output; ///< nothing: standard output
-    bool isOurs = false;               ///< as in ToolRun
+    FilePair files;
     MessageForm form = MessageForm::Smime;
     std::string keyFile;
     /// The certificate of the only recipient to try. Nothing: all are tried.
@@ -25,6 +27,15 @@ struct SmimeDecryption {
     bool hasPassPhrase = false;
 };
 
-/// Carries it out. Where anything fails, one line on standard error says why, and no result is left behind.
-/// Returns the exit status for the program; a signal that asks to stop ends the program.
+/// An encryption for the owners of certificates. The system's tool does it on one core.
+struct SmimeEncryption {
+    FilePair files;
+    MessageForm form = MessageForm::Smime;
+    LibraryCipher cipher;
+    std::vector<Certificate> recipients;
+};
+
+/// Both carry it out. Where anything fails, one line on standard error says why, and no result is left
+/// behind. Returns the exit status for the program; a signal that asks to stop ends the program.
 [[nodiscard]] int decryptSmime(const SmimeDecryption &decryption, Secret &passPhrase);
+[[nodiscard]] int encryptSmime(const SmimeEncryption &encryption);
