@@ -204,7 +204,7 @@ void Processor::gather(const std::string &place)
     m_group->entries.push_back({entry, begin, size, place});
     m_groupUnpacked += entry.unpackedSize;
     // Besides the packed bytes, what is unpacked at a time.
-    m_group->cost = m_group->size + std::min(m_groupUnpacked, 2 * entry.dictionarySize());
+    m_group->cost = m_group->size + std::min(m_groupUnpacked, 3 * entry.dictionarySize() / 2);
     if (!place.empty()) m_underWay.insert(place);
 }
 
