@@ -150,7 +150,7 @@ std::size_t ArchiveWriter::read(Source &source, std::span<std::uint8_t> into)
 /// What is as it was needs no thread but one that writes while the next bytes are read.
 bool ArchiveWriter::addStored(Source &source)
 {
-    if (!finish()) return false;
+    if (!writePieces()) return false;
     m_header = source.header;
     m_fileCrc = 0;
     const bool large = m_header.unpackedSize >= largeFile;
@@ -297,6 +297,14 @@ void ArchiveWriter::givePiece(History history)
 }
 
 bool ArchiveWriter::finish()
+{
+    if (!writePieces()) return false;
+    m_work.reset();
+    m_history = m_aside = {}; // a test of the archive needs as much
+    return true;
+}
+
+bool ArchiveWriter::writePieces()
 {
     if (!endGroup()) return false;
     while (m_work && m_work->take())

@@ -33,7 +33,7 @@ public:
     [[nodiscard]] bool addFolder(const struct stat &status, const std::string &name);
     [[nodiscard]] bool addLink(const struct stat &status, const std::string &name, const std::string &target);
 
-    /// Writes what is still being packed, behind the last entry.
+    /// Writes what is still being packed, behind the last entry, and gives the memory back.
     [[nodiscard]] bool finish();
 
     /// Time of the newest file or link; without any, of the newest folder.
@@ -71,6 +71,7 @@ private:
     enum class History { Keep, Drop };
     void givePiece(History history);
     [[nodiscard]] History usualHistory() const { return m_packing.solid ? History::Keep : History::Drop; }
+    [[nodiscard]] bool writePieces();
     [[nodiscard]] bool writeOldestPiece();
     [[nodiscard]] bool writePart(const Piece &piece, Part &part);
     void describePacking(const Part &part);

@@ -1,7 +1,6 @@
 #include "ContentCheck.h"
 
 #include <algorithm>
-#include <zlib.h>
 
 namespace archiver {
 
@@ -35,10 +34,7 @@ void ContentCheck::begin(bool hasHash)
 
 void ContentCheck::add(Bytes bytes, std::uint32_t crc)
 {
-    const auto joined = [&] {
-        return static_cast<std::uint32_t>(crc32_combine(m_crc, crc, static_cast<z_off_t>(bytes.size())));
-    };
-    m_crc = m_size == 0 ? crc : joined();
+    m_crc = m_size == 0 ? crc : joinedCrc32(m_crc, crc, bytes.size());
     if (m_hasHash) addToLeaves(bytes);
     m_size += bytes.size();
 }
