@@ -121,7 +121,7 @@ void Processor::processEntry()
     if (isOlderPacked || isOlderLink || isCopy || collides(place)) settle();
     if (entry.link) return m_walk->link(entry);
     if (entry.folder) return m_walk->folder(entry);
-    if (isOlderLink || (isOlderPacked && !entry.encrypted)) return processOlder();
+    if (isOlderLink || isOlderPacked) return processOlder();
     isForGroup(entry) ? gather(place) : stream(place);
 }
 
@@ -133,6 +133,9 @@ void Processor::processOlder()
     const auto read = [&](ContentSink &sink) {
         constexpr unsigned firstOfRar3 = 29;
         if (m_path.empty()) return m_early.report(printable(entry.name) + ": checksum error");
+        if (entry.encrypted)
+            return m_early.report(printable(entry.name) +
+                                  " is encrypted by the archiver, which is not supported");
         if (!entry.stored() && (entry.version < firstOfRar3 || entry.solid))
             return m_early.report(printable(entry.name) +
                                   " is packed in a way that only the archiver that made it undoes");
@@ -201,7 +204,7 @@ void Processor::gather(const std::string &place)
     m_group->entries.push_back({entry, begin, size, place});
     m_groupUnpacked += entry.unpackedSize;
     // Besides the packed bytes, what is unpacked at a time.
-    m_group->cost = m_group->size + std::min(m_groupUnpacked, 2 * entry.dictionarySize());
+    m_group->cost = m_group->size + std::min(m_groupUnpacked, 3 * entry.dictionarySize() / 2);
     if (!place.empty()) m_underWay.insert(place);
 }
 

@@ -2,7 +2,7 @@
 
 #include "OrderedWork.h"
 #include "OutputVolumes.h"
-#include "Packer.h"
+#include "Piece.h"
 
 #include <optional>
 #include <string>
@@ -18,7 +18,12 @@ namespace archiver {
 /// reported, and nothing else happens.
 class ArchiveWriter {
 public:
-    enum class Packing { Store, Pack };
+    struct Packing {
+        unsigned method = 0; ///< 0: content stays as it is; 1 to 5: the higher, the smaller and the slower
+        /// Files are packed with what those before hold, in groups that begin afresh: a damaged place costs
+        /// no more than the rest of its group.
+        bool solid = false;
+    };
     ArchiveWriter(OutputVolumes &output, Packing packing, Diagnostics &diagnostics);
 
     /// The regular file open as `file`; `path` is its name for messages. A file that grows meanwhile is taken
@@ -28,7 +33,7 @@ public:
     [[nodiscard]] bool addFolder(const struct stat &status, const std::string &name);
     [[nodiscard]] bool addLink(const struct stat &status, const std::string &name, const std::string &target);
 
-    /// Writes what is still being packed, behind the last entry.
+    /// Writes what is still being packed, behind the last entry, and gives the memory back.
     [[nodiscard]] bool finish();
 
     /// Time of the newest file or link; without any, of the newest folder.
@@ -47,19 +52,29 @@ private:
         const std::string &path;
     };
 
+    [[nodiscard]] bool packs() const { return m_packing.method > 0; }
     [[nodiscard]] bool addWithoutData(const FileHeader &header);
     [[nodiscard]] bool addContent(Source &source);
     [[nodiscard]] bool addStored(Source &source);
     [[nodiscard]] bool storeContent(Source &source);
     [[nodiscard]] bool addWhole(Source &source);
-    [[nodiscard]] bool addLarge(Source &source);
-    [[nodiscard]] bool shouldPack(const Source &source) const;
-
+    [[nodiscard]] bool addLarge(Source &source, Coding coding);
     void addPart(Source &source, std::size_t size, Coding coding);
+    [[nodiscard]] bool joinGroupIfWorthIt();
+    [[nodiscard]] bool beginGroupFor(std::uint64_t size);
+    [[nodiscard]] bool endGroup();
+    [[nodiscard]] bool putAside(Part part, Bytes content);
+    void joinGroup(FileHeader &header, std::uint64_t size);
+
+    void startWork();
     [[nodiscard]] bool openPiece(std::size_t size);
-    void givePiece();
+    enum class History { Keep, Drop };
+    void givePiece(History history);
+    [[nodiscard]] History usualHistory() const { return m_packing.solid ? History::Keep : History::Drop; }
+    [[nodiscard]] bool writePieces();
     [[nodiscard]] bool writeOldestPiece();
     [[nodiscard]] bool writePart(const Piece &piece, Part &part);
+    void describePacking(const Part &part);
     [[nodiscard]] bool writeHeader(const FileHeader &header);
 
     [[nodiscard]] bool makeRoom(std::size_t headerSize, std::uint64_t dataSize);
@@ -88,6 +103,10 @@ private:
 
     std::unique_ptr<base::OrderedWork<Piece>> m_work; ///< none before there is anything to pack
     Piece *m_piece = nullptr;                         ///< that is being filled; none is open
+    ByteBuffer m_history;                             ///< the end of the piece before, where matches reach it
+    std::uint64_t m_groupSize = 0;                    ///< content of the present solid group
+    ByteBuffer m_aside;                               ///< content of what comes behind it
+    std::vector<Part> m_asideParts;
 };
 
 } // namespace archiver

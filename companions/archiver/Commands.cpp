@@ -61,9 +61,10 @@ private:
 void add(const Arguments &arguments, Diagnostics &diagnostics)
 {
     OutputVolumes output(arguments.archive, arguments.volumeSize, diagnostics);
+    const bool solid = arguments.solid && arguments.method > 0;
+    if (solid) output.markSolid();
     if (!output.begin()) return;
-    ArchiveWriter writer(
-        output, arguments.pack ? ArchiveWriter::Packing::Pack : ArchiveWriter::Packing::Store, diagnostics);
+    ArchiveWriter writer(output, {arguments.method, solid}, diagnostics);
     Adder adder(writer, output);
     TreeWalker walker(adder, arguments.keepLinks ? TreeWalker::Links::Keep : TreeWalker::Links::Follow,
                       arguments.bareNames ? TreeWalker::Names::Bare : TreeWalker::Names::Path, diagnostics);

@@ -22,7 +22,12 @@ private:
     std::uint64_t m_size = 0;
     std::uint32_t m_crc = 0;
     bool m_hasHash = false;
-    blake2sp_state m_hash{};
+    // BLAKE2sp is a tree of BLAKE2s: blocks go to its leaves in turn. The library's own tree makes threads.
+    static constexpr std::size_t leafCount = 8;
+    static constexpr std::size_t leafBlock = 64;
+    void addToLeaves(Bytes bytes);
+    [[nodiscard]] FileHeader::Hash hash();
+    std::array<blake2s_state, leafCount> m_leaves{};
 };
 
 } // namespace archiver

@@ -79,13 +79,13 @@ struct FileHeader {
     bool unixHost = true;
     std::optional<Timestamp> modified;
     std::optional<std::uint32_t>
-        crc;                 ///< of the unpacked file; with continuesAfter, of this part's packed bytes
+        crc; ///< of the unpacked file; with continuesAfter, of this part's packed bytes
     using Hash = std::array<std::uint8_t, 32>;
     std::optional<Hash> hash; ///< BLAKE2sp of the unpacked file, likewise
-    bool older = false;      ///< of the format before: other compression, and a link's target is its content
-    unsigned version = 0;    ///< of the compression; in RAR 5 above 0 there are dictionaries of other sizes
-    unsigned method = 0;     ///< 0 stored, 1 to 5 packed
-    unsigned dictionary = 0; ///< 128 KiB << dictionary; in the older format 64 KiB
+    bool older = false;       ///< of the format before: other compression, and a link's target is its content
+    unsigned version = 0;     ///< of the compression; in RAR 5 above 0 there are dictionaries of other sizes
+    unsigned method = 0;      ///< 0 stored, 1 to 5 packed
+    unsigned dictionary = 0;  ///< 128 KiB << dictionary; in the older format 64 KiB
     bool solid = false;
     bool encrypted = false;
     std::optional<LinkTarget> link;

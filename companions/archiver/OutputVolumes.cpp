@@ -107,7 +107,7 @@ bool OutputVolumes::beginVolume()
     m_files.push_back(std::move(file));
     m_position = 0;
     ByteBuffer start(signature.begin(), signature.end());
-    putMainHeader(start, {limited(), m_files.size() - 1});
+    putMainHeader(start, {limited(), m_files.size() - 1, m_solid});
     if (!append(start)) return false;
     m_dataStart = m_position;
     return true;
@@ -196,7 +196,7 @@ bool OutputVolumes::finish()
     if (limited() && m_files.size() == 1) {
         // All fits into the first volume: an ordinary archive, then. The header's length is the same.
         ByteBuffer header;
-        putMainHeader(header, {});
+        putMainHeader(header, {.solid = m_solid});
         if (!patch(signature.size(), header)) return false;
     }
     return endVolume(false);

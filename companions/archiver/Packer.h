@@ -1,64 +1,48 @@
 #pragma once
 
-#include "Headers.h"
 #include "HuffmanEncoder.h"
-#include "PackedBlock.h"
+#include "MatchEncoder.h"
+#include "Piece.h"
+
+#include <mutex>
 
 namespace archiver {
-
-/// How an entry's content gets into the archive.
-enum class Coding {
-    None,    ///< it has none
-    Store,   ///< as it is
-    Literals ///< each byte by a code of its own
-};
-
-/// Some content of an entry, or an entry that has none.
-struct Part {
-    FileHeader header; ///< where the entry begins with this part
-    Coding coding = Coding::None;
-    bool first = true; ///< of the entry's parts
-    bool last = true;
-    std::size_t begin = 0; ///< of its bytes in the piece's content
-    std::size_t size = 0;
-    // What Packer finds:
-    std::uint32_t crc = 0;
-    std::size_t firstBlock = 0; ///< of its own in the piece's packed ones
-    std::size_t endBlock = 0;
-};
-
-/// What is packed at a time: parts of a large file, or many small entries.
-struct Piece {
-    static constexpr std::size_t mostContent =
-        HuffmanEncoder::blockInput; ///< what fits the cache, packed too
-    static constexpr std::size_t mostParts = 1000;
-
-    ByteBuffer content;
-    std::size_t used = 0; ///< of it
-    std::vector<Part> parts;
-    PackedBlocks packed;
-    bool outOfMemory = false;
-
-    [[nodiscard]] Bytes contentOf(const Part &part) const
-    {
-        return Bytes(content).subspan(part.begin, part.size);
-    }
-    [[nodiscard]] bool hasRoomFor(std::size_t size) const
-    {
-        return used + size <= mostContent && parts.size() < mostParts;
-    }
-    void clear();
-};
 
 /// Packs pieces, each without regard to the others, so that many can be at it at once.
 class Packer {
 public:
+    /// `level`: libzstd's. `solid`: matches reach over the borders of files.
+    Packer(int level, bool solid) : m_solid(solid), m_finder(level) {}
+
     void pack(Piece &piece);
 
 private:
-    void pack(Part &part, Piece &piece);
+    void packAlone(Part &part, Piece &piece);
+    void packLiterals(Part &part, Piece &piece);
+    void packMatches(Part &part, Piece &piece, std::size_t windowBegin, MatchCursor &matches);
 
+    bool m_solid;
+    MatchFinder m_finder;
+    MatchEncoder m_matches;
     HuffmanEncoder m_literals;
+    std::size_t m_packed = 0; ///< bytes that the present part takes
+};
+
+/// As many packers as there are threads that call it.
+class Packers {
+public:
+    Packers(int level, bool solid) : m_level(level), m_solid(solid) {}
+
+    /// Marks the piece where memory is short.
+    void pack(Piece &piece) noexcept;
+
+private:
+    [[nodiscard]] std::unique_ptr<Packer> take();
+
+    int m_level;
+    bool m_solid;
+    std::mutex m_mutex;
+    std::vector<std::unique_ptr<Packer>> m_idle;
 };
 
 } // namespace archiver

@@ -11,7 +11,7 @@ namespace archiver {
 
 namespace {
 
-constexpr std::uint64_t mostMemory = 32 << 20;
+constexpr std::uint64_t mostMemory = 24 << 20;
 constexpr unsigned mostThreads = 8;
 
 /// None where there is but one processor: then a thread is only in the way.

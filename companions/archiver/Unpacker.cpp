@@ -57,8 +57,10 @@ void Unpacker::begin(std::uint64_t dictionary, bool solid)
         m_length = 0;
     }
     m_dictionary = static_cast<std::size_t>(std::min(dictionary, largestDictionary));
+    constexpr std::size_t least = 1 << 20;
     const std::size_t capacity =
-        m_dictionary + std::max(m_dictionary / 2, UnpackFilter::longest + (1u << 20)) + margin;
+        m_dictionary + std::max(m_dictionary / 2, UnpackFilter::longest + least) + margin;
+    m_usual = m_dictionary + std::max(m_dictionary / 2, least) + margin;
     if (!m_window || capacity > m_capacity) {
         // The system gives memory only to what is touched.
         void *const bytes = mmap(nullptr, capacity, PROT_READ | PROT_WRITE,
@@ -98,7 +100,7 @@ Unpacker::Outcome Unpacker::unpack(BitReader bits, ContentSink &sink)
     const BlockCodes &codes = *m_codes;
     for (;;) {
         makeRoom();
-        const std::size_t stop = std::min(m_position + portion, m_capacity - margin);
+        const std::size_t stop = std::min(m_position + portion, limit());
         std::uint8_t *const window = m_window.get();
         while (m_position < stop && !bits.atEnd()) {
             m_position = static_cast<std::size_t>(
@@ -227,10 +229,13 @@ bool Unpacker::deliver(ContentSink &sink)
     return deliverUpTo(m_fileBytes + (m_position - m_delivered), sink);
 }
 
+/// Where no symbol begins any more: all of the window is for long filters alone.
+std::size_t Unpacker::limit() const { return (m_filters.empty() ? m_usual : m_capacity) - margin; }
+
 /// For a symbol at least, where the window is full.
 void Unpacker::makeRoom()
 {
-    if (m_position < m_capacity - margin) return;
+    if (m_position < limit()) return;
     const std::size_t first = std::min(m_delivered, m_position - std::min(m_position, m_dictionary));
     std::memmove(m_window.get(), m_window.get() + first, m_position - first);
     m_position -= first;
@@ -241,7 +246,7 @@ void Unpacker::put(Bytes bytes)
 {
     while (!bytes.empty()) {
         makeRoom();
-        const Bytes part = bytes.first(std::min(bytes.size(), m_capacity - margin - m_position));
+        const Bytes part = bytes.first(std::min(bytes.size(), limit() - m_position));
         std::ranges::copy(part, m_window.get() + m_position);
         m_position += part.size();
         m_delivered = m_position;
@@ -262,7 +267,7 @@ Unpacker::Outcome Unpacker::literals(ByteBuffer &literals, std::size_t size, con
     }
     for (Bytes left = Bytes(literals).first(size); !left.empty();) {
         makeRoom();
-        const Bytes part = left.first(std::min({left.size(), portion, m_capacity - margin - m_position}));
+        const Bytes part = left.first(std::min({left.size(), portion, limit() - m_position}));
         std::ranges::copy(part, m_window.get() + m_position);
         m_position += part.size();
         left = left.subspan(part.size());

@@ -42,6 +42,7 @@ private:
     [[nodiscard]] bool readFilter(BitReader &bits);
     [[nodiscard]] bool deliver(ContentSink &sink);
     [[nodiscard]] bool deliverUpTo(std::uint64_t position, ContentSink &sink);
+    [[nodiscard]] std::size_t limit() const;
     void makeRoom();
     void put(Bytes bytes);
     void remember(ByteBuffer &literals, std::size_t size);
@@ -61,6 +62,7 @@ private:
     // to the front.
     Memory m_window;
     std::size_t m_capacity = 0;
+    std::size_t m_usual = 0; ///< how much of that is used without filters
     std::size_t m_dictionary = 0;
     std::size_t m_position = 0;         ///< where the next byte goes
     std::size_t m_delivered = 0;        ///< up to where the sink has had it

@@ -7,6 +7,7 @@
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
+#include <malloc.h>
 #include <new>
 #include <sys/resource.h>
 
@@ -44,6 +45,7 @@ int main(int count, char **arguments)
 {
     // libarchive turns names of older archives into those of the locale.
     std::setlocale(LC_CTYPE, "C.UTF-8");
+    mallopt(M_MMAP_THRESHOLD, 256 << 10); // large buffers go back to the system at once, be it another's turn
     raiseOpenFileLimit();
     base::StopSignals signals(base::StopSignals::BrokenPipe::EndsIt);
     signals.watch(0); // no child: whoever is at work looks whether one came

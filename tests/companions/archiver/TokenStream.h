@@ -69,18 +69,22 @@ public:
         for (unsigned bit = count; bit-- > 0;)
             m_bits.push_back(value >> bit & 1);
     }
-    /// Its length has no other than these sizes: 9 to 15.
-    void codes(unsigned mainBits)
+    /// Of the block that begins: `mainBits` is 9 to 15.
+    void codes(unsigned mainBits, bool literalsOnly = false)
     {
         m_mainBits = mainBits;
         m_haveTables = true;
         for (unsigned symbol = 0; symbol < archiver::lengthSymbols; ++symbol)
             put(5, 4);
-        for (unsigned symbol = 0; symbol < archiver::allSymbols; ++symbol)
-            put(symbol < archiver::mainSymbols                                                ? mainBits
-                : symbol >= archiver::mainSymbols + 64 && symbol < archiver::mainSymbols + 80 ? 4
-                                                                                              : 6,
-                5);
+        const auto putLengths = [this](std::size_t symbols, unsigned length) {
+            for (; symbols > 0; --symbols)
+                put(length, 5);
+        };
+        putLengths(archiver::literalSymbols, mainBits);
+        putLengths(archiver::mainSymbols - archiver::literalSymbols, literalsOnly ? 0 : mainBits);
+        putLengths(64, 6);
+        putLengths(16, 4);
+        putLengths(44, 6);
     }
     void endBlock(bool last)
     {
