@@ -44,7 +44,7 @@ constexpr std::size_t mostAsideParts = 5000;
 /// and each takes memory.
 unsigned packingThreads()
 {
-    constexpr unsigned most = 4;
+    constexpr unsigned most = 3;
     const unsigned cores = std::thread::hardware_concurrency();
     return cores < 2 ? 0 : std::min(cores, most);
 }
