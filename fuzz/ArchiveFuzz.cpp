@@ -193,7 +193,7 @@ void roundTrip(Bytes bytes)
         putBytes(content, pattern);
     std::string messages;
     Diagnostics diagnostics(messages);
-    const auto packing = how & 1 ? ArchiveWriter::Packing::Store : ArchiveWriter::Packing::Pack;
+    const auto packing = how & 1 ? ArchiveWriter::Packing{0} : ArchiveWriter::Packing{5};
     // Enough for the headers, and not so little that there are thousands.
     const std::optional<std::uint64_t> volumeSize =
         volume == 0 ? std::nullopt : std::optional(200 + volume * (1 + content.size() / 5000));

@@ -84,7 +84,9 @@ std::vector<ByteBuffer> writeVolumes(Bytes content, ArchiveWriter::Packing packi
     if (!base::writeFullyAt(file.get(), content, 0) || fstat(file.get(), &status) != 0) std::abort();
     OutputVolumes output(folder / "a.rar", volumeSize, diagnostics);
     ArchiveWriter writer(output, packing, diagnostics);
-    if (!output.begin() || !writer.addFile(file.get(), status, "file", "file") || !output.finish()) return {};
+    if (!output.begin() || !writer.addFile(file.get(), status, "file", "file") || !writer.finish() ||
+        !output.finish())
+        return {};
     std::vector<ByteBuffer> volumes;
     const std::unique_ptr<VolumeSource> written = output.written();
     while (const std::unique_ptr<ByteSource> volume = written->open(volumes.size()))

@@ -115,8 +115,8 @@ std::vector<std::vector<ByteBuffer>> archives()
                  olderFormat)},
         volumes(solid, presentFormat),
         volumes(older, olderFormat),
-        writeVolumes(text(900), ArchiveWriter::Packing::Store, 400, diagnostics),
-        writeVolumes(text(1500), ArchiveWriter::Packing::Pack, 600, diagnostics),
+        writeVolumes(text(900), {.method = 0}, 400, diagnostics),
+        writeVolumes(text(1500), {.method = 5}, 600, diagnostics),
     };
 }
 

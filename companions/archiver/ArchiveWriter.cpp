@@ -1,11 +1,17 @@
 #include "ArchiveWriter.h"
 
 #include "Interrupt.h"
+#include "Packer.h"
+#include "Probe.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <limits>
+#include <new>
+#include <thread>
+#include <utility>
 
 namespace archiver {
 
@@ -17,6 +23,31 @@ constexpr std::uint64_t spaceBehindBlock = 32;
 constexpr std::uint64_t smallestPart = 64;
 
 constexpr std::uint64_t largeFile = 8u << 20; // from here on a thread more makes up for its start
+
+// Of libzstd, for the methods.
+constexpr std::array finderLevels{0, 1, 2, 3, 5, 6};
+
+constexpr std::uint64_t groupContent = 16u << 20; // what a damaged place in a solid archive costs at most
+constexpr std::size_t historySize = 1u << 20;     // farther back the usual levels find next to nothing
+constexpr std::size_t matchesTogether = 2u << 20; // at the least so much that the history is worth its search
+constexpr std::size_t literalsTogether = HuffmanEncoder::blockInput; // fits the cache, packed too
+constexpr std::size_t mostWhole = literalsTogether;
+constexpr std::size_t mostParts = 1000;
+static_assert(historySize + matchesTogether <= std::size_t{128 << 10} << MatchEncoder::dictionary);
+
+constexpr std::size_t smallestSolid = 128; // less than the tables take doesn't shrink
+constexpr std::size_t solidSample = 4 << 10;
+constexpr std::size_t mostAside = 2 << 20;
+constexpr std::size_t mostAsideParts = 5000;
+
+/// A single core is served best without any; more than a few would wait for the one that reads and writes,
+/// and each takes memory.
+unsigned packingThreads()
+{
+    constexpr unsigned most = 4;
+    const unsigned cores = std::thread::hardware_concurrency();
+    return cores < 2 ? 0 : std::min(cores, most);
+}
 
 Timestamp modifiedTime(const struct stat &status)
 {
@@ -42,7 +73,6 @@ void keepNewest(std::optional<Timestamp> &newest, const struct stat &status)
 ArchiveWriter::ArchiveWriter(OutputVolumes &output, Packing packing, Diagnostics &diagnostics)
     : m_output(output), m_packing(packing), m_diagnostics(diagnostics)
 {
-    if (packing == Packing::Pack) m_block.resize(HuffmanEncoder::blockInput);
 }
 
 bool ArchiveWriter::addFolder(const struct stat &status, const std::string &name)
@@ -64,10 +94,11 @@ bool ArchiveWriter::addLink(const struct stat &status, const std::string &name, 
 
 bool ArchiveWriter::addWithoutData(const FileHeader &header)
 {
-    m_header = header;
-    m_headerBytes.clear();
-    putFileHeader(m_headerBytes, header);
-    return makeRoom(m_headerBytes.size(), 0) && m_output.append(m_headerBytes);
+    if (!packs()) return writeHeader(header);
+    if (m_packing.solid) return putAside({.header = header}, {});
+    if (!openPiece(0)) return false;
+    m_piece->parts.push_back({.header = header});
+    return true;
 }
 
 bool ArchiveWriter::addFile(int file, const struct stat &status, const std::string &name,
@@ -79,25 +110,24 @@ bool ArchiveWriter::addFile(int file, const struct stat &status, const std::stri
         return true;
     }
     keepNewest(m_newestFile, status);
-    m_header = describe(status, name);
-    m_header.unpackedSize = static_cast<std::uint64_t>(status.st_size);
-    m_fileCrc = 0;
     // Some file systems give no sizes: those files are read to their end.
     const bool sizeKnown = status.st_size > 0;
-    Source source{file, sizeKnown ? m_header.unpackedSize : std::numeric_limits<std::uint64_t>::max(),
-                  sizeKnown, path};
-    const bool large = m_header.unpackedSize >= largeFile;
-    if (large) m_output.writeInBackground(true);
-    const bool added = addContent(source);
-    if (large) m_output.writeInBackground(false);
-    return added;
+    Source source{file, describe(status, name), std::numeric_limits<std::uint64_t>::max(), sizeKnown, path};
+    source.header.unpackedSize = static_cast<std::uint64_t>(status.st_size);
+    if (sizeKnown) source.left = source.header.unpackedSize;
+    return addContent(source);
 }
 
 bool ArchiveWriter::addContent(Source &source)
 {
-    if (m_packing == Packing::Store || !source.sizeKnown) return addStored(source);
-    if (source.left <= HuffmanEncoder::blockInput) return addPackedWhole(source);
-    return shouldPack(source) ? addPackedBlocks(source) : addStored(source);
+    if (!packs()) return addStored(source);
+    std::array<std::uint8_t, 1> byte{};
+    if (!source.sizeKnown && base::readFullyAt(source.file, byte, 0) != 0) return addStored(source);
+    if (!source.sizeKnown) source.left = 0;
+    if (source.left <= mostWhole) return addWhole(source);
+    const Coding coding = probe(source.file, source.left);
+    if (coding == Coding::Store) return addStored(source);
+    return addLarge(source, m_packing.solid ? Coding::Matches : coding);
 }
 
 std::size_t ArchiveWriter::read(Source &source, std::span<std::uint8_t> into)
@@ -117,9 +147,21 @@ std::size_t ArchiveWriter::read(Source &source, std::span<std::uint8_t> into)
     return got;
 }
 
+/// What is as it was needs no thread but one that writes while the next bytes are read.
 bool ArchiveWriter::addStored(Source &source)
 {
-    if (!beginPart()) return false;
+    if (!finish()) return false;
+    m_header = source.header;
+    m_fileCrc = 0;
+    const bool large = m_header.unpackedSize >= largeFile;
+    if (large) m_output.writeInBackground(true);
+    const bool added = beginPart() && storeContent(source) && endPart(false);
+    if (large) m_output.writeInBackground(false);
+    return added;
+}
+
+bool ArchiveWriter::storeContent(Source &source)
+{
     std::uint64_t size = 0;
     while (source.left > 0) {
         if (m_output.room() == 0 && !continueInNextVolume()) return false;
@@ -134,54 +176,185 @@ bool ArchiveWriter::addStored(Source &source)
         size += count;
     }
     m_header.unpackedSize = size;
-    return endPart(false);
+    return true;
 }
 
-bool ArchiveWriter::shouldPack(const Source &source)
+bool ArchiveWriter::addWhole(Source &source)
 {
-    // Some blocks from all over the file stand for it: what they gain is what it gains, about.
-    constexpr std::uint64_t samples = 16;
-    constexpr std::size_t sampleSize = 64 << 10;
-    std::size_t before = 0;
-    std::size_t after = 0;
-    for (std::uint64_t sample = 0; sample < samples; ++sample) {
-        const std::uint64_t offset = (source.left - sampleSize) / (samples - 1) * sample;
-        const ssize_t count = base::readFullyAt(source.file, std::span(m_block).first(sampleSize), offset);
-        if (count <= 0) return false; // addStored() will meet the fault, and report it
-        const Bytes bytes = Bytes(m_block).first(static_cast<std::size_t>(count));
-        before += bytes.size();
-        after += HuffmanEncoder::estimate(bytes);
+    const auto size = static_cast<std::size_t>(source.left);
+    if (!beginGroupFor(size) || !openPiece(size)) return false;
+    addPart(source, size, size > 0 ? Coding::Matches : Coding::Store);
+    return !m_packing.solid || joinGroupIfWorthIt();
+}
+
+/// What comes behind a file in the group leans on it, so it can't be stored when it turns out not to shrink.
+bool ArchiveWriter::joinGroupIfWorthIt()
+{
+    Part &part = m_piece->parts.back();
+    const Bytes content = m_piece->contentOf(part);
+    const Bytes sample = content.subspan(content.size() / 2).first(std::min(content.size() / 2, solidSample));
+    if (content.size() >= smallestSolid && !looksRandom(sample)) {
+        joinGroup(part.header, part.size);
+        return true;
     }
-    return after < before;
+    Part aside = std::move(part);
+    m_piece->parts.pop_back();
+    m_piece->used -= aside.size;
+    aside.coding = Coding::Store;
+    return putAside(std::move(aside), content);
 }
 
-bool ArchiveWriter::addPackedWhole(Source &source)
+bool ArchiveWriter::addLarge(Source &source, Coding coding)
 {
-    const Bytes content = Bytes(m_block).first(read(source, m_block));
-    m_fileCrc = crc32(content);
-    m_header.unpackedSize = content.size();
-    if (content.empty()) return beginPart() && endPart(false);
-    const Bytes packed = m_encoder.encode(content, true);
-    if (packed.size() >= content.size()) return beginPart() && putStored(content) && endPart(false);
-    m_header.method = HuffmanEncoder::method;
-    m_header.dictionary = HuffmanEncoder::dictionary;
-    return beginPart() && putBlock(packed, true) && endPart(false);
-}
-
-bool ArchiveWriter::addPackedBlocks(Source &source)
-{
-    m_header.method = HuffmanEncoder::method;
-    m_header.dictionary = HuffmanEncoder::dictionary;
-    if (!beginPart()) return false;
-    while (source.left > 0) {
-        if (interrupted()) return false;
-        const Bytes content = Bytes(m_block).first(read(source, m_block));
-        if (content.empty()) break;
-        m_fileCrc = crc32(content, m_fileCrc);
-        const bool last = source.left == 0;
-        if (!putBlock(m_encoder.encode(content, last), last)) return false;
+    if (!beginGroupFor(source.left)) return false;
+    if (m_packing.solid) joinGroup(source.header, source.left);
+    const std::size_t most = coding == Coding::Literals ? literalsTogether : matchesTogether;
+    for (bool first = true; first || source.left > 0; first = false) {
+        if (m_piece && !first) givePiece(coding == Coding::Literals ? History::Drop : History::Keep);
+        const auto size = static_cast<std::size_t>(std::min<std::uint64_t>(most, source.left));
+        if (interrupted() || !openPiece(size)) return false;
+        addPart(source, size, coding);
+        m_piece->parts.back().first = first;
     }
-    return endPart(false);
+    return true;
+}
+
+/// Reads the next bytes of a file into the piece; of one that became shorter, what is there.
+void ArchiveWriter::addPart(Source &source, std::size_t size, Coding coding)
+{
+    Piece &piece = *m_piece;
+    const std::size_t begin = piece.used;
+    const std::size_t count = read(source, std::span(piece.content).subspan(begin, size));
+    piece.used += count;
+    piece.parts.push_back({source.header, coding, true, source.left == 0, begin, count});
+}
+
+/// A new group, where the present one would become too long.
+bool ArchiveWriter::beginGroupFor(std::uint64_t size)
+{
+    return m_groupSize + size <= groupContent || endGroup();
+}
+
+void ArchiveWriter::joinGroup(FileHeader &header, std::uint64_t size)
+{
+    header.solid = m_groupSize > 0;
+    m_groupSize += size;
+}
+
+/// Has the entry come behind the group: for some readers a group ends with whatever doesn't belong to it.
+bool ArchiveWriter::putAside(Part part, Bytes content)
+{
+    part.begin = m_aside.size();
+    putBytes(m_aside, content);
+    m_asideParts.push_back(std::move(part));
+    return (m_aside.size() < mostAside && m_asideParts.size() < mostAsideParts) || endGroup();
+}
+
+bool ArchiveWriter::endGroup()
+{
+    if (m_piece) givePiece(History::Drop);
+    m_history.clear();
+    m_groupSize = 0;
+    if (m_asideParts.empty()) return true;
+    if (!openPiece(m_aside.size())) return false;
+    std::ranges::copy(m_aside, m_piece->content.begin());
+    std::swap(m_piece->parts, m_asideParts);
+    givePiece(History::Drop);
+    m_aside.clear();
+    m_asideParts.clear();
+    return true;
+}
+
+void ArchiveWriter::startWork()
+{
+    // One is filled and one is written while the others are packed.
+    const unsigned threads = packingThreads();
+    const std::size_t pieces = threads == 0 ? 1 : threads + 2;
+    const auto packers = std::make_shared<Packers>(finderLevels.at(m_packing.method), m_packing.solid);
+    m_work = std::make_unique<base::OrderedWork<Piece>>(threads, pieces,
+                                                        [packers](Piece &piece) { packers->pack(piece); });
+}
+
+/// Sees to it that there is a piece with room for a part of that size.
+bool ArchiveWriter::openPiece(std::size_t size)
+{
+    if (m_piece && (m_piece->room() < size || m_piece->parts.size() >= mostParts)) givePiece(usualHistory());
+    if (m_piece) return true;
+    if (!m_work) startWork();
+    while (!(m_piece = m_work->free()))
+        if (!writeOldestPiece()) return false;
+    m_piece->open(m_history, std::max(size, m_packing.solid ? matchesTogether : literalsTogether));
+    return true;
+}
+
+void ArchiveWriter::givePiece(History history)
+{
+    const Bytes used = Bytes(m_piece->content).first(m_piece->used);
+    const Bytes kept = used.last(history == History::Keep ? std::min(used.size(), historySize) : 0);
+    m_history.assign(kept.begin(), kept.end());
+    m_piece = nullptr;
+    m_work->give();
+}
+
+bool ArchiveWriter::finish()
+{
+    if (!endGroup()) return false;
+    while (m_work && m_work->take())
+        if (!writeOldestPiece()) return false;
+    return true;
+}
+
+bool ArchiveWriter::writeOldestPiece()
+{
+    Piece &piece = *m_work->take();
+    if (piece.outOfMemory) throw std::bad_alloc();
+    for (Part &part : piece.parts)
+        if (!writePart(piece, part)) return false;
+    m_work->release();
+    return true;
+}
+
+bool ArchiveWriter::writeHeader(const FileHeader &header)
+{
+    m_header = header;
+    m_headerBytes.clear();
+    putFileHeader(m_headerBytes, header);
+    return makeRoom(m_headerBytes.size(), 0) && m_output.append(m_headerBytes);
+}
+
+bool ArchiveWriter::writePart(const Piece &piece, Part &part)
+{
+    if (interrupted()) return false;
+    if (part.coding == Coding::None) return writeHeader(part.header);
+    if (part.first) {
+        m_header = std::move(part.header);
+        if (part.last) m_header.unpackedSize = part.size;
+        describePacking(part);
+        if (!beginPart()) return false;
+    }
+    m_fileCrc = part.first ? part.crc : joinedCrc32(m_fileCrc, part.crc, part.size);
+    const bool written =
+        part.coding == Coding::Store ? putStored(piece.contentOf(part)) : putBlocks(piece.packed, part);
+    return written && (!part.last || endPart(false));
+}
+
+void ArchiveWriter::describePacking(const Part &part)
+{
+    if (part.coding == Coding::Store) return;
+    m_header.method = m_packing.method;
+    // As small as the matches let it be, for readers make room for it with each file; in a group all the
+    // same.
+    constexpr std::size_t smallDictionary = std::size_t{128 << 10} << HuffmanEncoder::dictionary;
+    const bool isSmall =
+        part.coding == Coding::Literals || (!m_packing.solid && part.last && part.size <= smallDictionary);
+    m_header.dictionary = isSmall ? HuffmanEncoder::dictionary : MatchEncoder::dictionary;
+}
+
+bool ArchiveWriter::putBlocks(const PackedBlocks &packed, const Part &part)
+{
+    for (std::size_t index = part.firstBlock; index < part.endBlock; ++index)
+        if (!putBlock(packed.at(index), part.last && index + 1 == part.endBlock)) return false;
+    return true;
 }
 
 bool ArchiveWriter::makeRoom(std::size_t headerSize, std::uint64_t dataSize)

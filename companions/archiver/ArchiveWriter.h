@@ -1,7 +1,8 @@
 #pragma once
 
-#include "HuffmanEncoder.h"
+#include "OrderedWork.h"
 #include "OutputVolumes.h"
+#include "Piece.h"
 
 #include <optional>
 #include <string>
@@ -10,13 +11,19 @@
 namespace archiver {
 
 /// Writes entries one behind the other, with no need to know a file's content or final size before: the
-/// header goes in front of the data first, and is replaced when the data is there.
+/// header goes in front of the data first, and is replaced when the data is there. What is to be packed is
+/// read in pieces, which are packed on all cores and written in their order.
 ///
 /// Each function gives false when the archive can't go on. What is wrong with a source file alone is
 /// reported, and nothing else happens.
 class ArchiveWriter {
 public:
-    enum class Packing { Store, Pack };
+    struct Packing {
+        unsigned method = 0; ///< 0: content stays as it is; 1 to 5: the higher, the smaller and the slower
+        /// Files are packed with what those before hold, in groups that begin afresh: a damaged place costs
+        /// no more than the rest of its group.
+        bool solid = false;
+    };
     ArchiveWriter(OutputVolumes &output, Packing packing, Diagnostics &diagnostics);
 
     /// The regular file open as `file`; `path` is its name for messages. A file that grows meanwhile is taken
@@ -25,6 +32,9 @@ public:
                                const std::string &path);
     [[nodiscard]] bool addFolder(const struct stat &status, const std::string &name);
     [[nodiscard]] bool addLink(const struct stat &status, const std::string &name, const std::string &target);
+
+    /// Writes what is still being packed, behind the last entry.
+    [[nodiscard]] bool finish();
 
     /// Time of the newest file or link; without any, of the newest folder.
     [[nodiscard]] std::optional<Timestamp> newest() const
@@ -36,22 +46,41 @@ private:
     /// What is left to read of the present file, and how it is called.
     struct Source {
         int file;
+        FileHeader header;
         std::uint64_t left;
         bool sizeKnown;
         const std::string &path;
     };
 
+    [[nodiscard]] bool packs() const { return m_packing.method > 0; }
     [[nodiscard]] bool addWithoutData(const FileHeader &header);
     [[nodiscard]] bool addContent(Source &source);
     [[nodiscard]] bool addStored(Source &source);
-    [[nodiscard]] bool addPackedWhole(Source &source);
-    [[nodiscard]] bool addPackedBlocks(Source &source);
-    [[nodiscard]] bool shouldPack(const Source &source);
+    [[nodiscard]] bool storeContent(Source &source);
+    [[nodiscard]] bool addWhole(Source &source);
+    [[nodiscard]] bool addLarge(Source &source, Coding coding);
+    void addPart(Source &source, std::size_t size, Coding coding);
+    [[nodiscard]] bool joinGroupIfWorthIt();
+    [[nodiscard]] bool beginGroupFor(std::uint64_t size);
+    [[nodiscard]] bool endGroup();
+    [[nodiscard]] bool putAside(Part part, Bytes content);
+    void joinGroup(FileHeader &header, std::uint64_t size);
+
+    void startWork();
+    [[nodiscard]] bool openPiece(std::size_t size);
+    enum class History { Keep, Drop };
+    void givePiece(History history);
+    [[nodiscard]] History usualHistory() const { return m_packing.solid ? History::Keep : History::Drop; }
+    [[nodiscard]] bool writeOldestPiece();
+    [[nodiscard]] bool writePart(const Piece &piece, Part &part);
+    void describePacking(const Part &part);
+    [[nodiscard]] bool writeHeader(const FileHeader &header);
 
     [[nodiscard]] bool makeRoom(std::size_t headerSize, std::uint64_t dataSize);
     [[nodiscard]] bool beginPart();
     [[nodiscard]] bool endPart(bool continues);
     [[nodiscard]] bool continueInNextVolume();
+    [[nodiscard]] bool putBlocks(const PackedBlocks &packed, const Part &part);
     [[nodiscard]] bool putBlock(Bytes block, bool last);
     [[nodiscard]] bool putStored(Bytes bytes);
     [[nodiscard]] bool putData(Bytes bytes);
@@ -62,16 +91,21 @@ private:
     OutputVolumes &m_output;
     Packing m_packing;
     Diagnostics &m_diagnostics;
-    HuffmanEncoder m_encoder;
-    ByteBuffer m_block;
 
-    FileHeader m_header; ///< of the present file
+    FileHeader m_header; ///< of the file that is being written
     ByteBuffer m_headerBytes;
     std::uint64_t m_headerOffset = 0;
     std::uint32_t m_fileCrc = 0; ///< of its content
     std::uint32_t m_partCrc = 0; ///< of what this volume has of it, where the size of volumes is limited
     std::optional<Timestamp> m_newestFile;
     std::optional<Timestamp> m_newestFolder;
+
+    std::unique_ptr<base::OrderedWork<Piece>> m_work; ///< none before there is anything to pack
+    Piece *m_piece = nullptr;                         ///< that is being filled; none is open
+    ByteBuffer m_history;                             ///< the end of the piece before, where matches reach it
+    std::uint64_t m_groupSize = 0;                    ///< content of the present solid group
+    ByteBuffer m_aside;                               ///< content of what comes behind it
+    std::vector<Part> m_asideParts;
 };
 
 } // namespace archiver

@@ -40,8 +40,12 @@ bool applySwitch(std::string_view name, Arguments &arguments)
     if (name == "ep") return arguments.bareNames = true;
     if (name == "tl") return arguments.timeOfNewest = true;
     if (name == "t") return arguments.test = true;
-    if (name == "m0" || name == "m5") {
-        arguments.pack = name == "m5";
+    if (name == "s" || name == "s-") {
+        arguments.solid = name == "s";
+        return true;
+    }
+    if (name.size() == 2 && name[0] == 'm' && name[1] >= '0' && name[1] <= '5') {
+        arguments.method = static_cast<unsigned>(name[1] - '0');
         return true;
     }
     if (!name.starts_with('v')) return false;
@@ -114,9 +118,11 @@ rar p [SWITCH...] ARCHIVE              print what the files hold
   -ep     leave the paths out of the names
   -idq    print nothing but errors (always so)
   -m0     store (the default)
-  -m5     pack
+  -m1     pack what shrinks by it, as fast as can be; -m2 to -m5 take longer for less
   -o+     overwrite existing files (always so)
   -ol     store symbolic links as links
+  -s      pack files together, in groups of 16 MiB; damage spoils no more than the rest of its group
+  -s-     pack each file by itself (the default)
   -r      include all that is in a folder (always so)
   -t      test the archive before it takes its name
   -tl     give the archive the time of its newest file

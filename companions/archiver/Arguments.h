@@ -14,7 +14,8 @@ struct Arguments {
     Command command = Command::Test;
     std::string archive;
     std::vector<std::string> names; ///< sources to add, or the destination (none: the working folder)
-    bool pack = false;              ///< -m5
+    unsigned method = 0;            ///< -m0 to -m5
+    bool solid = false;             ///< -s
     bool keepLinks = false;         ///< -ol
     bool bareNames = false;         ///< -ep
     bool timeOfNewest = false;      ///< -tl

@@ -26,6 +26,8 @@ public:
     /// Takes the first `size` bytes of `buffer`, to be written where `file` stands, and gives back a buffer
     /// as long, whose content doesn't matter. False with errno set where the write before has failed.
     [[nodiscard]] bool write(int file, ByteBuffer &buffer, std::size_t size);
+    /// Writes, behind all before, bytes that stay the caller's.
+    [[nodiscard]] bool writeAtOnce(int file, Bytes bytes) { return finish() && writeNow(file, bytes); }
     /// Waits until all is written. False with errno set where that failed, once.
     [[nodiscard]] bool finish();
 

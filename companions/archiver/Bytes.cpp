@@ -83,4 +83,30 @@ std::uint32_t crc32(Bytes bytes, std::uint32_t start)
     return libdeflate_crc32(start, bytes.data(), bytes.size());
 }
 
+namespace {
+
+/// Of polynomials modulo that of the checksum; the highest bit stands for 1.
+std::uint32_t multiplied(std::uint32_t one, std::uint32_t other)
+{
+    constexpr std::uint32_t polynomial = 0xEDB88320;
+    std::uint32_t product = 0;
+    for (; one != 0; one <<= 1) {
+        if (one >> 31) product ^= other;
+        other = other >> 1 ^ (other & 1 ? polynomial : 0);
+    }
+    return product;
+}
+
+} // namespace
+
+std::uint32_t joinedCrc32(std::uint32_t first, std::uint32_t second, std::uint64_t secondSize)
+{
+    std::uint32_t shift = 1u << 23; // by a byte, then by two, by four
+    for (; secondSize != 0; secondSize >>= 1) {
+        if (secondSize & 1) first = multiplied(first, shift);
+        shift = multiplied(shift, shift);
+    }
+    return first ^ second;
+}
+
 } // namespace archiver

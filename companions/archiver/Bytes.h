@@ -45,5 +45,7 @@ void putU64(ByteBuffer &into, std::uint64_t value);
 void putVint(ByteBuffer &into, std::uint64_t value, std::size_t width = 1);
 
 [[nodiscard]] std::uint32_t crc32(Bytes bytes, std::uint32_t start = 0);
+/// Of two pieces side by side, from the checksum of each.
+[[nodiscard]] std::uint32_t joinedCrc32(std::uint32_t first, std::uint32_t second, std::uint64_t secondSize);
 
 } // namespace archiver

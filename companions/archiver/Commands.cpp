@@ -88,15 +88,16 @@ void test(VolumeSource &volumes, Diagnostics &diagnostics)
 void add(const Arguments &arguments, Diagnostics &diagnostics)
 {
     OutputVolumes output(arguments.archive, arguments.volumeSize, diagnostics);
+    const bool solid = arguments.solid && arguments.method > 0;
+    if (solid) output.markSolid();
     if (!output.begin()) return;
-    ArchiveWriter writer(
-        output, arguments.pack ? ArchiveWriter::Packing::Pack : ArchiveWriter::Packing::Store, diagnostics);
+    ArchiveWriter writer(output, {arguments.method, solid}, diagnostics);
     Adder adder(writer, output);
     TreeWalker walker(adder, arguments.keepLinks ? TreeWalker::Links::Keep : TreeWalker::Links::Follow,
                       arguments.bareNames ? TreeWalker::Names::Bare : TreeWalker::Names::Path, diagnostics);
     for (const std::string &source : arguments.names)
         if (!walker.walk(source)) return;
-    if (!diagnostics.silent() || !output.finish()) return;
+    if (!writer.finish() || !diagnostics.silent() || !output.finish()) return;
     if (arguments.test) test(*output.written(), diagnostics);
     if (!diagnostics.silent() || interrupted()) return;
     const bool published = output.publish(arguments.timeOfNewest ? writer.newest() : std::nullopt);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Bytes.h"
+#include "PackedBlock.h"
 
 #include <array>
 #include <memory>
@@ -21,6 +21,8 @@ public:
 
     /// The complete block, header included, valid until the next call. `input` holds 1 to blockInput bytes.
     [[nodiscard]] Bytes encode(Bytes input, bool last);
+    /// The same behind other blocks.
+    Bytes encode(Bytes input, bool last, PackedBlocks &into);
 
     /// Bytes that encode() would give, within a few.
     [[nodiscard]] static std::size_t estimate(Bytes input);
@@ -32,7 +34,7 @@ private:
     /// For every two bytes (the first one in the low half of the index) their codes side by side, and in the
     /// lowest 6 bits the length of both.
     std::unique_ptr<std::array<std::uint32_t, 65536>> m_joined;
-    ByteBuffer m_output;
+    PackedBlocks m_own;
 };
 
 } // namespace archiver

@@ -18,6 +18,7 @@ namespace archiver {
 namespace {
 
 constexpr std::size_t bufferSize = 512 << 10;
+constexpr std::size_t worthNoCopy = 128 << 10;
 constexpr std::uint64_t smallestLastVolume = 512; // readers look for the signature of shorter files in vain
 
 /// The written volumes, read through the descriptors that they were written through; messages name the
@@ -106,7 +107,7 @@ bool OutputVolumes::beginVolume()
     m_files.push_back(std::move(file));
     m_position = 0;
     ByteBuffer start(signature.begin(), signature.end());
-    putMainHeader(start, {limited(), m_files.size() - 1});
+    putMainHeader(start, {limited(), m_files.size() - 1, m_solid});
     if (!append(start)) return false;
     m_dataStart = m_position;
     return true;
@@ -143,6 +144,11 @@ bool OutputVolumes::flushWhenFull()
 
 bool OutputVolumes::append(Bytes bytes)
 {
+    if (bytes.size() >= worthNoCopy) {
+        if (!flush()) return false;
+        m_position += bytes.size();
+        return m_writer.writeAtOnce(m_files.back().descriptor(), bytes) || cannotWrite();
+    }
     while (!bytes.empty()) {
         const std::span<std::uint8_t> space = buffer();
         const std::size_t count = std::min(space.size(), bytes.size());
@@ -190,7 +196,7 @@ bool OutputVolumes::finish()
     if (limited() && m_files.size() == 1) {
         // All fits into the first volume: an ordinary archive, then. The header's length is the same.
         ByteBuffer header;
-        putMainHeader(header, {});
+        putMainHeader(header, {.solid = m_solid});
         if (!patch(signature.size(), header)) return false;
     }
     return endVolume(false);

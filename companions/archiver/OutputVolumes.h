@@ -22,6 +22,8 @@ public:
     OutputVolumes(const std::string &archivePath, std::optional<std::uint64_t> volumeSize,
                   Diagnostics &diagnostics);
 
+    /// Says in the volumes' headers, if called before begin(), that files are packed with those before.
+    void markSolid() { m_solid = true; }
     /// Before anything else: finishes what an earlier run for this archive has begun, and removes what it
     /// left.
     [[nodiscard]] bool begin();
@@ -70,6 +72,7 @@ private:
     std::string m_path;
     std::string m_name; ///< the archive's, in its folder
     std::optional<std::uint64_t> m_volumeSize;
+    bool m_solid = false;
     Diagnostics &m_diagnostics;
     base::FileDescriptor m_folder;
     struct stat m_folderStatus {};

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <functional>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -18,7 +19,8 @@ template <typename Job>
 class OrderedWork {
 public:
     /// `work` is called for one job at a time on each of `threads` threads and must not throw; at most
-    /// `depth` jobs are under way. Without a thread the work is done in take().
+    /// `depth` jobs are under way. Without a thread, also where the system gives none, the work is done in
+    /// take().
     OrderedWork(unsigned threads, std::size_t depth, std::function<void(Job &)> work)
         : m_work(std::move(work)), m_jobs(depth), m_done(depth)
     {
@@ -27,8 +29,13 @@ public:
         sigset_t former;
         sigfillset(&all);
         pthread_sigmask(SIG_SETMASK, &all, &former);
-        for (unsigned i = 0; i < threads; ++i)
-            m_threads.emplace_back([this] { run(); });
+        try {
+            m_threads.reserve(threads);
+            for (unsigned i = 0; i < threads; ++i)
+                m_threads.emplace_back([this] { run(); });
+        } catch (const std::system_error &) {
+            // Fewer do as well.
+        }
         pthread_sigmask(SIG_SETMASK, &former, nullptr);
     }
 

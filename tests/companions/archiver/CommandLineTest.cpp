@@ -13,7 +13,7 @@ TEST_F(CommandLine, refusesWhatItDoesNotKnow)
     EXPECT_TRUE(rar({"-h"}).errors.starts_with("\nERROR: Unknown option: h\n"));
     for (const std::string line :
          {"-h", "", "a", "a x.rar", "b x.rar y", "t", "t x.rar y", "lb x.rar y", "x x.rar y z",
-          "a -v x.rar y", "a -v0 x.rar y", "a -v1k x.rar y", "a -v-1 x.rar y", "a -m3 x.rar y"}) {
+          "a -v x.rar y", "a -v0 x.rar y", "a -v1k x.rar y", "a -v-1 x.rar y", "a -m6 x.rar y"}) {
         const CommandResult result =
             runCommand({"sh", "-c", "exec \"$0\" " + line, QUILLORENT_RAR}, {.folder = temporary.path()});
         EXPECT_TRUE(failure(result).starts_with("\nERROR: ")) << line << result.errors;
