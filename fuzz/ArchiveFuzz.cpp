@@ -4,11 +4,12 @@
 #include "ArchiveSeeds.h"
 #include "EntryName.h"
 #include "Extractor.h"
-#include "HuffmanDecoder.h"
 #include "TemporaryFolder.h"
+#include "Unpacker.h"
 #include "VolumeNames.h"
 
 #include <algorithm>
+#include <atomic>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -22,44 +23,54 @@ using namespace archiver;
 
 namespace {
 
-void require(bool condition, const char *what)
+bool require(bool condition, const char *what)
 {
-    if (condition) return;
+    if (condition) return true;
     std::fprintf(stderr, "broken: %s\n", what);
     std::abort();
 }
 
 /// Counts what it is given, and sees that a file ends before the next one begins.
-class Counter final : public EntryReceiver, private ContentSink {
+class Counter final : public EntryReceiver {
 public:
+    explicit Counter(std::atomic<std::uint64_t> &size) : m_size(size) {}
     void folder(const FileHeader &) override { require(!m_open, "a folder inside a file"); }
     void link(const FileHeader &header) override
     {
         require(!m_open && header.link, "a link without a target");
     }
-    ContentSink *beginFile(const FileHeader &) override
+    bool beginFile(const FileHeader &header) override
     {
-        require(!std::exchange(m_open, true), "a file inside a file");
-        return this;
+        m_left = header.sizeUnknown ? mostOfOne : header.unpackedSize;
+        return require(!std::exchange(m_open, true), "a file inside a file");
     }
-    void finishFile(const FileHeader &) override
+    void finishFile(const FileHeader &header) override
     {
         require(std::exchange(m_open, false), "an end without a file");
+        require(header.sizeUnknown || m_left == 0, "a file that isn't whole");
     }
     void abandonFile() override { require(std::exchange(m_open, false), "an end without a file"); }
-    [[nodiscard]] std::uint64_t size() const { return m_size; }
-
-private:
     bool write(Bytes bytes) override
     {
-        require(m_open, "content without a file");
+        require(m_open && bytes.size() <= m_left, "content without a file, or more than it has");
+        m_left -= bytes.size();
         m_size += bytes.size();
-        return true;
+        return m_size < mostOfAll;
     }
 
+private:
+    static constexpr std::uint64_t mostOfOne = 1ull << 62;
+    static constexpr std::uint64_t mostOfAll = 64 << 20;
+    std::atomic<std::uint64_t> &m_size;
+    std::uint64_t m_left = 0;
     bool m_open = false;
-    std::uint64_t m_size = 0;
 };
+
+/// Of all threads together.
+EntryReceivers counters(std::atomic<std::uint64_t> &size, bool inOrder)
+{
+    return {[&size](Diagnostics &) { return std::make_unique<Counter>(size); }, inOrder};
+}
 
 void testInMemory(const ArchiveInput &input)
 {
@@ -69,9 +80,8 @@ void testInMemory(const ArchiveInput &input)
     std::string messages;
     Diagnostics diagnostics(messages);
     MemoryVolumes volumes(input.volumes);
-    Counter counter;
-    processVolumes(volumes, counter, diagnostics);
-    require(counter.size() <= 8 * size, "no symbol is shorter than a bit");
+    std::atomic<std::uint64_t> count = 0;
+    processVolumes(volumes, counters(count, input.flags & ArchiveInput::flat), diagnostics);
     require(messages.size() <= 1000 + 10 * size, "messages without end");
 }
 
@@ -121,8 +131,8 @@ void processOnDisk(const ArchiveInput &input)
     }
     std::string messages;
     Diagnostics diagnostics(messages);
-    Counter counter;
-    processArchive(first, counter, diagnostics);
+    std::atomic<std::uint64_t> count = 0;
+    processArchive(first, counters(count, input.flags & ArchiveInput::flat), diagnostics);
 
     const fs::path parent = folder / "parent";
     fs::create_directories(parent / "out");
@@ -130,9 +140,9 @@ void processOnDisk(const ArchiveInput &input)
     Destination destination;
     require(destination.open(parent / "out"), "no destination");
     const bool flat = input.flags & ArchiveInput::flat;
-    Extractor extractor(destination, flat ? Extractor::Paths::Drop : Extractor::Paths::Keep, diagnostics);
-    processArchive(first, extractor, diagnostics);
-    extractor.finish();
+    Extractor extractor(destination, flat ? Extractor::Paths::Drop : Extractor::Paths::Keep);
+    processArchive(first, extractor.receivers(), diagnostics);
+    extractor.finish(diagnostics);
     guard.check();
 }
 
@@ -143,42 +153,91 @@ void processArchiveInput(InputKind kind, Bytes bytes)
     kind == InputKind::InMemory ? testInMemory(input) : processOnDisk(input);
 }
 
+/// Keeps some content.
+class Text final : public ContentSink {
+public:
+    ByteBuffer content;
+    bool write(Bytes bytes) override
+    {
+        putBytes(content, bytes);
+        return content.size() < most;
+    }
+
+private:
+    static constexpr std::size_t most = 16 << 20;
+};
+
+/// In buffers of their own, so that a read too far is seen.
+ByteBuffer padded(Bytes payload)
+{
+    ByteBuffer copy(payload.begin(), payload.end());
+    copy.resize(payload.size() + BitReader::padding);
+    return copy;
+}
+
+/// The block as a thread unpacks it that knows none of the others; false where it can't.
+bool unpackAlone(const ByteBuffer &payload, const BlockHeader &header, Unpacker &unpacker, Text &text)
+{
+    BitReader bits(Bytes(payload).first(payload.size() - BitReader::padding), header);
+    CodeLengths lengths{};
+    auto codes = std::make_unique<BlockCodes>();
+    if (!header.hasTables || !readCodeLengths(bits, lengths) || !areLiteralsOnly(lengths) ||
+        !codes->build(lengths, payload.size()))
+        return false;
+    ByteBuffer literals(mostLiterals(bits.left(), lengths) + 8);
+    const auto count = unpackLiteralBlock(bits, *codes, literals);
+    if (!count) return false;
+    if (unpacker.onlyLiterals()) putBytes(text.content, Bytes(literals).first(*count));
+    return unpacker.literals(literals, *count, lengths, text) == Unpacker::Outcome::Unpacked;
+}
+
+/// Entries of blocks, twice: the second time, blocks of literals are unpacked by themselves.
 void unpackBlocks(Bytes bytes)
 {
-    HuffmanDecoder decoder;
-    ByteBuffer output(64 << 10);
-    while (const std::optional<BlockHeader> header = parseBlockHeader(bytes)) {
-        bytes = bytes.subspan(header->headerSize);
-        const Bytes payload = bytes.first(std::min(bytes.size(), header->payloadSize));
-        bytes = bytes.subspan(payload.size());
-        // In a buffer of its own, so that a read too far is seen.
-        ByteBuffer padded(payload.begin(), payload.end());
-        padded.resize(payload.size() + HuffmanDecoder::padding);
-        if (decoder.start(Bytes(padded).first(payload.size()), *header) != HuffmanDecoder::Start::Ready)
-            return;
-        std::size_t size = 0;
-        while (const std::size_t count = decoder.decode(output))
-            size += count;
-        require(size <= 8 * payload.size(), "no symbol is shorter than a bit");
+    ByteReader reader(bytes);
+    Unpacker plain;
+    Unpacker mixed;
+    while (reader.remaining() > 0) {
+        const unsigned options = reader.u8();
+        const std::uint64_t dictionary = std::uint64_t{128 << 10} << (options >> 1 & 7);
+        Text text;
+        Text same;
+        plain.begin(dictionary, options & 1);
+        mixed.begin(dictionary, options & 1);
+        auto outcome = Unpacker::Outcome::Unpacked;
+        for (BlockHeader header; !header.last && outcome == Unpacker::Outcome::Unpacked;) {
+            const unsigned flags = reader.u8();
+            header.usedBitsInLastByte = (flags & 7) + 1;
+            header.last = flags & 0x40;
+            header.hasTables = flags & 0x80;
+            const ByteBuffer payload =
+                padded(reader.take(std::min<std::size_t>(reader.u16(), reader.remaining())));
+            const Bytes block = Bytes(payload).first(payload.size() - BitReader::padding);
+            outcome = plain.block(block, header, text);
+            if (!unpackAlone(payload, header, mixed, same))
+                require(mixed.block(block, header, same) == outcome, "one outcome both ways");
+            if (reader.remaining() == 0) break;
+        }
+        if (outcome != Unpacker::Outcome::Unpacked) return;
+        outcome = plain.end(text);
+        require(mixed.end(same) == outcome && text.content == same.content, "one content both ways");
+        if (outcome != Unpacker::Outcome::Unpacked) return;
     }
 }
 
 /// Keeps the content of the one file that it expects.
-class Collector final : public EntryReceiver, private ContentSink {
+class Collector final : public EntryReceiver {
 public:
-    void folder(const FileHeader &) override {}
-    void link(const FileHeader &) override {}
-    ContentSink *beginFile(const FileHeader &) override { return this; }
-    void finishFile(const FileHeader &) override {}
-    void abandonFile() override {}
-    ByteBuffer content;
-
-private:
+    explicit Collector(ByteBuffer &content) : m_content(content) {}
+    bool beginFile(const FileHeader &) override { return true; }
     bool write(Bytes bytes) override
     {
-        putBytes(content, bytes);
+        putBytes(m_content, bytes);
         return true;
     }
+
+private:
+    ByteBuffer &m_content;
 };
 
 void roundTrip(Bytes bytes)
@@ -199,9 +258,10 @@ void roundTrip(Bytes bytes)
         volume == 0 ? std::nullopt : std::optional(200 + volume * (1 + content.size() / 5000));
     const std::vector<ByteBuffer> volumes = writeVolumes(content, packing, volumeSize, diagnostics);
     MemoryVolumes source(volumes);
-    Collector collector;
-    processVolumes(source, collector, diagnostics);
-    require(messages.empty() && collector.content == content, "what was archived comes back");
+    ByteBuffer found;
+    const auto make = [&found](Diagnostics &) { return std::make_unique<Collector>(found); };
+    processVolumes(source, {make}, diagnostics);
+    require(messages.empty() && found == content, "what was archived comes back");
 }
 
 void storeName(Bytes bytes)

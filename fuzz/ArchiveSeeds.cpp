@@ -3,6 +3,7 @@
 #include "ArchiveInput.h"
 #include "HuffmanEncoder.h"
 #include "TemporaryFolder.h"
+#include "TokenStream.h"
 
 namespace fs = std::filesystem;
 using namespace archiver;
@@ -45,6 +46,51 @@ Entry file(const std::string &name, const ByteBuffer &content, bool packed = fal
     if (packed) entry.header.method = HuffmanEncoder::method;
     if (packed) entry.header.dictionary = HuffmanEncoder::dictionary;
     return entry;
+}
+
+/// Packed with everything that there is: matches, old ones, filters, blocks with tables and without.
+TokenStream tokens(const std::string &before)
+{
+    TokenStream stream(before);
+    for (const unsigned kind : {0u, 1u, 2u, 3u}) {
+        if (kind % 2 == 0) stream.codes(kind ? 9 : 13);
+        stream.filter(3, 40, kind, 2);
+        for (const char byte : std::string("\xE8 some \0 text\xEB", 15))
+            stream.literal(byte);
+        stream.match(7, 6);
+        stream.match(1, 300);
+        stream.same();
+        stream.again(1, 9);
+        stream.endBlock(false);
+    }
+    stream.match(600, 12);
+    stream.endBlock(true);
+    return stream;
+}
+
+Entry tokenFile(const std::string &name, const TokenStream &stream, bool solid)
+{
+    Entry entry = file(name, ByteBuffer(stream.content().size()));
+    entry.header.crc.reset();
+    entry.data.assign(stream.packed().begin(), stream.packed().end());
+    entry.header.packedSize = entry.data.size();
+    entry.header.method = 3;
+    entry.header.solid = solid;
+    return entry;
+}
+
+/// As the target for blocks reads them.
+ByteBuffer bareBlocks(std::string packed, std::uint8_t options)
+{
+    ByteBuffer blocks{options};
+    while (packed.size() > 5) {
+        const std::size_t size =
+            static_cast<unsigned char>(packed[2]) | std::size_t(static_cast<unsigned char>(packed[3])) << 8;
+        packed.erase(1, 1).erase(3, 1);
+        putText(blocks, packed.substr(0, 3 + size));
+        packed.erase(0, 3 + size);
+    }
+    return blocks;
 }
 
 Entry folder(const std::string &name)
@@ -113,6 +159,10 @@ std::vector<std::vector<ByteBuffer>> archives()
         {archive({file("folder\\old", text(20)), link("empty", Kind::Hard, ""), older, folder("folder"),
                   file(wide, text(5))},
                  olderFormat)},
+        {archive({tokenFile("first", tokens({}), false), file("between", text(9)),
+                  tokenFile("second", tokens(tokens({}).window()), true)},
+                 presentFormat, {.solid = true})},
+        volumes(tokenFile("token", tokens({}), false), presentFormat),
         volumes(solid, presentFormat),
         volumes(older, olderFormat),
         writeVolumes(text(900), {.method = 0}, 400, diagnostics),
@@ -135,7 +185,9 @@ void writeSeeds(const fs::path &folder)
         putBytes(seeds.back(), options);
         putBytes(seeds.back(), content);
     };
-    add(InputKind::Blocks, {}, packedBlocks(text(700)));
+    ByteBuffer entries = bareBlocks(tokens({}).packed(), 2);
+    putBytes(entries, bareBlocks(tokens(tokens({}).window()).packed(), 1));
+    add(InputKind::Blocks, {}, entries);
     add(InputKind::RoundTrip, {0, 0}, text(700));
     add(InputKind::RoundTrip, {0xFF, 0}, text(3000)); // more than a block
     add(InputKind::RoundTrip, {0xFE, 200}, text(3000));

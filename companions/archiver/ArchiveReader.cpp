@@ -29,6 +29,15 @@ bool ArchiveReader::cannotOpen(std::size_t index)
     return m_diagnostics.reportSystem(message);
 }
 
+bool ArchiveReader::cannotRead(const std::string &what)
+{
+    const std::string name = printable(m_volumes.name(m_volume));
+    m_failed = true;
+    if (m_window.error() == 0) return m_diagnostics.report(what + "Unexpected end of archive " + name);
+    errno = m_window.error();
+    return m_diagnostics.reportSystem("Cannot read " + name);
+}
+
 bool ArchiveReader::open()
 {
     std::unique_ptr<ByteSource> source = m_volumes.open(0);
@@ -62,6 +71,7 @@ bool ArchiveReader::readMainHeader(std::size_t index)
         return fail(name + " is volume " + std::to_string(told + 1) + " of a set, where volume " +
                     std::to_string(index + 1) + " was expected");
     m_isVolume = header->volume;
+    m_isSolid = m_isSolid || header->solid;
     return skipData(frame->dataSize);
 }
 
@@ -70,28 +80,15 @@ std::optional<HeaderFrame> ArchiveReader::readFrame()
     constexpr std::size_t shortest = 7; // of all headers; it has its size
     const Bytes start = m_window.peek(shortest);
     const auto damaged = [this] {
-        if (m_window.error() != 0) {
-            errno = m_window.error();
-            m_failed = true;
-            m_diagnostics.reportSystem("Cannot read " + printable(m_volumes.name(m_volume)));
-        } else {
-            fail("Corrupt header in " + printable(m_volumes.name(m_volume)) + ": checksum error");
-        }
+        fail("Corrupt header in " + printable(m_volumes.name(m_volume)) + ": checksum error");
         return std::nullopt;
     };
-    if (start.size() < shortest && m_window.error() == 0) {
-        fail("Unexpected end of archive " + printable(m_volumes.name(m_volume)));
-        return std::nullopt;
-    }
+    if (start.size() < shortest) return cannotRead(), std::nullopt;
     const std::optional<std::size_t> length = m_format->length(start);
     if (!length) return damaged();
     const Bytes bytes = m_window.peek(*length);
-    if (bytes.size() < *length && m_window.error() == 0) {
-        fail("Unexpected end of archive " + printable(m_volumes.name(m_volume)));
-        return std::nullopt;
-    }
-    std::optional<HeaderFrame> frame =
-        bytes.size() < *length ? std::nullopt : m_format->frame(bytes.first(*length));
+    if (bytes.size() < *length) return cannotRead(), std::nullopt;
+    std::optional<HeaderFrame> frame = m_format->frame(bytes.first(*length));
     if (!frame) return damaged();
     m_window.skip(*length); // the bytes stay where they are until the next peek
     return frame;
@@ -137,11 +134,10 @@ bool ArchiveReader::acceptEntry(const HeaderFrame &frame)
     if (header->continuesAfter && !m_isVolume)
         return fail("Corrupt file header of " + printable(header->name));
     m_entry = std::move(*header);
+    m_isSolid = m_isSolid || m_entry.solid;
     m_partLeft = m_entry.packedSize;
     m_partCrc = 0;
     m_partSkipped = false;
-    m_gathered.clear();
-    m_gatheredUsed = 0;
     return true;
 }
 
@@ -219,59 +215,29 @@ bool ArchiveReader::findContinuation()
     }
 }
 
-Bytes ArchiveReader::available(std::size_t wanted)
+Bytes ArchiveReader::peek(std::size_t wanted)
 {
     const Bytes bytes = m_window.peek(static_cast<std::size_t>(std::min<std::uint64_t>(wanted, m_partLeft)));
     return bytes.first(static_cast<std::size_t>(std::min<std::uint64_t>(bytes.size(), m_partLeft)));
 }
 
-Bytes ArchiveReader::packed(std::size_t wanted)
+std::size_t ArchiveReader::read(std::span<std::uint8_t> into)
 {
-    if (m_failed) return {};
-    if (m_gatheredUsed < m_gathered.size()) return gather(wanted);
-    while (m_partLeft == 0 && m_entry.continuesAfter)
-        if (!continueInNextVolume()) return {};
-    if (m_partLeft == 0) return {};
-    if (wanted > m_partLeft && m_entry.continuesAfter) return gather(wanted);
-    const Bytes bytes = available(wanted);
-    if (bytes.size() >= std::min<std::uint64_t>(wanted, m_partLeft)) return bytes;
-    if (m_window.error() != 0) {
-        errno = m_window.error();
-        m_failed = true;
-        m_diagnostics.reportSystem("Cannot read " + printable(m_volumes.name(m_volume)));
-    } else {
-        fail(printable(m_entry.name) + ": Unexpected end of archive " + printable(m_volumes.name(m_volume)));
+    std::size_t done = 0;
+    while (done < into.size() && !m_failed) {
+        if (m_partLeft == 0) {
+            if (!m_entry.continuesAfter || !continueInNextVolume()) break;
+            continue;
+        }
+        const std::uint64_t most = std::min<std::uint64_t>(into.size() - done, m_partLeft);
+        const std::span<std::uint8_t> part = into.subspan(done, static_cast<std::size_t>(most));
+        const std::size_t count = m_window.read(part);
+        if (m_entry.continuesAfter) m_partCrc = crc32(part.first(count), m_partCrc);
+        m_partLeft -= count;
+        done += count;
+        if (count < part.size()) cannotRead(printable(m_entry.name) + ": ");
     }
-    return {};
-}
-
-Bytes ArchiveReader::gather(std::size_t wanted)
-{
-    m_gathered.erase(m_gathered.begin(), m_gathered.begin() + static_cast<std::ptrdiff_t>(m_gatheredUsed));
-    m_gatheredUsed = 0;
-    ByteBuffer gathered = std::move(m_gathered);
-    m_gathered.clear();
-    while (gathered.size() < wanted) {
-        const Bytes bytes = packed(1);
-        if (bytes.empty()) break;
-        const std::size_t count = std::min(bytes.size(), wanted - gathered.size());
-        putBytes(gathered, bytes.first(count));
-        consume(count);
-    }
-    if (m_failed) return {};
-    m_gathered = std::move(gathered);
-    return m_gathered;
-}
-
-void ArchiveReader::consume(std::size_t count)
-{
-    if (m_gatheredUsed < m_gathered.size()) {
-        m_gatheredUsed += count;
-        return;
-    }
-    if (m_entry.continuesAfter) m_partCrc = crc32(m_window.peek(count).first(count), m_partCrc);
-    m_window.skip(count);
-    m_partLeft -= count;
+    return m_failed ? 0 : done;
 }
 
 } // namespace archiver

@@ -21,6 +21,9 @@ public:
     /// How its headers are written.
     [[nodiscard]] const HeaderFormat &format() const { return *m_format; }
 
+    /// Whether it says that entries share dictionaries.
+    [[nodiscard]] bool isSolid() const { return m_isSolid; }
+
     enum class Step { Entry, End, Failed };
     /// Goes to the next entry, past what is left of the present one. Failed has been reported.
     [[nodiscard]] Step next();
@@ -31,10 +34,12 @@ public:
     /// volumes; none has been reported.
     [[nodiscard]] std::optional<std::uint64_t> skipEntry();
 
-    /// At least `wanted` bytes of the entry's packed data, from all volumes that it spans; fewer at its end
-    /// only, and none after a fault (see failed()). They are valid until the next call.
-    [[nodiscard]] Bytes packed(std::size_t wanted = 1);
-    void consume(std::size_t count);
+    /// Reads as much of the entry's packed data, from all volumes that it spans, as there is room for; less
+    /// at its end only, and nothing after a fault (see failed()).
+    [[nodiscard]] std::size_t read(std::span<std::uint8_t> into);
+    /// Up to `wanted` bytes of what comes next in this volume, without going past them. Valid until the next
+    /// call.
+    [[nodiscard]] Bytes peek(std::size_t wanted);
     /// Whether the walk has ended in a fault, which has been reported.
     [[nodiscard]] bool failed() const { return m_failed; }
 
@@ -51,8 +56,7 @@ private:
     bool continueInNextVolume();
     bool findEndOfVolume();
     bool findContinuation();
-    [[nodiscard]] Bytes available(std::size_t wanted);
-    [[nodiscard]] Bytes gather(std::size_t wanted);
+    bool cannotRead(const std::string &what = {});
 
     VolumeSource &m_volumes;
     Diagnostics &m_diagnostics;
@@ -60,13 +64,12 @@ private:
     SourceWindow m_window;
     std::size_t m_volume = 0;
     bool m_isVolume = false;
+    bool m_isSolid = false;
     bool m_failed = false;
     FileHeader m_entry;
     std::uint64_t m_partLeft = 0; ///< packed bytes of the entry still to read in this volume
     std::uint32_t m_partCrc = 0;  ///< of those read so far, where the entry goes on in the next volume
     bool m_partSkipped = false;   ///< some of them were not looked at
-    ByteBuffer m_gathered;        ///< packed bytes from two volumes side by side
-    std::size_t m_gatheredUsed = 0;
 };
 
 } // namespace archiver

@@ -64,6 +64,24 @@ void SourceWindow::skip(std::uint64_t count)
     m_end = 0;
 }
 
+std::size_t SourceWindow::read(std::span<std::uint8_t> into)
+{
+    // What is long goes past the buffer.
+    const std::size_t wanted = into.size() < windowSize / 2 ? into.size() : 0;
+    const Bytes buffered = peek(wanted);
+    const Bytes first = buffered.first(std::min(buffered.size(), into.size()));
+    std::ranges::copy(first, into.begin());
+    skip(first.size());
+    const std::span<std::uint8_t> rest = into.subspan(first.size());
+    if (rest.empty() || m_error != 0 || !m_source) return first.size();
+    const ssize_t count = m_source->read(m_position, rest);
+    if (count < 0)
+        m_error = errno;
+    else
+        skip(static_cast<std::size_t>(count));
+    return first.size() + static_cast<std::size_t>(std::max<ssize_t>(count, 0));
+}
+
 std::uint64_t SourceWindow::left() const
 {
     const std::uint64_t size = m_source ? m_source->size() : 0;

@@ -46,6 +46,8 @@ public:
     /// before or can't be read. Valid until the next call.
     Bytes peek(std::size_t wanted);
     void skip(std::uint64_t count);
+    /// Goes past as many bytes as `into` has, which are copied there; how many there were.
+    std::size_t read(std::span<std::uint8_t> into);
     [[nodiscard]] std::uint64_t left() const;
     /// errno of a read that failed, else 0.
     [[nodiscard]] int error() const { return m_error; }

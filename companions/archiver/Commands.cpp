@@ -2,13 +2,11 @@
 
 #include "ArchiveProcessor.h"
 #include "ArchiveWriter.h"
-#include "EntryLister.h"
 #include "Extractor.h"
 #include "FileDescriptor.h"
 #include "Interrupt.h"
 #include "TreeWalker.h"
 
-#include <algorithm>
 #include <unistd.h>
 
 namespace archiver {
@@ -44,45 +42,20 @@ private:
 };
 
 /// Prints the content of files, as it comes: what is wrong with it shows at its end.
-class EntryPrinter final : public EntryReceiver, public ContentSink {
+class EntryPrinter final : public EntryReceiver {
 public:
     explicit EntryPrinter(Diagnostics &diagnostics) : m_diagnostics(diagnostics) {}
 
-    void folder(const FileHeader &) override {}
-    void link(const FileHeader &) override {}
-    /// What comes once again is not printed again.
-    ContentSink *beginFile(const FileHeader &header) override
-    {
-        if (header.name != m_name) m_printed = 0;
-        m_name = header.name;
-        m_seen = 0;
-        return this;
-    }
-    void finishFile(const FileHeader &) override { m_name.clear(); }
-    void abandonFile() override {}
+    bool beginFile(const FileHeader &) override { return true; }
     bool write(Bytes bytes) override
     {
-        m_seen += bytes.size();
-        if (m_seen <= m_printed) return true;
-        const Bytes fresh = bytes.last(std::min<std::uint64_t>(bytes.size(), m_seen - m_printed));
-        m_printed = m_seen;
-        if (base::writeFully(STDOUT_FILENO, fresh)) return true;
-        m_diagnostics.reportSystem("Cannot print the content");
-        return false;
+        if (base::writeFully(STDOUT_FILENO, bytes)) return true;
+        return m_diagnostics.reportSystem("Cannot print the content");
     }
 
 private:
     Diagnostics &m_diagnostics;
-    std::string m_name;          ///< of the file under way; empty: it came to its end
-    std::uint64_t m_seen = 0;    ///< of its bytes, in this attempt
-    std::uint64_t m_printed = 0; ///< of its bytes, in all
 };
-
-void test(VolumeSource &volumes, Diagnostics &diagnostics)
-{
-    EntryTester tester;
-    processVolumes(volumes, tester, diagnostics);
-}
 
 /// An archive that misses something is none: nothing takes its name unless all went well.
 void add(const Arguments &arguments, Diagnostics &diagnostics)
@@ -98,7 +71,7 @@ void add(const Arguments &arguments, Diagnostics &diagnostics)
     for (const std::string &source : arguments.names)
         if (!walker.walk(source)) return;
     if (!writer.finish() || !diagnostics.silent() || !output.finish()) return;
-    if (arguments.test) test(*output.written(), diagnostics);
+    if (arguments.test) processVolumes(*output.written(), entryTesters(), diagnostics);
     if (!diagnostics.silent() || interrupted()) return;
     const bool published = output.publish(arguments.timeOfNewest ? writer.newest() : std::nullopt);
     static_cast<void>(published); // reported
@@ -113,16 +86,36 @@ void extract(const Arguments &arguments, Diagnostics &diagnostics)
         return;
     }
     const bool paths = arguments.command == Arguments::Command::ExtractPaths;
-    Extractor extractor(destination, paths ? Extractor::Paths::Keep : Extractor::Paths::Drop, diagnostics);
-    processArchive(arguments.archive, extractor, diagnostics);
-    extractor.finish();
+    Extractor extractor(destination, paths ? Extractor::Paths::Keep : Extractor::Paths::Drop);
+    processArchive(arguments.archive, extractor.receivers(), diagnostics);
+    extractor.finish(diagnostics);
 }
 
+/// The names are the bytes that they have on disk.
 void list(const std::string &archive, Diagnostics &diagnostics)
 {
-    EntryLister lister(diagnostics);
-    processArchive(archive, lister, diagnostics);
-    lister.finish();
+    ByteBuffer lines;
+    bool isDone = true; // one message is enough
+    const auto print = [&] {
+        const bool wasDone = isDone;
+        isDone = isDone && base::writeFully(STDOUT_FILENO, lines);
+        if (wasDone && !isDone) diagnostics.reportSystem("Cannot write the list");
+        lines.clear();
+    };
+    const auto add = [&](const FileHeader &header) {
+        constexpr std::size_t enough = 64 << 10; // for one call of the system
+        putText(lines, header.name);
+        lines.push_back('\n');
+        if (lines.size() >= enough) print();
+    };
+    visitEntries(archive, add, diagnostics);
+    print();
+}
+
+void print(const std::string &archive, Diagnostics &diagnostics)
+{
+    const auto make = [](Diagnostics &each) { return std::make_unique<EntryPrinter>(each); };
+    processArchive(archive, {make, true}, diagnostics);
 }
 
 } // namespace
@@ -132,19 +125,15 @@ void runCommand(const Arguments &arguments, Diagnostics &diagnostics)
     switch (arguments.command) {
     case Arguments::Command::Add:
         return add(arguments, diagnostics);
-    case Arguments::Command::Test: {
-        EntryTester tester;
-        return processArchive(arguments.archive, tester, diagnostics);
-    }
+    case Arguments::Command::Test:
+        return processArchive(arguments.archive, entryTesters(), diagnostics);
     case Arguments::Command::ExtractFlat:
     case Arguments::Command::ExtractPaths:
         return extract(arguments, diagnostics);
     case Arguments::Command::ListNames:
         return list(arguments.archive, diagnostics);
-    case Arguments::Command::Print: {
-        EntryPrinter printer(diagnostics);
-        return processArchive(arguments.archive, printer, diagnostics);
-    }
+    case Arguments::Command::Print:
+        return print(arguments.archive, diagnostics);
     }
 }
 

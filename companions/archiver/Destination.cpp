@@ -26,6 +26,8 @@ bool makeFolders(const std::string &path)
 
 } // namespace
 
+Destination::Destination(const Destination &other) : m_root(fcntl(other.m_root.get(), F_DUPFD_CLOEXEC, 0)) {}
+
 bool Destination::open(const std::string &path)
 {
     m_root = base::FileDescriptor(::open(path.c_str(), folderFlags));
@@ -80,13 +82,6 @@ bool Destination::descend(const std::string &name)
     if (!folder || !m_chain.push(std::move(folder))) return false;
     m_names.push_back(name);
     return true;
-}
-
-int Destination::root()
-{
-    m_names.clear();
-    static_cast<void>(m_chain.shorten(0));
-    return m_root.get();
 }
 
 } // namespace archiver

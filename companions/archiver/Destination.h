@@ -13,6 +13,12 @@ namespace archiver {
 /// before it, and a symbolic link is never followed. Failures are left in errno.
 class Destination {
 public:
+    Destination() = default;
+    /// The same folder, for another thread; none where it can't be opened again.
+    Destination(const Destination &other);
+    Destination &operator=(const Destination &) = delete;
+    ~Destination() = default;
+
     /// Opens `path`, made with all folders above it where it is missing.
     [[nodiscard]] bool open(const std::string &path);
 
@@ -29,8 +35,8 @@ public:
     [[nodiscard]] std::size_t depth() const { return m_names.size(); }
     [[nodiscard]] std::size_t made() const { return m_made; }
 
-    /// The folder below which all this is, open; those that parentOf() opened are closed.
-    [[nodiscard]] int root();
+    /// The folder below which all this is, open.
+    [[nodiscard]] int root() const { return m_root.get(); }
 
 private:
     bool descend(const std::string &name);

@@ -1,6 +1,6 @@
 #include "Diagnostics.h"
 
-#include "Utf8.h"
+#include "EntryName.h"
 
 #include <array>
 #include <cerrno>
@@ -11,18 +11,24 @@ namespace archiver {
 
 bool Diagnostics::report(std::string_view message)
 {
-    ++m_count;
     std::string line = "\n";
     line += message;
     line += '\n';
+    repeat(line);
+    return false;
+}
+
+void Diagnostics::repeat(std::string_view messages)
+{
+    if (messages.empty()) return;
+    ++m_count;
     if (m_collected) {
-        *m_collected += line;
-        return false;
+        *m_collected += messages;
+        return;
     }
     // One call for each message: several archivers may share a pipe.
-    const ssize_t written = write(STDERR_FILENO, line.data(), line.size());
+    const ssize_t written = write(STDERR_FILENO, messages.data(), messages.size());
     static_cast<void>(written); // the exit status still tells
-    return false;
 }
 
 bool Diagnostics::reportSystem(std::string_view message)
@@ -39,7 +45,7 @@ std::string printable(std::string_view name)
     std::string text;
     if (name.size() > longest) return printable(name.substr(0, longest)) + "…";
     while (!name.empty()) {
-        const std::size_t length = utf8::sequenceLength(name);
+        const std::size_t length = utf8Length(name);
         const auto byte = static_cast<unsigned char>(name.front());
         if (length == 0 || byte < 0x20 || byte == 0x7f) {
             text += {'\\', 'x', digits[byte >> 4], digits[byte & 15]};

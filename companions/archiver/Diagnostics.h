@@ -17,6 +17,8 @@ public:
     bool report(std::string_view message);
     /// Adds what errno says: "MESSAGE: No such file or directory". Always false.
     bool reportSystem(std::string_view message);
+    /// What other diagnostics collected.
+    void repeat(std::string_view messages);
 
     [[nodiscard]] bool silent() const { return m_count == 0; }
 

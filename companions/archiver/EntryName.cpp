@@ -1,12 +1,15 @@
 #include "EntryName.h"
 
-#include "Utf8.h"
-
 #include <algorithm>
 
 namespace archiver {
 
 namespace {
+
+bool inRange(unsigned char byte, unsigned char low, unsigned char high)
+{
+    return byte >= low && byte <= high;
+}
 
 constexpr std::string_view marker = "\xEF\xBF\xBE"; // U+FFFE
 
@@ -34,6 +37,29 @@ char mappedByte(std::string_view sequence)
 
 } // namespace
 
+std::size_t utf8Length(std::string_view text)
+{
+    if (text.empty()) return 0;
+    const auto at = [text](std::size_t index) {
+        return index < text.size() ? static_cast<unsigned char>(text[index]) : static_cast<unsigned char>(0);
+    };
+    const auto continues = [at](std::size_t index) { return inRange(at(index), 0x80, 0xBF); };
+    const unsigned char first = at(0);
+    if (first < 0x80) return 1;
+    if (inRange(first, 0xC2, 0xDF)) return continues(1) ? 2 : 0;
+    if (inRange(first, 0xE0, 0xEF)) {
+        const unsigned char low = first == 0xE0 ? 0xA0 : 0x80;
+        const unsigned char high = first == 0xED ? 0x9F : 0xBF; // no surrogates
+        return inRange(at(1), low, high) && continues(2) ? 3 : 0;
+    }
+    if (inRange(first, 0xF0, 0xF4)) {
+        const unsigned char low = first == 0xF0 ? 0x90 : 0x80;
+        const unsigned char high = first == 0xF4 ? 0x8F : 0xBF;
+        return inRange(at(1), low, high) && continues(2) && continues(3) ? 4 : 0;
+    }
+    return 0;
+}
+
 std::string encodeName(std::string_view bytes)
 {
     std::string name;
@@ -41,7 +67,7 @@ std::string encodeName(std::string_view bytes)
     bool marked = false;
     bool componentIsMarked = false;
     while (!bytes.empty()) {
-        const std::size_t length = utf8::sequenceLength(bytes);
+        const std::size_t length = utf8Length(bytes);
         const std::string_view sequence = bytes.substr(0, std::max<std::size_t>(length, 1));
         if (sequence == "/") componentIsMarked = false;
         // A name may really hold the marker, or the mapped characters: those have to survive as well.
@@ -67,8 +93,7 @@ std::string decodeName(std::string_view stored)
     bool marked = false;
     bool componentIsMarked = false;
     while (!stored.empty()) {
-        const std::string_view sequence =
-            stored.substr(0, std::max<std::size_t>(utf8::sequenceLength(stored), 1));
+        const std::string_view sequence = stored.substr(0, std::max<std::size_t>(utf8Length(stored), 1));
         if (sequence == "/") componentIsMarked = false;
         if (!componentIsMarked && sequence == marker)
             marked = componentIsMarked = true;

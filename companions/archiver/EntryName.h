@@ -5,6 +5,9 @@
 
 namespace archiver {
 
+/// Bytes of the well-formed sequence (Unicode, table 3-7) at the start of `text`; 0 where there is none.
+[[nodiscard]] std::size_t utf8Length(std::string_view text);
+
 // RAR 5 stores names as UTF-8; a name on disk is any bytes. What is not UTF-8 follows a U+FFFE in its
 // component of the path, each byte b as U+E000 + b, as other archivers of the format do it.
 

@@ -2,107 +2,121 @@
 
 #include "Interrupt.h"
 
-#include <algorithm>
+#include <limits>
 
 namespace archiver {
 
-namespace {
-
-constexpr std::size_t outputSize = 64 << 10; // stays in the nearest cache until its checksum is taken
-
-} // namespace
-
-EntryUnpacker::EntryUnpacker(Diagnostics &diagnostics) : m_diagnostics(diagnostics), m_output(outputSize) {}
-
-EntryUnpacker::Result EntryUnpacker::unpack(ArchiveReader &reader, ContentSink &sink)
+EntryUnpacker::EntryUnpacker(EntryReceiver &receiver, Diagnostics &diagnostics)
+    : m_receiver(receiver), m_diagnostics(diagnostics)
 {
-    m_size = 0;
-    m_crc = 0;
-    if (reader.entry().encrypted) {
-        m_diagnostics.report(printable(reader.entry().name) +
-                             " is encrypted by the archiver, which is not supported");
-        return Result::Failed;
-    }
-    const FileHeader &entry = reader.entry();
-    const bool isEmpty = entry.packedSize == 0 && entry.unpackedSize == 0 && !entry.continuesAfter;
-    if (!entry.stored() && !isEmpty && (entry.solid || entry.older)) return Result::NeedsDictionary;
-    const Result result = entry.stored() || isEmpty ? unpackStored(reader, sink) : unpackBlocks(reader, sink);
-    return result == Result::Whole ? check(reader.entry()) : result;
 }
 
-EntryUnpacker::Result EntryUnpacker::unpackStored(ArchiveReader &reader, ContentSink &sink)
+bool EntryUnpacker::canUnpack(const FileHeader &entry)
 {
-    for (;;) {
-        const Bytes bytes = reader.packed();
-        if (bytes.empty()) return reader.failed() ? Result::Failed : Result::Whole;
-        if (!deliver(bytes, sink)) return Result::Failed;
-        reader.consume(bytes.size());
-    }
+    const auto refuse = [&](const std::string &why) {
+        return m_diagnostics.report(printable(entry.name) + why);
+    };
+    if (entry.encrypted) return refuse(" is encrypted by the archiver, which is not supported");
+    if (!m_isPacked) return true;
+    if (entry.version > 0) return refuse(" is packed in a way that only the archiver that made it undoes");
+    const bool isShort =
+        !entry.solid && !entry.sizeUnknown && entry.unpackedSize <= Unpacker::largestDictionary;
+    if (entry.dictionarySize() > Unpacker::largestDictionary && !isShort)
+        return refuse(" needs a dictionary of " + std::to_string(entry.dictionarySize() >> 20) +
+                      " MB to be unpacked, more than the " +
+                      std::to_string(Unpacker::largestDictionary >> 20) + " MB that there are");
+    if (m_isChainBroken) return refuse(" can't be unpacked without the entries before it: checksum error");
+    return true;
 }
 
-EntryUnpacker::Result EntryUnpacker::unpackBlocks(ArchiveReader &reader, ContentSink &sink)
+void EntryUnpacker::begin(const FileHeader &entry)
 {
-    for (bool last = false; !last;) {
-        const Bytes start = reader.packed(largestBlockHeaderSize);
-        if (reader.failed()) return Result::Failed;
-        const std::optional<BlockHeader> header = parseBlockHeader(start);
-        if (!header) return damaged(reader.entry());
-        reader.consume(header->headerSize);
-        last = header->last;
-
-        const Bytes payload = reader.packed(std::max<std::size_t>(header->payloadSize, 1));
-        if (reader.failed()) return Result::Failed;
-        if (payload.size() < header->payloadSize) return damaged(reader.entry());
-        m_payload.assign(payload.begin(), payload.begin() + static_cast<std::ptrdiff_t>(header->payloadSize));
-        reader.consume(header->payloadSize);
-        m_payload.resize(header->payloadSize + HuffmanDecoder::padding);
-
-        const Bytes block = Bytes(m_payload).first(header->payloadSize);
-        switch (m_decoder.start(block, *header)) {
-        case HuffmanDecoder::Start::NeedsDictionary:
-            return Result::NeedsDictionary;
-        case HuffmanDecoder::Start::Damaged:
-            return damaged(reader.entry());
-        case HuffmanDecoder::Start::Ready:
-            break;
-        }
-        const Result result = unpackBlock(reader.entry(), sink);
-        if (result != Result::Whole) return result;
-    }
-    // Bytes behind the last block belong to nothing.
-    if (!reader.packed().empty()) return damaged(reader.entry());
-    return reader.failed() ? Result::Failed : Result::Whole;
+    m_isPacked = entry.hasBlocks();
+    if (m_isPacked && !entry.solid) m_isChainBroken = false;
+    m_isDamaged = false;
+    m_isRefused = !canUnpack(entry);
+    if (m_isRefused && m_isPacked) m_isChainBroken = true;
+    m_most = entry.sizeUnknown ? std::numeric_limits<std::uint64_t>::max() : entry.unpackedSize;
+    m_check.begin(entry.hash.has_value());
+    m_isOpen = !m_isRefused && m_receiver.beginFile(entry);
+    if (m_isPacked && !m_isRefused) m_unpacker.begin(entry.dictionarySize(), entry.solid);
 }
 
-EntryUnpacker::Result EntryUnpacker::unpackBlock(const FileHeader &entry, ContentSink &sink)
+void EntryUnpacker::stored(Bytes bytes, std::uint32_t crc)
 {
-    for (;;) {
-        const std::size_t count = m_decoder.decode(m_output);
-        if (m_decoder.damaged()) return damaged(entry);
-        if (count == 0) return Result::Whole;
-        if (!deliver(Bytes(m_output).first(count), sink)) return Result::Failed;
-    }
+    if (isWanted()) deliver(bytes, crc);
 }
 
-bool EntryUnpacker::deliver(Bytes bytes, ContentSink &sink)
+bool EntryUnpacker::write(Bytes bytes) { return deliver(bytes, crc32(bytes)); }
+
+bool EntryUnpacker::deliver(Bytes bytes, std::uint32_t crc)
 {
     if (interrupted()) return false;
-    m_crc = crc32(bytes, m_crc);
-    m_size += bytes.size();
-    return sink.write(bytes);
+    m_check.add(bytes, crc);
+    if (m_check.size() > m_most) m_isDamaged = true;
+    if (!isWanted()) return !m_isDamaged; // others may need it for their dictionary
+    if (m_receiver.write(bytes)) return true;
+    m_receiver.abandonFile();
+    m_isOpen = false;
+    return true;
 }
 
-EntryUnpacker::Result EntryUnpacker::check(const FileHeader &entry)
+void EntryUnpacker::note(Unpacker::Outcome outcome)
 {
-    const bool sizeFits = entry.sizeUnknown || m_size == entry.unpackedSize;
-    if (sizeFits && (!entry.crc || *entry.crc == m_crc)) return Result::Whole;
-    return damaged(entry);
+    if (outcome == Unpacker::Outcome::Unpacked) return;
+    m_isDamaged = true;
+    m_isChainBroken = true;
 }
 
-EntryUnpacker::Result EntryUnpacker::damaged(const FileHeader &entry)
+void EntryUnpacker::block(Bytes payload, const BlockHeader &header)
 {
-    m_diagnostics.report(printable(entry.name) + ": checksum error");
-    return Result::Failed;
+    if (!m_isRefused && !m_isDamaged) note(m_unpacker.block(payload, header, *this));
+}
+
+void EntryUnpacker::literals(ByteBuffer &bytes, std::size_t size, std::uint32_t crc,
+                             const CodeLengths &lengths)
+{
+    if (m_isRefused || m_isDamaged) return;
+    if (m_unpacker.onlyLiterals() && !deliver(Bytes(bytes).first(size), crc))
+        return note(Unpacker::Outcome::Refused);
+    note(m_unpacker.literals(bytes, size, lengths, *this));
+}
+
+void EntryUnpacker::end(const FileHeader &last, bool isWhole)
+{
+    if (!isWhole && m_isPacked) m_isChainBroken = true;
+    if (m_isRefused) return;
+    if (isWhole && m_isPacked && !m_isDamaged) note(m_unpacker.end(*this));
+    const bool fits = !m_isDamaged && m_check.fits(last);
+    if (m_isOpen && isWhole && fits) return m_receiver.finishFile(last);
+    const bool isToBeSaid = isWhole && !fits && m_isOpen && !interrupted();
+    if (m_isOpen) m_receiver.abandonFile();
+    m_isOpen = false;
+    if (isToBeSaid) m_diagnostics.report(printable(last.name) + ": checksum error");
+}
+
+void EntryUnpacker::unpack(const FileHeader &entry, Bytes packed)
+{
+    begin(entry);
+    if (!m_isPacked) {
+        stored(packed, crc32(packed));
+        return end(entry, true);
+    }
+    for (bool isLast = false; !isLast && !m_isRefused && !m_isDamaged;) {
+        const std::size_t size = packed.size() < shortestBlockHeader ? 0 : blockHeaderSize(packed);
+        const auto header = parseBlockHeader(packed.first(std::min(size, packed.size())));
+        // Bytes behind the last block belong to nothing.
+        m_isDamaged = !header || header->payloadSize > packed.size() - size ||
+                      (header->last && header->payloadSize < packed.size() - size);
+        if (m_isDamaged) {
+            damage();
+            break;
+        }
+        isLast = header->last;
+        block(packed.subspan(size, header->payloadSize), *header);
+        packed = packed.subspan(size + header->payloadSize);
+    }
+    end(entry, true);
 }
 
 } // namespace archiver

@@ -2,6 +2,7 @@
 
 #include "FileTimes.h"
 #include "Interrupt.h"
+#include "StagedFile.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -24,12 +25,52 @@ unsigned readUmask()
 
 } // namespace
 
-Extractor::Extractor(Destination &destination, Paths paths, Diagnostics &diagnostics)
-    : m_destination(destination), m_paths(paths), m_diagnostics(diagnostics), m_umask(readUmask())
+/// What one thread makes.
+class Extractor::Thread final : public EntryReceiver {
+public:
+    Thread(Extractor &all, Diagnostics &diagnostics)
+        : m_all(all), m_destination(all.m_destination), m_diagnostics(diagnostics)
+    {
+    }
+
+    void folder(const FileHeader &header) override;
+    void link(const FileHeader &header) override;
+    bool beginFile(const FileHeader &header) override;
+    bool write(Bytes bytes) override;
+    void finishFile(const FileHeader &header) override;
+    void abandonFile() override { m_file.discard(); }
+    [[nodiscard]] std::string place(const FileHeader &header) const override;
+
+private:
+    [[nodiscard]] std::optional<std::vector<std::string>> way(const std::string &name);
+    [[nodiscard]] int enter(const std::vector<std::string> &components, const FileHeader &header);
+    void symbolicLink(const FileHeader &header);
+    void copyOfEntry(const FileHeader &header);
+    [[nodiscard]] bool copyContent(int from);
+    [[nodiscard]] unsigned permissions(const FileHeader &header) const;
+    bool cannotCreate(const std::string &name);
+
+    Extractor &m_all;
+    Destination m_destination;
+    Diagnostics &m_diagnostics;
+    base::StagedFile m_file;
+    std::string m_fileName; // its final one, in its folder
+    std::string m_entryName;
+};
+
+Extractor::Extractor(const Destination &destination, Paths paths)
+    : m_destination(destination), m_paths(paths), m_umask(readUmask())
 {
 }
 
-bool Extractor::cannotCreate(const std::string &name)
+EntryReceivers Extractor::receivers()
+{
+    return {[this](Diagnostics &diagnostics) { return std::make_unique<Thread>(*this, diagnostics); }};
+}
+
+void Extractor::finish(Diagnostics &diagnostics) { m_folders.apply(m_destination.root(), diagnostics); }
+
+bool Extractor::Thread::cannotCreate(const std::string &name)
 {
     if (errno == ELOOP || errno == ENOTDIR)
         return m_diagnostics.report("Cannot create " + printable(name) +
@@ -37,51 +78,65 @@ bool Extractor::cannotCreate(const std::string &name)
     return m_diagnostics.reportSystem("Cannot create " + printable(name));
 }
 
-std::optional<std::vector<std::string>> Extractor::place(const std::string &name)
+std::string Extractor::Thread::place(const FileHeader &header) const
+{
+    const std::optional<std::vector<std::string>> components = Destination::components(header.name);
+    if (!components) return {};
+    if (m_all.m_paths == Paths::Drop) return components->back();
+    std::string path;
+    for (const std::string &component : *components)
+        path += (path.empty() ? "" : "/") + component;
+    return path;
+}
+
+std::optional<std::vector<std::string>> Extractor::Thread::way(const std::string &name)
 {
     std::optional<std::vector<std::string>> components = Destination::components(name);
     if (!components) {
         m_diagnostics.report("Cannot create " + printable(name) + ": the name leads out of the destination");
         return std::nullopt;
     }
-    if (m_paths == Paths::Drop) components->erase(components->begin(), components->end() - 1);
+    if (m_all.m_paths == Paths::Drop) components->erase(components->begin(), components->end() - 1);
     return components;
 }
 
-int Extractor::enter(const std::vector<std::string> &components, const FileHeader &header)
+int Extractor::Thread::enter(const std::vector<std::string> &components, const FileHeader &header)
 {
     const int folder = m_destination.parentOf(components);
     if (folder < 0) cannotCreate(header.name);
     const std::size_t depth = m_destination.depth();
-    if (m_destination.made() > 0)
-        m_folders.setMissing(std::span(components).first(depth), depth - m_destination.made(),
-                             {0777u & ~m_umask, std::nullopt});
+    if (m_destination.made() > 0) {
+        const std::lock_guard lock(m_all.m_mutex);
+        m_all.m_folders.setMissing(std::span(components).first(depth), depth - m_destination.made(),
+                                   {0777u & ~m_all.m_umask, std::nullopt});
+    }
     return folder;
 }
 
-unsigned Extractor::permissions(const FileHeader &header) const
+unsigned Extractor::Thread::permissions(const FileHeader &header) const
 {
     // Archives don't say whose a file was. Set-user-ID and set-group-ID would turn it into the right to act
     // as whoever unpacks it.
     constexpr unsigned withoutIdentities = 01777;
     if (header.unixHost) return header.mode & withoutIdentities;
     const unsigned most = header.folder ? 0777 : header.mode & windowsReadOnly ? 0444 : 0666;
-    return most & ~m_umask;
+    return most & ~m_all.m_umask;
 }
 
-void Extractor::folder(const FileHeader &header)
+void Extractor::Thread::folder(const FileHeader &header)
 {
-    if (m_paths == Paths::Drop) return;
-    std::optional<std::vector<std::string>> components = place(header.name);
+    if (m_all.m_paths == Paths::Drop) return;
+    std::optional<std::vector<std::string>> components = way(header.name);
     if (!components) return;
     // One component more than there is, so that the folder itself is made where it is missing.
     components->emplace_back();
     if (enter(*components, header) < 0) return;
     components->pop_back();
-    m_folders.set(*components, {permissions(header), header.modified});
+    const std::lock_guard lock(m_all.m_mutex);
+    m_all.m_folders.set(*components, {permissions(header), header.modified});
 }
 
-void Extractor::link(const FileHeader &header)
+void Extractor::Thread::link(const FileHeader &header)
 {
     switch (header.link->kind) {
     case LinkTarget::Kind::Symbolic:
@@ -94,9 +149,9 @@ void Extractor::link(const FileHeader &header)
     }
 }
 
-void Extractor::symbolicLink(const FileHeader &header)
+void Extractor::Thread::symbolicLink(const FileHeader &header)
 {
-    const std::optional<std::vector<std::string>> components = place(header.name);
+    const std::optional<std::vector<std::string>> components = way(header.name);
     const int folder = components ? enter(*components, header) : -1;
     if (folder < 0) return;
     std::string target = header.link->path;
@@ -123,11 +178,11 @@ void Extractor::symbolicLink(const FileHeader &header)
     unlinkat(folder, made.c_str(), 0);
 }
 
-void Extractor::copyOfEntry(const FileHeader &header)
+void Extractor::Thread::copyOfEntry(const FileHeader &header)
 {
     FileHeader original = header;
     original.name = header.link->path;
-    const std::optional<std::vector<std::string>> components = place(original.name);
+    const std::optional<std::vector<std::string>> components = way(original.name);
     const int folder = components ? enter(*components, original) : -1;
     if (folder < 0) return;
     constexpr int flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
@@ -145,7 +200,7 @@ void Extractor::copyOfEntry(const FileHeader &header)
         abandonFile();
 }
 
-bool Extractor::copyContent(int from)
+bool Extractor::Thread::copyContent(int from)
 {
     ByteBuffer buffer(256 << 10);
     for (;;) {
@@ -157,28 +212,27 @@ bool Extractor::copyContent(int from)
     }
 }
 
-ContentSink *Extractor::beginFile(const FileHeader &header)
+bool Extractor::Thread::beginFile(const FileHeader &header)
 {
-    const std::optional<std::vector<std::string>> components = place(header.name);
+    const std::optional<std::vector<std::string>> components = way(header.name);
     const int folder = components ? enter(*components, header) : -1;
-    if (folder < 0) return nullptr;
+    if (folder < 0) return false;
     m_file = base::StagedFile::create(folder, {".rar", components->back()});
     if (!m_file) {
-        cannotCreate(header.name);
-        return nullptr;
+        return cannotCreate(header.name);
     }
     m_fileName = components->back();
     m_entryName = header.name;
-    return this;
+    return true;
 }
 
-bool Extractor::write(Bytes bytes)
+bool Extractor::Thread::write(Bytes bytes)
 {
     if (base::writeFully(m_file.descriptor(), bytes)) return true;
     return m_diagnostics.reportSystem("Cannot write " + printable(m_entryName));
 }
 
-void Extractor::finishFile(const FileHeader &header)
+void Extractor::Thread::finishFile(const FileHeader &header)
 {
     // Some network file systems tell when a file is closed that it couldn't be written; those know names
     // only.
@@ -189,9 +243,5 @@ void Extractor::finishFile(const FileHeader &header)
     if (!done) m_diagnostics.reportSystem("Cannot create " + printable(header.name));
     m_file.discard();
 }
-
-void Extractor::abandonFile() { m_file.discard(); }
-
-void Extractor::finish() { m_folders.apply(m_destination.root(), m_diagnostics); }
 
 } // namespace archiver

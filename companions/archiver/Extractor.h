@@ -3,44 +3,32 @@
 #include "ContentSink.h"
 #include "Destination.h"
 #include "FolderAttributes.h"
-#include "StagedFile.h"
+
+#include <mutex>
 
 namespace archiver {
 
 /// Makes an archive's entries below a folder, over what is there already, nothing of which is ever opened. A
 /// file appears under its name only when it is complete. Times and modes of folders are set at the end, by
 /// finish().
-class Extractor final : public EntryReceiver, private ContentSink {
+class Extractor {
 public:
     enum class Paths { Keep, Drop };
     /// `Paths::Drop` puts all files straight into the folder, and makes no folders.
-    Extractor(Destination &destination, Paths paths, Diagnostics &diagnostics);
+    Extractor(const Destination &destination, Paths paths);
 
-    void folder(const FileHeader &header) override;
-    void link(const FileHeader &header) override;
-    ContentSink *beginFile(const FileHeader &header) override;
-    void finishFile(const FileHeader &header) override;
-    void abandonFile() override;
-
-    void finish();
+    /// They work side by side.
+    [[nodiscard]] EntryReceivers receivers();
+    /// After the last entry.
+    void finish(Diagnostics &diagnostics);
 
 private:
-    bool write(Bytes bytes) override;
-    [[nodiscard]] std::optional<std::vector<std::string>> place(const std::string &name);
-    [[nodiscard]] int enter(const std::vector<std::string> &components, const FileHeader &header);
-    void symbolicLink(const FileHeader &header);
-    void copyOfEntry(const FileHeader &header);
-    [[nodiscard]] bool copyContent(int from);
-    [[nodiscard]] unsigned permissions(const FileHeader &header) const;
-    bool cannotCreate(const std::string &name);
+    class Thread;
 
-    Destination &m_destination;
+    const Destination &m_destination;
     Paths m_paths;
-    Diagnostics &m_diagnostics;
     unsigned m_umask;
-    base::StagedFile m_file;
-    std::string m_fileName; // its final one, in its folder
-    std::string m_entryName;
+    std::mutex m_mutex;
     FolderAttributes m_folders;
 };
 

@@ -8,7 +8,7 @@ namespace archiver {
 
 namespace {
 
-constexpr std::size_t mostOpen = 64;
+constexpr std::size_t mostOpen = 8; // several threads have such a way each
 
 } // namespace
 

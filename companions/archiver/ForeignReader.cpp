@@ -1,10 +1,13 @@
 #include "ForeignReader.h"
 
+#include "ContentCheck.h"
 #include "Interrupt.h"
 
 #include <archive.h>
 #include <archive_entry.h>
 #include <cerrno>
+#include <memory>
+#include <utility>
 
 namespace archiver {
 
@@ -12,86 +15,89 @@ namespace {
 
 constexpr std::size_t chunkSize = 256 << 10;
 
-la_ssize_t readEntries(archive *object, void *entries, const void **bytes)
+/// An entry as an archive: headers of our own, with nothing that libarchive doesn't know, around its data.
+struct JoinedEntry {
+    ArchiveReader &reader;
+    ByteBuffer before;
+    bool hasBegun = false;
+    ByteBuffer data = ByteBuffer(chunkSize);
+
+    static la_ssize_t read(archive *object, void *joined, const void **bytes)
+    {
+        auto &entry = *static_cast<JoinedEntry *>(joined);
+        if (!std::exchange(entry.hasBegun, true)) {
+            *bytes = entry.before.data();
+            return static_cast<la_ssize_t>(entry.before.size());
+        }
+        const std::size_t count = entry.reader.read(entry.data);
+        *bytes = entry.data.data();
+        if (!entry.reader.failed()) return static_cast<la_ssize_t>(count);
+        archive_set_error(object, EIO, "has been reported");
+        return ARCHIVE_FATAL;
+    }
+};
+
+using Archive = std::unique_ptr<archive, int (*)(archive *)>;
+
+/// `last`: the header of the entry's last part.
+Archive openJoined(JoinedEntry &joined, std::uint64_t packedSize, const FileHeader &last)
 {
-    auto &joined = *static_cast<JoinedEntries *>(entries);
-    const Bytes piece = joined.read();
-    *bytes = piece.data();
-    if (!joined.failed()) return static_cast<la_ssize_t>(piece.size());
-    archive_set_error(object, EIO, "has been reported");
-    return ARCHIVE_FATAL;
+    FileHeader header = last;
+    header.name = "file";
+    header.packedSize = packedSize;
+    header.continuesBefore = false;
+    header.mode = 0100644;
+    header.unixHost = true;
+    const HeaderFormat &format = joined.reader.format();
+    putBytes(joined.before, format.signature);
+    format.putMain(joined.before, {});
+    format.putFile(joined.before, header);
+    Archive object(archive_read_new(), archive_read_free);
+    archive_read_support_format_rar(object.get());
+    archive_entry *entry = nullptr;
+    if (archive_read_open(object.get(), &joined, nullptr, JoinedEntry::read, nullptr) == ARCHIVE_OK)
+        archive_read_next_header(object.get(), &entry); // what fails shows when the data is read
+    return object;
 }
 
 } // namespace
 
 ForeignReader::ForeignReader(const std::string &path, Diagnostics &diagnostics)
-    : m_diagnostics(diagnostics)
-    , m_entries(path, diagnostics)
-    , m_archive(nullptr, [](archive *object) { archive_read_free(object); })
+    : m_diagnostics(diagnostics), m_volumes(path), m_scout(m_volumes, diagnostics)
 {
 }
 
-bool ForeignReader::cannotUnpack()
+std::optional<std::uint64_t> ForeignReader::packedSize(std::size_t index)
 {
-    if (m_entries.failed()) return false; // reported
-    const char *reason = archive_error_string(m_archive.get());
-    return m_diagnostics.report(printable(m_name) + ": " +
-                                (reason ? printable(reason) : "can't be unpacked"));
+    if (!std::exchange(m_isOpen, true) && !m_scout.open()) return std::nullopt;
+    for (; m_next <= index; ++m_next)
+        if (m_scout.next() != ArchiveReader::Step::Entry) return std::nullopt;
+    return m_scout.skipEntry();
 }
 
-bool ForeignReader::begin(std::size_t first)
+bool ForeignReader::unpack(std::size_t index, ArchiveReader &reader, ContentSink &sink)
 {
-    if (m_archive && first == m_first) return true;
-    m_first = first;
-    m_archive.reset(archive_read_new());
-    if (!m_entries.begin(first)) return false;
-    archive_read_support_format_rar(m_archive.get());
-    archive_read_support_format_rar5(m_archive.get());
-    return archive_read_open(m_archive.get(), &m_entries, nullptr, readEntries, nullptr) == ARCHIVE_OK ||
-           cannotUnpack();
-}
-
-bool ForeignReader::goTo(std::size_t index)
-{
-    const std::string name = std::to_string(index);
-    for (;;) {
-        archive_entry *entry = nullptr;
-        const int result = archive_read_next_header(m_archive.get(), &entry);
-        if (result != ARCHIVE_OK && result != ARCHIVE_WARN) return cannotUnpack();
-        const char *path = archive_entry_pathname(entry);
-        if (path && path == name) return true;
-    }
-}
-
-bool ForeignReader::unpack(Place place, const std::string &name, ContentSink &sink)
-{
-    m_name = name;
-    if (!begin(place.dictionary) || !goTo(place.entry)) return false;
-    const std::optional<FileHeader> header = m_entries.header(place.entry);
-    return header ? unpackContent(*header, sink) : cannotUnpack();
-}
-
-bool ForeignReader::unpackContent(const FileHeader &expected, ContentSink &sink)
-{
+    const std::string name = printable(reader.entry().name);
+    const std::optional<std::uint64_t> size = packedSize(index);
+    if (!size) return false;
+    JoinedEntry joined{reader, {}};
+    const Archive archive = openJoined(joined, *size, m_scout.entry());
     ByteBuffer chunk(chunkSize);
-    std::uint64_t size = 0;
-    std::uint32_t crc = 0;
-    for (;;) {
+    ContentCheck check;
+    check.begin(false);
+    for (la_ssize_t count = 1; count > 0;) {
         if (interrupted()) return false;
-        const la_ssize_t count = archive_read_data(m_archive.get(), chunk.data(), chunk.size());
-        if (count < 0) return cannotUnpack();
-        if (count == 0) break;
+        count = archive_read_data(archive.get(), chunk.data(), chunk.size());
+        if (reader.failed()) return false; // which libarchive may take for an ordinary end
+        if (count < 0) {
+            const char *reason = archive_error_string(archive.get());
+            return m_diagnostics.report(name + ": " + (reason ? printable(reason) : "can't be unpacked"));
+        }
         const Bytes bytes = Bytes(chunk).first(static_cast<std::size_t>(count));
-        size += bytes.size();
-        crc = crc32(bytes, crc);
+        check.add(bytes);
         if (!sink.write(bytes)) return false;
     }
-    if (m_entries.failed()) return false; // which libarchive may take for an ordinary end
-    if (!expected.sizeUnknown && size != expected.unpackedSize)
-        return m_diagnostics.report(printable(expected.name) + ": Unexpected end of archive");
-    if (expected.crc && *expected.crc != crc)
-        return m_diagnostics.report(printable(expected.name) + ": checksum error");
-    return true;
+    return check.fits(m_scout.entry()) || m_diagnostics.report(name + ": checksum error");
 }
 
 } // namespace archiver

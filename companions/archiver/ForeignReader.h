@@ -1,44 +1,32 @@
 #pragma once
 
+#include "ArchiveReader.h"
 #include "ContentSink.h"
-#include "JoinedEntries.h"
-
-#include <memory>
-#include <string>
-
-struct archive;
 
 namespace archiver {
 
-/// Unpacks what other archivers packed, through libarchive: the older format's compression, and RAR 5 with a
-/// dictionary. libarchive takes a cut archive for an ordinary end, and some checksums for none, so all is
-/// compared here.
+/// Unpacks what archivers of RAR 3 and 4 packed, through libarchive. That can't read entries that are cut
+/// into volumes everywhere, takes a cut archive for an ordinary end, and some checksums for none: so each
+/// entry is handed to it as an archive of its own, in one piece, and all is compared here.
 class ForeignReader {
 public:
     /// `path`: the first volume.
     ForeignReader(const std::string &path, Diagnostics &diagnostics);
 
-    /// Entries are counted from 0.
-    struct Place {
-        std::size_t dictionary; ///< the entry that it begins with
-        std::size_t entry;
-    };
-    /// The content of an entry, behind those before it; `name` is for messages. False has been reported.
-    [[nodiscard]] bool unpack(Place place, const std::string &name, ContentSink &sink);
+    /// The content of the entry that `reader` is at, number `index` from 0. False has been reported. Numbers
+    /// have to rise.
+    [[nodiscard]] bool unpack(std::size_t index, ArchiveReader &reader, ContentSink &sink);
     /// Whether the archive has a fault that no walk through it gets past.
-    [[nodiscard]] bool failed() const { return m_entries.failed(); }
+    [[nodiscard]] bool failed() const { return m_scout.failed(); }
 
 private:
-    bool begin(std::size_t first);
-    bool goTo(std::size_t index);
-    bool unpackContent(const FileHeader &expected, ContentSink &sink);
-    bool cannotUnpack();
+    [[nodiscard]] std::optional<std::uint64_t> packedSize(std::size_t index);
 
     Diagnostics &m_diagnostics;
-    JoinedEntries m_entries;
-    std::unique_ptr<archive, void (*)(archive *)> m_archive;
-    std::string m_name; ///< of the entry that is wanted, for messages
-    std::size_t m_first = 0;
+    VolumeFiles m_volumes;
+    ArchiveReader m_scout; ///< it finds out how long an entry is in all volumes
+    bool m_isOpen = false;
+    std::size_t m_next = 0; ///< number of the entry that comes next
 };
 
 } // namespace archiver

@@ -28,6 +28,7 @@ inline constexpr std::uint64_t sizeUnknown = 0x08;
 
 namespace extrarecord {
 inline constexpr std::uint64_t encryption = 1;
+inline constexpr std::uint64_t hash = 2;
 inline constexpr std::uint64_t times = 3;
 inline constexpr std::uint64_t link = 5;
 } // namespace extrarecord

@@ -2,6 +2,8 @@
 #include "HeaderFlags.h"
 #include "Headers.h"
 
+#include <algorithm>
+
 namespace archiver {
 
 namespace {
@@ -42,6 +44,17 @@ void parseTimes(ByteReader reader, FileHeader &header)
     if (reader.ok() && time.nanoseconds < 1'000'000'000) header.modified = time;
 }
 
+void parseHash(ByteReader reader, FileHeader &header)
+{
+    constexpr std::uint64_t blake2sp = 0;
+    if (reader.vint() != blake2sp) return;
+    FileHeader::Hash hash{};
+    const Bytes bytes = reader.take(hash.size());
+    if (!reader.ok()) return;
+    std::ranges::copy(bytes, hash.begin());
+    header.hash = hash;
+}
+
 bool parseLink(ByteReader reader, FileHeader &header)
 {
     LinkTarget link;
@@ -63,6 +76,7 @@ bool parseExtra(Bytes extra, FileHeader &header)
         const std::uint64_t kind = record.vint();
         if (!reader.ok() || !record.ok()) return false;
         if (kind == extrarecord::encryption) header.encrypted = true;
+        if (kind == extrarecord::hash) parseHash(record, header);
         if (kind == extrarecord::times) parseTimes(record, header);
         if (kind == extrarecord::link && !parseLink(record, header)) return false;
     }
@@ -70,6 +84,53 @@ bool parseExtra(Bytes extra, FileHeader &header)
 }
 
 } // namespace
+
+std::optional<std::size_t> headerLength(Bytes start)
+{
+    ByteReader reader(start);
+    reader.u32();
+    const std::size_t before = reader.remaining();
+    const std::uint64_t size = reader.vint();
+    if (!reader.ok() || size == 0 || size > largestHeader) return std::nullopt;
+    return 4 + (before - reader.remaining()) + static_cast<std::size_t>(size);
+}
+
+std::optional<HeaderFrame> parseFrame(Bytes header)
+{
+    ByteReader reader(header);
+    if (reader.u32() != crc32(header.subspan(std::min<std::size_t>(header.size(), 4)))) return std::nullopt;
+    reader.vint(); // its size, which headerLength() has read
+
+    HeaderFrame frame;
+    frame.type = HeaderType{reader.vint()};
+    frame.flags = reader.vint();
+    const std::uint64_t extraSize = frame.flags & headerflag::extra ? reader.vint() : 0;
+    if (frame.flags & headerflag::data) frame.dataSize = reader.vint();
+    if (!reader.ok() || extraSize > reader.remaining()) return std::nullopt;
+    frame.fields = reader.take(reader.remaining() - extraSize);
+    frame.extra = reader.take(extraSize);
+    return frame;
+}
+
+std::optional<MainHeader> parseMainHeader(const HeaderFrame &frame)
+{
+    ByteReader reader(frame.fields);
+    const std::uint64_t flags = reader.vint();
+    MainHeader header;
+    header.volume = flags & mainflag::volume;
+    header.volumeIndex = flags & mainflag::number ? reader.vint() : 0;
+    header.solid = flags & mainflag::solid;
+    if (frame.type != HeaderType::Main || !reader.ok()) return std::nullopt;
+    return header;
+}
+
+std::optional<bool> parseEndHeader(const HeaderFrame &frame)
+{
+    ByteReader reader(frame.fields);
+    const bool more = reader.vint() & 1;
+    if (frame.type != HeaderType::End || !reader.ok()) return std::nullopt;
+    return more;
+}
 
 std::optional<FileHeader> parseFileHeader(const HeaderFrame &frame)
 {

@@ -80,6 +80,8 @@ struct FileHeader {
     std::optional<Timestamp> modified;
     std::optional<std::uint32_t>
         crc;                 ///< of the unpacked file; with continuesAfter, of this part's packed bytes
+    using Hash = std::array<std::uint8_t, 32>;
+    std::optional<Hash> hash; ///< BLAKE2sp of the unpacked file, likewise
     bool older = false;      ///< of the format before: other compression, and a link's target is its content
     unsigned version = 0;    ///< of the compression; in RAR 5 above 0 there are dictionaries of other sizes
     unsigned method = 0;     ///< 0 stored, 1 to 5 packed
@@ -89,6 +91,12 @@ struct FileHeader {
     std::optional<LinkTarget> link;
 
     [[nodiscard]] bool stored() const { return method == 0; }
+    /// Whether there is anything to be unpacked.
+    [[nodiscard]] bool hasBlocks() const
+    {
+        return !stored() && (packedSize > 0 || unpackedSize > 0 || continuesAfter);
+    }
+    [[nodiscard]] std::uint64_t dictionarySize() const { return std::uint64_t{128 << 10} << dictionary; }
 };
 
 [[nodiscard]] std::optional<FileHeader> parseFileHeader(const HeaderFrame &frame);

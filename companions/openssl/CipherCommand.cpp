@@ -4,8 +4,11 @@
 #include "CommandLine.h"
 #include "PassPhrase.h"
 #include "Secret.h"
+#include "WipedBytes.h"
 
+#include <algorithm>
 #include <array>
+#include <charconv>
 #include <cstring>
 
 namespace {
@@ -63,7 +66,7 @@ PasswordState takePassword(const CommandLine &line, Secret &password)
         if (std::strchr(text, '\n')) state = PasswordState::HoldsLineBreak;
     }
     for (const Option &option : line.options())
-        if (char *const text = spelledPassword(option)) wipeMemory(text, std::strlen(text));
+        if (char *const text = spelledPassword(option)) base::wipe(text, std::strlen(text));
     return state;
 }
 
@@ -83,17 +86,6 @@ void addProviders(const CommandLine &line, std::string_view cipher, std::vector<
     append(arguments, {"-provider", "legacy", "-provider", "default"});
 }
 
-/// Whether this decrypts a file as the tool writes it, beginning with its salt, and the key is to be found.
-bool isOpenDecryption(const CommandLine &line)
-{
-    const Option *const direction = line.last({"e", "d"});
-    // With `-kfile` the tool has rules of its own for what belongs to the password.
-    return direction && direction->name == "d" && leavesDerivationOpen(line) &&
-           !line.has(
-               {"K", "S", "iv", "nosalt", "saltlen", "skeyopt", "kfile", "z", "help", "list", "ciphers"}) &&
-           line.operands().empty();
-}
-
 /// Where `-pass` says that the password is; nothing where it is spelled out, or no such place.
 std::optional<std::string> passPhraseSource(const CommandLine &line)
 {
@@ -110,59 +102,92 @@ bool isOurs(const CommandLine &line)
            line.operands().empty() && line.worksOnFiles({"d", "a", "salt", "in", "out", "pass"});
 }
 
-/// All but the caller's own options.
-ToolRun planRun(const CommandLine &line, const std::vector<std::string> &derivation = {})
+/// All of it for the tool, with what the caller left open.
+ToolRun planToolRun(const CommandLine &line, bool hasPassword)
 {
     ToolRun run;
     run.arguments.emplace_back(line.command());
-    append(run.arguments, derivation);
+    if (leavesDerivationOpen(line))
+        append(run.arguments, derivationOptions(currentKeyDerivation, !line.has({"md"})));
     addProviders(line, cipherOf(line), run.arguments);
     if (!line.has({"bufsize"})) append(run.arguments, {"-bufsize", std::string(bufferSize)});
-    if (const char *const output = line.value("out")) run.output = output;
     run.isOurs = isOurs(line);
-    run.mayPrint = line.has({"p", "P", "v", "debug", "help", "list", "ciphers"});
-    return run;
-}
-
-/// The caller's own options but those for the result, for passwords that are spelled out, and those that
-/// `isOther` names.
-template <typename Predicate>
-void addGiven(const CommandLine &line, Predicate isOther, ToolRun &run)
-{
-    append(run.arguments, line.without([&isOther](const Option &option) {
-        return option.name == "out" || spelledPassword(option) || isOther(option);
-    }));
-}
-
-ToolRun planToolRun(const CommandLine &line, const KeyDerivation &derivation, bool hasPassword)
-{
-    const bool isOpen = leavesDerivationOpen(line);
-    ToolRun run =
-        planRun(line, isOpen ? derivationOptions(derivation, !line.has({"md"})) : std::vector<std::string>());
     run.hasPassword = hasPassword;
-    if (run.isOurs) run.input = line.value("in");
-    const auto isOther = [&run](const Option &each) {
-        return (run.input && each.name == "in") || (run.hasPassword && isPasswordOption(each));
-    };
-    addGiven(line, isOther, run);
+    run.output = line.file("out");
+    if (run.isOurs) run.input = line.file("in");
+    run.mayPrint = line.has({"p", "P", "v", "debug", "help", "list", "ciphers"});
+    append(run.arguments, line.without([&run](const Option &each) {
+        return each.name == "out" || spelledPassword(each) || (run.input && each.name == "in") ||
+               (run.hasPassword && isPasswordOption(each));
+    }));
     return run;
 }
 
-CipherDecryption planDecryption(const CommandLine &line, const KeyDerivation &derivation, bool hasPassword)
+/// Whether the front knows all that these options mean.
+bool isRegular(const CommandLine &line)
 {
-    CipherDecryption decryption;
-    decryption.run = planRun(line);
-    decryption.run.hasPassword = hasPassword;
-    addGiven(
-        line, [](const Option &each) { return each.name == "in" || isPasswordOption(each); }, decryption.run);
-    decryption.cipher = cipherOf(line);
-    const char *const input = line.value("in");
-    if (input && std::string_view(input) != "-") decryption.input = input;
-    decryption.isBase64 = line.has({"a", "base64"});
-    if (const char *const digest = line.value("md")) decryption.digest = digest;
-    if (!hasPassword) decryption.passPhraseSource = passPhraseSource(line);
-    decryption.current = derivation;
-    return decryption;
+    constexpr auto switches =
+        std::to_array<std::string_view>({"e", "d", "a", "base64", "salt", "pbkdf2", "nopad"});
+    constexpr auto values =
+        std::to_array<std::string_view>({"in", "out", "pass", "k", "md", "iter", "bufsize"});
+    const bool isNamed = line.command() == "enc"; // by an option
+    return line.operands().empty() && std::ranges::all_of(line.options(), [&](const Option &each) {
+               if (each.value) return std::ranges::count(values, each.name) > 0;
+               return std::ranges::count(switches, each.name) > 0 || (isNamed && isCipher(each.name));
+           });
+}
+
+/// Nothing: the caller wants what the front doesn't know.
+std::optional<std::vector<KeyDerivation>> derivationsOf(const CommandLine &line, bool isDecryption)
+{
+    const char *const digest = line.value("md");
+    if (digest && !fetchDigest(digest)) return std::nullopt;
+    std::vector<KeyDerivation> all;
+    if (!leavesDerivationOpen(line)) {
+        const std::string_view count = line.has({"iter"}) ? line.value("iter") : "10000";
+        int iterations = 0;
+        const auto [end, error] = std::from_chars(count.begin(), count.end(), iterations);
+        if (error != std::errc() || end != count.end() || iterations < 1) return std::nullopt;
+        all.push_back({static_cast<unsigned>(iterations), "sha256"});
+    } else {
+        if (isDecryption) all.assign(olderKeyDerivations.begin(), olderKeyDerivations.end());
+        all.push_back(currentKeyDerivation);
+    }
+    for (KeyDerivation &each : all)
+        if (digest) each.digest = digest;
+    return all;
+}
+
+/// Without the password. Nothing: it is a matter for the tool.
+std::optional<CipherRun> planOwnRun(const CommandLine &line)
+{
+    const Option *const direction = line.last({"e", "d"});
+    const bool isDecryption = direction && direction->name == "d";
+    if (!isRegular(line) || (line.has({"nopad"}) && !isDecryption)) return std::nullopt;
+    LibraryCipher cipher(cipherOf(line));
+    auto derivations = derivationsOf(line, isDecryption);
+    if (!cipher.get() || !derivations) return std::nullopt;
+    return CipherRun{
+        {line.file("in"), line.file("out"), isOurs(line)},
+        isDecryption,
+        {std::move(cipher), line.has({"a", "base64"}), !line.has({"nopad"}), std::move(*derivations)}};
+}
+
+enum class Finding { Found, NotFound, OfTool };
+
+/// Gets a password that the arguments don't spell out from wherever it is.
+Finding findPassword(const CommandLine &line, bool isDecryption, Secret &password, std::string &problem)
+{
+    if (const auto source = passPhraseSource(line)) {
+        if (fetchPassPhrase(*source, password, problem)) return Finding::Found;
+        // Some that the tool takes are too long for a pipe to it.
+        return isRepeatable(*source) ? Finding::OfTool : Finding::NotFound;
+    }
+    // Without a terminal the tool takes the password from its standard input, in a way of its own. With one
+    // it asks twice before it encrypts.
+    if (line.has({"pass", "k"}) || !isDecryption || !hasTerminal()) return Finding::OfTool;
+    problem = "no password was given";
+    return askPassPhrase(std::string(cipherOf(line)), password) ? Finding::Found : Finding::NotFound;
 }
 
 } // namespace
@@ -172,8 +197,7 @@ bool isCipherCommand(std::span<char *const> arguments)
     return !cipherOf(readCommandLine(arguments)).empty();
 }
 
-CommandPlan planCipherCommand(std::span<char *const> arguments, Secret &password,
-                              const KeyDerivation &derivation)
+CommandPlan planCipherCommand(std::span<char *const> arguments, Secret &password)
 {
     const CommandLine line = readCommandLine(arguments);
     const PasswordState passwordState = takePassword(line, password);
@@ -184,8 +208,13 @@ CommandPlan planCipherCommand(std::span<char *const> arguments, Secret &password
         return Refusal{"the password is longer than " + std::to_string(Secret::maximumSize) +
                        " bytes, the most that the system's tool reads: use a shorter one"};
 
-    const bool hasPassword = passwordState == PasswordState::Taken;
-    const bool isKnown = hasPassword || passPhraseSource(line) || !line.has({"k", "pass"});
-    if (isKnown && isOpenDecryption(line)) return planDecryption(line, derivation, hasPassword);
-    return planToolRun(line, derivation, hasPassword);
+    const bool isTaken = passwordState == PasswordState::Taken;
+    std::optional<CipherRun> run = planOwnRun(line);
+    if (!run) return planToolRun(line, isTaken);
+    std::string problem;
+    const Finding finding =
+        isTaken ? Finding::Found : findPassword(line, run->isDecryption, password, problem);
+    if (finding == Finding::NotFound) return Refusal{problem};
+    if (finding == Finding::OfTool) return planToolRun(line, false);
+    return std::move(*run);
 }

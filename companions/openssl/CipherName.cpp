@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <string>
+#include <openssl/err.h>
 
 namespace {
 
@@ -42,6 +42,16 @@ const CipherFamily *familyOf(std::string_view cipher)
     return found == families.end() ? nullptr : &*found;
 }
 
+/// Whether bytes in any pieces, a key and an initialisation vector are all that it takes.
+bool isPlain(const EVP_CIPHER *cipher)
+{
+    constexpr std::array modes{EVP_CIPH_STREAM_CIPHER, EVP_CIPH_ECB_MODE, EVP_CIPH_CBC_MODE,
+                               EVP_CIPH_CFB_MODE,      EVP_CIPH_OFB_MODE, EVP_CIPH_CTR_MODE};
+    constexpr unsigned long others = EVP_CIPH_FLAG_AEAD_CIPHER | EVP_CIPH_FLAG_CTS;
+    return std::ranges::count(modes, EVP_CIPHER_get_mode(cipher)) > 0 &&
+           (EVP_CIPHER_get_flags(cipher) & others) == 0;
+}
+
 } // namespace
 
 bool isCipher(std::string_view name) { return familyOf(name) != nullptr; }
@@ -50,4 +60,14 @@ bool needsLegacyProvider(std::string_view cipher)
 {
     const CipherFamily *const family = familyOf(cipher);
     return family && family->isLegacy;
+}
+
+LibraryCipher::LibraryCipher(std::string_view name)
+    // Naming one provider keeps the library from loading the default one, too.
+    : m_standard(OSSL_PROVIDER_load(nullptr, "default"))
+    , m_legacy(needsLegacyProvider(name) ? OSSL_PROVIDER_load(nullptr, "legacy") : nullptr)
+    , m_cipher(EVP_CIPHER_fetch(nullptr, std::string(name).c_str(), nullptr))
+{
+    ERR_clear_error();
+    if (m_cipher && !isPlain(m_cipher.get())) m_cipher.reset();
 }

@@ -56,6 +56,12 @@ const char *CommandLine::value(std::string_view name) const
     return option ? option->value : nullptr;
 }
 
+std::optional<std::string> CommandLine::file(std::string_view name) const
+{
+    const std::string_view file = value(name) ? value(name) : "-";
+    return file == "-" ? std::nullopt : std::optional<std::string>(file);
+}
+
 bool CommandLine::worksOnFiles(std::initializer_list<std::string_view> options) const
 {
     return isFileName(value("in")) && isFileName(value("out")) &&

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <initializer_list>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -38,6 +39,9 @@ public:
 
     /// The value of the last option of this name, null where there is none.
     [[nodiscard]] const char *value(std::string_view name) const;
+
+    /// The file that the last option of this name gives; nothing: a standard stream.
+    [[nodiscard]] std::optional<std::string> file(std::string_view name) const;
 
     /// Whether it has no options but these, and reads and writes files whose names it gives: no standard
     /// stream or device.

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "CipherDecryption.h"
-#include "SmimeDecryption.h"
+#include "PasswordFile.h"
+#include "SmimeRun.h"
 #include "ToolRun.h"
 
 #include <span>
@@ -18,7 +18,14 @@ struct Refusal {
     std::string message;
 };
 
-using CommandPlan = std::variant<PassThrough, Refusal, ToolRun, CipherDecryption, SmimeDecryption>;
+/// A file is to be encrypted or decrypted with the password, which the front does itself.
+struct CipherRun {
+    FilePair files;
+    bool isDecryption;
+    PasswordFile file;
+};
+
+using CommandPlan = std::variant<PassThrough, Refusal, ToolRun, CipherRun, SmimeDecryption, SmimeEncryption>;
 
 /// What to do for this command line (without the program's name). A password in it moves to `password` and is
 /// overwritten in the memory of the arguments, so that the system's list of processes shows it no longer.

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "WipedBytes.h"
 #include "smime/ByteStreams.h"
 
 #include <string>
-#include <vector>
 
 class Fault;
 
@@ -21,5 +21,5 @@ public:
 private:
     int m_descriptor;
     Fault &m_fault;
-    std::vector<std::uint8_t> m_buffer;
+    base::WipedBytes m_buffer;
 };

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "smime/ByteStreams.h"
+#include "smime/CryptoHandles.h"
+
 #include <array>
 #include <string>
 #include <string_view>
@@ -25,3 +28,24 @@ inline constexpr std::array olderKeyDerivations{KeyDerivation{0, "sha256"}, KeyD
 
 /// The tool's options that ask for it; without the digest where the caller names that himself.
 [[nodiscard]] std::vector<std::string> derivationOptions(const KeyDerivation &derivation, bool withDigest);
+
+[[nodiscard]] CryptoHandle<EVP_MD> fetchDigest(std::string_view name);
+
+/// The key with the initialisation vector behind it, as both derivations make them. Wiped at the end.
+class KeyMaterial {
+public:
+    KeyMaterial() = default;
+    ~KeyMaterial();
+    KeyMaterial(const KeyMaterial &) = delete;
+    KeyMaterial &operator=(const KeyMaterial &) = delete;
+
+    /// False: the library won't.
+    [[nodiscard]] bool derive(const EVP_CIPHER *cipher, const KeyDerivation &derivation,
+                              std::string_view password, Bytes salt);
+    [[nodiscard]] const unsigned char *key() const { return m_bytes.data(); }
+    [[nodiscard]] const unsigned char *vector() const { return m_vector; }
+
+private:
+    std::array<unsigned char, EVP_MAX_KEY_LENGTH + EVP_MAX_IV_LENGTH> m_bytes{};
+    unsigned char *m_vector = m_bytes.data();
+};

@@ -2,6 +2,7 @@
 
 #include "FileDescriptor.h"
 #include "Secret.h"
+#include "WipedBytes.h"
 
 #include <array>
 #include <cerrno>
@@ -40,7 +41,7 @@ bool readLine(int from, Secret &passPhrase)
     if (count == 1 && letter != '\n') errno = EMSGSIZE;
     const bool isRead = count == 0 || letter == '\n';
     const bool isTaken = count >= 0 && isRead && passPhrase.assign({line.data(), size});
-    wipeMemory(line.data(), line.size());
+    base::wipe(line.data(), line.size());
     return isTaken;
 }
 
@@ -66,7 +67,7 @@ bool askPassPhrase(const std::string &cipher, Secret &passPhrase)
     const bool isAnswered =
         EVP_read_pw_string(line.data(), static_cast<int>(line.size()), prompt.c_str(), 0) == 0;
     const bool isTaken = isAnswered && passPhrase.assign(line.data());
-    wipeMemory(line.data(), line.size());
+    base::wipe(line.data(), line.size());
     return isTaken;
 }
 

@@ -1,18 +1,17 @@
 #include "ResultFile.h"
 
+#include "Complaint.h"
+
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
 #include <memory>
 #include <sys/stat.h>
-#include <sys/statvfs.h>
 #include <system_error>
 #include <unistd.h>
+#include <utility>
 
 namespace {
-
-// In bytes: less than this is what a file system has left after a write that it refused.
-constexpr unsigned long long nextToNothing = 65536;
 
 std::string resolved(const std::string &path)
 {
@@ -79,11 +78,9 @@ bool ResultFile::openTarget()
 
 bool ResultFile::write(Bytes bytes) { return base::writeFully(m_descriptor, bytes) || fail(errno); }
 
-bool ResultFile::isFull() const
+void ResultFile::tellWhereFull()
 {
-    struct statvfs status {};
-    if (!isStaged() || fstatvfs(m_descriptor, &status) != 0) return false;
-    return static_cast<unsigned long long>(status.f_bavail) * status.f_frsize < nextToNothing;
+    if (std::exchange(m_isFull, false)) complain("there is next to no space left for " + *m_path);
 }
 
 bool ResultFile::commit()
@@ -97,6 +94,7 @@ bool ResultFile::commit()
 
 bool ResultFile::fail(int error)
 {
+    m_isFull = error == ENOSPC && m_path;
     m_problem = "cannot write " + m_path.value_or("the standard output") + ": " +
                 std::generic_category().message(error);
     return false;

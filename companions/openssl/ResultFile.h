@@ -21,21 +21,19 @@ public:
 
     /// False: there is nowhere to write to; problem() says why.
     [[nodiscard]] bool open();
-    /// The file to write to; where it isn't staged, standard output, or -1 before openTarget().
-    [[nodiscard]] int descriptor() const { return m_descriptor; }
     [[nodiscard]] bool isStaged() const { return static_cast<bool>(m_staged); }
     /// Opens a target that isn't staged. False: problem() says why.
     [[nodiscard]] bool openTarget();
     [[nodiscard]] bool write(Bytes bytes) override;
-    /// Whether the file system has next to no room left.
-    [[nodiscard]] bool isFull() const;
+    /// Says, once, where there was no room for it; nothing where there was.
+    void tellWhereFull();
     /// Gives a staged file its name, in the place of an older one. False: problem() says why not.
     [[nodiscard]] bool commit();
     /// What went wrong, as a sentence; empty: nothing.
     [[nodiscard]] const std::string &problem() const { return m_problem; }
-    bool fail(int error);
 
 private:
+    bool fail(int error);
     [[nodiscard]] bool mayReplace();
     [[nodiscard]] bool stage();
 
@@ -47,4 +45,5 @@ private:
     base::FileDescriptor m_unstaged;
     int m_descriptor;
     std::string m_problem;
+    bool m_isFull = false;
 };

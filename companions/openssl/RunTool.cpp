@@ -1,14 +1,15 @@
 #include "RunTool.h"
 
+#include "Complaint.h"
 #include "FileSource.h"
 #include "Relay.h"
 #include "ResultFile.h"
 #include "StopSignals.h"
 #include "ToolProcess.h"
+#include "WipedBytes.h"
 
 #include <array>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -31,7 +32,7 @@ base::FileDescriptor passwordPipe(Secret &password)
     line[text.size()] = '\n';
     // It fits into any pipe, so this never waits for a reader.
     const ssize_t written = write(pipe.write.get(), line.data(), text.size() + 1);
-    wipeMemory(line.data(), line.size());
+    base::wipe(line.data(), line.size());
     password.wipe();
     return written == static_cast<ssize_t>(text.size() + 1) ? std::move(pipe.read) : base::FileDescriptor();
 }
@@ -46,7 +47,8 @@ public:
         , m_run(run)
         , m_output(run.output, run.isOurs ? ResultFile::Target::Name : ResultFile::Target::Opened)
     {
-        m_relay.beforeFirstWord([this] { tellWhereFull(); });
+        // Before anything that the tool makes of it, which nobody would understand.
+        m_relay.beforeFirstWord([this] { m_output.tellWhereFull(); });
     }
 
     int execute(Secret &password)
@@ -56,7 +58,7 @@ public:
         if (!start(password)) return failure;
         const Relay::Result relayed = m_relay.run();
         const int waitStatus = m_signals.waitForChild();
-        if (waitStatus != 0 || relayed.outputError != 0) tellWhereFull();
+        m_output.tellWhereFull();
         if (!succeeded(waitStatus, relayed))
             return WIFEXITED(waitStatus) && WEXITSTATUS(waitStatus) != 0 ? WEXITSTATUS(waitStatus) : failure;
         return m_output.commit() ? 0 : tellOutputProblem();
@@ -72,19 +74,11 @@ private:
         return static_cast<bool>(m_input);
     }
 
-    [[nodiscard]] int tellOutputProblem() const
+    int tellOutputProblem()
     {
+        m_output.tellWhereFull();
         complain(m_output.problem());
         return failure;
-    }
-
-    /// Before anything that the tool makes of it, which nobody would understand.
-    void tellWhereFull()
-    {
-        // By the time that anybody looks there may be room again.
-        const bool isFull = m_relay.outputError() == ENOSPC || m_output.isFull();
-        if (isFull && !m_hasToldFull) complain("there is next to no space left for " + *m_run.output);
-        m_hasToldFull = m_hasToldFull || isFull;
     }
 
     bool start(Secret &password)
@@ -94,22 +88,15 @@ private:
             passwordEnd = passwordPipe(password);
             if (!passwordEnd) return cannotStart();
         }
-        base::Pipe input = m_run.stream ? base::Pipe::open() : base::Pipe();
         base::Pipe output = m_run.output ? base::Pipe::open() : base::Pipe();
         base::Pipe errors = base::Pipe::open();
-        if (!errors.read || (m_run.output && !output.read) || (m_run.stream && !input.read))
-            return cannotStart();
+        if (!errors.read || (m_run.output && !output.read)) return cannotStart();
 
-        const int given = m_input ? m_input.get() : m_run.openInput;
-        const ToolStreams streams{m_run.stream ? input.read.get() : given,
-                                  output.write.get(),
-                                  errors.write.get(),
-                                  {passwordEnd.get()}};
+        const ToolStreams streams{m_input.get(), output.write.get(), errors.write.get(), {passwordEnd.get()}};
         const pid_t child = startTool(m_tool, toolArguments(passwordEnd.get()), streams, m_signals);
         if (child < 0) return cannotStart();
         m_signals.watch(child);
         connect(std::move(output.read), std::move(errors.read));
-        if (m_run.stream) m_relay.feed(*m_run.stream, std::move(input.write));
         return true;
     }
 
@@ -136,10 +123,10 @@ private:
     void connect(base::FileDescriptor output, base::FileDescriptor errors)
     {
         if (collectsOutput())
-            m_relay.collect(std::move(output), m_output.descriptor());
+            m_relay.collect(std::move(output), m_output);
         else if (m_run.output)
             m_relay.forward(std::move(output), STDOUT_FILENO);
-        m_relay.forward(std::move(errors), STDERR_FILENO, m_run.knownLines);
+        m_relay.forward(std::move(errors), STDERR_FILENO);
     }
 
     /// Tells what went wrong where nobody else did.
@@ -149,12 +136,8 @@ private:
             complain("stopped by " + base::signalName(signal));
             return false;
         }
-        if (relayed.outputError != 0) {
-            complain("cannot write " + *m_run.output + ": " + systemReason(relayed.outputError));
-            return false;
-        }
-        if (relayed.inputError != 0) {
-            complain("cannot read the input: " + systemReason(relayed.inputError));
+        if (!relayed.isWritten) {
+            complain(m_output.problem());
             return false;
         }
         if (WIFSIGNALED(waitStatus)) {
@@ -185,7 +168,6 @@ private:
     // A reader that went away must not end it before the child is waited for.
     base::StopSignals m_signals{base::StopSignals::BrokenPipe::IsAnError};
     ResultFile m_output;
-    bool m_hasToldFull = false;
     base::FileDescriptor m_input;
     Relay m_relay;
 };
@@ -198,5 +180,3 @@ int runTool(const std::string &tool, const ToolRun &run, Secret &password)
     if (const int signal = base::StopSignals::received()) base::endBySignal(signal);
     return status;
 }
-
-void complain(const std::string &message) { std::fprintf(stderr, "openssl: %s\n", message.c_str()); }

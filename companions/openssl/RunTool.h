@@ -9,6 +9,3 @@
 /// program: 0, or else the tool's own, or 1. Where a signal asked to stop, the program ends by that signal
 /// instead, once the tool is gone and nothing is left behind.
 [[nodiscard]] int runTool(const std::string &tool, const ToolRun &run, Secret &password);
-
-/// Prints one line of the front's own to standard error.
-void complain(const std::string &message);

@@ -1,13 +1,8 @@
 #include "Secret.h"
 
-#include <algorithm>
+#include "WipedBytes.h"
 
-void wipeMemory(char *memory, std::size_t size)
-{
-    volatile char *bytes = memory;
-    for (std::size_t i = 0; i < size; ++i)
-        bytes[i] = '\0';
-}
+#include <algorithm>
 
 bool Secret::assign(std::string_view text)
 {
@@ -20,6 +15,6 @@ bool Secret::assign(std::string_view text)
 
 void Secret::wipe()
 {
-    wipeMemory(m_bytes.data(), m_bytes.size());
+    base::wipe(m_bytes.data(), m_bytes.size());
     m_size = 0;
 }

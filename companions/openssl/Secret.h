@@ -4,9 +4,6 @@
 #include <cstddef>
 #include <string_view>
 
-/// Overwrites memory with zeros in a way that the compiler does not leave out.
-void wipeMemory(char *memory, std::size_t size);
-
 /// A password, held in one place only and wiped from there at the end.
 class Secret {
 public:

@@ -4,6 +4,8 @@
 #include "CommandLine.h"
 #include "PassPhrase.h"
 #include "Secret.h"
+#include "WipedBytes.h"
+#include "smime/MessageEncryption.h"
 
 #include <algorithm>
 #include <array>
@@ -39,8 +41,56 @@ bool isOurs(const CommandLine &line)
     return line.worksOnFiles({"aes256", "encrypt", "decrypt", "binary", "in", "out", "inkey"});
 }
 
+bool isOneOf(const char *text, std::initializer_list<const char *> words)
+{
+    return std::ranges::any_of(words, [text](const char *word) { return strcasecmp(text, word) == 0; });
+}
+
+std::optional<std::string> valueOf(const CommandLine &line, std::string_view name)
+{
+    const char *const value = line.value(name);
+    return value ? std::optional<std::string>(value) : std::nullopt;
+}
+
+FilePair filesOf(const CommandLine &line) { return {line.file("in"), line.file("out"), isOurs(line)}; }
+
+MessageForm formOf(const CommandLine &line, std::string_view option)
+{
+    const char *const form = line.value(option);
+    return form && isOneOf(form, {"DER"}) ? MessageForm::Der : MessageForm::Smime;
+}
+
+/// Whether the front can do itself what the option of an encryption asks for. It writes in pieces always.
+bool isOwnEncryption(const Option &option)
+{
+    constexpr auto names =
+        std::to_array<std::string_view>({"encrypt", "binary", "in", "out", "stream", "indef", "noindef"});
+    if (option.name == "outform") return option.value && isOneOf(option.value, {"SMIME", "DER"});
+    return std::ranges::count(names, option.name) > 0;
+}
+
+/// Nothing: it is a matter for the tool, which also tells what is wrong with a certificate.
+std::optional<SmimeEncryption> planOwnEncryption(const CommandLine &line)
+{
+    std::string_view cipher;
+    for (const Option &each : line.options()) {
+        const bool isCipherName = !each.value && isCipher(each.name);
+        if (isCipherName ? !cipher.empty() : !isOwnEncryption(each)) return std::nullopt;
+        if (isCipherName) cipher = each.name;
+    }
+    if (cipher.empty() || needsLegacyProvider(cipher) || !line.has({"binary"})) return std::nullopt;
+    SmimeEncryption encryption{filesOf(line), formOf(line, "outform"), LibraryCipher(cipher), {}};
+    std::string ignored;
+    for (const char *const operand : line.operands())
+        encryption.recipients.push_back(readCertificate(operand, ignored));
+    const bool isPossible = encryption.cipher.get() && !encryption.recipients.empty() &&
+                            std::ranges::all_of(encryption.recipients, canReceive);
+    return isPossible ? std::optional(std::move(encryption)) : std::nullopt;
+}
+
 CommandPlan planEncryption(const CommandLine &line)
 {
+    if (std::optional<SmimeEncryption> own = planOwnEncryption(line)) return std::move(*own);
     const char *const input = line.value("in");
     struct stat status {};
     const bool isFound = input && stat(input, &status) == 0;
@@ -70,11 +120,6 @@ CommandPlan planToolDecryption(const CommandLine &line)
     return run;
 }
 
-bool isOneOf(const char *text, std::initializer_list<const char *> words)
-{
-    return std::ranges::any_of(words, [text](const char *word) { return strcasecmp(text, word) == 0; });
-}
-
 /// Whether the front can do itself what the option asks for.
 bool isOwnAffair(const Option &option)
 {
@@ -88,12 +133,6 @@ bool isOwnAffair(const Option &option)
     return name == "in" || name == "out" || name == "inkey" || name == "recip";
 }
 
-std::optional<std::string> valueOf(const CommandLine &line, std::string_view name)
-{
-    const char *const value = line.value(name);
-    return value ? std::optional<std::string>(value) : std::nullopt;
-}
-
 /// Moves a pass phrase that is spelled out to `passPhrase`. False: it is too long for that.
 bool takePassPhrase(const CommandLine &line, SmimeDecryption &decryption, Secret &passPhrase)
 {
@@ -105,21 +144,18 @@ bool takePassPhrase(const CommandLine &line, SmimeDecryption &decryption, Secret
     }
     char *const text = option->value + inlinePassPhrase.size();
     decryption.hasPassPhrase = passPhrase.assign(text);
-    wipeMemory(text, std::strlen(text));
+    base::wipe(text, std::strlen(text));
     return decryption.hasPassPhrase;
 }
 
 CommandPlan planOwnDecryption(const CommandLine &line, Secret &passPhrase)
 {
     SmimeDecryption decryption;
-    decryption.input = valueOf(line, "in");
-    decryption.output = valueOf(line, "out");
-    decryption.isOurs = isOurs(line);
+    decryption.files = filesOf(line);
+    decryption.form = formOf(line, "inform");
     decryption.recipient = valueOf(line, "recip");
     // The tool looks for the key beside the certificate, too.
     decryption.keyFile = valueOf(line, "inkey").value_or(decryption.recipient.value_or(""));
-    const char *const form = line.value("inform");
-    if (form && isOneOf(form, {"DER"})) decryption.form = MessageForm::Der;
     const std::span<char *const> operands = line.operands();
     if (!operands.empty()) decryption.mentionedCertificate = operands.front();
     if (!takePassPhrase(line, decryption, passPhrase))
@@ -151,7 +187,7 @@ CommandPlan planSmimeCommand(std::span<char *const> arguments, Secret &passPhras
     const bool isEncryption = operationOf(line)->name == "encrypt";
     CommandPlan plan = isEncryption ? planEncryption(line) : planDecryption(line, passPhrase);
     if (ToolRun *const run = std::get_if<ToolRun>(&plan)) {
-        if (const char *const output = line.value("out")) run->output = output;
+        run->output = line.file("out");
         run->mayPrint = line.has({"help"});
     }
     return plan;

@@ -2,9 +2,9 @@
 // of files that are to be kept: today's key derivation, ciphers that it hides, messages of any size, results
 // that are whole or not there at all.
 
-#include "CipherDecryption.h"
 #include "ClosedMemory.h"
 #include "CommandPlan.h"
+#include "Complaint.h"
 #include "HandedArguments.h"
 #include "RunTool.h"
 #include "ToolLocation.h"
@@ -22,8 +22,6 @@ constexpr int failure = 1;
 int carryOut(const CommandPlan &plan, const std::string &tool, char **argv, Secret &password)
 {
     if (const ToolRun *const run = std::get_if<ToolRun>(&plan)) return runTool(tool, *run, password);
-    if (const CipherDecryption *const decryption = std::get_if<CipherDecryption>(&plan))
-        return decryptWithCipher(tool, *decryption, password);
     becomeTool(tool, argv);
     complain("cannot run " + tool + ": " + std::generic_category().message(errno));
     return failure;
@@ -46,8 +44,14 @@ int main(int argc, char **argv)
         complain(refusal->message);
         return failure;
     }
+    if (const CipherRun *const run = std::get_if<CipherRun>(&plan)) {
+        const auto make = run->isDecryption ? decryption : encryption;
+        return convert(run->files, make(run->file, password.text()));
+    }
     if (const SmimeDecryption *const decryption = std::get_if<SmimeDecryption>(&plan))
         return decryptSmime(*decryption, password);
+    if (const SmimeEncryption *const encryption = std::get_if<SmimeEncryption>(&plan))
+        return encryptSmime(*encryption);
     const auto tool = findTool(toolCandidates(std::getenv("PATH")), ownIdentities(argv[0]));
     if (!tool) {
         complain("the system has no openssl program: install its package");

@@ -120,7 +120,8 @@ QString explainDecryption(const FailedStage &stage)
     if (says(stage, {u"bad decrypt", u"wrong final block"}))
         return u"The password is wrong: \"%1\" can't be decrypted with it. Type the one that the "
                "archive was made with."_qs.arg(name);
-    if (says(stage, {u"bad magic number", u"error reading input file", u"wrong tag", u"bad base64"}))
+    if (says(stage, {u"bad magic number", u"error reading input file", u"wrong tag", u"bad base64",
+                     u"is damaged", u"ends too early", u"goes on after the end", u"is empty"}))
         return u"What is in \"%1\" was not encrypted by a password, or it is damaged. Choose another "
                "decryption method, or fetch another copy."_qs.arg(name);
     return u"\"%1\" can't be decrypted: %2."_qs.arg(name, stage.tool.firstLine());

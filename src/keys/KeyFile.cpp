@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr qint64 examinedBytes = 64 * 1024;
+constexpr qint64 examinedBytes = 65'536;
 
 KeyFileKind kindOfText(const QByteArray &text)
 {

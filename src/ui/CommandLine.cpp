@@ -1,25 +1,48 @@
 #include "ui/CommandLine.h"
 
-#include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFileInfo>
+#include <QUrl>
 #include <cstdio>
 
-bool ui::wantsText(int argc, char **argv, const char *version)
+namespace ui {
+
+CommandLine::CommandLine(int argc, char **argv)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
+    m_parser.setApplicationDescription(
         QStringLiteral("Backs up folders into encrypted archives, and brings them back. Opens a window;\n"
                        "quillorent-run does the same without one."));
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
-                                  QStringLiteral("Show this text."));
-    const QCommandLineOption showVersion({QStringLiteral("v"), QStringLiteral("version")},
-                                         QStringLiteral("Show the version."));
-    parser.addOptions({help, showVersion});
+    m_parser.addOptions(
+        {{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this text.")},
+         {{QStringLiteral("v"), QStringLiteral("version")}, QStringLiteral("Show the version.")}});
+    m_parser.addPositionalArgument(QStringLiteral("archive"), QStringLiteral("Archives to bring back."),
+                                   QStringLiteral("[archive...]"));
     const QCoreApplication application(argc, argv);
-    parser.parse(QCoreApplication::arguments()); // what else there is may be for the toolkit
-    if (parser.isSet(help))
-        std::fputs(qUtf8Printable(parser.helpText()), stdout);
-    else if (parser.isSet(showVersion))
-        std::printf("quillorent %s\n", version);
-    return parser.isSet(help) || parser.isSet(showVersion);
+    m_parser.parse(QCoreApplication::arguments()); // what else there is may be for the toolkit
+    m_help = m_parser.helpText();
 }
+
+bool CommandLine::printsText(const char *version) const
+{
+    const bool asksForHelp = m_parser.isSet(QStringLiteral("help"));
+    const bool asksForVersion = m_parser.isSet(QStringLiteral("version"));
+    if (asksForHelp)
+        std::fputs(qUtf8Printable(m_help), stdout);
+    else if (asksForVersion)
+        std::printf("quillorent %s\n", version);
+    return asksForHelp || asksForVersion;
+}
+
+QStringList CommandLine::archives()
+{
+    QStringList paths;
+    m_parser.parse(QCoreApplication::arguments());
+    for (const QString &each : m_parser.positionalArguments()) {
+        if (each.isEmpty()) continue;
+        const QUrl address(each);
+        paths.append(QFileInfo(address.isLocalFile() ? address.toLocalFile() : each).absoluteFilePath());
+    }
+    return paths;
+}
+
+} // namespace ui

@@ -1,9 +1,9 @@
 #include "ui/SingleWindow.h"
 
 #include <QCryptographicHash>
+#include <QDataStream>
 #include <QDir>
 #include <QFileInfo>
-#include <QLocalSocket>
 #include <QLockFile>
 #include <QStandardPaths>
 #include <chrono>
@@ -23,12 +23,17 @@ QString socketFor(const QString &folder)
         .filePath(u"quillorent-"_qs + QString::fromLatin1(hash.left(16)));
 }
 
-/// Whether a window answers that it comes to the front.
-bool raisesOther(const QString &path)
+/// Whether a window answers that it comes to the front; it gets the archives then.
+bool raisesOther(const QString &path, const QStringList &archives)
 {
     QLocalSocket socket;
     socket.connectToServer(path);
-    return socket.waitForConnected(1000) && (socket.bytesAvailable() > 0 || socket.waitForReadyRead(5000));
+    if (!socket.waitForConnected(1000) || (socket.bytesAvailable() == 0 && !socket.waitForReadyRead(5000)))
+        return false;
+    QDataStream stream(&socket);
+    stream << archives;
+    socket.waitForBytesWritten(5000);
+    return true;
 }
 
 } // namespace
@@ -39,14 +44,14 @@ SingleWindow::SingleWindow(const QString &folder) : m_path(socketFor(folder))
     connect(&m_server, &QLocalServer::newConnection, this, &SingleWindow::answer);
 }
 
-bool SingleWindow::take()
+bool SingleWindow::take(const QStringList &archives)
 {
     // Of two that start at once, the second looks when the first listens.
     QLockFile turn(m_path + u".lock"_qs);
     turn.setStaleLockTime(0);
     turn.tryLock(10'000);
 
-    if (raisesOther(m_path)) return false;
+    if (raisesOther(m_path, archives)) return false;
     QLocalServer::removeServer(m_path);
     if (!m_server.listen(m_path))
         qWarning("%s: %s", qUtf8Printable(m_path), qUtf8Printable(m_server.errorString()));
@@ -57,11 +62,20 @@ void SingleWindow::answer()
 {
     while (QLocalSocket *socket = m_server.nextPendingConnection()) {
         connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+        connect(socket, &QLocalSocket::readyRead, this, [this, socket] { listenTo(*socket); });
         socket->write("1");
         socket->flush();
-        socket->disconnectFromServer();
         Q_EMIT raiseRequested();
     }
+}
+
+void SingleWindow::listenTo(QLocalSocket &socket)
+{
+    QDataStream stream(&socket);
+    QStringList archives;
+    stream.startTransaction(); // the rest may be on its way
+    stream >> archives;
+    if (stream.commitTransaction() && !archives.isEmpty()) Q_EMIT archivesGiven(archives);
 }
 
 } // namespace ui

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLocalServer>
+#include <QLocalSocket>
 
 namespace ui {
 
@@ -14,9 +15,9 @@ public:
     /// `folder` is the folder of settings, which should exist.
     explicit SingleWindow(const QString &folder);
 
-    /// Whether this program may open the window. If not, another has one, and brings it to the front. One
-    /// that has died, or gives no answer for some seconds, keeps nobody out.
-    [[nodiscard]] bool take();
+    /// Whether this program may open the window. If not, another has one, brings it to the front, and is told
+    /// of these archives. One that has died, or gives no answer for some seconds, keeps nobody out.
+    [[nodiscard]] bool take(const QStringList &archives = {});
 
     /// The next program that starts may open one. Called when the window closes, as what comes after may take
     /// its time.
@@ -24,9 +25,12 @@ public:
 
 Q_SIGNALS:
     void raiseRequested();
+    /// Another program was started with these archives, named by absolute paths; there is at least one.
+    void archivesGiven(const QStringList &archives);
 
 private:
     void answer();
+    void listenTo(QLocalSocket &socket);
 
     const QString m_path;
     QLocalServer m_server;

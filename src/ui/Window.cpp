@@ -73,6 +73,13 @@ void Window::comeToFront()
     activateWindow();
 }
 
+void Window::offer(const QStringList &archives)
+{
+    if (archives.isEmpty()) return;
+    m_form->mainTabs->setCurrentWidget(m_form->extractPage);
+    m_controller.addArchives(archives);
+}
+
 // What a form can't say.
 void Window::finishForm()
 {

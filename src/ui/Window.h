@@ -30,6 +30,8 @@ public:
     [[nodiscard]] QList<QWidget *> roots();
 
     void comeToFront(); ///< also where it was minimised
+    /// Offers archives, by absolute paths, to be restored.
+    void offer(const QStringList &archives);
 
 Q_SIGNALS:
     void closed();

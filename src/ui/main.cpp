@@ -13,7 +13,8 @@
 int main(int argc, char *argv[])
 {
     // Also where there is no display.
-    if (ui::wantsText(argc, argv, QUILLORENT_VERSION)) return 0;
+    ui::CommandLine commandLine(argc, argv);
+    if (commandLine.printsText(QUILLORENT_VERSION)) return 0;
     prepareProcess();
     QApplication application(argc, argv);
     // Closing the window ends the program, and only that: a panel may close while the window is hidden.
@@ -22,7 +23,7 @@ int main(int argc, char *argv[])
 
     static_cast<void>(quillorentLibrary::makePrivateFolder(quillorentLibrary::preferencesFolder()));
     ui::SingleWindow single(quillorentLibrary::preferencesFolder());
-    if (!single.take()) {
+    if (!single.take(commandLine.archives())) {
         std::fputs("Quillorent is open already; its window comes to the front.\n", stderr);
         return 0;
     }
@@ -36,8 +37,10 @@ int main(int argc, char *argv[])
         ui::Window window(controller);
         QObject::connect(&window, &ui::Window::closed, &application, quit);
         QObject::connect(&single, &ui::SingleWindow::raiseRequested, &window, &ui::Window::comeToFront);
+        QObject::connect(&single, &ui::SingleWindow::archivesGiven, &window, &ui::Window::offer);
         window.show();
         controller.applicationDidFinishLaunching();
+        window.offer(commandLine.archives());
         QCoreApplication::exec();
         single.giveUp();
     }

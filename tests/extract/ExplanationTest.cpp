@@ -24,7 +24,7 @@ TEST(Explanation, TellsTheCausesApart)
               [](auto &s) { s.bytesFree = 0, s.folder = u"/b"_qs; }},
              {Kind::UnpackOuter, u"Permission denied"_qs, u"Nothing may be written"_qs,
               [](auto &s) { s.folderIsWritable = false; }},
-             {Kind::Decrypt, u"bad magic number\n"_qs, u"not encrypted by a password"_qs},
+             {Kind::Decrypt, u"openssl: x is damaged\n"_qs, u"not encrypted by a password"_qs},
              {Kind::Decrypt, u"x"_qs, u"Choose the decryption"_qs, [](auto &s) { s.decoderCommand.clear(); }},
              {Kind::Decrypt, u"x"_qs, u"its name promises"_qs,
               [](auto &s) { s.atEncrypted = Place::Nothing; }},

@@ -219,9 +219,9 @@ TEST_F(ProfilesTest, ASecondStartRaisesTheFirstWindow)
     std::filesystem::permissions(runtime.path(), std::filesystem::perms{0700});
     qputenv("XDG_RUNTIME_DIR", runtime.path().c_str());
     const std::string config = quillorentLibrary::preferencesFolder().toStdString();
-    const auto start = [&](const std::string &folder) {
+    const auto start = [&](const std::string &folder, const std::string &archive = {}) {
         return std::make_unique<BackgroundProgram>(
-            std::vector<std::string>{QUILLORENT},
+            std::vector<std::string>{QUILLORENT, archive},
             CommandOptions{.environment = {{"XDG_CONFIG_HOME", folder}}}, (runtime / "log").string());
     };
     const auto sockets = [&] {
@@ -236,11 +236,15 @@ TEST_F(ProfilesTest, ASecondStartRaisesTheFirstWindow)
     ui::SingleWindow single(quillorentLibrary::preferencesFolder());
     ASSERT_TRUE(single.take());
     QObject::connect(&single, &ui::SingleWindow::raiseRequested, &window, &ui::Window::comeToFront);
+    QObject::connect(&single, &ui::SingleWindow::archivesGiven, &window, &ui::Window::offer);
     window.showMinimized();
 
-    const auto second = start(config);
+    const std::string archive = (runtime / "a b.rar.aes.rar").string();
+    const auto second = start(config, archive);
     EXPECT_TRUE(waitUntil([&] { return second->hasEnded(); }));
     EXPECT_FALSE(window.isMinimized());
+    EXPECT_TRUE(waitUntil([&] { return !program.delegate().extractFullList.strings().isEmpty(); }));
+    EXPECT_EQ(program.delegate().extractFullList.strings(), QStringList(QString::fromStdString(archive)));
     const auto other = start(program.path("other").toStdString());
     EXPECT_TRUE(waitUntil([&] { return sockets() == 2; })) << "settings of its own, a window of its own";
     EXPECT_FALSE(other->hasEnded());

@@ -1,34 +1,14 @@
 #include "Base64Source.h"
 
+#include "Base64.h"
 #include "Fault.h"
 
-#include <array>
+#include <span>
 #include <string>
-#include <string_view>
 
 namespace {
 
 constexpr std::size_t bufferSize = 196'608; // in bytes, what 256 KiB of text stand for
-
-// Above every value of 24 bits, so that it survives being mixed with the other characters of a group.
-constexpr std::uint32_t noBase64 = 0x0100'0000;
-
-using Table = std::array<std::uint32_t, 256>;
-
-/// The bits of a character where it is the first, second, third or fourth of its group.
-constexpr std::array<Table, 4> makeTables()
-{
-    constexpr std::string_view alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    std::array<Table, 4> tables{};
-    for (unsigned place = 0; place < tables.size(); ++place) {
-        tables[place].fill(noBase64);
-        for (std::uint32_t value = 0; value < alphabet.size(); ++value)
-            tables[place][static_cast<std::uint8_t>(alphabet[value])] = value << (18 - 6 * place);
-    }
-    return tables;
-}
-
-constexpr std::array<Table, 4> tables = makeTables();
 
 bool isWhite(std::uint8_t character)
 {
@@ -37,8 +17,8 @@ bool isWhite(std::uint8_t character)
 
 } // namespace
 
-Base64Source::Base64Source(ByteReader &text, Fault &fault)
-    : m_text(text), m_fault(fault), m_decoded(bufferSize)
+Base64Source::Base64Source(ByteReader &text, Fault &fault, Rules rules)
+    : m_text(text), m_fault(fault), m_rules(rules), m_decoded(bufferSize)
 {
 }
 
@@ -67,30 +47,29 @@ bool Base64Source::isFull() const { return m_size + 3 > m_decoded.size(); }
 /// text.
 std::size_t Base64Source::decodeWhole(Bytes text)
 {
-    if (m_groupSize != 0 || m_isPadded) return 0;
-    const std::size_t groups = std::min(text.size() / 4, (m_decoded.size() - m_size) / 3);
-    const std::uint8_t *from = text.data();
-    std::uint8_t *to = m_decoded.data() + m_size;
-    std::size_t done = 0;
-    for (; done < groups; ++done, from += 4, to += 3) {
-        const std::uint32_t bits =
-            tables[0][from[0]] | tables[1][from[1]] | tables[2][from[2]] | tables[3][from[3]];
-        if (bits & noBase64) break;
-        to[0] = static_cast<std::uint8_t>(bits >> 16);
-        to[1] = static_cast<std::uint8_t>(bits >> 8);
-        to[2] = static_cast<std::uint8_t>(bits);
-    }
-    m_size += done * 3;
-    return done * 4;
+    if (m_groupSize != 0 || m_isPadded || m_isOutside) return 0;
+    const auto [size, decoded] = base64::decode(text, std::span(m_decoded).subspan(m_size));
+    m_size += decoded;
+    m_hasBegun = m_hasBegun || decoded > 0;
+    if (size > 0) m_isAtLineStart = text[size - 1] == '\n';
+    return size;
 }
 
 bool Base64Source::decodeOne(std::uint8_t character)
 {
+    if (m_isAtLineStart && character == '-' && m_rules == Rules::OfTool) m_isOutside = true;
+    m_isAtLineStart = character == '\n';
+    if (m_isOutside) {
+        // The text begins behind such a line, or has ended before it.
+        m_isOutside = character != '\n' || m_hasBegun;
+        return true;
+    }
     if (isWhite(character)) return true;
+    m_hasBegun = true;
     // Whoever gets what came before may find that the message is over.
     if (character == '=') return takePadding();
-    const std::uint32_t bits = tables[3][character];
-    if (bits == noBase64 || m_isPadded) return reportCharacter();
+    const std::uint8_t bits = base64::valueOf(character);
+    if (bits > 63 || m_isPadded) return reportCharacter();
     m_group = m_group << 6 | bits;
     if (++m_groupSize == 4) put(3);
     return true;
@@ -104,7 +83,8 @@ bool Base64Source::takePadding()
     }
     // Four bits are left over from two characters, two from three.
     const unsigned leftOver = m_groupSize == 2 ? 4 : 2;
-    const bool isPossible = m_groupSize >= 2 && (m_group & ((1U << leftOver) - 1)) == 0;
+    const bool isClean = (m_group & ((1U << leftOver) - 1)) == 0 || m_rules == Rules::OfTool;
+    const bool isPossible = m_groupSize >= 2 && isClean;
     if (!isPossible || m_isPadded) return reportCharacter();
     m_paddingLeft = 3 - m_groupSize;
     m_isPadded = true;

@@ -8,10 +8,14 @@
 class Fault;
 
 /// What a base64 text (RFC 2045, section 6.8) stands for. Lines may have any length and end with LF or CRLF;
-/// every other character that is none of base64's is a fault, and so are bits that stand for nothing.
+/// every other character that is none of base64's is a fault.
 class Base64Source final : public ByteSource {
 public:
-    Base64Source(ByteReader &text, Fault &fault);
+    enum class Rules {
+        Strict, ///< bits that stand for nothing are a fault, too
+        OfTool, ///< as the system's tool takes it: with lines around it that begin with a dash, and any bits
+    };
+    Base64Source(ByteReader &text, Fault &fault, Rules rules = Rules::Strict);
 
     /// A fault in the text is reported once all that stands before it was read.
     [[nodiscard]] Bytes read() override;
@@ -23,7 +27,6 @@ private:
     [[nodiscard]] bool isFull() const;
     std::size_t decodeWhole(Bytes text);
     bool decodeOne(std::uint8_t character);
-    bool addSixBits(std::uint32_t bits);
     bool takePadding();
     void put(unsigned count);
     bool finish();
@@ -31,6 +34,7 @@ private:
 
     ByteReader &m_text;
     Fault &m_fault;
+    Rules m_rules;
     std::vector<std::uint8_t> m_decoded;
     std::size_t m_size = 0;     ///< of what is decoded
     std::uint32_t m_group = 0;  ///< the bits of the characters of an unfinished group of four
@@ -38,4 +42,7 @@ private:
     unsigned m_paddingLeft = 0; ///< how many more `=` the last group needs
     bool m_isPadded = false;    ///< the last group came
     bool m_expectsEnd = false;
+    bool m_hasBegun = false;
+    bool m_isAtLineStart = true;
+    bool m_isOutside = false; ///< in lines that are no part of it
 };

@@ -1,16 +1,14 @@
 #pragma once
 
 #include "ByteStreams.h"
-#include "CryptoHandles.h"
+#include "CipherSink.h"
 
 #include <cstddef>
-#include <vector>
 
 class ContentKey;
 class Fault;
 
-/// Decrypts the content of a message piece by piece. What returns false has reported why, but for a sink that
-/// failed.
+/// Decrypts the content of a message piece by piece. What returns false has reported why.
 class ContentCipher {
 public:
     ContentCipher(ByteSink &output, Fault &fault);
@@ -25,12 +23,7 @@ public:
     [[nodiscard]] bool finish();
 
 private:
-    bool flush();
-
-    ByteSink &m_output;
     Fault &m_fault;
     CryptoHandle<EVP_CIPHER> m_cipher;
-    CryptoHandle<EVP_CIPHER_CTX> m_context;
-    std::vector<std::uint8_t> m_decrypted;
-    std::size_t m_size = 0; ///< of what is decrypted and not in the sink
+    CipherSink m_sink;
 };

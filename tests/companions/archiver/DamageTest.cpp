@@ -16,8 +16,7 @@ protected:
         writeFile(archive, bytes);
         std::string messages;
         archiver::Diagnostics diagnostics(messages);
-        archiver::EntryTester tester;
-        archiver::processArchive(archive, tester, diagnostics);
+        archiver::processArchive(archive, archiver::entryTesters(), diagnostics);
         return messages;
     }
 

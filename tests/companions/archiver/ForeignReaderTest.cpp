@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <functional>
 #include <map>
+#include <mutex>
 
 using namespace archiver;
 namespace fs = std::filesystem;
@@ -12,21 +13,34 @@ namespace fs = std::filesystem;
 namespace {
 
 /// What comes out of an archive: contents by name, links with an arrow, and what is said.
-struct Unpacked final : EntryReceiver, ContentSink {
+struct Unpacked {
     std::map<std::string, std::string> entries;
     std::string messages;
-    std::string content;
+};
 
-    void folder(const FileHeader &header) override { entries[header.name + "/"]; }
-    void link(const FileHeader &header) override { entries[header.name] = "-> " + header.link->path; }
-    ContentSink *beginFile(const FileHeader &) override { return content.clear(), this; }
-    void finishFile(const FileHeader &header) override { entries[header.name] = content; }
-    void abandonFile() override {}
+/// Several threads have one each.
+class Collector final : public EntryReceiver {
+public:
+    Collector(Unpacked &all, std::mutex &mutex) : m_all(all), m_mutex(mutex) {}
+    void folder(const FileHeader &header) override { add(header.name + "/", ""); }
+    void link(const FileHeader &header) override { add(header.name, "-> " + header.link->path); }
+    bool beginFile(const FileHeader &) override { return m_content.clear(), true; }
+    void finishFile(const FileHeader &header) override { add(header.name, m_content); }
     bool write(Bytes bytes) override
     {
-        content.append(bytes.begin(), bytes.end());
+        m_content.append(bytes.begin(), bytes.end());
         return true;
     }
+
+private:
+    void add(const std::string &name, const std::string &content)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_all.entries[name] = content;
+    }
+    Unpacked &m_all;
+    std::mutex &m_mutex;
+    std::string m_content;
 };
 
 class ForeignArchive : public ArchiverTest {
@@ -38,23 +52,19 @@ protected:
         fs::remove(temporary / ("set.part" + std::to_string(volumes.size() + 1) + ".rar"));
         Unpacked unpacked;
         Diagnostics diagnostics(unpacked.messages);
-        processArchive(temporary / "set.part1.rar", unpacked, diagnostics);
+        std::mutex mutex;
+        const auto make = [&](Diagnostics &) { return std::make_unique<Collector>(unpacked, mutex); };
+        processArchive(temporary / "set.part1.rar", {make}, diagnostics);
         return unpacked;
     }
 };
 
-/// Packed in blocks of that many bytes. What says that it shares the dictionary of the entry before is
-/// nothing that the own reader unpacks.
-HandmadeEntry packedFile(const std::string &name, const std::string &content, bool sharesDictionary,
-                         std::size_t block = HuffmanEncoder::blockInput)
+HandmadeEntry packedFile(const std::string &name, const std::string &content, bool sharesDictionary)
 {
     HuffmanEncoder encoder;
     HandmadeEntry entry = storedFile(name, content);
-    entry.data.clear();
-    for (std::size_t at = 0; at < content.size(); at += block) {
-        const Bytes packed = encoder.encode(bytesOf(content.substr(at, block)), at + block >= content.size());
-        entry.data.append(packed.begin(), packed.end());
-    }
+    const Bytes packed = content.empty() ? Bytes() : encoder.encode(bytesOf(content), true);
+    entry.data.assign(packed.begin(), packed.end());
     entry.header.packedSize = entry.data.size();
     entry.header.method = HuffmanEncoder::method;
     entry.header.dictionary = HuffmanEncoder::dictionary;
@@ -98,49 +108,36 @@ std::string withRecord(const std::string &bytes, std::size_t at, const ByteBuffe
 
 } // namespace
 
-TEST_F(ForeignArchive, thatIsValidComesBack)
+TEST_F(ForeignArchive, isReadWhateverElseItsHeadersSay)
 {
-    const std::string text = base64Text(5000);
-    const std::string more = base64Text(100'000);
-    HandmadeEntry empty = packedFile("empty", "", true);
-    const std::string solid = handmadeArchive(
-        {packedFile("before", text, false), storedFile("stored", ""), empty, linkEntry("link", "before"),
-         packedFile("middle", more, true), packedFile("after", text + "x", true), storedFile("last", "2"),
-         packedFile("alone", text, false), packedFile("end", more, true)},
-        presentFormat, {.solid = true});
+    const std::string content(1000, 'A');
+    const std::string bytes = handmadeArchive(
+        {storedFile("file", content), packedFile("empty", "", true), linkEntry("link", "file")});
     const std::map<std::string, std::string> expected = {
-        {"before", text},      {"stored", ""}, {"empty", ""},   {"link", "-> before"}, {"middle", more},
-        {"after", text + "x"}, {"last", "2"},  {"alone", text}, {"end", more}};
+        {"file", content}, {"empty", ""}, {"link", "-> file"}};
     const std::size_t mainAt = signature.size();
-    const std::size_t fileAt = mainAt + *headerLength(bytesOf(solid.substr(mainAt)));
+    const std::size_t fileAt = mainAt + *headerLength(bytesOf(bytes.substr(mainAt)));
+    const auto record = [](ByteBuffer start, const std::vector<std::uint64_t> &numbers) {
+        for (const std::uint64_t number : numbers)
+            putU64(start, number);
+        return start;
+    };
     const ByteBuffer archiveName{2, 1, 5, 'a', '.', 'r', 'a', 'r'};
-    ByteBuffer times{3, 0x1D}; // changed, accessed, nanoseconds, no last change
-    for (std::uint32_t time = 1; time <= 4; ++time)
-        putU32(times, time);
-    ByteBuffer windowsTimes{3, 0x0E};
-    for (std::uint64_t time = 1; time <= 3; ++time)
-        putU64(windowsTimes, 0x01D0'0000'0000'0000 + time);
-    for (const std::string &bytes :
-         {solid, withRecord(solid, mainAt, archiveName), withRecord(solid, fileAt, times),
-          withRecord(solid, fileAt, windowsTimes)}) {
-        const Unpacked unpacked = unpack({bytes});
+    const ByteBuffer times = record({3, 0x1D}, {1, 2}); // changed, accessed, nanoseconds, no last change
+    const ByteBuffer windowsTimes =
+        record({3, 0x0E}, {0x01D0'0000'0000'0001, 0x01D0'0000'0000'0002, 0x01D0'0000'0000'0003});
+    // BLAKE2sp by another implementation: 8 leaves and a root of BLAKE2s.
+    ByteBuffer hash =
+        record({2, 0}, {0x24554964862af911u, 0x76bdf11ac6949b5bu, 0x6c720cb8da1820d7u, 0x155032dadc8eb00cu});
+    for (const std::string &each :
+         {bytes, withRecord(bytes, mainAt, archiveName), withRecord(bytes, fileAt, times),
+          withRecord(bytes, fileAt, windowsTimes), withRecord(bytes, fileAt, hash)}) {
+        const Unpacked unpacked = unpack({each});
         EXPECT_EQ(unpacked.messages, "");
         EXPECT_TRUE(unpacked.entries == expected);
     }
-}
-
-TEST_F(ForeignArchive, isReadWhereverItsVolumesEnd)
-{
-    constexpr std::size_t block = 2000;
-    const std::string content = base64Text(3 * block);
-    const HandmadeEntry first = packedFile("first", content.substr(0, block), false);
-    const HandmadeEntry entry = packedFile("file", content, true, block);
-    const std::size_t header = packedFile("", content.substr(0, block), true, block).data.size();
-    for (std::size_t cut = header - 3; cut < header + 9; ++cut) {
-        const Unpacked unpacked = unpack(handmadeSet({first, entry}, {cut, 2 * cut}, presentFormat));
-        EXPECT_EQ(unpacked.messages, "") << cut - header;
-        EXPECT_TRUE(unpacked.entries.contains("file") && unpacked.entries.at("file") == content);
-    }
+    hash.back() ^= 1;
+    EXPECT_EQ(unpack({withRecord(bytes, fileAt, hash)}).messages, "\nfile: checksum error\n");
 }
 
 TEST_F(ForeignArchive, thatIsBrokenIsSaidToBeOnceAndKeptBack)

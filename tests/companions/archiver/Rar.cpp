@@ -140,7 +140,8 @@ std::vector<std::string> handmadeSet(const std::vector<HandmadeEntry> &entries,
         part.header.continuesBefore = index > 0;
         part.header.continuesAfter = !isLast;
         if (!isLast) part.header.crc = archiver::crc32(bytesOf(part.data));
-        volumes.push_back(handmadeArchive(present, format, {.volume = true, .volumeIndex = index}));
+        volumes.push_back(handmadeArchive(
+            present, format, {.volume = true, .volumeIndex = index, .solid = entries.back().header.solid}));
         present = {part};
         start = end;
     }

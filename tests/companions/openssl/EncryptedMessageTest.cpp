@@ -1,5 +1,6 @@
 #include "smime/EncryptedMessage.h"
 #include "Front.h"
+#include "PasswordFile.h"
 #include "smime/BerReader.h"
 #include "smime/Fault.h"
 #include "smime/KeyFile.h"
@@ -77,6 +78,73 @@ TEST(EncryptedMessage, IsNeverTakenForWholeWhenItIsCutSpoiltOrGoesOn)
             ASSERT_EQ(reason.find('\n'), std::string::npos);
         }
     }
+}
+
+// Lines as other tools break them, and the marks that some put around.
+TEST(PasswordFile, IsReadWhereTheSystemsToolReadsItAndNeverTakenForWholeWhenItIsNot)
+{
+    const TemporaryFolder folder;
+    const std::string plain = binaryData(3'001);
+    writeFile(folder / "F", plain);
+    const std::string how = "enc -aes256 -pbkdf2 -iter 1 -k x ";
+    writeFile(folder / "G",
+              "Salted__SaltSalt" + runIn(folder, stock, how + "-in F -S 53616c7453616c74").output);
+    const std::string letters = runIn(folder, stock, "base64 -A -in G").output;
+    const auto lines = [&letters](std::size_t width, const std::string &end = "\n") {
+        std::string text;
+        for (std::size_t i = 0; i < letters.size(); i += width)
+            text += letters.substr(i, width) + end;
+        return text;
+    };
+    const PasswordFile file{LibraryCipher("aes256"), true, true, {{1, "sha256"}}};
+    std::string reason;
+    const auto isTaken = [&](std::string_view text, std::size_t pieceSize = 4'096) {
+        TextSource source(text, pieceSize);
+        TextSink sink;
+        Fault fault;
+        const bool isDone = decryption(file, "x")(source, sink, fault);
+        EXPECT_TRUE(isDone != fault.isSet() && (!isDone || sink.text == plain));
+        reason = fault.predicate();
+        return isDone;
+    };
+    const std::string whole = lines(64);
+    const auto spoilt = [&whole](std::size_t place, const std::string &by) {
+        return std::string(whole).replace(place, 1, by);
+    };
+    std::size_t taken = 0;
+    for (const std::string &text : {whole,
+                                    lines(64, "\r\n"),
+                                    lines(76),
+                                    lines(75),
+                                    lines(7),
+                                    lines(1),
+                                    lines(1'000),
+                                    letters,
+                                    whole.substr(0, whole.size() - 1),
+                                    "\n\n " + whole,
+                                    "-----BEGIN X-----\n" + whole,
+                                    whole + "-----END X-----\n",
+                                    whole + "\n \t\n",
+                                    spoilt(64, "\n\n"),
+                                    spoilt(64, " \t\n"),
+                                    spoilt(30, "!"),
+                                    spoilt(30, std::string(1, '\0')),
+                                    spoilt(90, "\f"),
+                                    spoilt(1'000, "="),
+                                    whole + "AAAA\n",
+                                    whole + "!\n",
+                                    "Hello\n" + whole}) {
+        writeFile(folder / "T", text);
+        const CommandResult expected =
+            runCommand(words(stock + " " + how + "-d -a -in T"), {.folder = folder.path()});
+        const bool isExpected = expected.status == 0 && expected.output == plain;
+        for (const std::size_t pieceSize : {1U, 67U, 100'000U})
+            EXPECT_TRUE(isTaken(text, pieceSize) || !isExpected) << text.substr(0, 200) << reason;
+        taken += isExpected ? 1 : 0;
+    }
+    EXPECT_GE(taken, 12U);
+    for (std::size_t size = 0; size + 1 < whole.size(); ++size)
+        ASSERT_FALSE(isTaken(std::string_view(whole).substr(0, size))) << size;
 }
 
 // Five gigabytes in one piece, and within them more than a length of four bytes can say.

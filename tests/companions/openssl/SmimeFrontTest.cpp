@@ -1,5 +1,7 @@
 #include "Front.h"
 
+#include <set>
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -22,28 +24,41 @@ protected:
 
 TEST_F(SmimeFront, ExchangesFilesWithTheSystemsTool)
 {
-    for (const std::size_t size : {0U, 1U, 4097U, 1000001U}) {
+    std::vector<std::string> headers;
+    for (const std::size_t size : {0U, 1U, 4'097U, 262'144U, 1'000'001U}) {
         const std::string plain = binaryData(size);
         writeFile(folder / "F", plain);
         for (const auto &[writer, reader] : {std::pair{front, front}, {front, stock}, {stock, front}}) {
             EXPECT_TRUE(isSilentSuccess(encrypt(writer)));
+            const std::string message = readFile(folder / "G");
+            headers.push_back(message.substr(0, message.find("\n\n") + 2));
             EXPECT_TRUE(isSilentSuccess(
                 runIn(folder, reader, "smime -aes256 -decrypt -binary -in G -out H -inkey key cert")));
             EXPECT_EQ(readFile(folder / "H"), plain) << size << " bytes, written by " << writer;
             fs::remove(folder / "H");
         }
     }
+    EXPECT_EQ(std::set(headers.begin(), headers.end()).size(), 1U);
 }
 
 // A message in one piece can't be decrypted from 1.6 GB on, and the tool says nothing of it.
-TEST_F(SmimeFront, WritesInPiecesWhateverIsAskedFor)
+TEST_F(SmimeFront, EncryptsInPiecesWhateverIsAskedForAndForWhom)
 {
-    writeFile(folder / "F", "text");
-    for (const char *const option : {"-binary", "-noindef", "-indef", "-stream"}) {
-        const std::string line = std::string("smime -encrypt -outform DER -in F ") + option + " cert";
-        EXPECT_EQ(runIn(folder, front, line).output.substr(0, 2), "\x30\x80")
-            << option; // a sequence without length
+    writeFile(folder / "F", binaryData(100'000));
+    ASSERT_EQ(runIn(folder, stock, "x509 -in cert2 -outform DER -out der2").status, 0);
+    for (const std::string option :
+         {"-aes128 -binary", "-noindef -aria256 -binary", "-indef -camellia128 -binary",
+          "-stream -aes-256-cfb -binary", "-noindef -binary"}) {
+        EXPECT_TRUE(isSilentSuccess(
+            runIn(folder, front, "smime -encrypt -outform DER -in F -out G " + option + " cert der2")));
+        EXPECT_EQ(readFile(folder / "G").substr(0, 2), "\x30\x80") << option; // a sequence without length
+        for (const std::string key : {"key -recip cert", "key2 -recip cert2"})
+            EXPECT_TRUE(runIn(folder, stock, "cms -decrypt -binary -inform DER -in G -inkey " + key).output ==
+                        readFile(folder / "F"));
     }
+    EXPECT_NE(runIn(folder, front, "smime -encrypt -aes256 -binary -in F -out H missing").status, 0);
+    EXPECT_NE(runIn(folder, front, "smime -encrypt -aes256 -binary -in missing -out H cert").status, 0);
+    EXPECT_FALSE(fs::exists(folder / "H"));
 }
 
 TEST_F(SmimeFront, DecryptsWhateverFormTheSystemsToolWrites)
@@ -114,7 +129,7 @@ TEST_F(SmimeFront, TellsInOneLineWhyItDoesNotDecrypt)
          "G was not opened: the private key key2 does not belong to the certificate cert"},
         {"-in G -inkey key2 cert2", "G is not for the certificate cert2"},
         {"-in G -inkey key2", "G cannot be opened with the private key key2"},
-        {"-in half -inkey key cert", "half ends too early: the message was cut short"},
+        {"-in half -inkey key cert", "half ends too early: it was cut short"},
         {"-in more -inkey key cert", "more goes on after the end of the message"},
         {"-in spoilt -inkey key cert", "spoilt is damaged: its byte 901 is none of a base64 text"},
         {"-in none -inkey key cert", "none is empty"},

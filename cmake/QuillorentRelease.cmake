@@ -1,0 +1,21 @@
+# The changelog is the one place where the version and the day of a release stand.
+set(changelog "${CMAKE_CURRENT_SOURCE_DIR}/debian/changelog")
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${changelog}")
+file(READ "${changelog}" text)
+
+if(NOT text MATCHES "^quillorent \\(([0-9.]+)[^)]*\\)")
+    message(FATAL_ERROR "${changelog} does not begin with a version")
+endif()
+set(QUILLORENT_RELEASE "${CMAKE_MATCH_1}")
+
+if(NOT text MATCHES "\n -- [^\n]*>  [A-Z][a-z][a-z], ([0-9 ][0-9]) ([A-Z][a-z][a-z]) ([0-9]+) ")
+    message(FATAL_ERROR "${changelog} does not tell the day of the release")
+endif()
+set(day "${CMAKE_MATCH_1}")
+set(year "${CMAKE_MATCH_3}")
+set(months Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec)
+list(FIND months "${CMAKE_MATCH_2}" month)
+math(EXPR month "${month} + 101")
+string(SUBSTRING "${month}" 1 2 month)
+string(REPLACE " " "0" day "${day}")
+set(QUILLORENT_RELEASE_DATE "${year}-${month}-${day}")
