@@ -73,6 +73,9 @@ public:
     /// On: a synchronisation that deletes shows first what. Off: it is a concern like others. Set before it
     /// starts.
     bool previewsDeletions = true;
+    /// On: the tools are verified when the program starts, which takes each of them a moment and some of them
+    /// more. Set before.
+    bool verifiesTools = true;
     /// On: whoever types a password types it twice, the second time into `secureText02`. Set before it is
     /// asked for.
     bool asksTwice = false;

@@ -52,7 +52,7 @@ void QuillorentAppDelegate::applicationDidFinishLaunching()
     setterCurrentProfile(loadProfiles());
 
     // Verifying starts every tool once; the window does not wait for that.
-    quillorentLibrary::updateCompliance();
+    if (verifiesTools) quillorentLibrary::updateCompliance();
 
     setThreadsRunning({});
     currentProfileTextView.setHidden(false);

@@ -16,6 +16,7 @@
 #include <QHash>
 #include <algorithm>
 #include <climits>
+#include <future>
 
 namespace {
 
@@ -229,15 +230,25 @@ void lookForRepetitions(const BackupOrder &order, Findings &findings)
     }
 }
 
-/// Sizes of the items, and the room for the archives that are made at the same time as everything else is
-/// there.
-void lookForRoom(BackupOrder &order, Findings &findings, const std::function<bool()> &goesOn)
+/// Of the items, in their order; fewer where it was given up.
+std::vector<quint64> measure(const QStringList &sources, const std::function<bool()> &goesOn)
+{
+    std::vector<quint64> sizes;
+    for (const QString &source : sources) {
+        if (!goesOn()) break;
+        sizes.push_back(quillorentLibrary::calculateSize(source, goesOn));
+    }
+    return sizes;
+}
+
+/// Whether there is room for the archives that are made at the same time as everything else is there. Where
+/// they are compressed they need less, nobody knows how much.
+void lookForRoom(BackupOrder &order, const std::vector<quint64> &sizes, Findings &findings)
 {
     quint64 bytes = 0;
-    for (BackupItem &item : order.items) {
-        if (!goesOn()) return;
-        item.bytes = quillorentLibrary::calculateSize(item.source, goesOn);
-        bytes += *item.bytes;
+    for (std::size_t index = 0; index < sizes.size(); ++index) {
+        order.items[qsizetype(index)].bytes = sizes[index];
+        bytes += sizes[index];
     }
     findings.addConcern(whyTooLittleRoom(order.destination, qint64(bytes / 2 * 5)));
 }
@@ -261,9 +272,14 @@ void lookAtDisk(BackupOrder &order, Findings &findings, const std::function<bool
     }
     lookForRepetitions(order, findings);
     lookForFormerArchives(order, findings);
+    QStringList sources;
+    for (const BackupItem &item : order.items)
+        sources.append(item.source);
+    // Both may take long, the one at the disk and the other at computing.
+    auto sizes = std::async([&] { return measure(sources, goesOn); });
     if (goesOn()) lookAtPassword(order, findings);
     findings.addConcern(concernAboutRecords());
-    lookForRoom(order, findings, goesOn);
+    lookForRoom(order, sizes.get(), findings);
 }
 
 } // namespace

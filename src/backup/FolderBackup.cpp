@@ -9,6 +9,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <future>
 
 namespace {
 
@@ -56,13 +57,17 @@ void FolderBackup::run()
     encrypt();
     dateEncryptedFile();
     removeStored();
+    // Measured while the archiver packs: of many files that takes a while.
+    std::future<quint64> bytes = std::async([this] {
+        return quillorentLibrary::calculateSize(m_item,
+                                                [this] { return !m_run.state().isCancelledByUser(); });
+    });
     pack();
     settleFormer();
     if (goesOn() && m_isPacked && m_distrust.isEmpty()) removeOwn(m_paths.encrypted);
 
     if (m_succeeded)
-        succeed(
-            quillorentLibrary::calculateSize(m_item, [this] { return !m_run.state().isCancelledByUser(); }));
+        succeed(bytes.get());
     else
         fail({}, m_reason + whatIsLeftInClear());
     end(m_isPacked, m_isPacked ? newFiles() : QStringList());

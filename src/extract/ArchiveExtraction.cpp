@@ -38,7 +38,9 @@ private:
     [[nodiscard]] ToolResult runDecoder();
     void unpackInner();
     [[nodiscard]] QStringList entriesOf(const QString &archive) const;
-    [[nodiscard]] QString folderForContents(const QStringList &entries);
+    struct Contents;
+    [[nodiscard]] Contents contentsOf(const QString &archive) const;
+    [[nodiscard]] QString folderForContents(Contents &contents);
 
     void judgeStage(FailedStage::Kind kind, const QString &line, const ToolResult &result, bool isMade,
                     const QString &product);
@@ -75,15 +77,18 @@ bool beginsAsArchive(const QString &path)
 
 /// Whether some of an archive's entries have come into the folder. Names that the archiver prints otherwise
 /// than they are don't count against it, nor does an archive that it can't list.
-bool hasCome(const QStringList &entries, const QString &folder)
+bool hasCome(const QStringList &some, const QString &folder)
 {
-    constexpr qsizetype sample = 100;
-    const QStringList some =
-        entries.first(std::min(sample, entries.size())) + entries.mid(entries.size() - 1);
-    return entries.isEmpty() || std::any_of(some.begin(), some.end(), [&](const QString &entry) {
+    return some.isEmpty() || std::any_of(some.begin(), some.end(), [&](const QString &entry) {
                return whatIsAt(joined(folder, entry)) != Place::Nothing;
            });
 }
+
+/// What is kept of an archive's entries, however many there are.
+struct ArchiveExtraction::Contents {
+    QStringList some; ///< the first ones and the last
+    EntryNames names; ///< where there are other archives that may have the same
+};
 
 ArchiveExtraction::ArchiveExtraction(Run &run, const ExtractOrder &order, qsizetype index,
                                      ExtractShared &shared)
@@ -129,8 +134,23 @@ void ArchiveExtraction::judgeStage(FailedStage::Kind kind, const QString &line, 
 
 QStringList ArchiveExtraction::entriesOf(const QString &archive) const
 {
-    const ToolResult result = runStage(m_order.archiver, extractArguments::list(archive));
-    return result.text().split(u'\n', Qt::SkipEmptyParts);
+    QStringList entries;
+    runForLines(m_order.archiver, extractArguments::list(archive),
+                [&](const QString &entry) { entries.append(entry); });
+    return entries;
+}
+
+ArchiveExtraction::Contents ArchiveExtraction::contentsOf(const QString &archive) const
+{
+    constexpr qsizetype sample = 100;
+    const bool mayMeetOthers = m_order.items.size() > 1;
+    Contents contents;
+    runForLines(m_order.archiver, extractArguments::list(archive), [&](const QString &entry) {
+        if (contents.some.size() > sample) contents.some.removeLast();
+        contents.some.append(entry);
+        if (mayMeetOthers) contents.names.add(entry);
+    });
+    return contents;
 }
 
 /// Waits until no other archive writes to one of the paths. False where the run was cancelled by then.
@@ -232,9 +252,9 @@ ToolResult ArchiveExtraction::runDecoder()
 
 /// The extraction folder; or one of the archive's own in it, where its entries would write over what another
 /// archive of this run has brought back.
-QString ArchiveExtraction::folderForContents(const QStringList &entries)
+QString ArchiveExtraction::folderForContents(Contents &contents)
 {
-    if (m_order.items.size() < 2 || m_shared.names.claim(entries)) return m_order.folder;
+    if (m_order.items.size() < 2 || m_shared.names.claim(std::move(contents.names))) return m_order.folder;
     const QString inner = lastPathComponent(m_paths.paths.inner);
     const QString name = inner.endsWith(u".rar"_qs) ? inner.chopped(4) : inner + u" contents"_qs;
     QString folder = joined(m_order.folder, name);
@@ -251,8 +271,8 @@ void ArchiveExtraction::unpackInner()
     setStage(u"extracting"_qs);
     const QString &inner = m_paths.paths.inner;
     m_innerIsArchive = beginsAsArchive(inner);
-    const QStringList entries = m_innerIsArchive ? entriesOf(inner) : QStringList();
-    const QString folder = folderForContents(entries);
+    Contents contents = m_innerIsArchive ? contentsOf(inner) : Contents();
+    const QString folder = folderForContents(contents);
     ToolResult result = checkInput(inner);
     if (result.isSilent()) {
         const UsualRights rights;
@@ -261,7 +281,8 @@ void ArchiveExtraction::unpackInner()
     // Now and then a wrong password decrypts to rubbish, without a word, and some archivers say nothing about
     // rubbish.
     if (result.isSilent() && !m_innerIsArchive) result.output = u"\"%1\" is no archive"_qs.arg(inner);
-    judgeStage(FailedStage::Kind::UnpackInner, u"\nunRAR 2nd"_qs, result, hasCome(entries, folder), folder);
+    judgeStage(FailedStage::Kind::UnpackInner, u"\nunRAR 2nd"_qs, result, hasCome(contents.some, folder),
+               folder);
     m_isExtracted = m_succeeded && m_distrust.isEmpty();
 }
 

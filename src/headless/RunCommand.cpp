@@ -24,7 +24,7 @@ void waitUntil(IsOver isOver)
     QObject::connect(&look, &QTimer::timeout, &loop, [&] {
         if (isOver()) loop.quit();
     });
-    look.start(20ms);
+    look.start(5ms); // a run that is over is not waited for
     loop.exec();
 }
 

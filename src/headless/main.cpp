@@ -84,6 +84,7 @@ int main(int argc, char **argv)
     QLoggingCategory::setFilterRules(u"quillorent.decisions.info=false\nquillorent.decisions.debug=false"_qs);
     prepareProcess(parsed.options->passwordFile == u"-");
     QuillorentAppDelegate delegate;
+    delegate.verifiesTools = false; // for a table that nobody sees; "tools" looks for itself
     delegate.applicationDidFinishLaunching();
     if (const QString notices = delegate.settingsText01.text(); !notices.isEmpty()) printError(notices);
     const ExitStatus status = runCommand(delegate, *parsed.options);

@@ -135,6 +135,12 @@ ToolResult ItemPipeline::runStage(const QString &tool, const QStringList &argume
     return runTool(tool, arguments, m_run.lockDescriptor());
 }
 
+void ItemPipeline::runForLines(const QString &tool, const QStringList &arguments,
+                               const std::function<void(const QString &)> &take) const
+{
+    forEachLineOf(tool, arguments, m_run.lockDescriptor(), take);
+}
+
 bool ItemPipeline::judge(const QString &line, const ToolResult &result, bool isMade, const QString &product)
 {
     m_succeeded = result.isSilent();

@@ -41,6 +41,10 @@ protected:
 
     [[nodiscard]] ToolResult runStage(const QString &tool, const QStringList &arguments) const;
 
+    /// The same, of a tool whose lines are wanted; see forEachLineOf().
+    void runForLines(const QString &tool, const QStringList &arguments,
+                     const std::function<void(const QString &)> &take) const;
+
     /// Takes what the tool said as the stage's outcome. `line`, the outcome and the item go into the log. A
     /// tool that says nothing lets the next stages run; where it ended with a status all the same, or
     /// `isMade` is false, the item counts as failed in the end. Says whether the stage really did its work.

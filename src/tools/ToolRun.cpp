@@ -8,7 +8,6 @@
 #include <cstring>
 #include <fcntl.h>
 #include <fstream>
-#include <limits>
 #include <mutex>
 #include <spawn.h>
 #include <string>
@@ -17,6 +16,9 @@
 #include <vector>
 
 namespace {
+
+/// Says whether it wants more.
+using TakeBytes = std::function<bool(QByteArrayView)>;
 
 /// One pipe for both of the child's output streams; the ends are closed when they are given up.
 class OutputPipe {
@@ -34,19 +36,18 @@ public:
     [[nodiscard]] int writeEnd() const { return m_ends[1]; }
     void closeWriteEnd() { closeEnd(1); }
 
-    /// To the end, or until there are `most` bytes.
-    [[nodiscard]] QByteArray readAtMost(qsizetype most) const
+    /// Gives what comes to `take`, until that wants no more. Whether it came to the end.
+    [[nodiscard]] bool readTo(const TakeBytes &take) const
     {
-        QByteArray bytes;
         std::array<char, 16384> buffer;
-        while (bytes.size() < most) {
+        for (;;) {
             const ssize_t count = read(m_ends[0], buffer.data(), buffer.size());
-            if (count > 0)
-                bytes.append(buffer.data(), count);
-            else if (count == 0 || errno != EINTR)
-                return bytes;
+            if (count > 0) {
+                if (!take(QByteArrayView(buffer.data(), count))) return false;
+            } else if (count == 0 || errno != EINTR) {
+                return true;
+            }
         }
-        return bytes;
     }
 
 private:
@@ -213,14 +214,14 @@ QString whyNoArguments(const QString &tool, const QStringList &arguments)
         QString(tool).remove(QChar::Null));
 }
 
-/// What a tool wrote, and how it ended.
+/// How a tool ended.
 struct RawResult {
-    QByteArray bytes{};
     QString problem{}; ///< why it was not started; empty where it was
     int waitStatus = 0;
 };
 
-RawResult runRaw(const QString &tool, const QStringList &arguments, int inherited, qsizetype most)
+/// The tool is killed where nobody wants more of what it says.
+RawResult runRaw(const QString &tool, const QStringList &arguments, int inherited, const TakeBytes &take)
 {
     if (const QString problem = whyNoArguments(tool, arguments); !problem.isEmpty())
         return {.problem = problem};
@@ -233,10 +234,8 @@ RawResult runRaw(const QString &tool, const QStringList &arguments, int inherite
     if (error) return {.problem = whyNotStarted(tool, error)};
 
     pipe.closeWriteEnd();
-    RawResult result{.bytes = pipe.readAtMost(most)};
-    if (result.bytes.size() >= most) runningTools().kill(child);
-    result.waitStatus = runningTools().waitFor(child);
-    return result;
+    if (!pipe.readTo(take)) runningTools().kill(child);
+    return {.waitStatus = runningTools().waitFor(child)};
 }
 
 /// Silence is how a tool reports success, and one that crashed or was killed is silent too: its end is put
@@ -253,10 +252,14 @@ QString describeEnd(const QString &tool, int status)
 
 ToolResult runTool(const QString &tool, const QStringList &arguments, int inherited)
 {
-    const RawResult raw = runRaw(tool, arguments, inherited, std::numeric_limits<qsizetype>::max());
+    QByteArray bytes;
+    const RawResult raw = runRaw(tool, arguments, inherited, [&](QByteArrayView piece) {
+        bytes.append(piece);
+        return true;
+    });
     if (!raw.problem.isEmpty()) return {raw.problem, false};
     const int status = raw.waitStatus;
-    const QByteArray bytes = raw.bytes + describeEnd(tool, status).toUtf8();
+    bytes.append(describeEnd(tool, status).toUtf8());
     const int exitStatus = WIFEXITED(status) ? WEXITSTATUS(status) : 0;
     if (!bytes.isValidUtf8()) return {std::nullopt, true, exitStatus};
     return {QString::fromUtf8(bytes), true, exitStatus};
@@ -264,11 +267,36 @@ ToolResult runTool(const QString &tool, const QStringList &arguments, int inheri
 
 std::optional<QByteArray> firstBytesOf(const QString &tool, const QStringList &arguments, qsizetype most)
 {
-    const RawResult raw = runRaw(tool, arguments, -1, most);
-    const bool isCut = raw.bytes.size() >= most;
+    QByteArray bytes;
+    const RawResult raw = runRaw(tool, arguments, -1, [&](QByteArrayView piece) {
+        bytes.append(piece);
+        return bytes.size() < most;
+    });
+    const bool isCut = bytes.size() >= most;
     const bool isWell = WIFEXITED(raw.waitStatus) && WEXITSTATUS(raw.waitStatus) == 0;
     if (!raw.problem.isEmpty() || !(isCut || isWell)) return std::nullopt;
-    return raw.bytes.first(std::min(most, raw.bytes.size()));
+    return bytes.first(std::min(most, bytes.size()));
+}
+
+void forEachLineOf(const QString &tool, const QStringList &arguments, int inherited,
+                   const std::function<void(const QString &)> &take)
+{
+    constexpr qsizetype longest = 1 << 20;
+    QByteArray line;
+    const auto end = [&] {
+        if (!line.isEmpty() && line.size() <= longest && line.isValidUtf8()) take(QString::fromUtf8(line));
+        line.clear();
+    };
+    static_cast<void>(runRaw(tool, arguments, inherited, [&](QByteArrayView piece) {
+        for (qsizetype newline = piece.indexOf('\n'); newline >= 0; newline = piece.indexOf('\n')) {
+            line.append(piece.first(newline));
+            end();
+            piece = piece.sliced(newline + 1);
+        }
+        if (line.size() <= longest) line.append(piece);
+        return true;
+    }));
+    end();
 }
 
 void endTools(std::chrono::milliseconds grace)

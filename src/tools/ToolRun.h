@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 #include <chrono>
+#include <functional>
 #include <optional>
 
 /// What a tool said: standard output and standard error together, as they came. A tool that could not be
@@ -37,6 +38,12 @@ struct ToolResult {
 /// where it could not be started, or ended by itself otherwise than well.
 [[nodiscard]] std::optional<QByteArray> firstBytesOf(const QString &tool, const QStringList &arguments,
                                                      qsizetype most);
+
+/// The same for a tool that prints a line for each of what may be very many things: `take` is given one after
+/// the other, without their ends. Left out is what is not UTF-8, or longer than any name. Nothing is said of
+/// how the tool ended.
+void forEachLineOf(const QString &tool, const QStringList &arguments, int inherited,
+                   const std::function<void(const QString &)> &take);
 
 /// Ends every tool that runs, with all that it started: asks first, and kills what is still there after
 /// `grace`. Blocks until then at the longest. Any thread may call.

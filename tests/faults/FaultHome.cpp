@@ -46,6 +46,7 @@ FaultHome::FaultHome(Kind kind, bool splits) : m_home(QUILLORENT_RUN), m_kind(ki
     m_home.encryptForCertificate();
     m_home.record["split"] = splits ? "1" : "0";
     m_home.record["part"] = "10";
+    m_home.record["compress"] = splits ? "1" : "0";
     for (const char *name : {"former", "kept"})
         fs::create_directory(m_home / name);
     writeFile(m_home / "victim", "a file of the user's");
@@ -191,7 +192,7 @@ void FaultHome::expectFormerOrNew(bool mayBeAside) const
     ADD_FAILURE() << "neither the former archive nor the new one opens";
 }
 
-/// The archives that show what they hold, wherever a tool may write.
+/// The archives that show what they hold, wherever a tool may write: its names, which are never compressed.
 std::vector<std::string> FaultHome::inClear() const
 {
     std::vector<std::string> found;
@@ -199,7 +200,7 @@ std::vector<std::string> FaultHome::inClear() const
         for (const auto &entry : fs::directory_iterator(folder))
             if (isFilePlain(entry.path())) {
                 const std::string bytes = readFile(entry.path());
-                if (bytes.starts_with("Rar!") && contains(bytes, marker)) found.push_back(entry.path());
+                if (bytes.starts_with("Rar!") && contains(bytes, "docs/")) found.push_back(entry.path());
             }
     return found;
 }

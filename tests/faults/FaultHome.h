@@ -33,6 +33,7 @@ class FaultHome {
 public:
     enum class Kind { Backup, Extraction };
 
+    /// `splits`: into volumes, and what goes into them is compressed.
     FaultHome(Kind kind, bool splits);
 
     /// The whole story: the run is hit, the questions are asked, and the next run has to repair everything.

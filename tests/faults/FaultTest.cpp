@@ -92,7 +92,7 @@ TEST(Backup, LosesNoVolumes)
 {
     Stage last = stagesOf(Kind::Backup).back();
     last.product = "docs.rar.smime.part1.rar";
-    strike(Kind::Backup, true, {last}, faults());
+    strike(Kind::Backup, true, {{"first pass", "rar", "-m3", "docs.rar"}, last}, faults());
 }
 
 TEST(Extraction, LosesNothing) { strike(Kind::Extraction, false, stagesOf(Kind::Extraction), faults()); }
