@@ -84,6 +84,8 @@ public:
     {
         for (int standard = 0; standard < 3; ++standard)
             dup2(descriptors[static_cast<std::size_t>(standard)], standard);
+        // What another thread of the test has open keeps its room on a disk for as long as anybody has it.
+        closefrom(STDERR_FILENO + 1);
         if (!m_folder.empty() && chdir(m_folder.c_str()) != 0) _exit(126);
         environ = m_environmentPointers.data(); // where the program is looked for, too
         execvp(m_argumentPointers.front(), m_argumentPointers.data());
