@@ -51,7 +51,7 @@ CodedSymbol Code::find(std::uint64_t bits, unsigned shortest) const
     const auto start = static_cast<std::uint32_t>(bits >> (64 - longestCode));
     for (unsigned length = shortest; length <= longestCode; ++length) {
         if (start >= m_limits[length]) continue;
-        const auto code = static_cast<std::int32_t>(start >> (longestCode - length));
+        const std::ptrdiff_t code = start >> (longestCode - length);
         const auto index = static_cast<std::size_t>(code + m_offsets[length]);
         return {m_order[index], static_cast<std::uint16_t>(length)};
     }
@@ -66,7 +66,7 @@ void Code::fill(std::span<CodedSymbol> table, unsigned width) const
         const std::size_t limit = m_limits[length] >> (longestCode - width);
         const std::size_t share = std::size_t{1} << (width - length);
         for (; done < limit; done += share) {
-            const auto code = static_cast<std::int32_t>(done >> (width - length));
+            const auto code = static_cast<std::ptrdiff_t>(done >> (width - length));
             const std::uint16_t symbol = m_order[static_cast<std::size_t>(code + m_offsets[length])];
             std::ranges::fill(table.subspan(done, share),
                               CodedSymbol{symbol, static_cast<std::uint16_t>(length)});

@@ -50,12 +50,7 @@ TEST_F(Hostile, nothingLeavesTheFolder)
     const std::string large(3'000'000, 'x');
     cases.push_back({{storedFile("way", large), storedFile("way/below", "bad")}, way});
     cases.push_back({{storedFile("twice", large), storedFile("twice", "inside")}, "", "twice"});
-    cases.push_back(
-        {{storedFile("twice", large), linkEntry("twice", "way"), storedFile("way", "inside")}, "", "twice"});
-    cases.push_back({{storedFile("original", large + "bad"), storedFile("original", "inside"),
-                      linkEntry("copy", "original", Kind::Hard)},
-                     "",
-                     "copy"});
+    cases.push_back({{storedFile("x", large), linkEntry("x", "y"), storedFile("y", "inside")}, "", "x"});
     const TreeSnapshot before = snapshotTree(outside);
     for (const Case &each : cases)
         for (const Environment &environment : fileSystems) {

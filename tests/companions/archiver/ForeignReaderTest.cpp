@@ -18,7 +18,6 @@ struct Unpacked {
     std::string messages;
 };
 
-/// Several threads have one each.
 class Collector final : public EntryReceiver {
 public:
     Collector(Unpacked &all, std::mutex &mutex) : m_all(all), m_mutex(mutex) {}
