@@ -36,7 +36,6 @@ constexpr std::size_t mostParts = 1000;
 static_assert(historySize + matchesTogether <= std::size_t{128 << 10} << MatchEncoder::dictionary);
 
 constexpr std::size_t smallestSolid = 128; // less than the tables take doesn't shrink
-constexpr std::size_t solidSample = 4 << 10;
 constexpr std::size_t mostAside = 2 << 20;
 constexpr std::size_t mostAsideParts = 5000;
 
@@ -192,8 +191,7 @@ bool ArchiveWriter::joinGroupIfWorthIt()
 {
     Part &part = m_piece->parts.back();
     const Bytes content = m_piece->contentOf(part);
-    const Bytes sample = content.subspan(content.size() / 2).first(std::min(content.size() / 2, solidSample));
-    if (content.size() >= smallestSolid && !looksRandom(sample)) {
+    if (content.size() >= smallestSolid && !looksRandom(content)) {
         joinGroup(part.header, part.size);
         return true;
     }

@@ -1,5 +1,7 @@
 #include "Packer.h"
 
+#include "Probe.h"
+
 #include <algorithm>
 #include <new>
 #include <numeric>
@@ -7,6 +9,8 @@
 namespace archiver {
 
 namespace {
+
+constexpr std::size_t oneKind = 64 << 10; // as little is hardly ever random in one place and not in another
 
 /// Whether it is little more than the literals' codes that would shrink it.
 bool hardlyRepeats(std::span<const ZSTD_Sequence> found, std::size_t size)
@@ -47,6 +51,8 @@ void Packer::pack(Piece &piece)
 
 void Packer::packAlone(Part &part, Piece &piece)
 {
+    const bool isSmall = part.first && part.last && part.size <= oneKind;
+    if (isSmall && looksRandom(piece.contentOf(part))) part.coding = Coding::Store;
     if (part.coding == Coding::Matches) {
         // A file that begins in this piece knows nothing of what is before it.
         const std::size_t begin = part.first ? part.begin : 0;

@@ -41,8 +41,12 @@ std::size_t repetitions(Bytes sample)
 
 } // namespace
 
-bool looksRandom(Bytes sample)
+bool looksRandom(Bytes content)
 {
+    constexpr std::size_t most = 4 << 10;
+    // From the middle: many kinds of packed files have plain headers.
+    const std::size_t size = std::min(content.size(), most);
+    const Bytes sample = content.subspan((content.size() - size) / 2, size);
     constexpr std::size_t enough = 512;
     constexpr double allBits = 8;
     if (sample.size() < 2) return true;
