@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr std::size_t sampleSize = 512 * 1024;
+constexpr std::size_t sampleSize = 1 << 19; // half a MiB
 
 /// A place somewhere in the folders, and what comes after it: files that lie beside each other resemble each
 /// other, and are packed together.

@@ -212,7 +212,6 @@ TEST_F(BackupStart, SaysWhatIsMissing)
 TEST_F(BackupStart, CompressesBeforeItEncryptsWhereTheProfileSaysSo)
 {
     program.useTool(u"RAR"_qs, writeScript(folder / "rar", "echo \"$@\"").toStdString());
-    delegate.checkBox05.setOn(false);
     for (const auto &[value, method] : {std::pair{std::optional<QString>(), u" -m0 "_qs},
                                         {u"1"_qs, u" -m3 -s "_qs},
                                         {std::nullopt, u" -m0 "_qs},
@@ -246,10 +245,4 @@ TEST_F(BackupStart, FollowsTheProfileAndTheSettings)
         EXPECT_EQ(decideEncryption(), cipher) << qPrintable(method);
         EXPECT_EQ(decideExtension(), extension) << qPrintable(method);
     }
-    for (const auto &[isOn, words] : {std::pair{true, u"-v10000-tl"_qs}, {false, u""_qs}}) {
-        delegate.checkBox04.setOn(isOn);
-        delegate.checkBox05.setOn(isOn);
-        EXPECT_EQ(decideSplit() + decideKeepDate(), words);
-    }
-    EXPECT_FALSE(decideSplit().isNull()) << "an argument that is off is an empty one, not a missing one";
 }

@@ -95,18 +95,3 @@ TEST_F(SyncStart, AsksNothingWhereNothingIsDeleted)
     EXPECT_TRUE(delegate.outputText03.text().startsWith(u"Synchronised 1 entry"));
     EXPECT_EQ(files(), "d/a=1 d/b=2 e/c=3 -> d/a=1 d/b=2");
 }
-
-TEST_F(SyncStart, AsksAboutAConcernBeforeAnythingRuns)
-{
-    delegate.addSyncEntries({program.path("src2/x")});
-    ASSERT_NO_FATAL_FAILURE(launchUntil(delegate.concernsPanel01));
-    EXPECT_TRUE(delegate.concernsText01.text().contains(u"src2/x\" does not lie under"));
-    delegate.concernsPanel01Stop();
-    program.waitForEnd();
-    EXPECT_EQ(files(), untouched);
-
-    ASSERT_NO_FATAL_FAILURE(launchUntil(delegate.concernsPanel01));
-    delegate.concernsPanel01GoOn();
-    program.waitForEnd();
-    EXPECT_EQ(files(), "d/a=1 d/b=2 e/c=3 -> d/a=1 d/b=2 d/extra=4");
-}

@@ -2,21 +2,12 @@
 
 #include "ui/PanelDialog.h"
 #include "ui/RefreshQueue.h"
-#include "ui/TextArea.h"
 
-#include <QPlainTextEdit>
-#include <QProgressBar>
 #include <thread>
 
 namespace {
 
 class BindingTest : public WindowTest {};
-
-template <class Work>
-void onAnotherThread(Work work)
-{
-    std::thread(work).join();
-}
 
 } // namespace
 
@@ -38,10 +29,10 @@ TEST_F(BindingTest, ManyChangesAreShownOnceAndByTheLastValue)
     {
         ui::RefreshQueue queue;
         queue.watch(field, [&] { shown.append(field.text()); });
-        onAnotherThread([&] {
+        std::thread([&] {
             for (int number = 1; number <= 1000; ++number)
                 field.setText(QString::number(number));
-        });
+        }).join();
         settle();
         EXPECT_EQ(shown, (QStringList{QString(), u"1000"_qs}));
         field.setText(u"queued when the window goes"_qs);
@@ -49,24 +40,6 @@ TEST_F(BindingTest, ManyChangesAreShownOnceAndByTheLastValue)
     field.setText(u"later still"_qs);
     settle();
     EXPECT_EQ(shown.size(), 2);
-}
-
-TEST_F(BindingTest, ChangesOfOtherThreadsShow)
-{
-    onAnotherThread([this] {
-        delegate.outputText01.setText(u"<b>done</b>"_qs);
-        delegate.view01progressIndicator01.setMaximum(8e12);
-        delegate.view01progressIndicator01.setValue(6e12);
-        delegate.consoleTextView01.setText(u"first\n"_qs);
-    });
-    settle();
-    onAnotherThread([this] { delegate.consoleTextView01.append(u"second"_qs); });
-    settle();
-
-    EXPECT_EQ(widget<ui::TextArea>(u"outputText01"_qs).text(), u"<b>done</b>"_qs);
-    const auto &bar = widget<QProgressBar>(u"view01progressIndicator01"_qs);
-    EXPECT_EQ(bar.value() * 4, bar.maximum() * 3);
-    EXPECT_EQ(widget<QPlainTextEdit>(u"consoleTextView01"_qs).toPlainText(), u"first\nsecond"_qs);
 }
 
 TEST_F(BindingTest, EscapeAsksThePanelsClosingAction)
