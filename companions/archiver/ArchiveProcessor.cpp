@@ -82,7 +82,7 @@ private:
     [[nodiscard]] bool streamBlocks();
     [[nodiscard]] bool goesOn() const { return !m_isUnwanted && !interrupted() && !m_reader.failed(); }
     void give(UnpackJob::Kind kind);
-    void settle();
+    void settle(UnpackJob::Kind kind = UnpackJob::Kind::Entries);
     void finish(UnpackJob &job);
     void finishPiece(UnpackJob &job);
     [[nodiscard]] bool collides(const std::string &place) const;
@@ -118,7 +118,9 @@ void Processor::processEntry()
     const bool isOlderLink = entry.older && entry.unixHost && S_ISLNK(entry.mode);
     const bool isCopy = entry.link && (entry.link->kind == LinkTarget::Kind::Hard ||
                                        entry.link->kind == LinkTarget::Kind::Copy);
-    if (isOlderPacked || isOlderLink || isCopy || collides(place)) settle();
+    // What comes next may still need the dictionary of what is under way.
+    const auto kind = isMember(entry) ? UnpackJob::Kind::EntriesLeft : UnpackJob::Kind::Entries;
+    if (isOlderPacked || isOlderLink || isCopy || collides(place)) settle(kind);
     if (entry.link) return m_walk->link(entry);
     if (entry.folder) return m_walk->folder(entry);
     if (isOlderLink || isOlderPacked) return processOlder();
@@ -285,9 +287,9 @@ void Processor::give(UnpackJob::Kind kind)
 }
 
 /// Waits until all that came up to now is done.
-void Processor::settle()
+void Processor::settle(UnpackJob::Kind kind)
 {
-    closeGroup(UnpackJob::Kind::Entries);
+    closeGroup(kind);
     m_work.drain();
     m_diagnostics.repeat(std::exchange(m_earlyMessages, {}));
 }
