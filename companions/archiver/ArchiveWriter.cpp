@@ -35,7 +35,8 @@ constexpr std::size_t mostWhole = literalsTogether;
 constexpr std::size_t mostParts = 1000;
 static_assert(historySize + matchesTogether <= std::size_t{128 << 10} << MatchEncoder::dictionary);
 
-constexpr std::size_t smallestSolid = 128; // less than the tables take doesn't shrink
+constexpr std::size_t smallestSolid = 128;    // less than the tables take doesn't shrink
+constexpr std::size_t smallestTwin = 1 << 10; // less is hardly worth the search
 constexpr std::size_t mostAside = 2 << 20;
 constexpr std::size_t mostAsideParts = 5000;
 
@@ -195,11 +196,50 @@ bool ArchiveWriter::joinGroupIfWorthIt()
         joinGroup(part.header, part.size);
         return true;
     }
+    if (content.size() >= smallestTwin) {
+        const std::uint64_t key = std::uint64_t{content.size()} << 32 | crc32(content);
+        const auto [twin, isFirst] = m_twins.try_emplace(key, m_aside.size());
+        if (!isFirst) return joinGroupWithTwin(twin->second);
+    }
     Part aside = std::move(part);
     m_piece->parts.pop_back();
     m_piece->used -= aside.size;
     aside.coding = Coding::Store;
     return putAside(std::move(aside), content);
+}
+
+/// The piece's last part has, most likely, the content of one that was put aside: that one joins the group
+/// before it, where it hasn't yet, so that there is something to lean on.
+bool ArchiveWriter::joinGroupWithTwin(std::size_t place)
+{
+    const Part part = std::move(m_piece->parts.back());
+    const Bytes bytes = m_piece->contentOf(part);
+    const ByteBuffer content(bytes.begin(), bytes.end());
+    m_piece->parts.pop_back();
+    m_piece->used -= part.size;
+
+    const auto twin = std::ranges::find_if(
+        m_asideParts, [&](const Part &each) { return each.begin == place && each.size == part.size; });
+    if (twin != m_asideParts.end()) {
+        const Part before = std::move(*twin);
+        const Bytes there = Bytes(m_aside).subspan(before.begin, before.size);
+        const ByteBuffer copy(there.begin(), there.end());
+        m_asideParts.erase(twin);
+        if (!addToGroup(before.header, copy)) return false;
+    }
+    return addToGroup(part.header, content);
+}
+
+/// A whole file, from memory.
+bool ArchiveWriter::addToGroup(FileHeader header, Bytes content)
+{
+    if (!beginGroupFor(content.size()) || !openPiece(content.size())) return false;
+    joinGroup(header, content.size());
+    Piece &piece = *m_piece;
+    std::ranges::copy(content, piece.content.begin() + static_cast<std::ptrdiff_t>(piece.used));
+    piece.parts.push_back({std::move(header), Coding::Matches, true, true, piece.used, content.size()});
+    piece.used += content.size();
+    return true;
 }
 
 bool ArchiveWriter::addLarge(Source &source, Coding coding)
@@ -253,7 +293,11 @@ bool ArchiveWriter::endGroup()
     if (m_piece) givePiece(History::Drop);
     m_history.clear();
     m_groupSize = 0;
-    if (m_asideParts.empty()) return true;
+    m_twins.clear();
+    if (m_asideParts.empty()) {
+        m_aside.clear();
+        return true;
+    }
     if (!openPiece(m_aside.size())) return false;
     std::ranges::copy(m_aside, m_piece->content.begin());
     std::swap(m_piece->parts, m_asideParts);

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <sys/stat.h>
+#include <unordered_map>
 
 namespace archiver {
 
@@ -61,6 +62,8 @@ private:
     [[nodiscard]] bool addLarge(Source &source, Coding coding);
     void addPart(Source &source, std::size_t size, Coding coding);
     [[nodiscard]] bool joinGroupIfWorthIt();
+    [[nodiscard]] bool joinGroupWithTwin(std::size_t place);
+    [[nodiscard]] bool addToGroup(FileHeader header, Bytes content);
     [[nodiscard]] bool beginGroupFor(std::uint64_t size);
     [[nodiscard]] bool endGroup();
     [[nodiscard]] bool putAside(Part part, Bytes content);
@@ -107,6 +110,8 @@ private:
     std::uint64_t m_groupSize = 0;                    ///< content of the present solid group
     ByteBuffer m_aside;                               ///< content of what comes behind it
     std::vector<Part> m_asideParts;
+    /// By size and checksum, where in m_aside there is, or was, such content.
+    std::unordered_map<std::uint64_t, std::size_t> m_twins;
 };
 
 } // namespace archiver

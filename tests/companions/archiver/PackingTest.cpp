@@ -125,6 +125,8 @@ TEST_F(Packing, whateverItPacksUnpacksByEveryReader)
     writeFile(source / "mixed/random large", randomBytes(700'000));
     writeFile(source / "mixed/runs", std::string(700'000, 'a') + std::string(700'000, 'b'));
     writeFile(source / "mixed/zeros", std::string(40'000, '\0'));
+    for (const std::string twin : {"twin 1", "twin 2", "twin 3"})
+        writeFile(source / "mixed" / twin, readFile(source / "mixed/random"));
     fs::create_symlink("one", source / "mixed/link");
     for (const Strings &how : {Strings{"-m3"}, Strings{"-m3", "-s"}, Strings{"-m5", "-s-"},
                                Strings{"-m1", "-v700"}, Strings{"-m4", "-s", "-v900"}}) {
@@ -155,6 +157,19 @@ TEST_F(Packing, whateverItPacksUnpacksByEveryReader)
             fs::remove(volume);
         fs::remove_all(out);
     }
+}
+
+TEST_F(Packing, twinsArePackedOnceAndNamesakesDoNotPartAGroup)
+{
+    const std::string photo = randomBytes(30'000);
+    for (const std::string folder : {"1", "2", "3"}) {
+        writeFile(source / folder / "photo", photo);
+        writeFile(source / folder / "text", prose(9000, static_cast<unsigned>(folder.front())));
+    }
+    ASSERT_EQ(rar({"a", "-m3", "-s", "-ep", archive, source}).errors, "");
+    EXPECT_LT(fs::file_size(archive), 50'000u);
+    ASSERT_EQ(rar({"x", archive, out}).errors, "");
+    EXPECT_TRUE(readFile(out / "photo") == photo);
 }
 
 TEST_F(Packing, damageSpoilsItsSolidGroupOnly)
