@@ -9,7 +9,10 @@
 namespace base {
 
 /// Overwrites memory with zeros in a way that the compiler does not leave out.
-inline void wipe(void *memory, std::size_t size) { explicit_bzero(memory, size); }
+inline void wipe(void *memory, std::size_t size)
+{
+    if (size > 0) explicit_bzero(memory, size);
+}
 
 /// Room for bytes that may be of a secret: they are in memory no longer once it is gone. What is in it at
 /// first is anything.
