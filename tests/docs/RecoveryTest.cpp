@@ -52,7 +52,9 @@ Commands samples()
                           "\"$rar\" a -r -ol -m0 -idq Docs.rar \"$source\"; " +
                               aes + "\"$rar\" a -m5" + pack},
             {"volumes", aes + "\"$rar\" a -m5 -v30" + pack}, // more than nine
-            {"unar", aes + "\"$rar\" a -m5 -v60" + pack},
+            // Compressed before it is encrypted, as a profile may ask for.
+            {"unar", "rm Docs.rar; \"$rar\" a -r -ol -m3 -s -idq Docs.rar \"$source\"; " + aes +
+                         "\"$rar\" a -m5 -v60" + pack},
             {"blowfish", "\"$front\" bf-cbc" + options + ".bf"},
             {"triple-des", "\"$front\" des-ede3-cbc" + options + ".3d"},
             {"older-sha256", stock + "-md sha256"},
