@@ -66,7 +66,7 @@ void NoticedSignals::obey(int signal)
     action.sa_handler = SIG_DFL;
     struct sigaction former {};
     sigaction(signal, &action, &former);
-    kill(getpid(), signal);
+    raise(signal); // not to the process: another thread could take it when the handler is back
     sigaction(signal, &former, nullptr);
 }
 

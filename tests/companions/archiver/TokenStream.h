@@ -119,7 +119,7 @@ private:
         const std::size_t v = length - 2;
         if (v < 8) return {v, 0, 0};
         const auto extra = static_cast<unsigned>(std::bit_width(v)) - 3;
-        return {4 * (extra + 1) + ((v >> extra) & 3), extra, v & ((1u << extra) - 1)};
+        return {std::size_t{4} * (extra + 1) + ((v >> extra) & 3), extra, v & ((1u << extra) - 1)};
     }
     void copy(std::size_t length)
     {

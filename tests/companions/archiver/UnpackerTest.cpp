@@ -143,7 +143,7 @@ TEST_F(UnpackerTest, matchesOfAllKindsComeBack)
             for (unsigned number = 0; number < 4; ++number) {
                 const std::string name = std::to_string(first) + "-" + std::to_string(number);
                 TokenStream stream =
-                    randomStream(numbers, window, number == 0 ? first : number * 20'000, tables);
+                    randomStream(numbers, window, number == 0 ? first : std::size_t{number} * 20'000, tables);
                 entries.push_back(packedEntry(stream, name, stream.content(), number > 0));
                 contents[name] = stream.content();
                 window = stream.window();
