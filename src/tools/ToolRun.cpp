@@ -1,5 +1,6 @@
 #include "tools/ToolRun.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -16,6 +17,10 @@
 #include <vector>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(tools)
+};
 
 /// Says whether it wants more.
 using TakeBytes = std::function<bool(QByteArrayView)>;
@@ -201,7 +206,7 @@ RunningTools &runningTools()
 QString whyNotStarted(const QString &tool, int error)
 {
     const QString reason = QString::fromLocal8Bit(std::strerror(error));
-    return u"Can't start \"%1\": %2. Choose the tool's path on the Tools tab.\n"_qs.arg(tool, reason);
+    return Words::tr("Can't start \"%1\": %2. Choose the tool's path on the Tools tab.\n").arg(tool, reason);
 }
 
 /// An argument ends at a zero byte, so a tool would get less than it is to have: part of a password, or of
@@ -210,8 +215,8 @@ QString whyNoArguments(const QString &tool, const QStringList &arguments)
 {
     const auto isCut = [](const QString &text) { return text.contains(QChar::Null); };
     if (!isCut(tool) && std::none_of(arguments.begin(), arguments.end(), isCut)) return {};
-    return u"Can't start \"%1\": a name or a password for it holds a zero byte.\n"_qs.arg(
-        QString(tool).remove(QChar::Null));
+    return Words::tr("Can't start \"%1\": a name or a password for it holds a zero byte.\n")
+        .arg(QString(tool).remove(QChar::Null));
 }
 
 /// How a tool ended.
@@ -244,8 +249,10 @@ QString describeEnd(const QString &tool, int status)
 {
     if (!WIFSIGNALED(status)) return {};
     const int signal = WTERMSIG(status);
-    return u"\"%1\" was ended by signal %2 (%3).\n"_qs.arg(tool).arg(signal).arg(
-        QString::fromLocal8Bit(strsignal(signal)));
+    return Words::tr("\"%1\" was ended by signal %2 (%3).\n")
+        .arg(tool)
+        .arg(signal)
+        .arg(QString::fromLocal8Bit(strsignal(signal)));
 }
 
 } // namespace
