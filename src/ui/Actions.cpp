@@ -5,6 +5,7 @@
 #include "ui/Binding.h"
 #include "ui/FolderList.h"
 #include "ui/PanelDialog.h"
+#include "ui/SecretEdit.h"
 #include "ui/StepperButtons.h"
 #include "ui/ToolTable.h"
 
@@ -15,6 +16,8 @@
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QPushButton>
+#include <QStackedWidget>
 #include <QTabWidget>
 #include <QUrl>
 
@@ -63,10 +66,29 @@ void copyConsole(const ActionCall &call)
     QGuiApplication::clipboard()->setText(call.controller.consoleTextView01.text());
 }
 
-void showPasswords(const ActionCall &call)
+void showPage(const ActionCall &call, const QString &page)
 {
     auto &tabs = *call.window.findChild<QTabWidget *>(u"mainTabs"_qs);
-    tabs.setCurrentWidget(tabs.findChild<QWidget *>(u"passwordsPage"_qs));
+    tabs.setCurrentWidget(tabs.findChild<QWidget *>(page));
+}
+
+// What is typed next is the password; a certificate is chosen.
+void showPasswords(const ActionCall &call)
+{
+    showPage(call, u"passwordsPage"_qs);
+    QWidget &page = *call.window.findChild<QStackedWidget *>(u"passTabs"_qs)->currentWidget();
+    for (auto *field : page.findChildren<SecretEdit *>()) {
+        if (!field->isVisibleTo(&page)) continue;
+        field->setFocus();
+        return;
+    }
+    page.findChild<QPushButton *>()->setFocus();
+}
+
+void showTools(const ActionCall &call)
+{
+    call.controller.profileButton05ActionEnd();
+    showPage(call, u"toolsPage"_qs);
 }
 
 void openDownloadPage(const ActionCall &call)
@@ -176,6 +198,7 @@ constexpr ActionRow table[] = {
     {"quitPanel01Stay"_name, send<&Controller::quitPanel01Stay>},
 
     {"preferencesPanel01"_name, send<&Controller::profileButton05ActionEnd>},
+    {"preferencesToolsButton"_name, showTools},
     {"preferencesCloseButton"_name, send<&Controller::profileButton05ActionEnd>},
     {"prefSelector01"_name, send<&Controller::prefSelector01Action>},
     {"prefSelector02"_name, send<&Controller::prefSelector02Action>},

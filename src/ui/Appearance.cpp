@@ -1,5 +1,7 @@
 #include "ui/Appearance.h"
 
+#include "ui/Placeholders.h"
+
 #include <QGuiApplication>
 
 // At global scope, as the macro asks: the icons lie in a static library, which would not load them by itself.
@@ -41,6 +43,7 @@ void setUpAppearance()
 {
     loadIcons();
     chooseIconTheme();
+    keepPlaceholdersReadable();
     QGuiApplication::setApplicationName(u"quillorent"_qs);
     QGuiApplication::setApplicationDisplayName(u"Quillorent"_qs);
     QGuiApplication::setDesktopFileName(applicationId);

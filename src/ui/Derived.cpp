@@ -7,6 +7,7 @@
 #include "keys/Strength.h"
 #include "sync/SyncMeaning.h"
 #include "ui/CompressionHint.h"
+#include "ui/Header.h"
 #include "ui/Protection.h"
 #include "ui/RefreshQueue.h"
 #include "ui_MainWindow.h"
@@ -47,16 +48,6 @@ QString strengthHint(const QString &password)
     return {};
 }
 
-/// Names the profile in use, with the sign that it has changes; the program's name follows by itself.
-void nameWindow(RefreshQueue &queue, outlets::TextField &profile, QWidget &window)
-{
-    queue.watch(profile, [&profile, &window] {
-        QString name = profile.text();
-        name.replace(u"[*]"_qs, u"[*][*]"_qs); // which the toolkit would take for the sign
-        window.setWindowTitle(name.isEmpty() ? u"Quillorent"_qs : name + u"[*]"_qs);
-    });
-}
-
 /// Of a list, what can be removed is what is selected.
 void enableBySelection(RefreshQueue &queue, outlets::TableView &list, QWidget &button)
 {
@@ -68,13 +59,6 @@ void leadToShownField(RefreshQueue &queue, outlets::CheckBox &isMasked, QLabel &
                       QWidget &clear)
 {
     queue.watch(isMasked, [&] { label.setBuddy(isMasked.isOn() ? &masked : &clear); });
-}
-
-void showProfiles(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
-{
-    nameWindow(queue, all.currentProfileTextView, *form.centralWidget->window());
-    queue.watch(all.profileCombo01,
-                [&] { form.profileButton07->setEnabled(all.profileCombo01.titles().size() > 1); });
 }
 
 void showFolders(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
@@ -141,7 +125,7 @@ void showSynchronisation(Controller &all, Ui::MainWindow &form, RefreshQueue &qu
 
 void showDerived(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
 {
-    showProfiles(all, form, queue);
+    showHeader(all, form, queue);
     showFolders(all, form, queue);
     showExtraction(all, form, queue);
     showPasswords(all, form, queue);

@@ -7,7 +7,7 @@ namespace ui {
 
 namespace {
 
-/// Gives cells some room on their right, so that columns which fit their contents do not touch.
+/// Keeps paths readable in every language, and gives cells some room on their right, so that columns which fit their contents do not touch.
 class RoomyDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -15,6 +15,15 @@ public:
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
         return QStyledItemDelegate::sizeHint(option, index) + QSize(16, 0);
+    }
+
+protected:
+    // A path is read from left to right where all else is mirrored: the marks keep its slashes in their places.
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        constexpr QChar leftToRight(0x200E);
+        if (option->text.startsWith(u'/')) option->text = leftToRight + option->text + leftToRight;
     }
 };
 
@@ -33,6 +42,14 @@ OutletTableView::OutletTableView(QWidget *parent) : QTableView(parent)
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+QSize OutletTableView::sizeHint() const
+{
+    constexpr int rows = 4;
+    const int header = horizontalHeader()->isVisibleTo(this) ? horizontalHeader()->sizeHint().height() : 0;
+    const int height = header + rows * verticalHeader()->defaultSectionSize() + 2 * frameWidth();
+    return {QTableView::sizeHint().width(), height};
 }
 
 void OutletTableView::setOutletModel(OutletTableModel *model)

@@ -18,6 +18,9 @@ public:
     [[nodiscard]] QList<int> selectedRows() const; ///< ascending
     void selectRows(const QList<int> &rows); ///< these and no others; rows that it does not have are left out
 
+    /// Of a few rows: what is laid out around it comes first, and it takes the room that is left.
+    [[nodiscard]] QSize sizeHint() const override;
+
 Q_SIGNALS:
     void selectedRowsChanged(const QList<int> &rows);
 

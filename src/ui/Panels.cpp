@@ -59,6 +59,21 @@ PanelDialog *makeWithIcon(QWidget &window, const QString &iconName)
     return panel;
 }
 
+PanelDialog *makePreferences(const QuillorentAppDelegate &controller, QWidget &window)
+{
+    Ui::PreferencesPanel01 form;
+    PanelDialog *panel = makePanel(form, window);
+    const auto showStartUp = [&controller, label = form.startUpProfile] {
+        const QString name = controller.setting(u"resources"_qs, u"selectedprofile"_qs).value_or(QString());
+        label->setText(name.isEmpty() ? tr("now: the last one of the list") : tr("now: %1").arg(name));
+    };
+    QObject::connect(panel, &PanelDialog::visibilityChanged, panel, showStartUp);
+    // Its action comes first, whichever is connected first.
+    QObject::connect(form.defaultProfileButton, &QAbstractButton::clicked, panel, showStartUp,
+                     Qt::QueuedConnection);
+    return panel;
+}
+
 PanelDialog *makeConsole(QWidget &window)
 {
     Ui::ConsolePanel01 form;
@@ -192,7 +207,7 @@ QList<QWidget *> makeProfileSheets(QWidget &window)
                  .advice = tr(
                      "The two are independent of each other once the profiles are saved and the program is "
                      "started again. Until then a change in one is a change in both.")}),
-            makePlain<Ui::ProfilePanel04>(window), makePlain<Ui::PreferencesPanel01>(window)};
+            makePlain<Ui::ProfilePanel04>(window)};
 }
 
 } // namespace
@@ -200,6 +215,7 @@ QList<QWidget *> makeProfileSheets(QWidget &window)
 Panels::Panels(QuillorentAppDelegate &controller, QWidget &window)
     : m_all(makeMessages(window) + makeQuestions(window) + makeProfileSheets(window))
 {
+    m_all += makePreferences(controller, window);
     m_all +=
         {makeConsole(window), makePlain<Ui::PreviewPanel01>(window), makePlain<Ui::UpdatePanel01>(window)};
     addProgressSheet<Ui::ProgressPanel01>(controller, window);

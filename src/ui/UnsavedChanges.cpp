@@ -29,10 +29,16 @@ void UnsavedChanges::look()
     const bool profiles = !quillorentLibrary::areProfilesSaved(m_controller.listPlist());
     const bool settings = !quillorentLibrary::areSettingsSaved(m_controller.configPlist());
     m_window.setWindowModified(profiles || settings);
-    m_text.setText(profiles && settings ? tr("Profiles and settings not saved")
-                   : profiles           ? tr("Profiles not saved")
-                   : settings           ? tr("Settings not saved")
-                                        : QString());
+    m_text.setText(!profiles && !settings ? tr("All changes saved")
+                   : savesByItself()      ? tr("Changes are saved when you quit")
+                   : profiles && settings ? tr("Profiles and settings not saved yet")
+                   : profiles             ? tr("Profiles not saved yet")
+                                          : tr("Settings not saved yet"));
+}
+
+bool UnsavedChanges::savesByItself() const
+{
+    return m_controller.configPlist().dictionary(u"resources"_qs).isOn(u"autosave"_qs);
 }
 
 void UnsavedChanges::closeAnyhow()
@@ -49,8 +55,7 @@ bool UnsavedChanges::mayClose()
     if (!m_window.isWindowModified()) return true;
     const bool isAsked = m_question && m_question->isVisible();
     if (isAsked || m_controller.savesForQuitting()) return false;
-    const bool savesByItself = m_controller.configPlist().dictionary(u"resources"_qs).isOn(u"autosave"_qs);
-    savesByItself ? m_controller.saveForQuitting() : ask();
+    savesByItself() ? m_controller.saveForQuitting() : ask();
     return false;
 }
 

@@ -25,6 +25,7 @@ public:
 
 private:
     void look();
+    [[nodiscard]] bool savesByItself() const; ///< when the window closes
     void ask();
     void closeAnyhow();
 

@@ -4,10 +4,14 @@
 #include "ui/Actions.h"
 #include "ui/Binding.h"
 #include "ui/Derived.h"
+#include "ui/Menu.h"
 #include "ui/OpenPanelDialog.h"
 #include "ui/PanelDialog.h"
 #include "ui/Panels.h"
+#include "ui/PathDirection.h"
+#include "ui/ScrollingPages.h"
 #include "ui/UnsavedChanges.h"
+#include "ui/WindowMemory.h"
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
@@ -44,10 +48,12 @@ Window::Window(QuillorentAppDelegate &controller)
     m_form->setupUi(this);
     finishForm();
     m_panels = std::make_unique<Panels>(controller, *this);
+    keepPathsLeftToRight(roots());
     m_binding = std::make_unique<Binding>(controller.outlets(), roots());
     connectActions(controller, *this, roots());
     m_unsaved = std::make_unique<UnsavedChanges>(controller, *this, *m_form->unsavedText);
     showDerived(controller, *m_form, m_binding->queue());
+    connectMenu(*this);
     addShortcuts();
     controller.openPanel = [this](const outlets::OpenPanel &panel) { return askForPaths(panel, this); };
     controller.openAddress = [](const QString &address) { QDesktopServices::openUrl(QUrl(address)); };
@@ -57,6 +63,7 @@ Window::Window(QuillorentAppDelegate &controller)
 
 Window::~Window()
 {
+    keepPlace(*this, *m_form->mainTabs);
     m_controller.openPanel = [](const outlets::OpenPanel &) { return std::nullopt; };
     m_controller.openAddress = [](const QString &) {};
     m_controller.showsUpdates = false;
@@ -85,15 +92,14 @@ void Window::finishForm()
 {
     m_form->prefStepper01->setRange(1, 10'000'000, 1000);
     m_form->prefStepper01->listenTo(*m_form->prefText01);
-
-    QFont bold = m_form->currentProfileTextView->font();
-    bold.setBold(true);
-    m_form->currentProfileTextView->setFont(bold);
+    letPagesScroll(*m_form->mainTabs);
+    restorePlace(*this, *m_form->mainTabs);
 }
 
+// The menu has those of the window itself.
 void Window::addShortcuts()
 {
-    for (QWidget *root : roots()) {
+    for (QWidget *root : m_panels->all()) {
         auto *quit = new QShortcut(QKeySequence::Quit, root);
         connect(quit, &QShortcut::activated, this, &QWidget::close);
     }

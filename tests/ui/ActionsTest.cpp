@@ -6,10 +6,14 @@
 #include "ui/FolderList.h"
 #include "ui/OpenPanelDialog.h"
 #include "ui/StepperButtons.h"
+#include "ui/WindowMemory.h"
 
+#include <QApplication>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QTextBrowser>
 
 namespace {
 
@@ -49,6 +53,59 @@ TEST_F(ActionsTest, EveryControlHasAnActionAndANameForThoseWhoDoNotSee)
             const QString text = widget->accessibleName() + widget->property("text").toString();
             EXPECT_TRUE(!isControl || !text.isEmpty() || labelled.contains(widget)) << name.toStdString();
         }
+}
+
+TEST_F(ActionsTest, TheMenuDoesWhatTheControlsDo)
+{
+    for (const auto &[action, panel] : {std::pair{u"newAction"_qs, u"profilePanel02"_qs},
+                                        {u"duplicateAction"_qs, u"profilePanel03"_qs},
+                                        {u"renameAction"_qs, u"profilePanel01"_qs},
+                                        {u"optionsAction"_qs, u"preferencesPanel01"_qs},
+                                        {u"backUpAction"_qs, u"warningPanel01"_qs},
+                                        {u"restoreAction"_qs, u"warningPanel01"_qs},
+                                        {u"synchroniseAction"_qs, u"warningPanel01"_qs},
+                                        {u"previewAction"_qs, u"warningPanel01"_qs},
+                                        {u"consoleAction"_qs, u"consolePanel01"_qs}}) {
+        doAndAnswer([&] { window.findChild<QAction *>(action)->trigger(); }, panel,
+                    [&] { QTest::keyClick(widget(panel).windowHandle(), Qt::Key_Escape); });
+        EXPECT_TRUE(waitForThreads(std::chrono::seconds(60)));
+    }
+    EXPECT_TRUE(widget(u"syncPage"_qs).isVisible()) << "what is done is seen";
+
+    // While something runs, only what reads: not by a menu that was open before, nor by a shortcut.
+    window.centralWidget()->setEnabled(false);
+    for (const QString &action : {u"newAction"_qs, u"startUpAction"_qs})
+        window.findChild<QAction *>(action)->trigger();
+    EXPECT_FALSE(widget(u"profilePanel02"_qs).isVisible());
+    EXPECT_EQ(delegate.setting(u"resources"_qs, u"selectedprofile"_qs).value_or(QString()), QString());
+    window.findChild<QAction *>(u"guideAction"_qs)->trigger();
+    EXPECT_TRUE(window.findChild<QTextBrowser *>()->toPlainText().contains(u"The first backup"));
+    window.findChild<QAction *>(u"aboutAction"_qs)->trigger();
+    EXPECT_TRUE(window.findChild<QMessageBox *>()->text().contains(QUILLORENT_VERSION));
+}
+
+TEST_F(ActionsTest, TheWindowComesBackAsItWasAndTheSettingsAreNotTouched)
+{
+    showTab(u"syncPage"_qs);
+    window.resize(1000, 740);
+    settle();
+    ui::keepPlace(window, widget<QTabWidget>(u"mainTabs"_qs));
+    const ui::Window second(delegate);
+    EXPECT_EQ(second.size(), QSize(1000, 740));
+    EXPECT_EQ(second.findChild<QTabWidget *>()->currentWidget()->objectName(), u"syncPage"_qs);
+    EXPECT_TRUE(std::filesystem::exists(program.folder() / "state/quillorent/window.ini"));
+}
+
+TEST_F(ActionsTest, WordsInEmptyFieldsAreReadableOnADarkPalette)
+{
+    const QPalette usual = QApplication::palette();
+    QPalette dark(QColor(70, 70, 70), QColor(60, 60, 60));
+    dark.setColor(QPalette::Base, QColor(75, 75, 75));
+    QApplication::setPalette(dark);
+    settle();
+    const QColor words = widget(u"keychainUser"_qs).palette().color(QPalette::PlaceholderText);
+    EXPECT_TRUE(words.alpha() == 255 && words.red() > 185) << words.red() << ", half the text's light";
+    QApplication::setPalette(usual);
 }
 
 TEST_F(ActionsTest, TheVolumeSizeIsTypedAndStepped)
@@ -134,8 +191,7 @@ TEST_F(ActionsTest, PasswordsAreTypedAndShown)
     click(u"protectionButton"_qs);
     EXPECT_TRUE(widget(u"passwordsPage"_qs).isVisible());
     EXPECT_TRUE(protection.text().contains(u"not entered"));
-    QTest::keyClicks(&widget(u"secureText01a"_qs), u"se<cret"_qs);
-    settle();
+    type(window, u"se<cret"_qs);
     EXPECT_EQ(delegate.passwordSelector(), u"se<cret"_qs);
     EXPECT_TRUE(widget<QLabel>(u"strengthHint"_qs).text().startsWith(u"Easy to guess"));
     EXPECT_FALSE(protection.text().contains(u"not entered") || protection.text().contains(u"se<cret"));

@@ -5,12 +5,14 @@
 #include "settings/Paths.h"
 #include "ui/SingleWindow.h"
 
+#include <QCheckBox>
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QWindow>
 #include <csignal>
 
 namespace {
@@ -19,12 +21,11 @@ namespace {
 struct Sheet {
     QString button;
     QString panel;
-    QString field;
 };
 
-const Sheet renaming{u"profileButton03"_qs, u"profilePanel01"_qs, u"panel01text02"_qs};
-const Sheet making{u"profileButton04"_qs, u"profilePanel02"_qs, u"panel02text01"_qs};
-const Sheet duplicating{u"profileButton06"_qs, u"profilePanel03"_qs, u"panel03text02"_qs};
+const Sheet renaming{u"profileButton03"_qs, u"profilePanel01"_qs};
+const Sheet making{u"profileButton04"_qs, u"profilePanel02"_qs};
+const Sheet duplicating{u"profileButton06"_qs, u"profilePanel03"_qs};
 
 class ProfilesTest : public WindowTest {
 protected:
@@ -39,9 +40,9 @@ protected:
         const Sheet &sheet, const QString &text, const std::function<void()> &before = [] {})
     {
         clickAndAnswer(sheet.button, sheet.panel, [&] {
-            QTest::keyClicks(widget(sheet.panel).focusWidget(), text);
+            type(widget(sheet.panel), text);
             before();
-            QTest::keyClick(&widget(sheet.field), Qt::Key_Return);
+            QTest::keyClick(widget(sheet.panel).windowHandle(), Qt::Key_Return);
         });
         EXPECT_TRUE(waitForThreads(std::chrono::seconds(60)));
         EXPECT_FALSE(widget(sheet.panel).isVisible());
@@ -62,15 +63,17 @@ TEST_F(ProfilesTest, AreMadeRenamedDuplicatedAndDeleted)
     std::filesystem::create_directories(program.folder() / "home/Pictures");
     EXPECT_FALSE(widget(u"profileButton07"_qs).isEnabled()) << "the last profile stays";
     delegate.passCombo01.selectIndex(PasswordTab::Certificate);
+    delegate.outputText01.setText(u"Backed up."_qs);
     name(making, u"Second"_qs, [&] { click(u"mustDos01"_qs); });
     EXPECT_EQ(delegate.currentProfile(), u"Second"_qs);
-    EXPECT_EQ(window.windowTitle(), u"Second[*]"_qs);
+    EXPECT_EQ(delegate.outputText01.text(), QString()) << "how another profile's run ended";
     EXPECT_EQ(delegate.passCombo01.selectedIndex(), PasswordTab::TypedPassword);
     EXPECT_EQ(record(u"Second"_qs).array(u"folders"_qs).strings(),
               QStringList{program.path("home/Pictures")});
     EXPECT_EQ(delegate.defaultProfile().array(u"folders"_qs).count(), 0) << "the copy is not deep";
 
-    click(u"defaultProfileButton"_qs);
+    widget<QPushButton>(u"defaultProfileButton"_qs).click();
+    settle();
     const plist::Dictionary second = record(u"Second"_qs);
     name(renaming, u"Renamed"_qs, [&] { EXPECT_EQ(delegate.panel01text01.text(), u"Second"_qs); });
     EXPECT_EQ(names(), (QStringList{first, u"Renamed"_qs}));
@@ -83,7 +86,11 @@ TEST_F(ProfilesTest, AreMadeRenamedDuplicatedAndDeleted)
     EXPECT_EQ(delegate.setting(u"resources"_qs, u"selectedprofile"_qs), u"Renamed"_qs) << "at the next start";
 
     // The chooser may show another profile than the one in use; that one stays in use.
+    const auto accent = [&] { return widget(u"profileButton02"_qs).palette().color(QPalette::Button); };
+    EXPECT_NE(accent(), window.palette().color(QPalette::Highlight));
     delegate.profileCombo01.selectTitle(u"Renamed"_qs);
+    settle();
+    EXPECT_EQ(accent(), window.palette().color(QPalette::Highlight));
     answerDeletion(u"panel04cancel"_qs);
     EXPECT_EQ(names().size(), 3);
     answerDeletion(u"panel04ok"_qs);
@@ -92,6 +99,19 @@ TEST_F(ProfilesTest, AreMadeRenamedDuplicatedAndDeleted)
     answerDeletion(u"panel04ok"_qs);
     EXPECT_EQ(delegate.profileCombo01.selectedTitle(), first);
     EXPECT_EQ(delegate.currentProfile(), first);
+}
+
+TEST_F(ProfilesTest, AreNamedInTheTitleWithTheSignOfChanges)
+{
+    for (const auto &[name, title] : {std::pair{u"Home"_qs, u"Home* — Quillorent"_qs},
+                                      {u"a[*]b"_qs, u"a[*]b* — Quillorent"_qs},
+                                      {u"Quillorent"_qs, u"*Quillorent"_qs},
+                                      {u""_qs, u"*Quillorent"_qs}}) {
+        delegate.currentProfileTextView.setText(name);
+        settle();
+        window.setWindowModified(true);
+        EXPECT_EQ(window.windowHandle()->title(), title);
+    }
 }
 
 TEST_F(ProfilesTest, NamesThatAreEmptyOrTakenAreRefused)
@@ -121,14 +141,15 @@ TEST_F(ProfilesTest, WhatIsNotSavedShowsAndIsAskedFor)
     click(u"profileButton01"_qs);
     click(u"settingsSaveButton"_qs);
     ASSERT_TRUE(waitForThreads(std::chrono::seconds(60))); // a save takes the state of its own turn
-    ASSERT_TRUE(waitUntil([&] { return !window.isWindowModified(); }));
-    EXPECT_EQ(widget<QLabel>(u"unsavedText"_qs).text(), QString());
+    ASSERT_TRUE(waitUntil([&] { return widget<QLabel>(u"unsavedText"_qs).text() == u"All changes saved"; }));
+    EXPECT_FALSE(window.isWindowModified());
 
-    click(u"autosaveCheck01"_qs);
+    widget<QCheckBox>(u"autosaveCheck01"_qs).click();
+    settle();
     ASSERT_FALSE(delegate.autosaveCheck01.isOn());
     delegate.addFolders({u"/one more"_qs});
     EXPECT_TRUE(waitUntil(
-        [&] { return widget<QLabel>(u"unsavedText"_qs).text() == u"Profiles and settings not saved"; }));
+        [&] { return widget<QLabel>(u"unsavedText"_qs).text() == u"Profiles and settings not saved yet"; }));
     EXPECT_TRUE(window.isWindowModified());
 
     const QSignalSpy closed(&window, &ui::Window::closed);

@@ -87,6 +87,7 @@ TEST_F(TableTest, ToolsAreJudgedInWords)
     EXPECT_TRUE(waitUntil([&] { return status(0) == u"right tool" && status(2) == u"right tool"; }));
     EXPECT_EQ(widget<ui::LevelBar>(u"level01"_qs).text(), u"3 of 3 tools are in order"_qs);
 
+    const auto right = delegate.setting(u"external"_qs, u"OpenSSL"_qs).value();
     delegate.openPanel = [](const outlets::OpenPanel &panel) {
         EXPECT_EQ(panel.directory, u"/usr/bin"_qs);
         return QStringList{u"/usr/bin/true"_qs};
@@ -98,6 +99,13 @@ TEST_F(TableTest, ToolsAreJudgedInWords)
     EXPECT_TRUE(waitUntil([&] { return status(1) == u"not usable" && status(0) == u"right tool"; }));
     EXPECT_EQ(delegate.setting(u"external"_qs, u"OpenSSL"_qs), u"/usr/bin/true"_qs);
     EXPECT_TRUE(waitUntil([&] { return widget<ui::LevelBar>(u"level01"_qs).text().startsWith(u'2'); }));
+
+    // What is missing is said as long as it is.
+    showTab(u"syncPage"_qs);
+    EXPECT_TRUE(widget(u"noPathPanel01"_qs).isVisible());
+    delegate.configPlist().dictionary(u"external"_qs).setValue(u"OpenSSL"_qs, right);
+    click(u"settingsSaveButton"_qs);
+    EXPECT_TRUE(waitUntil([&] { return !widget(u"noPathPanel01"_qs).isVisible(); }));
 }
 
 TEST_F(TableTest, AReloadLeavesTypingAlone)

@@ -79,8 +79,21 @@ protected:
         settle();
     }
 
+    /// Types into whatever of the window has the keyboard, as a person does.
+    static void type(const QWidget &top, const QString &text)
+    {
+        for (const QChar character : text)
+            QTest::keyClick(top.windowHandle(), character.toLatin1());
+        settle();
+    }
+
     /// Clicks a button whose action waits for a panel; `answer` is given once the panel is there.
     void clickAndAnswer(const QString &button, const QString &panel, const std::function<void()> &answer)
+    {
+        doAndAnswer([&] { click(button); }, panel, answer);
+    }
+    void doAndAnswer(const std::function<void()> &act, const QString &panel,
+                     const std::function<void()> &answer)
     {
         bool answered = false;
         QTimer timer;
@@ -90,7 +103,7 @@ protected:
             answer();
         });
         timer.start(5);
-        click(button);
+        act();
         EXPECT_TRUE(waitUntil([&] { return answered; })) << panel.toStdString() << " did not appear";
         settle();
     }

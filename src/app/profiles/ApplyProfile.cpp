@@ -41,6 +41,10 @@ void QuillorentAppDelegate::profileCombo01Action() { listTableView.reloadData();
 
 void QuillorentAppDelegate::setterCurrentProfile(const QString &name)
 {
+    // How a run of another profile ended says nothing of this one.
+    if (name != currentProfile())
+        for (outlets::TextField *result : {&outputText01, &outputText02, &outputText03})
+            result->setText({});
     currentProfile.set(name);
     profileCombo01.selectTitle(name);
     currentProfileTextView.setText(name);

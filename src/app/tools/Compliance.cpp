@@ -46,6 +46,7 @@ bool quillorentLibrary::compliance()
     delegate.pathTableView.reloadData();
     delegate.toolsHint01.setText(hintOnOpenSsl());
     delegate.toolsHint01.setHidden(delegate.toolsHint01.text().isEmpty());
+    if (tools == passing) delegate.noPathPanel01.orderOut(); // what it says is mended
     return tools == passing;
 }
 

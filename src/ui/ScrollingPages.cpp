@@ -1,0 +1,34 @@
+#include "ui/ScrollingPages.h"
+
+#include <QScrollArea>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace ui {
+namespace {
+
+void letScroll(QWidget &page)
+{
+    auto *contents = new QWidget;
+    contents->setLayout(page.layout()); // and with it all that is laid out
+    auto *area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus); // the controls have the keyboard, and are scrolled to
+    area->setWidget(contents);
+    area->viewport()->setAutoFillBackground(false);
+    contents->setAutoFillBackground(false);
+    auto *column = new QVBoxLayout(&page);
+    column->setContentsMargins({});
+    column->addWidget(area);
+}
+
+} // namespace
+
+void letPagesScroll(QTabWidget &tabs)
+{
+    for (int tab = 0; tab < tabs.count(); ++tab)
+        letScroll(*tabs.widget(tab));
+}
+
+} // namespace ui

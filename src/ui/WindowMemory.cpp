@@ -1,0 +1,43 @@
+#include "ui/WindowMemory.h"
+
+#include "runs/RunJournal.h"
+
+#include <QDir>
+#include <QMainWindow>
+#include <QScreen>
+#include <QSettings>
+#include <QTabWidget>
+
+namespace ui {
+namespace {
+
+const QString geometryKey = u"geometry"_qs;
+const QString tabKey = u"tab"_qs;
+
+QString file() { return QDir::cleanPath(recordsFolder() + u"/../window.ini"_qs); }
+
+QSize usualSize(const QWidget &window)
+{
+    const QFontMetrics font = window.fontMetrics();
+    const QSize wanted(font.averageCharWidth() * 150, font.height() * 40);
+    return wanted.boundedTo(window.screen()->availableSize() * 0.9);
+}
+
+} // namespace
+
+void keepPlace(const QMainWindow &window, const QTabWidget &tabs)
+{
+    QSettings kept(file(), QSettings::IniFormat);
+    kept.setValue(geometryKey, window.saveGeometry());
+    kept.setValue(tabKey, tabs.currentWidget()->objectName());
+}
+
+void restorePlace(QMainWindow &window, QTabWidget &tabs)
+{
+    const QSettings kept(file(), QSettings::IniFormat);
+    if (!window.restoreGeometry(kept.value(geometryKey).toByteArray())) window.resize(usualSize(window));
+    if (auto *page = tabs.findChild<QWidget *>(kept.value(tabKey).toString()); tabs.indexOf(page) >= 0)
+        tabs.setCurrentWidget(page);
+}
+
+} // namespace ui

@@ -1,0 +1,207 @@
+// What holds of every page and panel, in every language, font and direction.
+
+#include "TestWindow.h"
+
+#include "ui/ElidedLabel.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDirIterator>
+#include <QFile>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLayout>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStackedWidget>
+#include <QTranslator>
+#include <QXmlStreamReader>
+
+namespace {
+
+/// The program as one language, font or direction shows it.
+struct Opened : WindowTest {
+    using WindowTest::window;
+    void TestBody() override {}
+
+    /// Calls `look` with the name and the widgets of each page and panel, one after the other, as it is
+    /// shown.
+    void forEachView(const std::function<void(const std::string &, const QList<QWidget *> &)> &look)
+    {
+        auto &tabs = widget<QTabWidget>(u"mainTabs"_qs);
+        auto &passwords = widget<QStackedWidget>(u"passTabs"_qs);
+        for (int page = 0; page < tabs.count(); ++page) {
+            tabs.setCurrentIndex(page);
+            for (int inner = 0; inner < (tabs.currentWidget()->isAncestorOf(&passwords) ? 3 : 1); ++inner) {
+                delegate.passTabs.selectIndex(inner);
+                settle();
+                look(QString(u"%1 %2"_qs).arg(tabs.tabText(page)).arg(inner).toStdString(), shownBy(window));
+            }
+        }
+        for (QWidget *panel : window.roots()) {
+            if (panel == &window) continue;
+            panel->show();
+            settle();
+            look(panel->objectName().toStdString(), shownBy(*panel));
+            panel->hide();
+        }
+    }
+
+private:
+    /// All but what lies on other pages and in other windows; also what shows at certain times only.
+    static QList<QWidget *> shownBy(QWidget &root)
+    {
+        QList<QWidget *> shown;
+        for (QWidget *widget : root.findChildren<QWidget *>()) {
+            bool isElsewhere = widget->window() != &root;
+            for (const QWidget *each = widget; each->parentWidget() && !isElsewhere;
+                 each = each->parentWidget())
+                if (const auto *pages = qobject_cast<QStackedWidget *>(each->parentWidget()))
+                    isElsewhere = pages->currentWidget() != each;
+            if (!isElsewhere) shown.append(widget);
+        }
+        return shown;
+    }
+};
+
+/// Translates by the text of a translator's file, whether it is compiled or not.
+class TextTranslator : public QTranslator {
+public:
+    explicit TextTranslator(const QString &path)
+    {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly)) qFatal("can't read %s", qUtf8Printable(path));
+        QXmlStreamReader xml(&file);
+        QString context;
+        for (QString source; !xml.atEnd(); xml.readNext()) {
+            if (!xml.isStartElement()) continue;
+            if (xml.name() == u"name") context = xml.readElementText();
+            if (xml.name() == u"source") source = xml.readElementText();
+            if (xml.name() == u"translation")
+                m_texts[context + source] = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+        }
+    }
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        return m_texts.value(QString::fromUtf8(context) + QString::fromUtf8(source));
+    }
+    bool isEmpty() const override { return m_texts.isEmpty(); }
+
+private:
+    QHash<QString, QString> m_texts;
+};
+
+QStringList mnemonicTexts(const QWidget &widget)
+{
+    if (const auto *button = qobject_cast<const QAbstractButton *>(&widget)) return {button->text()};
+    if (const auto *box = qobject_cast<const QGroupBox *>(&widget)) return {box->title()};
+    if (const auto *label = qobject_cast<const QLabel *>(&widget))
+        return label->buddy() ? QStringList{label->text()} : QStringList();
+    QStringList texts;
+    if (const auto *bar = qobject_cast<const QTabBar *>(&widget))
+        for (int tab = 0; tab < bar->count(); ++tab)
+            texts.append(bar->tabText(tab));
+    if (qobject_cast<const QMenuBar *>(&widget) || qobject_cast<const QMenu *>(&widget))
+        for (const QAction *action : widget.actions())
+            texts.append(action->text());
+    return texts;
+}
+
+void expectUnique(const QStringList &texts, const std::string &where)
+{
+    QHash<QString, QString> taken;
+    for (const QString &text : texts) {
+        const QString key = QKeySequence::mnemonic(text).toString();
+        if (key.isEmpty()) continue;
+        EXPECT_FALSE(taken.contains(key))
+            << where << ": " << key.toStdString() << " is both “" << taken[key].toStdString() << "” and “"
+            << text.toStdString() << "”";
+        taken[key] = text;
+    }
+}
+
+void expectUniqueMnemonics(Opened &opened, const std::string &language)
+{
+    opened.forEachView([&](const std::string &view, const QList<QWidget *> &widgets) {
+        QStringList texts;
+        for (const QWidget *widget : widgets)
+            texts += mnemonicTexts(*widget);
+        expectUnique(texts, language + ' ' + view);
+    });
+}
+
+/// Why what the widget shows is cut off; empty where it is not.
+std::string whyCut(const QWidget &widget)
+{
+    const auto *label = qobject_cast<const QLabel *>(&widget);
+    const auto *button = qobject_cast<const QAbstractButton *>(&widget);
+    const auto *box = qobject_cast<const QGroupBox *>(&widget);
+    const bool isField = widget.inherits("QLineEdit") || widget.inherits("QComboBox");
+    QSize needed = widget.sizeHint();
+    if (dynamic_cast<const ui::ElidedLabel *>(label) || isField) needed.setWidth(0);
+    if (isField) needed.setHeight(widget.minimumSizeHint().height());
+    if (label && label->wordWrap()) needed = {0, label->heightForWidth(label->width())};
+    if (button && button->text().isEmpty() && button->icon().isNull()) return {}; // a part of another one
+    if (box) needed = {box->fontMetrics().horizontalAdvance(box->title()), 0};
+    const bool isAsked = label || button || isField || box;
+    const auto text = [](QSize size) {
+        return std::to_string(size.width()) + "x" + std::to_string(size.height());
+    };
+    if (isAsked && (needed.width() > widget.width() || needed.height() > widget.height()))
+        return "needs " + text(needed) + ", has " + text(widget.size());
+    const QWidget &parent = *widget.parentWidget();
+    const bool isScrolled = parent.objectName() == u"qt_scrollarea_viewport";
+    if (isAsked && !isScrolled && !parent.rect().contains(widget.geometry()))
+        return "reaches out of its place";
+    return {};
+}
+
+} // namespace
+
+TEST(PagesTest, HaveEachMnemonicOnce)
+{
+    {
+        Opened opened;
+        expectUniqueMnemonics(opened, "as written");
+        for (const QMenu *menu : opened.window.findChildren<QMenu *>())
+            expectUnique(mnemonicTexts(*menu), menu->objectName().toStdString());
+    }
+    for (QDirIterator files(QStringLiteral(QUILLORENT_SOURCES), {u"*.ts"_qs}, QDir::Files,
+                            QDirIterator::Subdirectories);
+         files.hasNext();) {
+        TextTranslator translator(files.next());
+        QCoreApplication::installTranslator(&translator);
+        Opened opened;
+        expectUniqueMnemonics(opened, files.fileName().toStdString());
+    }
+}
+
+TEST(PagesTest, AreCutOffNowhere)
+{
+    const QFont usual = QApplication::font();
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft})
+        for (const int points : {8, 12, 18, 24}) {
+            QFont font = usual;
+            font.setPointSize(points);
+            QApplication::setFont(font);
+            QGuiApplication::setLayoutDirection(direction);
+            Opened opened;
+            opened.window.resize(1, 1);
+            const QSize least = opened.window.minimumSizeHint();
+            EXPECT_TRUE(least.width() <= 1366 && least.height() <= 768)
+                << points << " pt: " << least.width() << 'x' << least.height();
+            opened.forEachView([&](const std::string &view, const QList<QWidget *> &widgets) {
+                for (const QWidget *widget : widgets) {
+                    if (!widget->isVisible() || widget->objectName().startsWith(u"qt_")) continue;
+                    if (widget->window()->objectName().startsWith(u"progressPanel")) continue;
+                    const std::string why = whyCut(*widget);
+                    EXPECT_TRUE(why.empty())
+                        << points << " pt, "
+                        << (direction == Qt::LeftToRight ? "from the left" : "from the right") << ", " << view
+                        << ": " << widget->objectName().toStdString() << ' ' << why;
+                }
+            });
+        }
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    QApplication::setFont(usual);
+}
