@@ -3,8 +3,10 @@
 #include "app/QuillorentAppDelegate.h"
 #include "ui/ArchiveList.h"
 #include "ui/Binding.h"
-#include "ui/FolderList.h"
+#include "ui/FoldersPage.h"
 #include "ui/PanelDialog.h"
+#include "ui/PathList.h"
+#include "ui/SizeEdit.h"
 #include "ui/StepperButtons.h"
 #include "ui/ToolTable.h"
 
@@ -63,11 +65,20 @@ void copyConsole(const ActionCall &call)
     QGuiApplication::clipboard()->setText(call.controller.consoleTextView01.text());
 }
 
-void showPasswords(const ActionCall &call)
+FoldersPage &foldersPage(const ActionCall &call) { return *call.window.findChild<FoldersPage *>(); }
+
+void removeFolders(const ActionCall &call)
 {
-    auto &tabs = *call.window.findChild<QTabWidget *>(u"mainTabs"_qs);
-    tabs.setCurrentWidget(tabs.findChild<QWidget *>(u"passwordsPage"_qs));
+    const int first = call.controller.listTableView.selectedRow();
+    foldersPage(call).removeSelected();
+    call.controller.listTableView.setSelectedRows(first < 0 ? QList<int>() : QList<int>{first});
 }
+
+void showPasswords(const ActionCall &call) { foldersPage(call).goTo(Hindrance::Place::Password); }
+
+void openDestination(const ActionCall &call) { foldersPage(call).openDestination(); }
+
+void tryRestore(const ActionCall &call) { foldersPage(call).tryRestore(); }
 
 void openDownloadPage(const ActionCall &call)
 {
@@ -94,7 +105,7 @@ constexpr ActionRow table[] = {
     {"mainTabs"_name, send<&Controller::tabViewDidSelectTabViewItem>},
 
     {"folderButton01"_name, send<&Controller::folderButton01Action>},
-    {"folderButton02"_name, removeSelected<&Controller::listTableView, &Controller::folderButton02Action>},
+    {"folderButton02"_name, removeFolders},
     {"fileButton01"_name, send<&Controller::fileButton01Action>},
     {"checkBox04"_name, send<&Controller::prefCheck01Action>},
     {"prefText01"_name, send<&Controller::prefStepper01Action>},
@@ -102,6 +113,8 @@ constexpr ActionRow table[] = {
     {"checkBox05"_name, send<&Controller::checkBox05Action>},
     {"checkBox06"_name, send<&Controller::checkBox06Action>},
     {"protectionButton"_name, showPasswords},
+    {"openDestinationButton"_name, openDestination},
+    {"tryRestoreButton"_name, tryRestore},
     {"buttonLaunch01"_name, send<&Controller::buttonLaunch01>},
 
     {"extractButton01"_name, send<&Controller::extractButton01Action>},
@@ -229,6 +242,8 @@ bool connectControl(QWidget &widget, Perform perform)
         return bool(QObject::connect(button, &QAbstractButton::clicked, &widget, performPlain));
     if (auto *combo = qobject_cast<QComboBox *>(&widget))
         return bool(QObject::connect(combo, &QComboBox::activated, &widget, performPlain));
+    if (auto *size = qobject_cast<SizeEdit *>(&widget))
+        return bool(QObject::connect(size, &SizeEdit::thousandsEdited, &widget, perform));
     if (auto *field = qobject_cast<QLineEdit *>(&widget))
         return bool(QObject::connect(field, &QLineEdit::textEdited, &widget, perform));
     if (auto *stepper = qobject_cast<StepperButtons *>(&widget))

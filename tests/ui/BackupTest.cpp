@@ -71,7 +71,7 @@ TEST_F(BackupTest, AWholeBackupByClicks)
 {
     auto &size = widget<QLineEdit>(u"prefText01"_qs);
     size.selectAll();
-    QTest::keyClicks(&size, u"30"_qs);
+    QTest::keyClicks(&size, u"30 kB"_qs);
 
     click(u"buttonLaunch01"_qs);
     waitForEnd();
