@@ -11,6 +11,7 @@
 #include "ui/OutletTableView.h"
 #include "ui/PanelDialog.h"
 #include "ui/SecretEdit.h"
+#include "ui/SizeEdit.h"
 #include "ui/Spinner.h"
 #include "ui/StepperButtons.h"
 #include "ui/TextArea.h"
@@ -45,6 +46,13 @@ void connectWidget(RefreshQueue &queue, outlets::TextField &field, QLineEdit &ed
     });
     QObject::connect(&edit, &QLineEdit::textEdited, &edit,
                      [&field](const QString &text) { field.setText(text); });
+}
+
+void connectWidget(RefreshQueue &queue, outlets::TextField &field, SizeEdit &edit)
+{
+    queue.watch(field, [&field, &edit] { edit.setThousands(field.text()); });
+    QObject::connect(&edit, &SizeEdit::thousandsEdited, &edit,
+                     [&field](const QString &thousands) { field.setText(thousands); });
 }
 
 void connectWidget(RefreshQueue &queue, outlets::SecretField &field, SecretEdit &edit)
@@ -221,7 +229,8 @@ bool tie(RefreshQueue &queue, outlets::Outlet &outlet, QWidget &widget)
     using namespace outlets;
     // A password in any other widget would leave copies.
     if (dynamic_cast<SecretField *>(&outlet)) return tieAs<SecretField, SecretEdit>(queue, outlet, widget);
-    return tieAs<TextField, QLineEdit>(queue, outlet, widget) ||
+    return tieAs<TextField, SizeEdit>(queue, outlet, widget) ||
+           tieAs<TextField, QLineEdit>(queue, outlet, widget) ||
            tieAs<TextField, QLabel>(queue, outlet, widget) ||
            tieAs<TextField, TextArea>(queue, outlet, widget) ||
            tieAs<CheckBox, QCheckBox>(queue, outlet, widget) ||

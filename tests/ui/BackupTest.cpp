@@ -7,6 +7,7 @@
 #include "ui/TextArea.h"
 
 #include <QDir>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -71,7 +72,7 @@ TEST_F(BackupTest, AWholeBackupByClicks)
 {
     auto &size = widget<QLineEdit>(u"prefText01"_qs);
     size.selectAll();
-    QTest::keyClicks(&size, u"30"_qs);
+    QTest::keyClicks(&size, u"30 kB"_qs);
 
     click(u"buttonLaunch01"_qs);
     waitForEnd();
@@ -79,6 +80,15 @@ TEST_F(BackupTest, AWholeBackupByClicks)
     const QStringList volumes = archives();
     EXPECT_GE(volumes.size(), 2);
     EXPECT_TRUE(widget<ui::TextArea>(u"outputText01"_qs).text().contains(u"1 of 1"));
+    const auto &protection = widget<QLabel>(u"protectionText"_qs);
+    EXPECT_TRUE(waitUntil([&] { return protection.text().contains(u"it opens the archives"); }));
+    EXPECT_TRUE(widget<QLabel>(u"resultHeadline"_qs).text().contains(u"· 1 folder · 6"));
+    EXPECT_FALSE(widget(u"outputText01"_qs).isVisible()) << "said twice";
+
+    type(u"correct house"_qs, u"correct house"_qs);
+    EXPECT_FALSE(protection.text().contains(u"opens"));
+    EXPECT_TRUE(waitUntil([&] { return protection.text().contains(u"does not open the archives"); }));
+    type(u"correct horse"_qs, u"correct horse"_qs);
 
     // What is to be replaced is asked about first; the question is not answered by closing it.
     clickAndAnswer(u"buttonLaunch01"_qs, u"warningPanel03"_qs, [this] {
@@ -135,6 +145,8 @@ TEST_F(BackupTest, WhatIsLeftInClearIsShownUntilItIsRemoved)
     waitForEnd();
     click(u"consoleCloseButton"_qs);
     EXPECT_EQ(archives(), QStringList{u"docs.rar"_qs});
+    EXPECT_TRUE(waitUntil(
+        [this] { return widget<ui::TextArea>(u"resultDetails"_qs).text().startsWith(u"What failed"); }));
     EXPECT_TRUE(widget(u"clearText01"_qs).isVisible());
     EXPECT_TRUE(widget<ui::TextArea>(u"clearText01"_qs).text().contains(program.path("archives/docs.rar")));
     EXPECT_LT(widget(u"mainTabs"_qs).height(), heightBefore);
