@@ -145,13 +145,27 @@ TEST_F(BackupTest, WhatIsLeftInClearIsShownUntilItIsRemoved)
     EXPECT_EQ(widget(u"mainTabs"_qs).height(), heightBefore);
 }
 
-TEST_F(BackupTest, ClosingDuringARunAsks)
+TEST_F(BackupTest, StoppingAsks)
 {
     const Stub hanging(program.folder(), "rar", "hang");
     program.useTool(u"RAR"_qs, hanging.path());
     click(u"buttonLaunch01"_qs);
     ASSERT_TRUE(
         waitUntil([this] { return widget(u"progressPanel01"_qs).isVisible() && toolsRunning() > 0; }));
+    for (const QString &answer : {u"&Keep running"_qs, QString()}) {
+        QTest::keyClick(&widget(u"progressPanel01"_qs), Qt::Key_Escape);
+        settle();
+        ASSERT_TRUE(button(u"&Stop"_qs));
+        EXPECT_FALSE(delegate.cancelFlag());
+        if (QPushButton *given = button(answer)) given->click();
+        settle();
+    }
+    endTools();
+    waitForEnd();
+    EXPECT_FALSE(button(u"&Stop"_qs)) << "there is nothing left to stop";
+    click(u"consoleCloseButton"_qs);
+    click(u"buttonLaunch01"_qs);
+    ASSERT_TRUE(waitUntil([] { return toolsRunning() > 0; }));
     const QSignalSpy closed(&window, &ui::Window::closed);
     // Closing must get past the sheet, which blocks the rest of the window.
     EXPECT_FALSE(widget(u"progressPanel01"_qs).isModal());
