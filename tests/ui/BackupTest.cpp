@@ -4,6 +4,7 @@
 #include "Tree.h"
 
 #include "tools/ToolRun.h"
+#include "ui/RunBar.h"
 #include "ui/TextArea.h"
 
 #include <QDir>
@@ -73,8 +74,15 @@ TEST_F(BackupTest, AWholeBackupByClicks)
     size.selectAll();
     QTest::keyClicks(&size, u"30"_qs);
 
+    const auto &bar = widget<ui::RunBar>(u"view01progressIndicator01"_qs);
+    std::vector<int> shown;
+    QObject::connect(&bar, &QProgressBar::valueChanged, &bar, [&](int value) { shown.push_back(value); });
     click(u"buttonLaunch01"_qs);
     waitForEnd();
+    EXPECT_TRUE(std::any_of(shown.begin(), shown.end(), [&](int value) {
+        return value > 0 && value < bar.maximum();
+    })) << "one folder is more than one step";
+    EXPECT_TRUE(std::is_sorted(shown.begin(), shown.end())) << "it goes back";
     EXPECT_FALSE(widget(u"consolePanel01"_qs).isVisible()) << delegate.consoleTextView01.text().toStdString();
     const QStringList volumes = archives();
     EXPECT_GE(volumes.size(), 2);
