@@ -7,6 +7,7 @@
 #include "ui/OpenPanelDialog.h"
 #include "ui/PanelDialog.h"
 #include "ui/Panels.h"
+#include "ui/RunNotices.h"
 #include "ui/StopQuestion.h"
 #include "ui/UnsavedChanges.h"
 #include "ui_MainWindow.h"
@@ -26,6 +27,8 @@ Window::Window(QuillorentAppDelegate &controller)
     connectActions(controller, *this, roots());
     for (PanelDialog *sheet : m_panels->progressSheets())
         connect(sheet, &PanelDialog::closeRequested, this, [this, sheet] { askToCancel(*sheet); });
+    const auto *notices = new RunNotices(controller, *this, m_panels->progressSheets());
+    connect(notices, &RunNotices::showRequested, this, &Window::comeToFront);
     m_unsaved = std::make_unique<UnsavedChanges>(controller, *this, *m_form->unsavedText);
     showDerived(controller, *m_form, m_binding->queue());
     addShortcuts();

@@ -1,5 +1,7 @@
 #include "TestWindow.h"
 
+#include "Command.h"
+#include "SecretService.h"
 #include "Stub.h"
 #include "Tree.h"
 
@@ -7,6 +9,7 @@
 #include "ui/RunBar.h"
 #include "ui/TextArea.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -15,6 +18,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTabWidget>
+#include <QWindow>
 
 namespace {
 
@@ -151,6 +155,41 @@ TEST_F(BackupTest, WhatIsLeftInClearIsShownUntilItIsRemoved)
     settle();
     EXPECT_EQ(archives(), QStringList());
     EXPECT_EQ(widget(u"mainTabs"_qs).height(), heightBefore);
+}
+
+// By a real service of notices, whose buttons a script presses.
+TEST_F(BackupTest, WhoLooksElsewhereIsToldOfTheEnd)
+{
+    SecretService session;
+    writeFile(program.folder() / "dunstrc", "[all]\nsummary = \"*\"\naction_name = open\n");
+    const auto dunst = session.serve("org.freedesktop.Notifications",
+                                     {"env", std::string("DISPLAY=") + getenv("DISPLAY"), "dunst", "-conf",
+                                      (program.folder() / "dunstrc").string()});
+    QStringList opened;
+    delegate.openAddress = [&](const QString &address) { opened.append(address); };
+    // In front, whoever works with the window sees it there.
+    window.activateWindow();
+    ASSERT_TRUE(waitUntil([] { return QApplication::activeWindow() != nullptr; }));
+    click(u"buttonLaunch01"_qs);
+    waitForEnd();
+
+    QWindow other;
+    other.show();
+    clickAndAnswer(u"buttonLaunch01"_qs, u"warningPanel03"_qs, [this] { click(u"buttonLaunch01b"_qs); });
+    ASSERT_TRUE(waitUntil([this] { return widget(u"progressPanel01"_qs).isVisible(); }));
+    other.requestActivate();
+    ASSERT_TRUE(waitUntil([] { return !QApplication::activeWindow(); }));
+    waitForEnd();
+    const auto displayed = [] {
+        return QString::fromStdString(runCommand({"dunstctl", "count", "displayed"}).output);
+    };
+    ASSERT_TRUE(waitUntil([&] { return displayed().startsWith(u"1"); })) << displayed().toStdString();
+    EXPECT_EQ(runCommand({"dunstctl", "action", "0"}).status, 0);
+    EXPECT_TRUE(waitUntil([&] { return !opened.isEmpty(); }));
+    EXPECT_EQ(opened, QStringList{u"file://"_qs + program.path("archives")});
+    runCommand({"dunstctl", "close-all"});
+    const std::string history = runCommand({"dunstctl", "history"}).output;
+    EXPECT_NE(history.find("Backed up 1 of 1"), std::string::npos) << history;
 }
 
 TEST_F(BackupTest, StoppingAsks)
