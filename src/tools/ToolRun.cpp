@@ -226,7 +226,9 @@ struct RawResult {
 };
 
 /// The tool is killed where nobody wants more of what it says.
-RawResult runRaw(const QString &tool, const QStringList &arguments, int inherited, const TakeBytes &take)
+RawResult runRaw(
+    const QString &tool, const QStringList &arguments, int inherited, const TakeBytes &take,
+    const std::function<void(int)> &started = [](int) {})
 {
     if (const QString problem = whyNoArguments(tool, arguments); !problem.isEmpty())
         return {.problem = problem};
@@ -239,6 +241,7 @@ RawResult runRaw(const QString &tool, const QStringList &arguments, int inherite
     if (error) return {.problem = whyNotStarted(tool, error)};
 
     pipe.closeWriteEnd();
+    started(child);
     if (!pipe.readTo(take)) runningTools().kill(child);
     return {.waitStatus = runningTools().waitFor(child)};
 }
@@ -257,13 +260,15 @@ QString describeEnd(const QString &tool, int status)
 
 } // namespace
 
-ToolResult runTool(const QString &tool, const QStringList &arguments, int inherited)
+ToolResult runTool(const QString &tool, const QStringList &arguments, int inherited,
+                   const std::function<void(int)> &started)
 {
     QByteArray bytes;
-    const RawResult raw = runRaw(tool, arguments, inherited, [&](QByteArrayView piece) {
+    const auto take = [&](QByteArrayView piece) {
         bytes.append(piece);
         return true;
-    });
+    };
+    const RawResult raw = runRaw(tool, arguments, inherited, take, started);
     if (!raw.problem.isEmpty()) return {raw.problem, false};
     const int status = raw.waitStatus;
     bytes.append(describeEnd(tool, status).toUtf8());
@@ -313,16 +318,21 @@ void endTools(std::chrono::milliseconds grace)
     runningTools().signalAll(SIGKILL);
 }
 
-// "rchar" in proc_pid_io(5).
 quint64 bytesReadByTools()
 {
     quint64 bytes = 0;
-    for (const pid_t tool : runningTools().ids()) {
-        std::ifstream figures("/proc/" + std::to_string(tool) + "/io");
-        std::string name;
-        quint64 value = 0;
-        if (figures >> name >> value && name == "rchar:") bytes += value;
-    }
+    for (const pid_t tool : runningTools().ids())
+        bytes += bytesReadBy(tool).value_or(0);
+    return bytes;
+}
+
+// "rchar" in proc_pid_io(5).
+std::optional<quint64> bytesReadBy(int processId)
+{
+    std::ifstream figures("/proc/" + std::to_string(processId) + "/io");
+    std::string name;
+    quint64 bytes = 0;
+    if (!(figures >> name >> bytes) || name != "rchar:") return std::nullopt;
     return bytes;
 }
 

@@ -206,11 +206,8 @@ constexpr ActionRow table[] = {
     {"prefCheck03"_name, send<&Controller::prefCheck03Action>},
     {"updatesCheck01"_name, send<&Controller::updatesCheck01Action>},
 
-    {"progressPanel01"_name, cancelRun<&Controller::buttonCancel01>},
     {"buttonCancel01"_name, cancelRun<&Controller::buttonCancel01>},
-    {"progressPanel02"_name, cancelRun<&Controller::buttonCancel02>},
     {"buttonCancel02"_name, cancelRun<&Controller::buttonCancel02>},
-    {"progressPanel03"_name, cancelRun<&Controller::buttonCancel03>},
     {"buttonCancel03"_name, cancelRun<&Controller::buttonCancel03>},
     {"previewPanel01"_name, send<&Controller::previewPanel01Close>},
     {"previewPanel01CloseButton"_name, send<&Controller::previewPanel01Close>},

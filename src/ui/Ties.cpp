@@ -10,6 +10,7 @@
 #include "ui/LevelBar.h"
 #include "ui/OutletTableView.h"
 #include "ui/PanelDialog.h"
+#include "ui/RunBar.h"
 #include "ui/SecretEdit.h"
 #include "ui/SizeEdit.h"
 #include "ui/Spinner.h"
@@ -22,7 +23,6 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QPlainTextEdit>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStackedWidget>
@@ -128,17 +128,12 @@ void connectWidget(RefreshQueue &queue, outlets::Chooser &outlet, QComboBox &com
                      [&outlet](int index) { outlet.selectIndex(index); });
 }
 
-void connectWidget(RefreshQueue &queue, outlets::ProgressBar &outlet, QProgressBar &bar)
+void connectWidget(RefreshQueue &queue, outlets::ProgressBar &outlet, RunBar &bar)
 {
-    constexpr int steps = 1000; // bytes do not fit into the bar's integers
     queue.watch(outlet, [&outlet, &bar] {
         const auto state = outlet.state();
-        if (state.indeterminate) {
-            bar.setRange(0, 0);
-            return;
-        }
-        bar.setRange(0, steps);
-        bar.setValue(state.maximum > 0 ? int(std::clamp(state.value / state.maximum, 0.0, 1.0) * steps) : 0);
+        bar.setIndeterminate(state.indeterminate);
+        bar.reach(state.maximum > 0 ? state.value / state.maximum : 0);
     });
 }
 
@@ -239,7 +234,7 @@ bool tie(RefreshQueue &queue, outlets::Outlet &outlet, QWidget &widget)
            tieAs<Selector, QComboBox>(queue, outlet, widget) ||
            tieAs<Selector, QStackedWidget>(queue, outlet, widget) ||
            tieAs<Chooser, QComboBox>(queue, outlet, widget) ||
-           tieAs<outlets::ProgressBar, QProgressBar>(queue, outlet, widget) ||
+           tieAs<ProgressBar, RunBar>(queue, outlet, widget) ||
            tieAs<ProgressIndicator, Spinner>(queue, outlet, widget) ||
            tieAs<LevelIndicator, LevelBar>(queue, outlet, widget) ||
            tieAs<TextView, QPlainTextEdit>(queue, outlet, widget) ||
