@@ -51,8 +51,6 @@ void leadToShownField(RefreshQueue &queue, outlets::CheckBox &isMasked, QLabel &
     queue.watch(isMasked, [&] { label.setBuddy(isMasked.isOn() ? &masked : &clear); });
 }
 
-}
-
 void showExtraction(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
 {
     enableBySelection(queue, all.extractTableView, *form.extractButton02);
