@@ -21,7 +21,6 @@ struct BackupItem {
 struct BackupOrder {
     QString profile{};
     QString destination{};
-    bool showsOtherDestination = false; ///< on the screen stands another one, of another profile
     QList<BackupItem> items{};
 
     QString archiver{}; ///< path of the program; empty where none is registered
@@ -32,9 +31,10 @@ struct BackupOrder {
     QString cipher{}; ///< the encoder's command; empty where the settings have none
 
     bool byCertificate = false;
+    bool awaitsKeychain = false;        ///< the password is the keychain's to give
+    bool showsOtherDestination = false; ///< on the screen stands another one, of another profile
     QString certificate{};
-    Secret password{};           ///< empty where it is by certificate
-    bool awaitsKeychain = false; ///< the password is the keychain's to give
+    Secret password{}; ///< empty where it is by certificate
     /// What was typed the second time; none where nobody was asked to.
     std::optional<Secret> repetition{};
 

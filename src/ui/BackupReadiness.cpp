@@ -79,7 +79,7 @@ void BackupReadiness::look()
 
 void BackupReadiness::forgetTrial()
 {
-    static_cast<void>(m_trial.drop());
+    m_trial.drop();
     m_trialSoon.stop(); // the look that follows starts it
     if (m_verdict == PasswordTrial::Verdict::NotTried) return;
     m_verdict = PasswordTrial::Verdict::NotTried;

@@ -136,12 +136,7 @@ QStringList firstFilesOf(const RunRecord &record)
 }
 
 BackupResult::BackupResult(QWidget *parent)
-    : QWidget(parent)
-    , m_sign(new QLabel(this))
-    , m_headline(new QLabel(this))
-    , m_details(new TextArea(this))
-    , m_open(new QPushButton(themeIcon(u"folder-open"_qs), tr("&Open folder"), this))
-    , m_restore(new QPushButton(tr("Try a restore"), this))
+    : QWidget(parent), m_sign(new QLabel(this)), m_headline(new QLabel(this)), m_details(new TextArea(this))
 {
     m_headline->setObjectName(u"resultHeadline"_qs);
     m_headline->setTextFormat(Qt::PlainText);
@@ -150,17 +145,10 @@ BackupResult::BackupResult(QWidget *parent)
     m_details->setObjectName(u"resultDetails"_qs);
     m_details->setAccessibleName(tr("What failed, what to do and what was left"));
     m_details->setMaximumHeight(fontMetrics().lineSpacing() * 7);
-    m_open->setObjectName(u"openDestinationButton"_qs);
-    m_open->setToolTip(tr("Show the archives in the file manager"));
-    m_restore->setObjectName(u"tryRestoreButton"_qs);
-    m_restore->setToolTip(
-        tr("Only what came back is a backup: bring something back while you still have it"));
 
     auto *line = new QHBoxLayout;
     line->addWidget(m_sign);
     line->addWidget(m_headline, 1);
-    line->addWidget(m_open);
-    line->addWidget(m_restore);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addLayout(line);
@@ -181,7 +169,6 @@ void BackupResult::setRecord(const std::optional<RunRecord> &record)
     m_headline->setText(words.headline);
     if (m_details->text() != words.details) m_details->setPlainText(words.details);
     m_details->setVisible(!words.details.isEmpty());
-    m_restore->setVisible(!firstFilesOf(*record).isEmpty());
 }
 
 } // namespace ui

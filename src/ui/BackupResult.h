@@ -3,7 +3,6 @@
 #include "runs/RunRecord.h"
 
 #include <QLabel>
-#include <QPushButton>
 #include <QWidget>
 #include <optional>
 
@@ -21,7 +20,7 @@ struct ResultWords {
 /// The first files of the archives that the run made: to restore from.
 [[nodiscard]] QStringList firstFilesOf(const RunRecord &record);
 
-/// How the last backup ended: a line that stays, with what one may want to do next.
+/// How the last backup ended: a line that stays, and what there is to be said of one that did not go well.
 class BackupResult : public QWidget {
     Q_OBJECT
 
@@ -36,8 +35,6 @@ private:
     QLabel *m_sign;
     QLabel *m_headline;
     TextArea *m_details;
-    QPushButton *m_open;
-    QPushButton *m_restore;
     std::optional<RunRecord> m_record;
 };
 

@@ -2,44 +2,11 @@
 
 #include "app/QuillorentAppDelegate.h"
 #include "backup/CompressionGain.h"
-#include "tools/Threads.h"
 #include "ui/RefreshQueue.h"
-
-#include <QCoreApplication>
-#include <QEvent>
-#include <mutex>
 
 using namespace std::chrono_literals;
 
 namespace ui {
-
-/// What the threads share with the hint, which may be gone before them.
-struct CompressionHint::Shared {
-    std::mutex mutex;
-    CompressionHint *receiver = nullptr;
-    int newest = 0; ///< request; what came before it is void
-    std::optional<double> share;
-    bool isCut = false; ///< by a run
-
-    int begin()
-    {
-        const std::lock_guard lock(mutex);
-        return ++newest;
-    }
-    bool isNewest(int request)
-    {
-        const std::lock_guard lock(mutex);
-        return request == newest;
-    }
-    void deliver(int request, std::optional<double> found, bool wasCut)
-    {
-        const std::lock_guard lock(mutex);
-        if (request != newest) return;
-        share = found;
-        isCut = wasCut;
-        QCoreApplication::postEvent(receiver, new QEvent(QEvent::User));
-    }
-};
 
 namespace {
 
@@ -55,16 +22,16 @@ QString words(std::optional<double> share)
 } // namespace
 
 CompressionHint::CompressionHint(QuillorentAppDelegate &controller, RefreshQueue &queue, QLabel &label)
-    : QObject(&label), m_controller(controller), m_label(label), m_shared(std::make_shared<Shared>())
+    : QObject(&label)
+    , m_controller(controller)
+    , m_label(label)
+    , m_estimate(u"compression"_qs, [this](const Estimate &estimate) { show(estimate); })
 {
-    m_shared->receiver = this;
     m_later.setSingleShot(true);
     m_later.setInterval(1s);
     connect(&m_later, &QTimer::timeout, this, &CompressionHint::update);
     queue.watch(controller.listTableView, [this] { update(); });
 }
-
-CompressionHint::~CompressionHint() { static_cast<void>(m_shared->begin()); }
 
 void CompressionHint::update()
 {
@@ -77,23 +44,22 @@ void CompressionHint::update()
 
 void CompressionHint::measure(const QStringList &paths)
 {
-    const int request = m_shared->begin();
+    m_estimate.drop();
     if (paths.isEmpty()) return;
-    detachThread(u"compression"_qs, [shared = m_shared, request, paths, &controller = m_controller] {
-        bool isCut = false;
-        const std::optional<double> share = estimateCompressedShare(paths, [&] {
-            isCut = controller.isRunActive();
-            return !isCut && shared->isNewest(request);
+    m_estimate.ask([paths, &controller = m_controller](const auto &goesOn) {
+        Estimate estimate;
+        estimate.share = estimateCompressedShare(paths, [&] {
+            estimate.isCut = controller.isRunActive();
+            return !estimate.isCut && goesOn();
         });
-        shared->deliver(request, share, isCut);
+        return estimate;
     });
 }
 
-void CompressionHint::customEvent(QEvent *)
+void CompressionHint::show(const Estimate &estimate)
 {
-    const std::lock_guard lock(m_shared->mutex);
-    m_label.setText(words(m_shared->share));
-    if (!m_shared->isCut) return;
+    m_label.setText(words(estimate.share));
+    if (!estimate.isCut) return;
     m_paths.reset();
     m_later.start();
 }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "ui/Beside.h"
+
 #include <QLabel>
 #include <QTimer>
-#include <memory>
-#include <optional>
 
 class QuillorentAppDelegate;
 
@@ -19,21 +19,21 @@ class CompressionHint : public QObject {
 public:
     /// Lives as long as the label.
     CompressionHint(QuillorentAppDelegate &controller, RefreshQueue &queue, QLabel &label);
-    ~CompressionHint() override;
-
-protected:
-    void customEvent(QEvent *event) override;
 
 private:
+    struct Estimate {
+        std::optional<double> share;
+        bool isCut = false; ///< by a run
+    };
     void update();
     void measure(const QStringList &paths);
+    void show(const Estimate &estimate);
 
-    struct Shared;
     QuillorentAppDelegate &m_controller;
     QLabel &m_label;
     QTimer m_later;                     ///< while a run is active
     std::optional<QStringList> m_paths; ///< what is measured, or was
-    std::shared_ptr<Shared> m_shared;
+    Beside<Estimate> m_estimate;
 };
 
 } // namespace ui

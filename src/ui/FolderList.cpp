@@ -141,4 +141,12 @@ FolderListView::FolderListView(QWidget *parent)
     header.show();
 }
 
+QSize FolderListView::sizeHint() const
+{
+    constexpr int rows = 4;
+    const int height =
+        horizontalHeader()->sizeHint().height() + rows * verticalHeader()->defaultSectionSize();
+    return {PathListView::sizeHint().width(), height + 2 * frameWidth()};
+}
+
 } // namespace ui

@@ -34,6 +34,8 @@ public:
 
     void setFacts(const SourceFacts &facts) { m_list->setFacts(facts); }
 
+    [[nodiscard]] QSize sizeHint() const override; ///< a few rows; more where there is room
+
 private:
     FolderListModel *m_list;
 };

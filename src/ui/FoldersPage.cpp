@@ -36,20 +36,18 @@ FoldersPage::FoldersPage(QuillorentAppDelegate &controller, Ui::MainWindow &form
     , m_readiness(controller, queue, *form.foldersPage, this)
     , m_undo(new RemovalUndo(controller, queue, {*form.foldersPage, *form.removedText, *form.undoButton}))
 {
+    // A page looks like the others, though it scrolls where the window is low.
+    form.foldersScroll->viewport()->setAutoFillBackground(false);
+    form.foldersContent->setAutoFillBackground(false);
     form.listTableView->setFacts(m_facts);
     new CompressionHint(controller, queue, *form.compressionGain);
     offerVolumeSizes();
     form.hindranceList->setTabPredecessor(*form.checkBox03);
-    QWidget *before = form.checkBox03;
-    for (QWidget *button : form.backupResult->findChildren<QPushButton *>()) {
-        QWidget::setTabOrder(before, button);
-        before = button;
-    }
-    QWidget::setTabOrder(before, form.buttonLaunch01);
     form.archivesBox->hide();
     connect(form.archivesToggle, &QToolButton::toggled, this, [this](bool isOpen) {
         m_form.archivesBox->setVisible(isOpen);
         m_form.archivesToggle->setArrowType(isOpen ? Qt::DownArrow : Qt::RightArrow);
+        if (isOpen) showInPage(*m_form.archivesBox);
     });
     connect(form.hindranceList, &HindranceList::placeWanted, this, &FoldersPage::goTo);
     connect(form.mainTabs, &QTabWidget::currentChanged, this, [this] { m_readiness.lookSoon(); });
@@ -88,6 +86,12 @@ void FoldersPage::watch(RefreshQueue &queue)
                  &m_all.checkBox01, &m_all.secureText01a, &m_all.secureText01b, &m_all.keychainPass,
                  &m_all.keychainClear, &m_all.certFile01},
                 [this] { refreshFirstSteps(); });
+}
+
+// Once the layout has given it its place.
+void FoldersPage::showInPage(QWidget &widget)
+{
+    QTimer::singleShot(0, &widget, [this, &widget] { m_form.foldersScroll->ensureWidgetVisible(&widget); });
 }
 
 // Sizes that media have, and none.
@@ -167,6 +171,7 @@ void FoldersPage::goTo(Hindrance::Place place)
     }
     m_form.mainTabs->setCurrentWidget(page);
     field->setFocus(Qt::OtherFocusReason);
+    if (page == m_form.foldersPage) showInPage(*field);
 }
 
 // Only on an account that has never backed up anything: who has folders on a list knows the way.
@@ -184,7 +189,7 @@ void FoldersPage::offerFirstSteps()
         FirstSteps::rememberSeen();
         return;
     }
-    m_firstSteps = new FirstSteps(m_form.foldersPage);
+    m_firstSteps = new FirstSteps(m_form.foldersContent);
     m_firstSteps->setObjectName(u"firstSteps"_qs);
     m_form.foldersColumn->insertWidget(m_form.foldersColumn->indexOf(m_form.listArea), m_firstSteps, 1);
     m_form.listArea->hide();
@@ -278,7 +283,13 @@ void FoldersPage::showHindrances()
     m_form.hindranceList->setHindrances(m_firstSteps ? Hindrances() : m_readiness.hindrances());
 }
 
-void FoldersPage::showResult() { m_form.backupResult->setRecord(m_facts.lastBackup()); }
+void FoldersPage::showResult()
+{
+    const std::optional<RunRecord> &record = m_facts.lastBackup();
+    m_form.backupResult->setRecord(record);
+    m_form.openDestinationButton->setVisible(record.has_value());
+    m_form.tryRestoreButton->setVisible(record && !firstFilesOf(*record).isEmpty());
+}
 
 // It says what the result line says, too, of a run that has left a record.
 void FoldersPage::showOutcomeText()

@@ -33,6 +33,7 @@ public:
 
 private:
     void watch(RefreshQueue &queue);
+    void showInPage(QWidget &widget); ///< scrolls
     void offerVolumeSizes();
     void offerFirstSteps();
     void takeFirstStep(int step);

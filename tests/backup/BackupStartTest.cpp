@@ -193,31 +193,12 @@ TEST_F(BackupStart, TellsWhichToolsOfAFailedRunStillWork)
     EXPECT_TRUE(delegate.outputText01.text().endsWith(u"RAR 1st: no"_qs)) << "not \"Cancelled\"";
 }
 
-TEST_F(BackupStart, SaysWhatIsMissing)
-{
-    for (const auto &[said, spoil] : std::vector<std::pair<QString, std::function<void()>>>{
-             {u"not this profile's own"_qs, [&] { delegate.currentRecord().remove(u"path"_qs); }},
-             {u"no folders"_qs, [&] { delegate.currentRecord().array(u"folders"_qs).clear(); }},
-             {u"certificate"_qs, [&] { delegate.passCombo01.selectIndex(PasswordTab::Certificate); }},
-         }) {
-        program.setUpBackup({toQString(docs)});
-        spoil();
-        delegate.buttonLaunch01();
-        program.waitForEnd();
-        EXPECT_TRUE(program.lastWarning().contains(said)) << qPrintable(program.lastWarning());
-        EXPECT_EQ(made(), "");
-    }
-}
-
 TEST_F(BackupStart, CompressesBeforeItEncryptsWhereTheProfileSaysSo)
 {
     program.useTool(u"RAR"_qs, writeScript(folder / "rar", "echo \"$@\"").toStdString());
-    for (const auto &[value, method] : {std::pair{std::optional<QString>(), u" -m0 "_qs},
-                                        {u"1"_qs, u" -m3 -s "_qs},
-                                        {std::nullopt, u" -m0 "_qs},
-                                        {u"0"_qs, u" -m0 "_qs}}) {
-        const plist::Dictionary record = delegate.currentRecord();
-        value ? record.setValue(u"compress"_qs, *value) : record.remove(u"compress"_qs);
+    const plist::Dictionary record = delegate.currentRecord();
+    for (const auto &[value, method] : {std::pair{u"1"_qs, u" -m3 -s "_qs}, {u"0"_qs, u" -m0 "_qs}}) {
+        record.setValue(u"compress"_qs, value);
         record.setValue(u"keepdate"_qs, u"0");
         delegate.setterCurrentProfile(delegate.currentProfile());
         delegate.secureText01a.setText(u"correct horse"_qs);
@@ -227,7 +208,6 @@ TEST_F(BackupStart, CompressesBeforeItEncryptsWhereTheProfileSaysSo)
         EXPECT_TRUE(said.contains(u"a -r -ol -o+"_qs + method + u" -t -idq "_qs + program.path("archives") +
                                   u"/docs.rar "_qs + toQString(docs)))
             << qPrintable(said);
-        EXPECT_EQ(record.string(u"compress"_qs), value);
     }
 }
 

@@ -19,10 +19,7 @@
 
 namespace {
 
-class ActionsTest : public WindowTest {
-protected:
-    QStringList folders() const { return delegate.currentRecord().array(u"folders"_qs).strings(); }
-};
+class ActionsTest : public WindowTest {};
 
 } // namespace
 
@@ -149,25 +146,6 @@ TEST_F(ActionsTest, TheVolumeSizeIsTypedAndStepped)
         EXPECT_EQ(delegate.currentRecord().isOn(u"split"_qs), isSplit);
         EXPECT_EQ(delegate.currentRecord().string(u"part"_qs), part);
     }
-}
-
-TEST_F(ActionsTest, FoldersComeAndGo)
-{
-    const QStringList three{program.path("a"), program.path("b"), program.path("c")};
-    delegate.openPanel = [&](const outlets::OpenPanel &) { return std::optional(three); };
-    click(u"folderButton01"_qs);
-    ASSERT_EQ(folders(), three);
-
-    auto &list = widget<ui::FolderListView>(u"listTableView"_qs);
-    EXPECT_FALSE(widget(u"folderButton02"_qs).isEnabled());
-    list.selectRows({0, 2});
-    list.setFocus();
-    settle();
-    QTest::keyClick(&list, Qt::Key_Delete);
-    settle();
-    EXPECT_EQ(folders(), QStringList{three[1]});
-    drop(list, {QUrl::fromLocalFile(program.path("home")), QUrl(u"http://localhost/page"_qs)});
-    EXPECT_EQ(folders(), (QStringList{three[1], program.path("home")}));
 }
 
 TEST_F(ActionsTest, TheGainOfCompressionIsToldOfWhatIsOnTheList)

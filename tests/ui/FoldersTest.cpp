@@ -156,6 +156,9 @@ TEST_F(FoldersTest, ListsSayThatTheyTakeADrop)
             EXPECT_EQ(viewport.grab().toImage(), before) << qPrintable(name);
         }
     }
+    drop(widget<QAbstractItemView>(u"listTableView"_qs),
+         {QUrl::fromLocalFile(program.path("home")), QUrl(u"http://localhost/page"_qs)});
+    EXPECT_EQ(folders(), QStringList{program.path("home")});
 }
 
 // The same sentences, whether the button is pressed or not; each leads to where it is put right.
@@ -200,7 +203,8 @@ TEST_F(FoldersTest, WhatKeepsABackupFromStartingIsSaidBefore)
     EXPECT_EQ(leadsTo(1), u"prefText01"_qs);
     EXPECT_TRUE(widget(u"prefText01"_qs).isVisible()) << "it is folded in";
     delegate.passCombo01.selectIndex(PasswordTab::Certificate);
-    EXPECT_TRUE(says({u"does not exist"_qs, u"ertificate"_qs, u"\"many\""_qs}));
+    delegate.currentRecord().remove(u"path"_qs);
+    EXPECT_TRUE(says({u"not this profile's own"_qs, u"ertificate"_qs, u"\"many\""_qs}));
     EXPECT_EQ(leadsTo(1), u"certButton01"_qs);
 }
 
