@@ -27,9 +27,10 @@ Words wordsOfRun(const QWidget &sheet)
     if (sheet.objectName() == u"progressPanel02")
         return {tr("Restoring in progress"), tr("Files are being restored."), tr("Stop restoring?"),
                 tr("What is restored already stays, and is not complete.")};
-    return {tr("Backup in progress"), tr("A backup is running."), tr("Stop the backup?"),
-            tr("Archives that are finished stay. For the folders that are being worked on, the archive of "
-               "the backup before stays, if there is one.")};
+    return {
+        tr("Backup in progress"), tr("A backup is running."), tr("Stop the backup?"),
+        tr("Archives that are finished stay. Folders that are not finished keep the archive of the backup "
+           "before this one.")};
 }
 
 } // namespace
