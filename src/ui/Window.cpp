@@ -8,6 +8,7 @@
 #include "ui/PanelDialog.h"
 #include "ui/Panels.h"
 #include "ui/RunNotices.h"
+#include "ui/SpokenSecrets.h"
 #include "ui/StopQuestion.h"
 #include "ui/UnsavedChanges.h"
 #include "ui_MainWindow.h"
@@ -20,6 +21,7 @@ namespace ui {
 Window::Window(QuillorentAppDelegate &controller)
     : m_controller(controller), m_form(std::make_unique<Ui::MainWindow>())
 {
+    keepSecretsUnspoken();
     m_form->setupUi(this);
     finishForm();
     m_panels = std::make_unique<Panels>(controller, *this);
