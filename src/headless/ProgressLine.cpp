@@ -26,10 +26,10 @@ QStringList describe(const RunFigures &figures)
 {
     QStringList words{itemsOf(figures)};
     if (figures.bytesToDo > 0)
-        words = QStringList{QLocale().toString(int(figures.done() * 100)) + u" %"_qs,
-                            progressWords::bytes(figures), progressWords::pace(figures),
-                            progressWords::left(figures)} +
-                words;
+        words =
+            QStringList{QLocale().toString(int(figures.done() * 100)) + u'%', progressWords::bytes(figures),
+                        progressWords::pace(figures), progressWords::left(figures)} +
+            words;
     words.removeAll(QString());
     return words;
 }

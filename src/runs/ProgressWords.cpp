@@ -8,7 +8,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("Progress", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(Progress)
+};
 
 // The names that stages have, and what is said of them.
 const QHash<QString, const char *> &stages()
@@ -38,12 +40,12 @@ QString progressWords::size(double bytes)
 QString progressWords::bytes(const RunFigures &figures)
 {
     if (figures.bytesToDo <= 0) return {};
-    return tr("%1 of %2").arg(size(figures.bytesDone), size(figures.bytesToDo));
+    return Words::tr("%1 of %2").arg(size(figures.bytesDone), size(figures.bytesToDo));
 }
 
 QString progressWords::pace(const RunFigures &figures)
 {
-    return figures.bytesPerSecond ? tr("%1/s").arg(size(*figures.bytesPerSecond)) : QString();
+    return figures.bytesPerSecond ? Words::tr("%1/s").arg(size(*figures.bytesPerSecond)) : QString();
 }
 
 // Roughly: nobody can know it better, and a figure that flickers is not read.
@@ -52,27 +54,27 @@ QString progressWords::left(const RunFigures &figures)
     if (!figures.left) return {};
     const qint64 seconds = figures.left->count();
     const QLocale locale;
-    if (seconds < 10) return tr("A few seconds left");
-    if (seconds < 100) return tr("About %1 s left").arg(locale.toString((seconds + 9) / 10 * 10));
+    if (seconds < 10) return Words::tr("A few seconds left");
+    if (seconds < 100) return Words::tr("About %1 s left").arg(locale.toString((seconds + 9) / 10 * 10));
     const qint64 minutes = (seconds + 30) / 60;
-    if (minutes < 100) return tr("About %1 min left").arg(locale.toString(minutes));
-    return tr("About %1 h left").arg(locale.toString((minutes + 30) / 60));
+    if (minutes < 100) return Words::tr("About %1 min left").arg(locale.toString(minutes));
+    return Words::tr("About %1 h left").arg(locale.toString((minutes + 30) / 60));
 }
 
 QString progressWords::step(const RunFigures::Item &item)
 {
     switch (item.phase) {
     case RunItem::Phase::Waiting:
-        return tr("Waiting");
+        return Words::tr("Waiting");
     case RunItem::Phase::Running:
         break;
     case RunItem::Phase::Done:
-        return tr("Done");
+        return Words::tr("Done");
     case RunItem::Phase::Failed:
-        return tr("Failed");
+        return Words::tr("Failed");
     case RunItem::Phase::LeftOut:
-        return tr("Left out");
+        return Words::tr("Left out");
     }
     const char *const words = stages().value(item.stage);
-    return words ? tr(words) : item.stage;
+    return words ? Words::tr(words) : item.stage;
 }

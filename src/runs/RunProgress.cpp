@@ -36,8 +36,8 @@ double partOfStage(const RunItem &item, Pace::Time now)
 double partOf(const RunItem &item, Pace::Time now)
 {
     using enum RunItem::Phase;
-    if (item.phase == Waiting) return 0;
-    if (item.phase != Running) return 1;
+    // What failed, or was cancelled, stays where it was.
+    if (item.phase != Running) return item.phase == Done ? 1 : 0;
     return std::min(item.shareBefore + item.plan.share * partOfStage(item, now), 1.0);
 }
 

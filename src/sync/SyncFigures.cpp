@@ -2,14 +2,15 @@
 
 #include "files/Sizes.h"
 #include "runs/Clock.h"
+#include "runs/Pace.h"
 #include "runs/Pauses.h"
+#include "runs/ProgressWords.h"
 #include "runs/RunState.h"
 #include "sync/SyncArguments.h"
 #include "tools/Threads.h"
 #include "tools/ToolRun.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 #include <algorithm>
 #include <atomic>
 #include <thread>
@@ -31,13 +32,8 @@ struct SyncFigures::Growth {
 namespace {
 
 struct Words {
-    Q_DECLARE_TR_FUNCTIONS(sync)
+    Q_DECLARE_TR_FUNCTIONS(Progress)
 };
-
-QString dataSize(double bytes)
-{
-    return QLocale().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeSIFormat);
-}
 
 } // namespace
 
@@ -79,14 +75,20 @@ void SyncFigures::watch(const std::function<void(const QString &)> &tell) const
 {
     constexpr auto interval = 200ms;
     auto shown = -interval;
+    RunFigures figures; // for its words
+    Pace pace;
     while (!m_state.threadsRunning().isEmpty() && !m_state.cancelFlag()) {
         if (const auto now = m_state.elapsed(); now - shown >= interval) {
-            QString text = u"Time: "_qs + clockText(now);
-            if (const quint64 read = bytesReadByTools(); read > 0)
-                text += u", read: "_qs + dataSize(double(read));
+            QString text = Words::tr("Time: %1").arg(clockText(now));
+            const auto read = double(bytesReadByTools());
+            if (read > 0) text += u", "_qs + Words::tr("read: %1").arg(progressWords::size(read));
+            pace.note(std::chrono::steady_clock::now(), read);
+            figures.bytesPerSecond = pace.perSecond();
+            if (figures.bytesPerSecond) text += u", "_qs + progressWords::pace(figures);
             m_state.setSizeDone(double(m_growth->bytes));
             if (m_growth->bytes > 0)
-                text += Words::tr(", more at the destination: ") + dataSize(double(m_growth->bytes));
+                text += u", "_qs + Words::tr("more at the destination: %1")
+                                       .arg(progressWords::size(double(m_growth->bytes)));
             tell(text);
             shown = now;
         }

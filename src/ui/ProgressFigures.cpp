@@ -27,6 +27,8 @@ public:
 
     void paint(QPainter *painter, const QStyleOptionViewItem &cell, const QModelIndex &index) const override
     {
+        const int done = index.data(partRole).toInt();
+        if (done < 0) return;
         QStyleOptionProgressBar bar;
         bar.rect = cell.rect.adjusted(2, 2, -2, -2);
         bar.palette = cell.palette;
@@ -34,7 +36,7 @@ public:
         bar.direction = cell.direction;
         bar.state = cell.state | QStyle::State_Horizontal;
         bar.maximum = 100;
-        bar.progress = index.data(partRole).toInt();
+        bar.progress = done;
         bar.text = index.data(Qt::AccessibleTextRole).toString();
         bar.textVisible = true;
         bar.textAlignment = Qt::AlignCenter;
@@ -61,13 +63,14 @@ void setPath(QTreeWidgetItem &row, const QString &path)
     row.setToolTip(Name, plainToolTip(path));
 }
 
-void setPart(QTreeWidgetItem &row, double done)
+void setPart(QTreeWidgetItem &row, const RunFigures::Item &item)
 {
-    const int hundredths = int(done * 100);
+    const int hundredths = item.phase == RunItem::Phase::Waiting ? -1 : int(item.done * 100);
     if (row.data(Done, partRole) == hundredths) return;
     row.setData(Done, partRole, hundredths);
+    if (hundredths < 0) return;
     row.setData(Done, Qt::AccessibleTextRole,
-                QCoreApplication::translate("ProgressFigures", "%1 %").arg(QLocale().toString(hundredths)));
+                QCoreApplication::translate("ProgressFigures", "%1%").arg(QLocale().toString(hundredths)));
 }
 
 } // namespace
@@ -126,7 +129,7 @@ void ProgressFigures::updateItems(const std::vector<RunFigures::Item> &items)
         QTreeWidgetItem &row = *list.topLevelItem(number);
         setPath(row, item.path);
         setText(row, Step, progressWords::step(item));
-        setPart(row, item.done);
+        setPart(row, item);
         if (firstRunning < 0 && item.phase == RunItem::Phase::Running) firstRunning = number;
     }
     if (firstRunning >= 0 && firstRunning != std::exchange(m_firstRunning, firstRunning))

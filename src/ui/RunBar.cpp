@@ -1,6 +1,9 @@
 #include "ui/RunBar.h"
 
+#include "ui/Motion.h"
+
 #include <algorithm>
+#include <utility>
 
 namespace ui {
 namespace {
@@ -13,14 +16,15 @@ RunBar::RunBar(QWidget *parent) : QProgressBar(parent) { setRange(0, steps); }
 
 void RunBar::setIndeterminate(bool indeterminate)
 {
-    if (indeterminate == (maximum() == 0)) return;
-    setRange(0, indeterminate ? 0 : steps);
-    if (!indeterminate) setValue(0);
+    if (indeterminate == std::exchange(m_isIndeterminate, indeterminate)) return;
+    setRange(0, indeterminate && isMotionWanted() ? 0 : steps);
+    setTextVisible(!indeterminate);
+    setValue(0);
 }
 
 void RunBar::reach(double part)
 {
-    if (maximum() > 0) setValue(std::max(value(), int(std::clamp(part, 0.0, 1.0) * steps)));
+    if (!m_isIndeterminate) setValue(std::max(value(), int(std::clamp(part, 0.0, 1.0) * steps)));
 }
 
 } // namespace ui

@@ -12,9 +12,13 @@ class RunBar : public QProgressBar {
 public:
     explicit RunBar(QWidget *parent = nullptr);
 
-    /// How much there is to do is not known; where it was known before, another run has begun.
+    /// How much there is to do is not known; where it was known before, another run has begun. Moves only
+    /// where motion is wanted.
     void setIndeterminate(bool indeterminate);
     void reach(double part); ///< 0 to 1; has no effect as long as nothing is known
+
+private:
+    bool m_isIndeterminate = false;
 };
 
 } // namespace ui

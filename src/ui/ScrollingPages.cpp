@@ -28,7 +28,8 @@ void letScroll(QWidget &page)
 void letPagesScroll(QTabWidget &tabs)
 {
     for (int tab = 0; tab < tabs.count(); ++tab)
-        letScroll(*tabs.widget(tab));
+        if (!tabs.widget(tab)->findChild<QScrollArea *>())
+            letScroll(*tabs.widget(tab)); // or does by its form
 }
 
 } // namespace ui

@@ -1,5 +1,7 @@
 #include "ui/Spinner.h"
 
+#include "ui/Motion.h"
+
 #include <QPainter>
 #include <QTimerEvent>
 
@@ -22,7 +24,7 @@ void Spinner::setTurning(bool turning)
 
 void Spinner::updateTimer()
 {
-    if (!m_turning || !isVisible())
+    if (!m_turning || !isVisible() || !isMotionWanted())
         m_timer.stop();
     else if (!m_timer.isActive())
         m_timer.start(millisecondsPerStep, this);

@@ -9,7 +9,9 @@
 namespace ui {
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("StopQuestion", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(StopQuestion)
+};
 
 struct Words {
     QString title; ///< while the program is to be quitted
@@ -21,15 +23,18 @@ struct Words {
 Words wordsOfRun(const QWidget &sheet)
 {
     if (sheet.objectName() == u"progressPanel03")
-        return {tr("Synchronisation in progress"), tr("Folders are being synchronised."),
-                tr("Stop the synchronisation?"),
-                tr("What is copied already stays, and the next run goes on from there.")};
+        return {Words::tr("Synchronisation in progress"), Words::tr("Folders are being synchronised."),
+                Words::tr("Stop the synchronisation?"),
+                Words::tr("What is copied already stays, and the next run goes on from there.")};
     if (sheet.objectName() == u"progressPanel02")
-        return {tr("Restoring in progress"), tr("Files are being restored."), tr("Stop restoring?"),
-                tr("What is restored already stays, and is not complete.")};
-    return {tr("Backup in progress"), tr("A backup is running."), tr("Stop the backup?"),
-            tr("Archives that are finished stay. For the folders that are being worked on, the archive of "
-               "the backup before stays, if there is one.")};
+        return {Words::tr("Restoring in progress"), Words::tr("Files are being restored."),
+                Words::tr("Stop restoring?"),
+                Words::tr("What is restored already stays, and is not complete.")};
+    return {
+        Words::tr("Backup in progress"), Words::tr("A backup is running."), Words::tr("Stop the backup?"),
+        Words::tr(
+            "Archives that are finished stay. Folders that are not finished keep the archive of the backup "
+            "before this one.")};
 }
 
 } // namespace
@@ -44,10 +49,11 @@ QMessageBox *askToStop(QWidget &window, const QList<PanelDialog *> &sheets, Stop
     const bool quits = purpose == StopFor::Quitting;
     auto *question = new QMessageBox(QMessageBox::Question, quits ? words.title : words.question,
                                      quits ? words.text : words.question, QMessageBox::NoButton, over);
-    question->setInformativeText(quits ? tr("Quitting stops that. %1").arg(words.consequence)
+    question->setInformativeText(quits ? Words::tr("Quitting stops that. %1").arg(words.consequence)
                                        : words.consequence);
-    auto *yes = question->addButton(quits ? tr("&Stop and quit") : tr("&Stop"), QMessageBox::DestructiveRole);
-    auto *no = question->addButton(tr("&Keep running"), QMessageBox::RejectRole);
+    auto *yes = question->addButton(quits ? Words::tr("&Stop and quit") : Words::tr("&Stop"),
+                                    QMessageBox::DestructiveRole);
+    auto *no = question->addButton(Words::tr("&Keep running"), QMessageBox::RejectRole);
     question->setDefaultButton(no);
     question->setEscapeButton(no);
     question->setAttribute(Qt::WA_DeleteOnClose);

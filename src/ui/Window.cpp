@@ -11,6 +11,7 @@
 #include "ui/PathDirection.h"
 #include "ui/RunNotices.h"
 #include "ui/ScrollingPages.h"
+#include "ui/SpokenSecrets.h"
 #include "ui/StopQuestion.h"
 #include "ui/UnsavedChanges.h"
 #include "ui/WindowMemory.h"
@@ -24,6 +25,7 @@ namespace ui {
 Window::Window(QuillorentAppDelegate &controller)
     : m_controller(controller), m_form(std::make_unique<Ui::MainWindow>())
 {
+    keepSecretsUnspoken();
     m_form->setupUi(this);
     finishForm();
     m_panels = std::make_unique<Panels>(controller, *this);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/Motion.h"
+
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QPointer>
@@ -51,6 +53,7 @@ private:
     std::unique_ptr<Panels> m_panels;
     std::unique_ptr<Binding> m_binding;
     std::unique_ptr<UnsavedChanges> m_unsaved;
+    MotionSettings m_motion;
     QPointer<QMessageBox> m_question; ///< while it is asked
     bool m_mayStop = false;           ///< the user agreed to end what runs
 };

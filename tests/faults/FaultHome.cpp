@@ -18,19 +18,6 @@ namespace {
 
 const std::string marker = "These words must not be read by anyone. ";
 
-std::string replaced(std::string text, const std::string &word, const std::string &by)
-{
-    for (std::size_t at = 0; (at = text.find(word, at)) != std::string::npos; at += by.size())
-        text.replace(at, word.size(), by);
-    return text;
-}
-
-void copyFiles(const fs::path &from, const fs::path &to)
-{
-    for (const auto &entry : fs::directory_iterator(from))
-        fs::copy_file(entry.path(), to / entry.path().filename());
-}
-
 void emptyFolder(const fs::path &folder)
 {
     for (const auto &entry : fs::directory_iterator(folder))
@@ -54,7 +41,7 @@ FaultHome::FaultHome(Kind kind, bool splits) : m_home(QUILLORENT_RUN), m_kind(ki
     m_former = snapshotTree(m_home / "docs");
     const CommandResult first = m_home.backUp();
     EXPECT_EQ(first.status, 0) << first.errors;
-    copyFiles(m_home / "archives", m_home / "kept");
+    fs::copy(m_home / "archives", m_home / "kept");
     m_names = namesIn(m_home / "kept");
     EXPECT_EQ(m_names.size() > 1, splits);
     if (kind == Kind::Extraction) {
@@ -65,6 +52,13 @@ FaultHome::FaultHome(Kind kind, bool splits) : m_home(QUILLORENT_RUN), m_kind(ki
     write("new", 2);
     m_new = snapshotTree(m_home / "docs");
     m_sources = m_new;
+}
+
+void FaultHome::layTripwire(ProgramHome &home, const std::string &plan)
+{
+    home.environment["LD_PRELOAD"] = QUILLORENT_TRIPWIRE_LIBRARY;
+    home.environment["ASAN_OPTIONS"] = "verify_asan_link_order=0";
+    home.environment["QUILLORENT_TRIPWIRE"] = plan;
 }
 
 FaultHome::~FaultHome()
@@ -100,7 +94,7 @@ void FaultHome::reset()
     emptyFolder(target());
     writeFile(target() / "notes.txt", "the user's own");
     writeFile(m_home / "victim", "a file of the user's");
-    if (m_kind == Kind::Backup) copyFiles(m_home / "kept", target());
+    if (m_kind == Kind::Backup) fs::copy(m_home / "kept", target());
     if (m_isOrdinaryUser) m_home.becomeOrdinaryUser();
 }
 
@@ -118,10 +112,7 @@ bool FaultHome::survives(const Stage &stage, const Fault &fault)
                  m_home.text("victim"));
     const fs::path program =
         stage.program.empty() ? fs::path(QUILLORENT_RUN) : fs::path(QUILLORENT_LIBEXEC) / stage.program;
-    m_home.environment["LD_PRELOAD"] = QUILLORENT_TRIPWIRE_LIBRARY;
-    m_home.environment["ASAN_OPTIONS"] = "verify_asan_link_order=0";
-    m_home.environment["QUILLORENT_TRIPWIRE"] =
-        program.string() + "\n" + stage.word + "\n" + fault.moment + "\n" + deed;
+    layTripwire(m_home, program.string() + "\n" + stage.word + "\n" + fault.moment + "\n" + deed);
     const CommandResult hit = launch({"--yes"});
     m_home.environment["LD_PRELOAD"] = "";
 
@@ -139,8 +130,7 @@ bool FaultHome::survives(const Stage &stage, const Fault &fault)
 std::vector<std::string> FaultHome::orderOfChanges()
 {
     reset();
-    m_home.environment["LD_PRELOAD"] = QUILLORENT_TRIPWIRE_LIBRARY;
-    m_home.environment["ASAN_OPTIONS"] = "verify_asan_link_order=0";
+    layTripwire(m_home, {});
     m_home.environment["QUILLORENT_TRIPWIRE_LOG"] = m_home.text("log");
     EXPECT_EQ(launch({"--yes"}).status, 0);
     std::istringstream log(replaced(readFile(m_home / "log"), target().string() + "/", ""));

@@ -50,6 +50,9 @@ public:
     FaultHome(const FaultHome &) = delete;
     FaultHome &operator=(const FaultHome &) = delete;
 
+    /// From now on a home's programs are hit as the plan says.
+    static void layTripwire(ProgramHome &home, const std::string &plan);
+
     /// The runs are an ordinary user's from now on; root's rights would hide what is forbidden.
     void becomeOrdinaryUser() { m_isOrdinaryUser = true; }
 

@@ -88,17 +88,13 @@ void killAtEachChange(Kind kind, const Stage &stage, Ends ends)
 
 TEST(Backup, LosesNothing) { strike(Kind::Backup, false, stagesOf(Kind::Backup), faults()); }
 
-TEST(Backup, LosesNoVolumes)
+TEST(Extraction, LosesNothing) { strike(Kind::Extraction, false, stagesOf(Kind::Extraction), faults()); }
+
+TEST(Volumes, AreNotLost)
 {
     Stage last = stagesOf(Kind::Backup).back();
     last.product = "docs.rar.smime.part1.rar";
     strike(Kind::Backup, true, {{"first pass", "rar", "-m3", "docs.rar"}, last}, faults());
-}
-
-TEST(Extraction, LosesNothing) { strike(Kind::Extraction, false, stagesOf(Kind::Extraction), faults()); }
-
-TEST(Extraction, LosesNoVolumes)
-{
     strike(Kind::Extraction, true, {stagesOf(Kind::Extraction).front()}, faults());
 }
 
@@ -146,9 +142,7 @@ TEST(Settings, StayWhereTheirMergeCanNotBeWritten)
         home.writeProfile();
         const auto files = [&] { return readFile(home.settings()) + readFile(home.profiles()); };
         const std::string before = files();
-        home.environment["LD_PRELOAD"] = QUILLORENT_TRIPWIRE_LIBRARY;
-        home.environment["ASAN_OPTIONS"] = "verify_asan_link_order=0";
-        home.environment["QUILLORENT_TRIPWIRE"] = QUILLORENT_RUN "\nprofiles\nstart\n" + deed;
+        FaultHome::layTripwire(home, QUILLORENT_RUN "\nprofiles\nstart\n" + deed);
         const CommandResult listed = home.run({"profiles"});
         EXPECT_EQ(listed.output, "  Default profile\n* Mine\n") << listed.errors;
         EXPECT_TRUE(contains(listed.errors, "can't be written")) << listed.errors;

@@ -144,7 +144,7 @@ TEST_F(PlistFile, IsReadBackAsItWas)
     EXPECT_EQ(content.dictionary.dictionary(all.keys().first()).keys(), nested.keys());
 }
 
-TEST_F(PlistFile, RefusesToWriteWhatItCouldNotReadBackAndKeepsTheOldFile)
+TEST_F(PlistFile, RefusesToWriteWhatCanNotBeReadBackAndKeepsTheOldFile)
 {
     const Array inItself = Array::make();
     inItself.append(inItself);
@@ -163,12 +163,8 @@ TEST_F(PlistFile, RefusesToWriteWhatItCouldNotReadBackAndKeepsTheOldFile)
     }
     inItself.clear(); // or it would keep itself alive
     EXPECT_NE(plist::writeFile(path, Dictionary{}), QString());
-    EXPECT_EQ(readFile(file), "old");
-}
-
-TEST_F(PlistFile, IsNotWrittenWhereItCanNotLie)
-{
     fs::create_symlink("loop", folder / "loop");
     for (const fs::path &place : {folder / "loop", folder.path(), folder / "missing/list"})
         EXPECT_NE(plist::writeFile(toQString(place), Dictionary::make()), QString()) << place;
+    EXPECT_EQ(readFile(file), "old");
 }

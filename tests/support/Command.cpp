@@ -1,118 +1,78 @@
 #include "Command.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
-#include <sys/prctl.h>
+#include <spawn.h>
+#include <stdexcept>
+#include <sys/mman.h>
 #include <sys/wait.h>
 #include <system_error>
-#include <thread>
 #include <unistd.h>
 
 namespace {
 
-struct Pipe {
-    int read = -1;
-    int write = -1;
-
-    Pipe()
-    {
-        std::array<int, 2> ends{};
-        if (pipe2(ends.data(), O_CLOEXEC) != 0)
-            throw std::system_error(errno, std::generic_category(), "pipe2");
-        read = ends[0];
-        write = ends[1];
-    }
-    ~Pipe()
-    {
-        closeEnd(read);
-        closeEnd(write);
-    }
-    Pipe(const Pipe &) = delete;
-    Pipe &operator=(const Pipe &) = delete;
-
-    static void closeEnd(int &end)
-    {
-        if (end >= 0) close(end);
-        end = -1;
-    }
-};
-
-/// Reads until the last writer is gone.
-void readAll(int end, std::string &into)
-{
-    std::array<char, 65536> buffer;
-    for (ssize_t count = 1; count > 0 || (count < 0 && errno == EINTR);) {
-        count = read(end, buffer.data(), buffer.size());
-        if (count > 0) into.append(buffer.data(), static_cast<std::size_t>(count));
-    }
-}
-
-/// Writes all, as far as the reader takes it.
-void writeAll(Pipe &pipe, const std::string &bytes)
-{
-    for (std::size_t written = 0; written < bytes.size();) {
-        const ssize_t count = write(pipe.write, bytes.data() + written, bytes.size() - written);
-        if (count < 0 && errno != EINTR) break; // it went away
-        if (count > 0) written += static_cast<std::size_t>(count);
-    }
-    Pipe::closeEnd(pipe.write);
-}
-
-/// All that a child needs, made before the fork: behind it nothing may be allocated, for another thread may
-/// have been at that, whose lock would stay locked.
-class Launch {
+/// A nameless file, which goes with the object.
+class Scratch {
 public:
-    Launch(const std::vector<std::string> &arguments, const CommandOptions &options)
-        : m_folder(options.folder), m_arguments(arguments)
+    explicit Scratch(const std::string &bytes = {}) : m_file(memfd_create("scratch", MFD_CLOEXEC))
     {
-        std::map<std::string, std::string> environment = options.environment;
-        for (char **entry = environ; *entry; ++entry) {
-            const std::string text = *entry;
-            const std::size_t sign = text.find('=');
-            if (sign != std::string::npos)
-                environment.try_emplace(text.substr(0, sign), text.substr(sign + 1));
-        }
-        for (const auto &[name, value] : environment)
-            m_environment.push_back(name + '=' + value);
-        m_argumentPointers = pointersTo(m_arguments);
-        m_environmentPointers = pointersTo(m_environment);
+        if (write(m_file, bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size()) ||
+            lseek(m_file, 0, SEEK_SET) != 0)
+            throw std::system_error(errno, std::generic_category(), "scratch");
     }
+    ~Scratch() { close(m_file); }
+    Scratch(const Scratch &) = delete;
+    Scratch &operator=(const Scratch &) = delete;
 
-    [[noreturn]] void become(std::array<int, 3> descriptors)
+    [[nodiscard]] int descriptor() const { return m_file; }
+    [[nodiscard]] std::string content() const
     {
-        for (int standard = 0; standard < 3; ++standard)
-            dup2(descriptors[static_cast<std::size_t>(standard)], standard);
-        // What another thread of the test has open keeps its room on a disk for as long as anybody has it.
-        closefrom(STDERR_FILENO + 1);
-        if (!m_folder.empty() && chdir(m_folder.c_str()) != 0) _exit(126);
-        environ = m_environmentPointers.data(); // where the program is looked for, too
-        execvp(m_argumentPointers.front(), m_argumentPointers.data());
-        _exit(127);
+        std::string bytes(static_cast<std::size_t>(lseek(m_file, 0, SEEK_END)), '\0');
+        const ssize_t count = pread(m_file, bytes.data(), bytes.size(), 0);
+        return bytes.substr(0, static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
     }
 
 private:
-    static std::vector<char *> pointersTo(std::vector<std::string> &texts)
-    {
-        std::vector<char *> pointers;
-        for (std::string &text : texts)
-            pointers.push_back(text.data());
-        pointers.push_back(nullptr);
-        return pointers;
-    }
-
-    std::string m_folder;
-    std::vector<std::string> m_arguments;
-    std::vector<std::string> m_environment;
-    std::vector<char *> m_argumentPointers;
-    std::vector<char *> m_environmentPointers;
+    int m_file;
 };
 
-pid_t forkOrThrow()
+std::vector<char *> pointersTo(std::vector<std::string> &texts)
 {
-    const pid_t child = fork();
-    if (child < 0) throw std::system_error(errno, std::generic_category(), "fork");
+    std::vector<char *> pointers;
+    for (std::string &text : texts)
+        pointers.push_back(text.data());
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
+/// Starts a program with its standard input, output and errors. What another thread of the test has open
+/// would keep its room on a disk for as long as anybody has it, so the program gets nothing else.
+pid_t start(std::vector<std::string> arguments, const CommandOptions &options,
+            const std::array<int, 3> &descriptors)
+{
+    std::map<std::string, std::string> all = options.environment;
+    for (char **entry = environ; *entry; ++entry) {
+        const std::string text = *entry;
+        all.try_emplace(text.substr(0, text.find('=')), text.substr(text.find('=') + 1));
+    }
+    std::vector<std::string> environment;
+    for (const auto &[name, value] : all)
+        environment.push_back(name + '=' + value);
+
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    for (int standard = 0; standard < 3; ++standard)
+        posix_spawn_file_actions_adddup2(&actions, descriptors[static_cast<std::size_t>(standard)], standard);
+    posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
+    if (!options.folder.empty()) posix_spawn_file_actions_addchdir_np(&actions, options.folder.c_str());
+    pid_t child = -1;
+    const int error = posix_spawnp(&child, arguments.front().c_str(), &actions, nullptr,
+                                   pointersTo(arguments).data(), pointersTo(environment).data());
+    posix_spawn_file_actions_destroy(&actions);
+    if (error) throw std::system_error(error, std::generic_category(), arguments.front());
     return child;
 }
 
@@ -121,15 +81,11 @@ pid_t forkOrThrow()
 BackgroundProgram::BackgroundProgram(const std::vector<std::string> &arguments, const CommandOptions &options,
                                      const std::string &log)
 {
-    Pipe input; // what is written must fit into it
-    writeAll(input, options.input);
+    const Scratch input(options.input);
     const int output = open(log.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600);
-    Launch launch(arguments, options);
-    m_process = forkOrThrow();
-    if (m_process == 0) {
-        prctl(PR_SET_PDEATHSIG, SIGKILL);
-        launch.become({input.read, output, output});
-    }
+    std::vector<std::string> mortal{"setpriv", "--pdeathsig", "KILL", "--"};
+    mortal.insert(mortal.end(), arguments.begin(), arguments.end());
+    m_process = start(mortal, options, {input.descriptor(), output, output});
     close(output);
 }
 
@@ -153,29 +109,20 @@ void BackgroundProgram::signal(int number) const
 
 CommandResult runCommand(const std::vector<std::string> &arguments, const CommandOptions &options)
 {
-    Pipe input;
-    Pipe output;
-    Pipe errors;
-    Launch launch(arguments, options);
-    const pid_t child = forkOrThrow();
-    if (child == 0) launch.become({input.read, output.write, errors.write});
-    Pipe::closeEnd(output.write);
-    Pipe::closeEnd(errors.write);
-
-    Pipe::closeEnd(input.read);
-
-    // A program that does not read its input must not end the test.
-    signal(SIGPIPE, SIG_IGN);
-
-    CommandResult result;
-    {
-        const std::jthread feeding([&] { writeAll(input, options.input); });
-        const std::jthread listening([&] { readAll(errors.read, result.errors); });
-        readAll(output.read, result.output);
-    }
+    const Scratch input(options.input), output, errors;
+    const pid_t child =
+        start(arguments, options, {input.descriptor(), output.descriptor(), errors.descriptor()});
     int status = 0;
     while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
     }
-    result.status = WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
-    return result;
+    return {WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status), output.content(),
+            errors.content()};
+}
+
+void waitUntil(const std::string &what, const std::function<bool()> &condition)
+{
+    for (int tries = 0; !condition(); ++tries) {
+        if (tries > 6000) throw std::runtime_error(what + " did not come");
+        usleep(5000);
+    }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <sys/types.h>
@@ -22,7 +23,7 @@ struct CommandOptions {
 /// ends.
 class BackgroundProgram {
 public:
-    /// Its input must fit into a pipe; what it writes goes at the end of the log.
+    /// What it writes goes at the end of the log.
     BackgroundProgram(const std::vector<std::string> &arguments, const CommandOptions &options,
                       const std::string &log);
     ~BackgroundProgram();
@@ -39,3 +40,6 @@ private:
 /// Runs a program (looked up in PATH) to its end, without a shell. Throws std::system_error where it can't be
 /// started.
 CommandResult runCommand(const std::vector<std::string> &arguments, const CommandOptions &options = {});
+
+/// Throws where the condition does not come true in good time.
+void waitUntil(const std::string &what, const std::function<bool()> &condition);

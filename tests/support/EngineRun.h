@@ -29,8 +29,6 @@ inline QString writeScript(const std::filesystem::path &path, const std::string 
 /// Notes what a run tells, and how far it is.
 class NotingMonitor : public RunMonitor {
 public:
-    void began() override {}
-    void measured(double) override {}
     void advanced(double) override
     {
         const std::lock_guard lock(mutex);
@@ -41,8 +39,6 @@ public:
         const std::lock_guard lock(mutex);
         console += text;
     }
-    void ended(const QString &) override {}
-    void toolsStillRun(const QStringList &) override {}
     void concluded(const RunRecord &ended) override { record = ended; }
 
     RunState state;

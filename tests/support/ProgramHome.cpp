@@ -12,10 +12,7 @@ namespace {
 
 std::string element(const std::string &name, const std::string &text)
 {
-    std::string escaped;
-    for (const char c : text)
-        escaped += c == '&' ? "&amp;" : c == '<' ? "&lt;" : std::string(1, c);
-    return "<" + name + ">" + escaped + "</" + name + ">";
+    return "<" + name + ">" + replaced(replaced(text, "&", "&amp;"), "<", "&lt;") + "</" + name + ">";
 }
 
 std::string list(const std::string &key, const std::vector<std::string> &values)
@@ -72,25 +69,27 @@ CommandResult ProgramHome::run(const std::vector<std::string> &arguments, const 
     return runCommand(words, {.environment = environment, .input = input});
 }
 
-CommandResult ProgramHome::backUp(const std::vector<std::string> &more) const
+CommandResult ProgramHome::runWithPassword(std::vector<std::string> arguments,
+                                           const std::vector<std::string> &more) const
 {
-    std::vector<std::string> arguments{"backup", "Mine"};
     if (record.at("passtype") == "0")
         arguments.insert(arguments.end(), {"--password-file", text("password")});
     arguments.insert(arguments.end(), more.begin(), more.end());
     return run(arguments);
 }
 
+CommandResult ProgramHome::backUp(const std::vector<std::string> &more) const
+{
+    return runWithPassword({"backup", "Mine"}, more);
+}
+
 CommandResult ProgramHome::extract(const std::vector<std::string> &archives,
                                    const std::vector<std::string> &more) const
 {
-    std::vector<std::string> arguments{"extract", "Mine"};
-    if (record.at("passtype") == "0")
-        arguments.insert(arguments.end(), {"--password-file", text("password")});
-    arguments.insert(arguments.end(), more.begin(), more.end());
-    arguments.emplace_back("--");
-    arguments.insert(arguments.end(), archives.begin(), archives.end());
-    return run(arguments);
+    std::vector<std::string> words = more;
+    words.emplace_back("--");
+    words.insert(words.end(), archives.begin(), archives.end());
+    return runWithPassword({"extract", "Mine"}, words);
 }
 
 void ProgramHome::encryptForCertificate()
@@ -116,10 +115,7 @@ void ProgramHome::becomeOrdinaryUser()
 
 void ProgramHome::changeSettings(const std::string &from, const std::string &to) const
 {
-    std::string text = readFile(settings());
-    for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos; at += to.size())
-        text.replace(at, from.size(), to);
-    writeFile(settings(), text);
+    writeFile(settings(), replaced(readFile(settings()), from, to));
 }
 
 std::string ProgramHome::lastRecord() const
@@ -150,6 +146,13 @@ std::vector<int> ProgramHome::processes() const
         if (isOurs("cmdline") || isOurs("environ")) found.push_back(std::stoi(name));
     }
     return found;
+}
+
+std::string replaced(std::string text, const std::string &word, const std::string &by)
+{
+    for (std::size_t at = 0; (at = text.find(word, at)) != std::string::npos; at += by.size())
+        text.replace(at, word.size(), by);
+    return text;
 }
 
 bool contains(const std::string &text, const std::string &part)

@@ -56,9 +56,15 @@ public:
     void writeProfile() const;
 
 private:
+    [[nodiscard]] CommandResult runWithPassword(std::vector<std::string> arguments,
+                                                const std::vector<std::string> &more) const;
+
     TemporaryFolder m_folder;
     std::string m_program;
 };
+
+/// The text with each occurrence of the word replaced.
+[[nodiscard]] std::string replaced(std::string text, const std::string &word, const std::string &by);
 
 [[nodiscard]] bool contains(const std::string &text, const std::string &part);
 

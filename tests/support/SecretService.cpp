@@ -1,14 +1,9 @@
 #include "SecretService.h"
 
 #include <algorithm>
-#include <chrono>
 #include <csignal>
 #include <cstdlib>
-#include <functional>
-#include <stdexcept>
-#include <thread>
 
-using namespace std::chrono_literals;
 namespace fs = std::filesystem;
 
 namespace {
@@ -27,15 +22,6 @@ std::string busConfiguration(const fs::path &socket)
 }
 
 } // namespace
-
-void waitUntil(const std::string &what, const std::function<bool()> &condition)
-{
-    const auto end = std::chrono::steady_clock::now() + 30s;
-    while (!condition()) {
-        if (std::chrono::steady_clock::now() > end) throw std::runtime_error(what + " did not come");
-        std::this_thread::sleep_for(5ms);
-    }
-}
 
 SecretService::SecretService()
 {

@@ -3,14 +3,10 @@
 #include "Command.h"
 #include "TemporaryFolder.h"
 
-#include <functional>
 #include <map>
 #include <memory>
 #include <string>
 #include <vector>
-
-/// Throws where the condition does not come true in good time.
-void waitUntil(const std::string &what, const std::function<bool()> &condition);
 
 /// A D-Bus session with a real Secret Service (gnome-keyring) in a home of its own. While it lives, the
 /// test's own process and what it starts find this session and no other; it is the machine's bus, too. Nobody

@@ -10,22 +10,14 @@
 
 namespace fs = std::filesystem;
 
-namespace {
-
-void makeKey(const fs::path &path)
-{
-    const CommandResult result =
-        runCommand({"ssh-keygen", "-q", "-t", "ed25519", "-N", "", "-f", path.string()});
-    if (result.status != 0) throw std::runtime_error(result.errors);
-}
-
-} // namespace
-
 Sshd::Sshd(const fs::path &folder, const std::string &command) : m_folder(folder)
 {
     fs::create_directories(m_folder);
     for (const char *name : {"host", "user"})
-        makeKey(m_folder / name);
+        if (const CommandResult made =
+                runCommand({"ssh-keygen", "-q", "-t", "ed25519", "-N", "", "-f", m_folder / name});
+            made.status != 0)
+            throw std::runtime_error(made.errors);
     const std::string restriction = command.empty() ? "" : "command=\"" + command + "\" ";
     writeFile(m_folder / "authorized", restriction + readFile(m_folder / "user.pub"));
     writeFile(m_folder / "known", "server " + readFile(m_folder / "host.pub"));

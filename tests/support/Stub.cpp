@@ -1,10 +1,7 @@
 #include "Stub.h"
 
+#include "Command.h"
 #include "TemporaryFolder.h"
-
-#include <chrono>
-#include <stdexcept>
-#include <thread>
 
 namespace fs = std::filesystem;
 
@@ -40,9 +37,6 @@ std::vector<std::vector<std::string>> Stub::recordedArguments() const
 int Stub::processId() const
 {
     const fs::path file = m_path.string() + ".pid";
-    for (int attempt = 0; attempt < 1000; ++attempt) {
-        if (fs::exists(file)) return std::stoi(readFile(file));
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    }
-    throw std::runtime_error(m_path.string() + " was not started");
+    waitUntil("the start of " + m_path.string(), [&] { return fs::exists(file); });
+    return std::stoi(readFile(file));
 }

@@ -3,7 +3,6 @@
 #include "TemporaryFolder.h"
 
 #include <cerrno>
-#include <cstdio>
 #include <fcntl.h>
 #include <functional>
 #include <random>
@@ -44,18 +43,13 @@ TreeEntry readEntry(const fs::path &path)
 
 std::string printable(const std::string &bytes)
 {
-    std::string text;
-    for (const char byte : bytes) {
-        const auto value = static_cast<unsigned char>(byte);
-        if (value >= 0x20 && value < 0x7f) {
-            text += byte;
-            continue;
-        }
-        char escaped[5];
-        std::snprintf(escaped, sizeof escaped, "\\x%02x", value);
-        text += escaped;
-    }
-    return text;
+    std::ostringstream text;
+    for (const char byte : bytes)
+        if (byte >= 0x20 && byte < 0x7f)
+            text << byte;
+        else
+            text << "\\x" << std::hex << (byte & 0xff);
+    return text.str();
 }
 
 /// As far as the comparison looks at it.

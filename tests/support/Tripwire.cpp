@@ -135,11 +135,18 @@ void note(const char *event, int folder, const char *name, int flags, const std:
 }
 
 /// Calls the function that this library stands in front of.
-template <class Result, class... Types>
-Result passOn(const char *name, Types... values)
+template <class... Types>
+int passOn(const char *name, Types... values)
 {
     countChange();
-    return reinterpret_cast<Result (*)(Types...)>(dlsym(RTLD_NEXT, name))(values...);
+    return reinterpret_cast<int (*)(Types...)>(dlsym(RTLD_NEXT, name))(values...);
+}
+
+int passOnSync(const char *name, int file)
+{
+    note("safe", file, "", AT_EMPTY_PATH);
+    if (plan && plan->deed == "late") return errno = ENOSPC, -1;
+    return passOn(name, file);
 }
 
 __attribute__((constructor)) void begin(int argc, char **argv)
@@ -162,58 +169,40 @@ extern "C" {
 // NOLINTBEGIN: the C library's own names
 int rename(const char *a, const char *b) noexcept
 {
-    note("named", AT_FDCWD, a, AT_SYMLINK_NOFOLLOW, b);
-    return passOn<int>("rename", a, b);
+    return note("named", AT_FDCWD, a, AT_SYMLINK_NOFOLLOW, b), passOn("rename", a, b);
 }
 int renameat(int a, const char *b, int c, const char *d) noexcept
 {
-    note("named", a, b, AT_SYMLINK_NOFOLLOW, pathOf(c, d));
-    return passOn<int>("renameat", a, b, c, d);
+    return note("named", a, b, AT_SYMLINK_NOFOLLOW, pathOf(c, d)), passOn("renameat", a, b, c, d);
 }
 int renameat2(int a, const char *b, int c, const char *d, unsigned e) noexcept
 {
-    note("named", a, b, AT_SYMLINK_NOFOLLOW, pathOf(c, d));
-    return passOn<int>("renameat2", a, b, c, d, e);
+    return note("named", a, b, AT_SYMLINK_NOFOLLOW, pathOf(c, d)), passOn("renameat2", a, b, c, d, e);
 }
 int link(const char *a, const char *b) noexcept
 {
-    note("named", AT_FDCWD, a, 0, b);
-    return passOn<int>("link", a, b);
+    return note("named", AT_FDCWD, a, 0, b), passOn("link", a, b);
 }
 int linkat(int a, const char *b, int c, const char *d, int e) noexcept
 {
-    note("named", a, b, e & AT_EMPTY_PATH, pathOf(c, d));
-    return passOn<int>("linkat", a, b, c, d, e);
+    return note("named", a, b, e & AT_EMPTY_PATH, pathOf(c, d)), passOn("linkat", a, b, c, d, e);
 }
 int unlink(const char *a) noexcept
 {
-    note("gone", AT_FDCWD, a, AT_SYMLINK_NOFOLLOW);
-    return passOn<int>("unlink", a);
+    return note("gone", AT_FDCWD, a, AT_SYMLINK_NOFOLLOW), passOn("unlink", a);
 }
 int unlinkat(int a, const char *b, int c) noexcept
 {
-    note("gone", a, b, AT_SYMLINK_NOFOLLOW);
-    return passOn<int>("unlinkat", a, b, c);
+    return note("gone", a, b, AT_SYMLINK_NOFOLLOW), passOn("unlinkat", a, b, c);
 }
 int remove(const char *a) noexcept
 {
-    note("gone", AT_FDCWD, a, AT_SYMLINK_NOFOLLOW);
-    return passOn<int>("remove", a);
+    return note("gone", AT_FDCWD, a, AT_SYMLINK_NOFOLLOW), passOn("remove", a);
 }
-int mkdir(const char *a, mode_t b) noexcept { return passOn<int>("mkdir", a, b); }
-int mkdirat(int a, const char *b, mode_t c) noexcept { return passOn<int>("mkdirat", a, b, c); }
-int fsync(int a)
-{
-    note("safe", a, "", AT_EMPTY_PATH);
-    if (plan && plan->deed == "late") return errno = ENOSPC, -1;
-    return passOn<int>("fsync", a);
-}
-int fdatasync(int a)
-{
-    note("safe", a, "", AT_EMPTY_PATH);
-    if (plan && plan->deed == "late") return errno = ENOSPC, -1;
-    return passOn<int>("fdatasync", a);
-}
+int mkdir(const char *a, mode_t b) noexcept { return passOn("mkdir", a, b); }
+int mkdirat(int a, const char *b, mode_t c) noexcept { return passOn("mkdirat", a, b, c); }
+int fsync(int a) { return passOnSync("fsync", a); }
+int fdatasync(int a) { return passOnSync("fdatasync", a); }
 int openat64(int a, const char *b, int flags, ...)
 {
     va_list rest;

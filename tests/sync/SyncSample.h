@@ -93,13 +93,7 @@ private:
         return console.toStdString();
     }
 
-    void began() override {}
-    void measured(double) override {}
-    void advanced(double) override {}
-    void logged(const QString &) override {}
     void ended(const QString &text) override { summary = text; }
-    void toolsStillRun(const QStringList &) override {}
-    void concluded(const RunRecord &) override {}
     void listed(const QString &) override {}
     void sawFigures(const QString &text) override
     {

@@ -2,12 +2,24 @@
 
 #include "ui/PanelDialog.h"
 #include "ui/RefreshQueue.h"
+#include "ui/SpokenSecrets.h"
 
+#include <QLineEdit>
 #include <thread>
 
 namespace {
 
 class BindingTest : public WindowTest {};
+
+QStringList textsOf(const QAccessibleEvent &event)
+{
+    if (const auto *insert = dynamic_cast<const QAccessibleTextInsertEvent *>(&event))
+        return {insert->textInserted()};
+    if (const auto *remove = dynamic_cast<const QAccessibleTextRemoveEvent *>(&event))
+        return {remove->textRemoved()};
+    const auto &update = dynamic_cast<const QAccessibleTextUpdateEvent &>(event);
+    return {update.textInserted(), update.textRemoved()};
+}
 
 } // namespace
 
@@ -61,5 +73,24 @@ TEST_F(BindingTest, EscapeAsksThePanelsClosingAction)
         settle();
         EXPECT_EQ(panel.place(), outlets::Panel::Place::Hidden);
         EXPECT_FALSE(dialog.isVisible());
+    }
+}
+
+TEST_F(BindingTest, WhatIsMaskedIsNotSpoken)
+{
+    auto &field = widget<QLineEdit>(u"secureText01a"_qs);
+    const QString secret = u"sesame"_qs;
+    const QAccessibleTextUpdateEvent update(&field, 0, secret, secret);
+    const QAccessibleTextInsertEvent insert(&field, 0, secret);
+    const QAccessibleTextRemoveEvent remove(&field, 0, secret);
+    for (const QAccessibleEvent *event :
+         std::initializer_list<const QAccessibleEvent *>{&update, &insert, &remove}) {
+        const auto told = ui::withoutSecret(*event);
+        ASSERT_TRUE(told && told->type() == event->type());
+        for (const QString &text : textsOf(*told))
+            EXPECT_EQ(text, u"******"_qs);
+        field.setEchoMode(QLineEdit::Normal);
+        EXPECT_FALSE(ui::withoutSecret(*event)) << "it is shown";
+        field.setEchoMode(QLineEdit::Password);
     }
 }

@@ -1,8 +1,12 @@
 #include "TestWindow.h"
 
+#include "Command.h"
+#include "SecretService.h"
 #include "Stub.h"
 
+#include "ui/Motion.h"
 #include "ui/PreviewTableView.h"
+#include "ui/RunBar.h"
 #include "ui/TextArea.h"
 
 #include <QLabel>
@@ -80,4 +84,24 @@ TEST_F(SyncTest, AHundredThousandRowsComeInOneStep)
     EXPECT_TRUE(waitUntil([&] { return table.isVisible() && table.outletModel().rowCount() == count; }));
     EXPECT_EQ(announced, 0);
     EXPECT_EQ(table.outletModel().cell(count - 1, u"c30"_qs), u"d/99999"_qs);
+}
+
+TEST_F(SyncTest, NothingMovesForWhoWantsNoMotion)
+{
+    SecretService session;
+    const std::string portal = "org.freedesktop.portal.Desktop";
+    const std::string settings = "org.freedesktop.portal.Settings";
+    const auto desktop = session.serve(
+        portal, {"/usr/bin/python3", "-m", "dbusmock", portal, "/org/freedesktop/portal/desktop", settings});
+    runCommand({"dbus-send", "--print-reply", "--dest=" + portal, "/org/freedesktop/portal/desktop",
+                "org.freedesktop.DBus.Mock.AddMethod", "string:" + settings, "string:Read", "string:ss",
+                "string:v", "string:ret = dbus.Boolean(args[1] != 'enable-animations', variant_level=2)"});
+    auto &bar = widget<ui::RunBar>(u"progress03progressIndicator01"_qs);
+    bar.setIndeterminate(true);
+    EXPECT_EQ(bar.maximum(), 0) << "it runs to and fro";
+    bar.setIndeterminate(false);
+    const ui::MotionSettings motion;
+    EXPECT_TRUE(waitUntil([] { return !ui::isMotionWanted(); }));
+    bar.setIndeterminate(true);
+    EXPECT_NE(bar.maximum(), 0);
 }
