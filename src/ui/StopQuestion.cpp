@@ -13,14 +13,14 @@ struct Words {
     Q_DECLARE_TR_FUNCTIONS(StopQuestion)
 };
 
-struct Words {
+struct Sentences {
     QString title; ///< while the program is to be quitted
     QString text;  ///< likewise
     QString question;
     QString consequence; ///< of stopping
 };
 
-Words wordsOfRun(const QWidget &sheet)
+Sentences wordsOfRun(const QWidget &sheet)
 {
     if (sheet.objectName() == u"progressPanel03")
         return {Words::tr("Synchronisation in progress"), Words::tr("Folders are being synchronised."),
@@ -45,7 +45,7 @@ QMessageBox *askToStop(QWidget &window, const QList<PanelDialog *> &sheets, Stop
     QWidget *over = &window;
     for (PanelDialog *sheet : sheets)
         if (sheet->isVisible()) over = sheet;
-    const Words words = wordsOfRun(*over);
+    const Sentences words = wordsOfRun(*over);
     const bool quits = purpose == StopFor::Quitting;
     auto *question = new QMessageBox(QMessageBox::Question, quits ? words.title : words.question,
                                      quits ? words.text : words.question, QMessageBox::NoButton, over);
