@@ -37,7 +37,7 @@ QString describeKey(const EVP_PKEY *key)
 
 QString refusal(const QString &path, const QString &reason)
 {
-    return u"The certificate \"%1\" %2. Choose another one on the Passwords tab."_qs.arg(path, reason);
+    return u"The certificate \"%1\" %2. Choose another one on the Password tab."_qs.arg(path, reason);
 }
 
 } // namespace
@@ -45,7 +45,7 @@ QString refusal(const QString &path, const QString &reason)
 QString whyBadPassword(const QString &password)
 {
     if (password.isEmpty())
-        return u"No password is given. Type one on the Passwords tab; without a password nothing is backed up."_qs;
+        return u"No password is given. Type one on the Password tab; without a password nothing is backed up."_qs;
     if (password.contains(QChar::Null))
         return u"The password holds a zero byte (is its file perhaps UTF-16?), and all behind it would be "
                u"lost. "
@@ -62,7 +62,7 @@ QString whyBadPassword(const QString &password)
 
 CertificateJudgement judgeCertificate(const QString &path)
 {
-    if (path.isEmpty()) return {.obstacle = u"No certificate is chosen. Choose one on the Passwords tab."_qs};
+    if (path.isEmpty()) return {.obstacle = u"No certificate is chosen. Choose one on the Password tab."_qs};
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return {.obstacle = refusal(path, u"is not there, or can't be read"_qs)};

@@ -2,6 +2,7 @@
 
 #include "app/QuillorentAppDelegate.h"
 #include "ui/Actions.h"
+#include "ui/Appearance.h"
 #include "ui/Binding.h"
 #include "ui/Derived.h"
 #include "ui/Menu.h"
@@ -30,7 +31,7 @@ struct RunWords {
 RunWords wordsOfRun(const QWidget &sheet)
 {
     if (sheet.objectName() == u"progressPanel03")
-        return {Window::tr("Synchronisation in progress"), Window::tr("rsync is running."),
+        return {Window::tr("Synchronisation in progress"), Window::tr("Folders are being synchronised."),
                 Window::tr("Quitting stops it: what is copied stays, and the next run goes on from there.")};
     if (sheet.objectName() == u"progressPanel02")
         return {Window::tr("Extraction in progress"), Window::tr("An extraction is running."),
@@ -49,6 +50,8 @@ Window::Window(QuillorentAppDelegate &controller)
     finishForm();
     m_panels = std::make_unique<Panels>(controller, *this);
     keepPathsLeftToRight(roots());
+    for (QWidget *root : roots())
+        scaleIcons(*root);
     m_binding = std::make_unique<Binding>(controller.outlets(), roots());
     connectActions(controller, *this, roots());
     m_unsaved = std::make_unique<UnsavedChanges>(controller, *this, *m_form->unsavedText);

@@ -24,7 +24,7 @@ QString whatIsOdd(const QuillorentAppDelegate &delegate)
     if (delegate.passCombo01.selectedIndex() != PasswordTab::KeychainPassword) return {};
     if (origin.isEmpty() || origin == account) return {};
     return u"The password is that of the account \"%1\", and the account that is chosen is \"%2\". Fetch its "
-           "password on the Passwords tab, or choose the other account again."_qs.arg(origin, account);
+           "password on the Password tab, or choose the other account again."_qs.arg(origin, account);
 }
 
 /// What keeps a backup from starting, in words that say what to do; the empty string where nothing does.
@@ -38,7 +38,7 @@ QString whatIsMissing(const QuillorentAppDelegate &delegate)
     if (record.string(u"path"_qs) != destination)
         return u"The destination that is shown is not this profile's own. Choose it again."_qs;
     if (delegate.passCombo01.selectedIndex() == PasswordTab::KeychainPassword && holdsNoPassword(delegate))
-        return u"No password was fetched from the keychain. See the Passwords tab; without a password nothing is backed up."_qs;
+        return u"No password was fetched from the keychain. See the Password tab; without a password nothing is backed up."_qs;
     if (record.array(u"folders"_qs).count() == 0)
         return u"The profile has no folders. Add those that are to be backed up."_qs;
     return {};
