@@ -4,6 +4,7 @@
 #include "ArchiveSeeds.h"
 #include "EntryName.h"
 #include "Extractor.h"
+#include "LiteralBlock.h"
 #include "TemporaryFolder.h"
 #include "Unpacker.h"
 #include "VolumeNames.h"
@@ -184,8 +185,8 @@ bool unpackAlone(const ByteBuffer &payload, const BlockHeader &header, Unpacker 
     if (!header.hasTables || !readCodeLengths(bits, lengths) || !areLiteralsOnly(lengths) ||
         !codes->build(lengths, payload.size()))
         return false;
-    ByteBuffer literals(mostLiterals(bits.left(), lengths) + 8);
-    const auto count = unpackLiteralBlock(bits, *codes, literals);
+    ByteBuffer literals(roomForLiterals(bits, lengths));
+    const auto count = unpackLiteralBlock(bits, lengths, *codes, literals, payload.size() % 1000);
     if (!count) return false;
     if (unpacker.onlyLiterals()) putBytes(text.content, Bytes(literals).first(*count));
     return unpacker.literals(literals, *count, lengths, text) == Unpacker::Outcome::Unpacked;

@@ -17,11 +17,6 @@ namespace archiver {
 
 namespace {
 
-// What some readers need of packed data in volumes: behind a block that is not the last one some bytes of the
-// next, and in a volume that ends in a file's data some more than a block's header.
-constexpr std::uint64_t spaceBehindBlock = 32;
-constexpr std::uint64_t smallestPart = 64;
-
 constexpr std::uint64_t largeFile = 8u << 20; // from here on a thread more makes up for its start
 
 // Of libzstd, for the methods.
@@ -71,7 +66,7 @@ void keepNewest(std::optional<Timestamp> &newest, const struct stat &status)
 } // namespace
 
 ArchiveWriter::ArchiveWriter(OutputVolumes &output, Packing packing, Diagnostics &diagnostics)
-    : m_output(output), m_packing(packing), m_diagnostics(diagnostics)
+    : m_output(output), m_entries(output, diagnostics), m_packing(packing), m_diagnostics(diagnostics)
 {
 }
 
@@ -94,7 +89,7 @@ bool ArchiveWriter::addLink(const struct stat &status, const std::string &name, 
 
 bool ArchiveWriter::addWithoutData(const FileHeader &header)
 {
-    if (!packs()) return writeHeader(header);
+    if (!packs()) return m_entries.write(header);
     if (m_packing.solid) return putAside({.header = header}, {});
     if (!openPiece(0)) return false;
     m_piece->parts.push_back({.header = header});
@@ -151,11 +146,9 @@ std::size_t ArchiveWriter::read(Source &source, std::span<std::uint8_t> into)
 bool ArchiveWriter::addStored(Source &source)
 {
     if (!writePieces()) return false;
-    m_header = source.header;
-    m_fileCrc = 0;
-    const bool large = m_header.unpackedSize >= largeFile;
+    const bool large = source.header.unpackedSize >= largeFile;
     if (large) m_output.writeInBackground(true);
-    const bool added = beginPart() && storeContent(source) && endPart(false);
+    const bool added = m_entries.begin(source.header) && storeContent(source);
     if (large) m_output.writeInBackground(false);
     return added;
 }
@@ -163,20 +156,16 @@ bool ArchiveWriter::addStored(Source &source)
 bool ArchiveWriter::storeContent(Source &source)
 {
     std::uint64_t size = 0;
+    std::uint32_t crc = 0;
     while (source.left > 0) {
-        if (m_output.room() == 0 && !continueInNextVolume()) return false;
-        if (!m_output.flushWhenFull()) return false;
-        const std::span<std::uint8_t> space = m_output.buffer();
-        const auto fits = static_cast<std::size_t>(std::min<std::uint64_t>(space.size(), m_output.room()));
-        const std::size_t count = read(source, space.first(fits));
-        const Bytes bytes = space.first(count);
-        m_fileCrc = crc32(bytes, m_fileCrc);
-        countData(bytes);
-        m_output.commit(count);
+        const std::optional<std::span<std::uint8_t>> space = m_entries.space();
+        if (!space) return false;
+        const std::size_t count = read(source, *space);
+        crc = crc32(space->first(count), crc);
+        m_entries.commit(count);
         size += count;
     }
-    m_header.unpackedSize = size;
-    return true;
+    return m_entries.end(crc, size);
 }
 
 bool ArchiveWriter::addWhole(Source &source)
@@ -364,127 +353,41 @@ bool ArchiveWriter::writeOldestPiece()
     return true;
 }
 
-bool ArchiveWriter::writeHeader(const FileHeader &header)
-{
-    m_header = header;
-    m_headerBytes.clear();
-    putFileHeader(m_headerBytes, header);
-    return makeRoom(m_headerBytes.size(), 0) && m_output.append(m_headerBytes);
-}
-
 bool ArchiveWriter::writePart(const Piece &piece, Part &part)
 {
     if (interrupted()) return false;
-    if (part.coding == Coding::None) return writeHeader(part.header);
+    if (part.coding == Coding::None) return m_entries.write(part.header);
     if (part.first) {
-        m_header = std::move(part.header);
-        if (part.last) m_header.unpackedSize = part.size;
+        m_size = 0;
+        m_crc = 0;
         describePacking(part);
-        if (!beginPart()) return false;
+        if (!m_entries.begin(std::move(part.header))) return false;
     }
-    m_fileCrc = part.first ? part.crc : joinedCrc32(m_fileCrc, part.crc, part.size);
-    const bool written =
-        part.coding == Coding::Store ? putStored(piece.contentOf(part)) : putBlocks(piece.packed, part);
-    return written && (!part.last || endPart(false));
+    m_size += part.size;
+    m_crc = part.first ? part.crc : joinedCrc32(m_crc, part.crc, part.size);
+    const bool written = part.coding == Coding::Store ? m_entries.putStored(piece.contentOf(part))
+                                                      : putBlocks(piece.packed, part);
+    return written && (!part.last || m_entries.end(m_crc, m_size));
 }
 
-void ArchiveWriter::describePacking(const Part &part)
+void ArchiveWriter::describePacking(Part &part)
 {
+    if (part.last) part.header.unpackedSize = part.size;
     if (part.coding == Coding::Store) return;
-    m_header.method = m_packing.method;
+    part.header.method = m_packing.method;
     // As small as the matches let it be, for readers make room for it with each file; in a group all the
     // same.
     constexpr std::size_t smallDictionary = std::size_t{128 << 10} << HuffmanEncoder::dictionary;
     const bool isSmall =
         part.coding == Coding::Literals || (!m_packing.solid && part.last && part.size <= smallDictionary);
-    m_header.dictionary = isSmall ? HuffmanEncoder::dictionary : MatchEncoder::dictionary;
+    part.header.dictionary = isSmall ? HuffmanEncoder::dictionary : MatchEncoder::dictionary;
 }
 
 bool ArchiveWriter::putBlocks(const PackedBlocks &packed, const Part &part)
 {
     for (std::size_t index = part.firstBlock; index < part.endBlock; ++index)
-        if (!putBlock(packed.at(index), part.last && index + 1 == part.endBlock)) return false;
+        if (!m_entries.putBlock(packed.at(index), part.last && index + 1 == part.endBlock)) return false;
     return true;
-}
-
-bool ArchiveWriter::makeRoom(std::size_t headerSize, std::uint64_t dataSize)
-{
-    if (headerSize > largestHeader)
-        return m_diagnostics.report(printable(m_header.name) + " has a longer name than an archive can hold");
-    const std::uint64_t needed = headerSize + std::min(dataSize, smallestPart);
-    if (m_output.room() >= needed) return true;
-    if (!m_output.atStart() && !m_output.nextVolume()) return false;
-    if (m_output.room() >= needed) return true;
-    return m_diagnostics.report("The volumes are too small for " + printable(m_header.name));
-}
-
-bool ArchiveWriter::beginPart()
-{
-    m_header.packedSize = 0;
-    m_header.continuesAfter = false;
-    m_header.crc = 0;
-    m_partCrc = 0;
-    m_headerBytes.clear();
-    putFileHeader(m_headerBytes, m_header);
-    if (!makeRoom(m_headerBytes.size(), m_header.unpackedSize)) return false;
-    m_headerOffset = m_output.position();
-    return m_output.append(m_headerBytes);
-}
-
-bool ArchiveWriter::endPart(bool continues)
-{
-    m_header.packedSize = m_output.position() - m_headerOffset - m_headerBytes.size();
-    m_header.continuesAfter = continues;
-    m_header.crc = continues ? m_partCrc : m_fileCrc;
-    const std::size_t length = m_headerBytes.size();
-    m_headerBytes.clear();
-    putFileHeader(m_headerBytes, m_header);
-    if (m_headerBytes.size() != length)
-        return m_diagnostics.report(printable(m_header.name) + " grew beyond what can be stored");
-    return m_output.patch(m_headerOffset, m_headerBytes);
-}
-
-bool ArchiveWriter::continueInNextVolume()
-{
-    if (!endPart(true) || !m_output.nextVolume()) return false;
-    m_header.continuesBefore = true;
-    return beginPart();
-}
-
-void ArchiveWriter::countData(Bytes bytes)
-{
-    if (m_output.limited()) m_partCrc = crc32(bytes, m_partCrc);
-}
-
-bool ArchiveWriter::putData(Bytes bytes)
-{
-    countData(bytes);
-    return m_output.append(bytes);
-}
-
-bool ArchiveWriter::putStored(Bytes bytes)
-{
-    while (!bytes.empty()) {
-        if (m_output.room() == 0 && !continueInNextVolume()) return false;
-        const auto count = static_cast<std::size_t>(std::min<std::uint64_t>(bytes.size(), m_output.room()));
-        if (!putData(bytes.first(count))) return false;
-        bytes = bytes.subspan(count);
-    }
-    return true;
-}
-
-bool ArchiveWriter::putBlock(Bytes block, bool last)
-{
-    for (;;) {
-        const std::uint64_t room = m_output.room();
-        if (block.size() <= room && (last || room - block.size() >= spaceBehindBlock)) return putData(block);
-        // A volume must not end right behind the block, nor in the header of the next: it ends inside this
-        // one.
-        const std::size_t tail = std::min<std::size_t>(spaceBehindBlock, block.size() / 2);
-        const std::size_t cut = block.size() > room ? static_cast<std::size_t>(room) : block.size() - tail;
-        if (!putData(block.first(cut)) || !continueInNextVolume()) return false;
-        block = block.subspan(cut);
-    }
 }
 
 } // namespace archiver

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "EntryWriter.h"
 #include "OrderedWork.h"
-#include "OutputVolumes.h"
 #include "Piece.h"
 
 #include <optional>
@@ -11,9 +11,8 @@
 
 namespace archiver {
 
-/// Writes entries one behind the other, with no need to know a file's content or final size before: the
-/// header goes in front of the data first, and is replaced when the data is there. What is to be packed is
-/// read in pieces, which are packed on all cores and written in their order.
+/// Adds entries one behind the other, with no need to know a file's content or final size before. What is to
+/// be packed is read in pieces, which are packed on all cores and written in their order.
 ///
 /// Each function gives false when the archive can't go on. What is wrong with a source file alone is
 /// reported, and nothing else happens.
@@ -77,30 +76,18 @@ private:
     [[nodiscard]] bool writePieces();
     [[nodiscard]] bool writeOldestPiece();
     [[nodiscard]] bool writePart(const Piece &piece, Part &part);
-    void describePacking(const Part &part);
-    [[nodiscard]] bool writeHeader(const FileHeader &header);
-
-    [[nodiscard]] bool makeRoom(std::size_t headerSize, std::uint64_t dataSize);
-    [[nodiscard]] bool beginPart();
-    [[nodiscard]] bool endPart(bool continues);
-    [[nodiscard]] bool continueInNextVolume();
+    void describePacking(Part &part);
     [[nodiscard]] bool putBlocks(const PackedBlocks &packed, const Part &part);
-    [[nodiscard]] bool putBlock(Bytes block, bool last);
-    [[nodiscard]] bool putStored(Bytes bytes);
-    [[nodiscard]] bool putData(Bytes bytes);
-    void countData(Bytes bytes);
     /// Reads up to `into.size()` bytes; 0 after a fault as well, which has been reported.
     [[nodiscard]] std::size_t read(Source &source, std::span<std::uint8_t> into);
 
     OutputVolumes &m_output;
+    EntryWriter m_entries;
     Packing m_packing;
     Diagnostics &m_diagnostics;
 
-    FileHeader m_header; ///< of the file that is being written
-    ByteBuffer m_headerBytes;
-    std::uint64_t m_headerOffset = 0;
-    std::uint32_t m_fileCrc = 0; ///< of its content
-    std::uint32_t m_partCrc = 0; ///< of what this volume has of it, where the size of volumes is limited
+    std::uint64_t m_size = 0; ///< of the content of the entry that is being written, so far
+    std::uint32_t m_crc = 0;
     std::optional<Timestamp> m_newestFile;
     std::optional<Timestamp> m_newestFolder;
 

@@ -1,7 +1,6 @@
 #include "HuffmanDecoder.h"
 
 #include <algorithm>
-#include <numeric>
 
 namespace archiver {
 
@@ -153,31 +152,6 @@ void BlockCodes::joinLiterals(bool pairs)
                  2,
                  static_cast<std::uint8_t>(first.length + second.length)};
     }
-}
-
-std::optional<std::size_t> unpackLiteralBlock(BitReader bits, const BlockCodes &codes,
-                                              std::span<std::uint8_t> out)
-{
-    std::uint8_t *next = out.data();
-    const std::uint8_t *const end = next + out.size();
-    while (!bits.atEnd()) {
-        next = unpackLiterals(bits, codes, next, end);
-        if (bits.atEnd()) break;
-        // A code that is too long for the fast way, or the last bits.
-        const CodedSymbol symbol = codes.symbol(bits.peek());
-        bits.skip(symbol.length);
-        if (symbol.length == 0 || bits.overrun() || next == end) return std::nullopt;
-        *next++ = static_cast<std::uint8_t>(symbol.value);
-    }
-    return static_cast<std::size_t>(next - out.data());
-}
-
-std::size_t mostLiterals(std::size_t bits, const CodeLengths &lengths)
-{
-    std::size_t shortest = longestCode;
-    for (const std::uint8_t length : std::span(lengths).first(literalSymbols))
-        if (length > 0) shortest = std::min<std::size_t>(shortest, length);
-    return bits / shortest;
 }
 
 } // namespace archiver

@@ -38,6 +38,16 @@ public:
         return bytes << (m_bit & 7);
     }
     void skip(std::size_t count) { m_bit += count; }
+    /// Of the next bit, in the payload.
+    [[nodiscard]] std::size_t position() const { return m_bit; }
+    /// What is left between these positions.
+    [[nodiscard]] BitReader between(std::size_t begin, std::size_t end) const
+    {
+        BitReader reader = *this;
+        reader.m_bit = begin;
+        reader.m_end = end;
+        return reader;
+    }
     /// At most 32 bits, as a number.
     [[nodiscard]] std::uint32_t take(unsigned count)
     {
@@ -164,12 +174,5 @@ private:
     bits = at;
     return out;
 }
-
-/// Unpacks a block of literals only. `out` has room for all that its bits can be (see mostLiterals()), and 8
-/// bytes more; none where it is damaged, else how many it made.
-[[nodiscard]] std::optional<std::size_t> unpackLiteralBlock(BitReader bits, const BlockCodes &codes,
-                                                            std::span<std::uint8_t> out);
-/// How many literals so many bits can be.
-[[nodiscard]] std::size_t mostLiterals(std::size_t bits, const CodeLengths &lengths);
 
 } // namespace archiver

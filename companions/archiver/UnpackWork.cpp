@@ -1,6 +1,7 @@
 #include "UnpackWork.h"
 
 #include "Interrupt.h"
+#include "LiteralBlock.h"
 
 #include <algorithm>
 #include <new>
@@ -142,10 +143,10 @@ void UnpackWork::Worker::unpackLiterals(UnpackJob &job)
     constexpr std::size_t most = 4 << 20;
     BitReader bits(Bytes(job.packed).first(job.size), job.block);
     if (!job.block.hasTables || !readCodeLengths(bits, job.lengths) || !areLiteralsOnly(job.lengths)) return;
-    const std::size_t size = mostLiterals(bits.left(), job.lengths) + 8;
+    const std::size_t size = roomForLiterals(bits, job.lengths);
     if (size > most || !codes.build(job.lengths, job.size)) return;
     if (job.unpacked.size() < size) job.unpacked.resize(size);
-    const std::optional<std::size_t> count = unpackLiteralBlock(bits, codes, job.unpacked);
+    const std::optional<std::size_t> count = unpackLiteralBlock(bits, job.lengths, codes, job.unpacked);
     if (!count) return;
     job.isUnpacked = true;
     job.unpackedSize = *count;

@@ -1,6 +1,7 @@
 #include "app/Start.h"
 #include "app/QuillorentAppDelegate.h"
 #include "app/SheetMonitor.h"
+#include "app/StayAwake.h"
 #include "runs/Aftermath.h"
 #include "runs/Pauses.h"
 #include "tools/Threads.h"
@@ -55,6 +56,16 @@ private:
     std::thread m_waiting; // last: it uses the others
 };
 
+/// What somebody is told who wants to shut the machine down meanwhile.
+QString whyAwake(const RunStart &start)
+{
+    const auto tr = [](const char *text) { return QCoreApplication::translate("StayAwake", text); };
+    const QString &sheet = start.sheet.sheet.name();
+    if (sheet == u"progressPanel02") return tr("Files are being restored, and would not be complete.");
+    if (sheet == u"progressPanel03") return tr("Folders are being synchronised, and would not be in step.");
+    return tr("A backup is running, and would not be complete.");
+}
+
 } // namespace
 
 /// Looks, asks and works; the body of the run's own thread.
@@ -79,6 +90,7 @@ void QuillorentAppDelegate::carryOut(const RunStart &start)
         return;
     }
     if (isWanted(start, findings)) {
+        const StayAwake awake(whyAwake(start));
         start.work(monitor);
     } else {
         endRun();

@@ -12,3 +12,7 @@
 /// and to try the password on one.
 [[nodiscard]] Findings lookAtBackup(BackupOrder &order, FolderLock &lock,
                                     const std::function<bool()> &goesOn);
+
+/// The room that the destination needs while folders of so many bytes together are backed up: an archive, the
+/// same encrypted, and half of that again lie there at the same time.
+[[nodiscard]] quint64 roomForBackup(quint64 bytes);

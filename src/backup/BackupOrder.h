@@ -21,6 +21,7 @@ struct BackupItem {
 struct BackupOrder {
     QString profile{};
     QString destination{};
+    bool showsOtherDestination = false; ///< on the screen stands another one, of another profile
     QList<BackupItem> items{};
 
     QString archiver{}; ///< path of the program; empty where none is registered
@@ -32,7 +33,8 @@ struct BackupOrder {
 
     bool byCertificate = false;
     QString certificate{};
-    Secret password{}; ///< empty where it is by certificate
+    Secret password{};           ///< empty where it is by certificate
+    bool awaitsKeychain = false; ///< the password is the keychain's to give
     /// What was typed the second time; none where nobody was asked to.
     std::optional<Secret> repetition{};
 

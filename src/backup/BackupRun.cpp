@@ -65,8 +65,10 @@ void BackupRun::measure()
     const auto goesOn = [this] { return !isCancelled(); };
     for (const BackupItem &item : m_order.items) {
         if (!goesOn()) break;
-        m_state.addToDo(
-            double(item.bytes ? *item.bytes : quillorentLibrary::calculateSize(item.source, goesOn)));
+        const auto bytes =
+            double(item.bytes ? *item.bytes : quillorentLibrary::calculateSize(item.source, goesOn));
+        m_state.addToDo(bytes);
+        m_state.planItem(item.source, bytes);
     }
     m_monitor.measured(m_state.sizeToDo());
 }
@@ -79,6 +81,7 @@ bool BackupRun::skip(qsizetype index)
     const bool isUnsuitable = there && there->kind == FileEntry::Kind::Other;
     if (!isMissing && !isUnsuitable) return false;
     (isMissing ? m_missing : m_unsuitable).append(source);
+    m_state.endItem(source, RunItem::Phase::LeftOut);
     journal().changeItem(index, [&](ItemRecord &item) {
         item.outcome = Outcome::Skipped;
         item.reason = isMissing ? u"it is not there"_qs : u"it is neither a file nor a folder"_qs;

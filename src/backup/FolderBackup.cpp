@@ -1,6 +1,7 @@
 #include "backup/FolderBackup.h"
 
 #include "backup/BackupArguments.h"
+#include "backup/BackupStages.h"
 #include "files/ArchiveFiles.h"
 #include "files/Sizes.h"
 #include "runs/ItemPipeline.h"
@@ -88,7 +89,7 @@ bool FolderBackup::judgeStage(const QString &stage, const ToolResult &result, co
 void FolderBackup::storeFolder()
 {
     if (isCancelled()) return;
-    setStage(u"storing"_qs);
+    setStage(u"storing"_qs, backupStages::storing(m_order, bytesToDo()));
     ToolResult result = makeWay(m_paths.stored); // the archiver would update what is there
     if (result.isSilent()) {
         using enum backupArguments::FirstPass;
@@ -102,7 +103,7 @@ void FolderBackup::storeFolder()
 void FolderBackup::encrypt()
 {
     if (!goesOn()) return;
-    setStage(u"encrypting"_qs);
+    setStage(u"encrypting"_qs, backupStages::encrypting(m_order, bytesAt(m_paths.stored)));
     ToolResult result = makeWay(m_paths.encrypted);
     if (result.isSilent()) result = checkInput(m_paths.stored);
     if (result.isSilent()) {
@@ -141,7 +142,7 @@ void FolderBackup::removeStored()
 void FolderBackup::pack()
 {
     if (!goesOn()) return;
-    setStage(u"packing"_qs);
+    setStage(u"packing"_qs, backupStages::packing(m_order, bytesAt(m_paths.encrypted)));
     const QString problem = setFormerAside();
     ToolResult result{.output = problem, .wasStarted = problem.isEmpty()};
     if (result.isSilent()) result = checkInput(m_paths.encrypted);
@@ -180,6 +181,7 @@ QString FolderBackup::setFormerAside()
 void FolderBackup::settleFormer()
 {
     if (m_former.isEmpty()) return;
+    setStage(u"finishing"_qs, backupStages::finishing());
     const QStringList made = newFiles();
     bool isSafe = m_isPacked && m_distrust.isEmpty() && !made.isEmpty();
     for (const QString &path : made)

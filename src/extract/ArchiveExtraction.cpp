@@ -22,6 +22,11 @@ using Place = FailedStage::Place;
 using quillorentLibrary::joined;
 using quillorentLibrary::lastPathComponent;
 
+// Of the time that an archive takes, measured on 500 MB in one file, in 20,000, and of text.
+constexpr double unpackingShare = 0.30;
+constexpr double decryptingShare = 0.27;
+constexpr double extractingShare = 0.43;
+
 /// One archive on its way back to a folder.
 class ArchiveExtraction : private ItemPipeline {
 public:
@@ -190,7 +195,7 @@ ToolResult ArchiveExtraction::makeWayForEntries(const QStringList &entries)
 void ArchiveExtraction::unpackOuter()
 {
     if (isCancelled()) return;
-    setStage(u"unpacking"_qs);
+    setStage(u"unpacking"_qs, {unpackingShare, bytesToDo()});
     // An archive that was renamed holds its encrypted file under the old name, which another's may have, too.
     QStringList entries;
     for (const QString &entry : entriesOf(m_item))
@@ -220,7 +225,7 @@ void ArchiveExtraction::takeRenamedEntry()
 void ArchiveExtraction::decrypt()
 {
     if (!goesOn()) return;
-    setStage(u"decrypting"_qs);
+    setStage(u"decrypting"_qs, {decryptingShare, bytesAt(m_paths.paths.encrypted)});
     if (m_command.isEmpty() && !m_entryName.isEmpty())
         m_command = commandOfArchive(m_entryName, m_order.methods);
     const ToolResult result = runDecoder();
@@ -268,7 +273,7 @@ QString ArchiveExtraction::folderForContents(Contents &contents)
 void ArchiveExtraction::unpackInner()
 {
     if (!goesOn()) return;
-    setStage(u"extracting"_qs);
+    setStage(u"extracting"_qs, {extractingShare, bytesAt(m_paths.paths.inner)});
     const QString &inner = m_paths.paths.inner;
     m_innerIsArchive = beginsAsArchive(inner);
     Contents contents = m_innerIsArchive ? contentsOf(inner) : Contents();

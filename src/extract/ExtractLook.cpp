@@ -145,18 +145,22 @@ void lookForRoom(const ExtractOrder &order, Findings &findings)
     findings.addConcern(whyTooLittleRoom(order.folder, roomNeeded(sizes, workerLimit())));
 }
 
+void repair(const ExtractOrder &order, const QString &folder)
+{
+    aftermath::repair(folder,
+                      [&](const QString &archive) { return isWholeArchive(order.archiver, archive); });
+}
+
 /// Archives are extracted from where backups are made: one that was killed may have left its former archive
 /// under another name there.
 void repairAround(const ExtractOrder &order)
 {
-    const auto isWhole = [&](const QString &archive) { return isWholeArchive(order.archiver, archive); };
     QStringList folders;
     for (const QString &archive : order.shown)
         if (const QString folder = QFileInfo(archive).path(); !folders.contains(folder))
             folders.append(folder);
     for (const QString &folder : folders)
-        if (const FolderLock lock = FolderLock::take(folder); !lock.isBusy())
-            aftermath::repair(folder, isWhole);
+        if (const FolderLock lock = FolderLock::take(folder); !lock.isBusy()) repair(order, folder);
 }
 
 } // namespace
@@ -178,6 +182,7 @@ Findings lookAtExtraction(ExtractOrder &order, FolderLock &lock)
         findings.addObstacle(whyBusy(order.folder));
         return findings;
     }
+    repair(order, order.folder);
     order.known = aftermath::leftIn(order.folder);
 
     for (const ExtractItem &item : order.items) {

@@ -4,6 +4,7 @@
 #include "extract/Candidates.h"
 #include "extract/Explanation.h"
 #include "extract/ExtractArguments.h"
+#include "extract/VolumeSet.h"
 #include "files/Sizes.h"
 #include "runs/Pauses.h"
 #include "runs/Run.h"
@@ -95,8 +96,9 @@ ToolResult ExtractRun::test(const QString &archive)
 {
     const auto result = std::make_shared<ToolResult>();
     const bool isLaunched = launchWorker(u"extract-test"_qs, archive, [this, archive, result] {
-        m_state.setStage(archive, u"testing"_qs);
-        *result = runTool(m_order.archiver, extractArguments::test(archive), lockDescriptor());
+        m_state.setStage(archive, u"testing"_qs, {.share = 1, .bytes = double(bytesOfArchive(archive))});
+        *result = runTool(m_order.archiver, extractArguments::test(archive), lockDescriptor(),
+                          [this, archive](int processId) { m_state.setTool(archive, processId); });
         m_state.endItem(archive);
     });
     if (!isLaunched) return {};
@@ -110,6 +112,8 @@ void ExtractRun::measure()
     // Later volumes count as well, though only the first is counted when its set is done.
     for (const QString &archive : m_order.shown)
         m_state.addToDo(double(quillorentLibrary::calculateSize(archive)));
+    for (const ExtractItem &item : m_order.items)
+        m_state.planItem(item.archive, double(bytesOfArchive(item.archive)));
     m_monitor.measured(m_state.sizeToDo());
 }
 

@@ -2,31 +2,45 @@
 
 #include "app/QuillorentAppDelegate.h"
 #include "files/Names.h"
+#include "runs/ProgressWords.h"
 
 #include <QLocale>
 #include <cstdio>
 #include <unistd.h>
 
+using namespace std::chrono_literals;
+
 namespace {
 
-QString describe(const QuillorentAppDelegate &delegate)
+QString itemsOf(const RunFigures &figures)
 {
-    // rsync has no items to count.
-    if (const QString line = delegate.progress03progressLabel02.text(); !line.isEmpty()) return line;
-    const auto size = [](double bytes) {
-        return QLocale().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeSIFormat);
-    };
     QStringList running;
-    for (const RunState::Item &item : delegate.itemsRunning())
-        running.append(quillorentLibrary::lastPathComponent(item.path) + u' ' + item.stage);
-    return u"%1 of %2 items, %3 of %4  %5"_qs.arg(
-        QString::number(delegate.foldersDone()), QString::number(delegate.foldersToDo()),
-        size(delegate.sizeDone()), size(delegate.sizeToDo()), running.join(u", "_qs));
+    for (const RunFigures::Item &item : figures.items)
+        if (item.phase == RunItem::Phase::Running)
+            running.append(quillorentLibrary::lastPathComponent(item.path) + u": "_qs +
+                           progressWords::step(item));
+    return running.join(u", "_qs);
+}
+
+QStringList describe(const RunFigures &figures)
+{
+    QStringList words{itemsOf(figures)};
+    if (figures.bytesToDo > 0)
+        words = QStringList{QLocale().toString(int(figures.done() * 100)) + u" %"_qs,
+                            progressWords::bytes(figures), progressWords::pace(figures),
+                            progressWords::left(figures)} +
+                words;
+    words.removeAll(QString());
+    return words;
 }
 
 } // namespace
 
-ProgressLine::ProgressLine(bool always) : m_onTerminal(isatty(STDERR_FILENO)), m_shows(always || m_onTerminal)
+ProgressLine::ProgressLine(const QuillorentAppDelegate &delegate, bool always)
+    : m_delegate(delegate)
+    , m_progress(delegate)
+    , m_onTerminal(isatty(STDERR_FILENO))
+    , m_shows(always || m_onTerminal)
 {
 }
 
@@ -35,12 +49,22 @@ ProgressLine::~ProgressLine()
     if (m_onTerminal && !m_last.isEmpty()) std::fputs("\r\033[K", stderr);
 }
 
-void ProgressLine::show(const QuillorentAppDelegate &delegate)
+void ProgressLine::show()
 {
-    if (!m_shows) return;
-    const QString line = describe(delegate);
-    if (line == m_last) return;
-    m_last = line;
+    const auto now = std::chrono::steady_clock::now();
+    if (!m_shows || now - m_looked < 200ms) return;
+    m_looked = now;
+    const RunFigures figures = m_progress.look(now);
+    // rsync has no items to count.
+    const QString synchronising = m_delegate.progress03progressLabel02.text();
+    const QStringList words = synchronising.isEmpty() ? describe(figures) : QStringList{synchronising};
+    if (words.isEmpty()) return;
+    // Where lines stay, one a step and a hundredth is enough.
+    const QString sign =
+        m_onTerminal || !synchronising.isEmpty() ? words.join(u' ') : words.first() + itemsOf(figures);
+    if (sign == m_last) return;
+    m_last = sign;
+    const QString line = words.join(u"  "_qs);
     std::fprintf(stderr, m_onTerminal ? "\r%s\033[K" : "%s\n", qUtf8Printable(line));
     std::fflush(stderr);
 }

@@ -122,10 +122,10 @@ ExitStatus runToEnd(QuillorentAppDelegate &delegate, const Options &options, con
     QObject::connect(&signals, &TerminationSignals::received, &signals,
                      [&] { delegate.buttonKill01(cancelButton); });
     start();
-    ProgressLine line(options.progress);
+    ProgressLine line(delegate, options.progress);
     QString told;
     waitUntil([&] {
-        line.show(delegate);
+        line.show();
         if (const QString atWork = delegate.toolsText01.text(); atWork != told && !atWork.isEmpty())
             printError(told = atWork);
         return !delegate.isRunActive();

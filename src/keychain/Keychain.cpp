@@ -2,9 +2,14 @@
 
 #include "keychain/SecretServiceKeychain.h"
 
+#include <QCoreApplication>
 #include <mutex>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(keychain)
+};
 
 struct CurrentKeychain {
     std::mutex mutex;
@@ -37,36 +42,37 @@ QString Keychain::statusText(KeychainStatus status) const
 {
     switch (status) {
     case KeychainStatus::Success:
-        return u"The keychain did what it was asked to."_qs;
+        return Words::tr("The keychain did what it was asked to.");
     case KeychainStatus::ItemNotFound:
-        return u"The keychain holds no such password."_qs;
+        return Words::tr("The keychain holds no such password.");
     case KeychainStatus::DuplicateItem:
-        return u"The keychain holds a password of that name already. It stays as it is: remove it with your "
-               u"desktop's password program first, or choose another account name."_qs;
+        return Words::tr("The keychain holds a password of that name already. It stays as it is: remove it "
+                         "with your desktop's password program first, or choose another account name.");
     case KeychainStatus::NoService:
-        return u"No keychain service runs in this session. Start one (any Secret Service will do), or type "
-               u"the password."_qs;
+        return Words::tr("No keychain service runs in this session. Start one (any Secret Service will do), "
+                         "or type the password.");
     case KeychainStatus::NoDefaultKeychain:
-        return u"The keychain service has no default keychain. Create one with your desktop's password "
-               u"program."_qs;
+        return Words::tr(
+            "The keychain service has no default keychain. Create one with your desktop's password program.");
     case KeychainStatus::Locked:
-        return u"The keychain is locked. Unlock it and try again."_qs;
+        return Words::tr("The keychain is locked. Unlock it and try again.");
     case KeychainStatus::UnlockDeclined:
-        return u"The keychain is still locked: its password was not given, or it could not be asked for. "
-               u"Try again, or unlock it with your desktop's password program."_qs;
+        return Words::tr("The keychain is still locked: its password was not given, or it could not be asked "
+                         "for. Try again, or unlock it with your desktop's password program.");
     case KeychainStatus::Refused:
-        return u"The keychain service refused. Look at your desktop's password program for the reason."_qs;
+        return Words::tr(
+            "The keychain service refused. Look at your desktop's password program for the reason.");
     case KeychainStatus::NotAnswering:
-        return u"The keychain service does not answer. Try again later, or restart it; whether it stored "
-               u"something shows when it answers again."_qs;
+        return Words::tr("The keychain service does not answer. Try again later, or restart it; whether it "
+                         "stored something shows when it answers again.");
     case KeychainStatus::Cancelled:
-        return u"The keychain was not waited for any longer."_qs;
+        return Words::tr("The keychain was not waited for any longer.");
     case KeychainStatus::InvalidItem:
-        return u"That password is not in the keychain."_qs;
+        return Words::tr("That password is not in the keychain.");
     case KeychainStatus::NoSuchAttribute:
-        return u"A password of this kind does not have that attribute."_qs;
+        return Words::tr("A password of this kind does not have that attribute.");
     case KeychainStatus::InvalidValue:
-        return u"The keychain can't hold that name: it is missing, or is no proper text."_qs;
+        return Words::tr("The keychain can't hold that name: it is missing, or is no proper text.");
     }
     return {};
 }

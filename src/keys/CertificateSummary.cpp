@@ -3,9 +3,14 @@
 #include "keys/SecretRules.h"
 #include "tools/RegisteredTool.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(keys)
+};
 
 constexpr qint64 soonDays = 30;
 
@@ -45,22 +50,26 @@ std::optional<CertificateSummary> quillorentLibrary::readCertificateSummary(cons
 
 QString quillorentLibrary::describeCertificate(const CertificateSummary &summary)
 {
-    const QString subject = summary.subject.isEmpty() ? u"(no subject)"_qs : summary.subject;
+    const QString subject = summary.subject.isEmpty() ? Words::tr("(no subject)") : summary.subject;
     const QString key = summary.key.isEmpty() ? QString() : u" – "_qs + summary.key;
-    return u"%1%2 – valid from %3 to %4"_qs.arg(subject, key, day(summary.notBefore), day(summary.notAfter));
+    return Words::tr("%1%2 – valid from %3 to %4")
+        .arg(subject, key, day(summary.notBefore), day(summary.notAfter));
 }
 
 QString quillorentLibrary::validityWarning(const CertificateSummary &summary, const QDateTime &now)
 {
     if (now < summary.notBefore)
-        return u"This certificate is not valid before %1. Check the computer's clock, or choose another one."_qs
-            .arg(day(summary.notBefore));
+        return Words::
+            tr("This certificate is not valid before %1. Check the computer's clock, or choose another one.")
+                .arg(day(summary.notBefore));
     if (now > summary.notAfter)
-        return u"This certificate has expired on %1. What it encrypted still opens with its "
-               "private key; for new archives choose one that is valid."_qs.arg(day(summary.notAfter));
+        return Words::tr("This certificate has expired on %1. What it encrypted still opens with its private "
+                         "key; for new archives choose one that is valid.")
+            .arg(day(summary.notAfter));
     const qint64 days = now.daysTo(summary.notAfter);
     if (days > soonDays) return {};
-    return days == 0 ? u"This certificate expires today."_qs
-                     : u"This certificate expires in %1 days, on %2."_qs.arg(QString::number(days),
-                                                                             day(summary.notAfter));
+    if (days == 0) return Words::tr("This certificate expires today.");
+    if (days == 1) return Words::tr("This certificate expires tomorrow.");
+    return Words::tr("This certificate expires in %n days, on %1.", nullptr, int(days))
+        .arg(day(summary.notAfter));
 }

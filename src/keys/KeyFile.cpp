@@ -1,9 +1,14 @@
 #include "keys/KeyFile.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(keys)
+};
 
 constexpr qint64 examinedBytes = 65'536;
 
@@ -35,8 +40,8 @@ KeyFileKind kindOfBinary(const QByteArray &bytes)
 
 KeyFile examineKeyFile(const QString &path)
 {
-    if (path.isEmpty()) return {KeyFileKind::Unreadable, u"there is no name"_qs};
-    if (QFileInfo(path).isDir()) return {KeyFileKind::Unreadable, u"it is a folder"_qs};
+    if (path.isEmpty()) return {KeyFileKind::Unreadable, Words::tr("there is no name")};
+    if (QFileInfo(path).isDir()) return {KeyFileKind::Unreadable, Words::tr("it is a folder")};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return {KeyFileKind::Unreadable, file.errorString()};
     const QByteArray start = file.read(examinedBytes);

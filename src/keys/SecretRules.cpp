@@ -1,5 +1,6 @@
 #include "keys/SecretRules.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <cstring>
@@ -9,6 +10,10 @@
 #include <openssl/x509.h>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(keys)
+};
 
 constexpr qsizetype longestPassword = 1023;         // bytes; the tool's buffer
 constexpr qint64 largestFile = qint64{1024} * 1024; // a certificate has some kilobytes
@@ -37,7 +42,7 @@ QString describeKey(const EVP_PKEY *key)
 
 QString refusal(const QString &path, const QString &reason)
 {
-    return u"The certificate \"%1\" %2. Choose another one on the Password tab."_qs.arg(path, reason);
+    return Words::tr("The certificate \"%1\" %2. Choose another one on the Password tab.").arg(path, reason);
 }
 
 } // namespace
@@ -45,43 +50,46 @@ QString refusal(const QString &path, const QString &reason)
 QString whyBadPassword(const QString &password)
 {
     if (password.isEmpty())
-        return u"No password is given. Type one on the Password tab; without a password nothing is backed up."_qs;
+        return Words::tr(
+            "No password is given. Type one on the Password tab; without a password nothing is backed up.");
     if (password.contains(QChar::Null))
-        return u"The password holds a zero byte (is its file perhaps UTF-16?), and all behind it would be "
-               u"lost. "
-               "Use a password of ordinary characters, in UTF-8."_qs;
+        return Words::tr("The password holds a zero byte (is its file perhaps UTF-16?), and all behind it "
+                         "would be lost. Use a password of ordinary characters, in UTF-8.");
     if (password.contains(u'\n') || password.contains(u'\r'))
-        return u"The password holds a line break, and all behind it would be lost. Use one of a single line."_qs;
+        return Words::tr(
+            "The password holds a line break, and all behind it would be lost. Use one of a single line.");
     QByteArray utf8 = password.toUtf8();
     explicit_bzero(utf8.data(), static_cast<std::size_t>(utf8.size()));
     if (utf8.size() > longestPassword)
-        return u"The password is longer than %1 bytes, and would be cut. Use a shorter one."_qs.arg(
-            longestPassword);
+        return Words::tr("The password is longer than %1 bytes, and would be cut. Use a shorter one.")
+            .arg(longestPassword);
     return {};
 }
 
 CertificateJudgement judgeCertificate(const QString &path)
 {
-    if (path.isEmpty()) return {.obstacle = u"No certificate is chosen. Choose one on the Password tab."_qs};
+    if (path.isEmpty())
+        return {.obstacle = Words::tr("No certificate is chosen. Choose one on the Password tab.")};
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-        return {.obstacle = refusal(path, u"is not there, or can't be read"_qs)};
+        return {.obstacle = refusal(path, Words::tr("is not there, or can't be read"))};
     const QByteArray content = file.read(largestFile);
     const auto certificate = readCertificate(content);
     if (!certificate)
         return {.obstacle = refusal(path, content.contains("PRIVATE KEY")
-                                              ? u"is a private key"_qs
-                                              : u"is no certificate in PEM, the text form"_qs)};
+                                              ? Words::tr("is a private key")
+                                              : Words::tr("is no certificate in PEM, the text form"))};
     EVP_PKEY *key = X509_get0_pubkey(certificate.get());
     const QString described = key ? describeKey(key) : QString();
     if (!key || EVP_PKEY_get_base_id(key) != EVP_PKEY_RSA)
-        return {.obstacle = refusal(path, u"has no RSA key, and nothing can be encrypted to another kind"_qs),
+        return {.obstacle =
+                    refusal(path, Words::tr("has no RSA key, and nothing can be encrypted to another kind")),
                 .key = described};
     const int bits = EVP_PKEY_get_bits(key);
     if (bits >= shortestKey) return {.key = described};
-    return {.concern =
-                u"The key of the certificate \"%1\" has %2 bits; less than %3 can be broken."_qs.arg(path)
-                    .arg(bits)
-                    .arg(shortestKey),
+    return {.concern = Words::tr("The key of the certificate \"%1\" has %2 bits; less than %3 can be broken.")
+                           .arg(path)
+                           .arg(bits)
+                           .arg(shortestKey),
             .key = described};
 }

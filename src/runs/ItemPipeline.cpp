@@ -21,7 +21,10 @@ ItemPipeline::ItemPipeline(Run &run, qsizetype index, const QString &item, const
 
 bool ItemPipeline::isCancelled() const { return m_run.state().cancelFlag(); }
 
-void ItemPipeline::setStage(const QString &name) const { m_run.state().setStage(m_item, name); }
+void ItemPipeline::setStage(const QString &name, const StagePlan &plan) const
+{
+    m_run.state().setStage(m_item, name, plan);
+}
 
 void ItemPipeline::expect(const QStringList &between, const QString &clear, const QString &final)
 {
@@ -75,6 +78,19 @@ QString ItemPipeline::moveAway(const QString &path)
         return qt_error_string(error);
     }
     return {};
+}
+
+double ItemPipeline::bytesToDo() const
+{
+    for (const RunItem &item : m_run.state().itemsRunning())
+        if (item.path == m_item) return item.bytes;
+    return 0;
+}
+
+double ItemPipeline::bytesAt(const QString &path)
+{
+    const auto there = entryAt(path);
+    return there ? double(there->identity.bytes) : 0;
 }
 
 /// From now on what comes under the name is this item's, even where the run ends before it can be told from
@@ -132,7 +148,11 @@ void ItemPipeline::removeOwn(const QString &path)
 
 ToolResult ItemPipeline::runStage(const QString &tool, const QStringList &arguments) const
 {
-    return runTool(tool, arguments, m_run.lockDescriptor());
+    RunState &state = m_run.state();
+    const ToolResult result = runTool(tool, arguments, m_run.lockDescriptor(),
+                                      [&](int processId) { state.setTool(m_item, processId); });
+    state.setTool(m_item, -1);
+    return result;
 }
 
 void ItemPipeline::runForLines(const QString &tool, const QStringList &arguments,
@@ -188,5 +208,7 @@ void ItemPipeline::end(bool isComplete, const QStringList &archives)
     // Told before the worker counts as gone: a new run may begin right after that.
     const bool isLast = m_run.state().foldersDone() == m_run.state().foldersToDo();
     if (isLast || !m_succeeded) m_run.state().setCancelFlag(true);
-    m_run.state().endItem(m_item);
+    using enum RunItem::Phase;
+    const bool isDone = m_succeeded && m_distrust.isEmpty();
+    m_run.state().endItem(m_item, !isDone ? Failed : isComplete ? Done : LeftOut);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runs/RunItem.h"
 #include "runs/RunRecord.h"
 #include "tools/ToolRun.h"
 
@@ -21,7 +22,12 @@ protected:
     [[nodiscard]] bool isCancelled() const;
     [[nodiscard]] bool goesOn() const { return !isCancelled() && m_succeeded; }
 
-    void setStage(const QString &name) const;
+    /// What is done with the item from now on, and what that is going to be like.
+    void setStage(const QString &name, const StagePlan &plan) const;
+    /// The item's part of the run's bytes.
+    [[nodiscard]] double bytesToDo() const;
+    /// Of a file; 0 where there is none.
+    [[nodiscard]] static double bytesAt(const QString &path);
 
     /// The files of the run's own that will exist for a while; `clear` is the one that is not encrypted.
     void expect(const QStringList &between, const QString &clear, const QString &final = {});

@@ -18,10 +18,12 @@ void write(std::mutex &mutex, T &member, T value)
     member = std::move(value);
 }
 
-auto findItem(std::vector<RunState::Item> &items, const QString &path)
+using Phase = RunItem::Phase;
+
+auto findItem(std::vector<RunItem> &items, const QString &path, Phase phase)
 {
     return std::find_if(items.begin(), items.end(),
-                        [&](const RunState::Item &item) { return item.path == path; });
+                        [&](const RunItem &item) { return item.path == path && item.phase == phase; });
 }
 
 } // namespace
@@ -30,7 +32,7 @@ double RunState::foldersToDo() const { return read(m_mutex, m_foldersToDo); }
 double RunState::foldersDone() const { return read(m_mutex, m_foldersDone); }
 double RunState::sizeToDo() const { return read(m_mutex, m_sizeToDo); }
 double RunState::sizeDone() const { return read(m_mutex, m_sizeDone); }
-std::vector<RunState::Item> RunState::itemsRunning() const { return read(m_mutex, m_running); }
+std::vector<RunItem> RunState::items() const { return read(m_mutex, m_items); }
 bool RunState::cancelFlag() const { return read(m_mutex, m_cancelFlag); }
 bool RunState::isRunActive() const { return read(m_mutex, m_runActive); }
 
@@ -70,12 +72,19 @@ QStringList RunState::threadsRunning() const
     return paths;
 }
 
+std::vector<RunItem> RunState::itemsRunning() const
+{
+    std::vector<RunItem> running = items();
+    std::erase_if(running, [](const RunItem &item) { return !item.isRunning(); });
+    return running;
+}
+
 void RunState::setThreadsRunning(const QStringList &paths)
 {
-    std::vector<Item> items;
+    const std::lock_guard lock(m_mutex);
+    std::erase_if(m_items, [](const RunItem &item) { return item.isRunning(); });
     for (const QString &path : paths)
-        items.push_back({path, {}});
-    write(m_mutex, m_running, items);
+        m_items.push_back({.path = path, .phase = Phase::Running});
 }
 
 void RunState::addToDo(double bytes)
@@ -92,22 +101,49 @@ double RunState::addDone(double bytes)
     return m_sizeDone += bytes;
 }
 
+void RunState::planItem(const QString &path, double bytes)
+{
+    const std::lock_guard lock(m_mutex);
+    m_items.push_back({.path = path, .bytes = bytes, .isCounted = true});
+}
+
 void RunState::beginItem(const QString &path)
 {
     const std::lock_guard lock(m_mutex);
-    m_running.push_back({path, {}});
+    auto item = findItem(m_items, path, Phase::Waiting);
+    if (item == m_items.end()) item = m_items.insert(item, {.path = path});
+    item->phase = Phase::Running;
+    item->began = item->stageBegan = std::chrono::steady_clock::now();
 }
 
-void RunState::setStage(const QString &path, const QString &stage)
+void RunState::setStage(const QString &path, const QString &stage, const StagePlan &plan)
 {
     const std::lock_guard lock(m_mutex);
-    if (const auto item = findItem(m_running, path); item != m_running.end()) item->stage = stage;
+    const auto item = findItem(m_items, path, Phase::Running);
+    if (item == m_items.end()) return;
+    item->stage = stage;
+    item->shareBefore += item->plan.share;
+    item->plan = plan;
+    item->tool = 0;
+    item->stageBegan = std::chrono::steady_clock::now();
 }
 
-void RunState::endItem(const QString &path)
+void RunState::setTool(const QString &path, int processId)
 {
     const std::lock_guard lock(m_mutex);
-    if (const auto item = findItem(m_running, path); item != m_running.end()) m_running.erase(item);
+    if (const auto item = findItem(m_items, path, Phase::Running); item != m_items.end())
+        item->tool = processId;
+}
+
+void RunState::endItem(const QString &path, Phase phase)
+{
+    const std::lock_guard lock(m_mutex);
+    auto item = findItem(m_items, path, Phase::Running);
+    if (item == m_items.end()) item = findItem(m_items, path, Phase::Waiting);
+    if (item == m_items.end()) return;
+    item->phase = phase;
+    item->stage.clear();
+    if (!item->isCounted) m_items.erase(item);
 }
 
 QString RunState::failure() const { return read(m_mutex, m_failure); }
@@ -124,7 +160,7 @@ bool RunState::tryBeginRun()
     const std::lock_guard lock(m_mutex);
     if (m_runActive) return false;
     m_failure.clear();
-    m_running.clear();
+    m_items.clear();
     m_runActive = true;
     m_cancelFlag = m_quitting;
     m_cancelledByUser = m_quitting;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "runs/RunItem.h"
+
 #include <QString>
 #include <QStringList>
 #include <chrono>
@@ -10,11 +12,7 @@
 /// call.
 class RunState {
 public:
-    /// An item that a worker is busy with, and what it does with it at the moment.
-    struct Item {
-        QString path;
-        QString stage;
-    };
+    using Item = RunItem;
 
     [[nodiscard]] double foldersToDo() const;             ///< entries counted for the run
     [[nodiscard]] double foldersDone() const;             ///< entries finished successfully
@@ -22,6 +20,7 @@ public:
     [[nodiscard]] double sizeDone() const;                ///< bytes of the entries finished successfully
     [[nodiscard]] QStringList threadsRunning() const;     ///< paths of the items that workers are busy with
     [[nodiscard]] std::vector<Item> itemsRunning() const; ///< the same, with what is being done
+    [[nodiscard]] std::vector<Item> items() const;        ///< all, in their order, also waiting and ended
 
     /// Raised to end the run: by the user, by a worker that failed, by the last worker. Lowered when a run
     /// begins, and only then: a cancel is never lost.
@@ -51,13 +50,18 @@ public:
     /// One entry more to do, of so many bytes.
     void addToDo(double bytes);
 
+    /// An item that is to be worked on, with its part of the run's bytes.
+    void planItem(const QString &path, double bytes);
+
     /// One entry of so many bytes is done; gives the bytes done by now. In one step, so that no worker's
     /// count is lost.
     double addDone(double bytes);
 
     void beginItem(const QString &path);
-    void setStage(const QString &path, const QString &stage);
-    void endItem(const QString &path); ///< one of them, where the same path runs twice
+    void setStage(const QString &path, const QString &stage, const StagePlan &plan = {});
+    void setTool(const QString &path, int processId); ///< of the stage; -1 when it has ended
+    /// One of them, where the same path runs twice; one that was not begun, where none runs.
+    void endItem(const QString &path, Item::Phase phase = Item::Phase::Done);
 
     /// The first failure of the run: which item, and why. Empty where none failed.
     [[nodiscard]] QString failure() const;
@@ -78,7 +82,7 @@ private:
     double m_sizeToDo = 0;
     double m_sizeDone = 0;
     // No QList: it asks without a barrier whether another thread still shares it, before it changes in place.
-    std::vector<Item> m_running;
+    std::vector<Item> m_items;
     bool m_cancelFlag = false;
     QString m_failure;
     bool m_cancelledByUser = false;

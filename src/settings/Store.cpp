@@ -6,12 +6,17 @@
 #include "settings/Upgrade.h"
 #include "settings/UserFile.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
 namespace quillorentLibrary {
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(settings)
+};
 
 QString saveCopy(const plist::Dictionary &content, const QString &folder, const QString &path)
 {
@@ -29,8 +34,9 @@ plist::Dictionary readSettings()
     findCompanionsAgain(settings); // where that could not be saved
     if (!found.isEmpty())
         settingsFile().notice(
-            u"The program has been moved. Its own tools are used from where they are now, in "
-            "“%1”: %2."_qs.arg(companionFolder(), found.join(u", "_qs)));
+            Words::tr(
+                "The program has been moved. Its own tools are used from where they are now, in “%1”: %2.")
+                .arg(companionFolder(), found.join(u", "_qs)));
     return settings;
 }
 

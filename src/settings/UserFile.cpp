@@ -6,6 +6,7 @@
 #include "settings/Paths.h"
 #include "settings/Reconcile.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <utility>
@@ -16,11 +17,15 @@ Q_LOGGING_CATEGORY(logSettings, "quillorent.settings")
 
 namespace {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(settings)
+};
+
 /// Gives the reason where it can't be made, else an empty text.
 QString makeFolderFor(const QString &path)
 {
     const QString folder = QFileInfo(path).path();
-    return makePrivateFolder(folder) ? QString() : u"The folder can't be made: "_qs + folder;
+    return makePrivateFolder(folder) ? QString() : Words::tr("The folder can't be made: ") + folder;
 }
 
 void logReason(const QString &reason)
@@ -50,11 +55,13 @@ void UserFile::makeUsable()
         const KeptCopy kept = moveAside(path);
         if (!kept.isSafe)
             return notice(
-                u"“%1” may not be written, nor moved out of the way: what is changed can't be saved."_qs.arg(
-                    path));
+                Words::tr(
+                    "“%1” may not be written, nor moved out of the way: what is changed can't be saved.")
+                    .arg(path));
         if (!kept.path.isEmpty())
-            notice(u"“%1” may not be written by this user. It is kept as “%2”, and a new one with the "
-                   "program's own settings has taken its place."_qs.arg(path, kept.path));
+            notice(Words::tr("“%1” may not be written by this user. It is kept as “%2”, and a new one with "
+                             "the program's own settings has taken its place.")
+                       .arg(path, kept.path));
     }
     const QString noFolder = makeFolderFor(path);
     const QString reason = noFolder.isEmpty() ? plist::replacePrivateFile(path, content) : noFolder;
@@ -103,10 +110,11 @@ Saved UserFile::save(const plist::Dictionary &dictionary, InConflict inConflict)
 QString UserFile::keepUnreadable(const QString &path)
 {
     const KeptCopy kept = keepCopy(path, KeptAs::Damaged);
-    if (!kept.isSafe) return path + u" can't be read, nor kept beside a new one: it is not saved over"_qs;
+    if (!kept.isSafe)
+        return path + Words::tr(" can't be read, nor kept beside a new one: it is not saved over");
     if (!kept.path.isEmpty())
-        notice(u"“%1” could not be read when it was saved over. What it held is kept as “%2”."_qs.arg(
-            path, kept.path));
+        notice(Words::tr("“%1” could not be read when it was saved over. What it held is kept as “%2”.")
+                   .arg(path, kept.path));
     return {};
 }
 
@@ -115,9 +123,9 @@ QString UserFile::keepLoser(const QString &path, const plist::Dictionary &mine, 
     const KeptCopy kept = inConflict == InConflict::KeepMine
                               ? keepCopy(path, KeptAs::Former)
                               : keepContent(path, plist::toDocument(mine).bytes);
-    if (!kept.isSafe) return path + u": what is to be replaced can't be kept beside it"_qs;
-    notice((inConflict == InConflict::KeepMine ? u"What others had changed in “%1” is kept as “%2”."_qs
-                                               : u"What you had changed in “%1” is kept as “%2”."_qs)
+    if (!kept.isSafe) return path + Words::tr(": what is to be replaced can't be kept beside it");
+    notice((inConflict == InConflict::KeepMine ? Words::tr("What others had changed in “%1” is kept as “%2”.")
+                                               : Words::tr("What you had changed in “%1” is kept as “%2”."))
                .arg(path, kept.path));
     return {};
 }

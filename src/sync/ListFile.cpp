@@ -2,6 +2,7 @@
 
 #include "files/Names.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <cerrno>
 #include <chrono>
@@ -11,11 +12,16 @@
 
 namespace {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(sync)
+};
+
 constexpr int attempts = 1000;
 
 QString reasonFor(const QString &path, const QString &reason)
 {
-    return u"The list of what is to be synchronised can't be written to \"%1\": %2."_qs.arg(path, reason);
+    return Words::tr("The list of what is to be synchronised can't be written to \"%1\": %2.")
+        .arg(path, reason);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "sync/Preview.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <algorithm>
 #include <array>
@@ -7,6 +8,10 @@
 #include <set>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(sync)
+};
 
 using Change = PreviewRow::Change;
 
@@ -91,19 +96,19 @@ QString describeChange(Change change, bool removesSources)
 {
     switch (change) {
     case Change::Delete:
-        return u"deleted at the destination"_qs;
+        return Words::tr("deleted at the destination");
     case Change::Replace:
-        return removesSources ? u"replaced there, removed here"_qs : u"replaced"_qs;
+        return removesSources ? Words::tr("replaced there, removed here") : u"replaced"_qs;
     case Change::Copy:
-        return removesSources ? u"moved there"_qs : u"copied"_qs;
+        return removesSources ? Words::tr("moved there") : u"copied"_qs;
     case Change::RemoveHere:
-        return u"there already, removed here"_qs;
+        return Words::tr("there already, removed here");
     case Change::MakeFolder:
-        return u"folder made"_qs;
+        return Words::tr("folder made");
     case Change::Adjust:
         break;
     }
-    return u"date or permissions set"_qs;
+    return Words::tr("date or permissions set");
 }
 
 QString summarize(const Preview &preview)
@@ -122,9 +127,9 @@ QString summarize(const Preview &preview)
             parts.append(describeChange(change, preview.removesSources) + u": "_qs +
                          QLocale().toString(count));
     }
-    if (parts.isEmpty()) return u"Nothing would be copied or deleted."_qs;
-    return u"%1. %2 would be copied."_qs.arg(
-        parts.join(u"; "_qs), QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat));
+    if (parts.isEmpty()) return Words::tr("Nothing would be copied or deleted.");
+    return Words::tr("%1. %2 would be copied.")
+        .arg(parts.join(u"; "_qs), QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat));
 }
 
 bool deletesMore(const Preview &preview, const Preview &shown)
@@ -146,7 +151,7 @@ QString askForDeletions(const Preview &preview)
         return count == 1 ? u"1 file"_qs : u"%1 files"_qs.arg(QLocale().toString(count));
     };
     if (there > 0 && here > 0)
-        return u"Delete %1 there, remove %2 here?"_qs.arg(files(there), QLocale().toString(here));
-    if (there > 0) return u"Delete %1 there?"_qs.arg(files(there));
-    return here > 0 ? u"Remove %1 here?"_qs.arg(files(here)) : QString();
+        return Words::tr("Delete %1 there, remove %2 here?").arg(files(there), QLocale().toString(here));
+    if (there > 0) return Words::tr("Delete %1 there?").arg(files(there));
+    return here > 0 ? Words::tr("Remove %1 here?").arg(files(here)) : QString();
 }

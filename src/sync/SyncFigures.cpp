@@ -8,6 +8,7 @@
 #include "tools/Threads.h"
 #include "tools/ToolRun.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <algorithm>
 #include <atomic>
@@ -28,6 +29,10 @@ struct SyncFigures::Growth {
 };
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(sync)
+};
 
 QString dataSize(double bytes)
 {
@@ -81,7 +86,7 @@ void SyncFigures::watch(const std::function<void(const QString &)> &tell) const
                 text += u", read: "_qs + dataSize(double(read));
             m_state.setSizeDone(double(m_growth->bytes));
             if (m_growth->bytes > 0)
-                text += u", more at the destination: "_qs + dataSize(double(m_growth->bytes));
+                text += Words::tr(", more at the destination: ") + dataSize(double(m_growth->bytes));
             tell(text);
             shown = now;
         }

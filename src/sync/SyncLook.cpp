@@ -5,11 +5,16 @@
 #include "runs/Looks.h"
 #include "sync/SyncArguments.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <filesystem>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(sync)
+};
 
 bool isEmptyFolder(const QString &path)
 {
@@ -27,8 +32,10 @@ void lookForEmptySources(const SyncOrder &order, Findings &findings)
         const QString copy = order.destination + u'/' + syncArguments::lineOf(entry, root);
         const bool mayHoldFiles = order.isRemote || (QFileInfo(copy).isDir() && !isEmptyFolder(copy));
         if (mayHoldFiles)
-            findings.addConcern(u"\"%1\" is empty, and everything in its copy would be deleted. Is its disk "
-                                "connected?"_qs.arg(entry));
+            findings.addConcern(
+                Words::tr(
+                    "\"%1\" is empty, and everything in its copy would be deleted. Is its disk connected?")
+                    .arg(entry));
     }
 }
 
@@ -46,15 +53,16 @@ void lookAtEntries(const SyncOrder &order, Findings &findings)
     const QString root = syncArguments::rootOf(order.entries);
     for (const QString &entry : syncArguments::misnamedEntries(order.entries))
         findings.addConcern(
-            u"\"%1\" does not lie under the common folder \"%2\" as the list is written, and will "
-            "not be found. Synchronise it from a profile of its own."_qs.arg(entry, root));
+            Words::tr("\"%1\" does not lie under the common folder \"%2\" as the list is written, and will "
+                      "not be found. Synchronise it from a profile of its own.")
+                .arg(entry, root));
     const QString destination = resolved(order.destination);
     for (const QString &entry : order.entries)
         if (!order.isRemote && QFileInfo(entry).isDir() &&
             quillorentLibrary::isInside(destination, resolved(entry)))
-            findings.addConcern(
-                u"The destination lies inside \"%1\", so that each run copies the copies of the last "
-                "one. Choose another destination."_qs.arg(entry));
+            findings.addConcern(Words::tr("The destination lies inside \"%1\", so that each run copies the "
+                                          "copies of the last one. Choose another destination.")
+                                    .arg(entry));
 }
 
 } // namespace

@@ -8,7 +8,13 @@
 #include "sync/SyncFigures.h"
 #include "tools/ToolRun.h"
 
+#include <QCoreApplication>
+
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(sync)
+};
 
 class SyncRun : public Run {
 public:
@@ -79,7 +85,7 @@ void SyncRun::runRsync()
 /// Writes the list, and runs rsync on it.
 ToolResult SyncRun::rsync()
 {
-    if (isCancelled()) return {u"Cancelled before it began.\n"_qs, false};
+    if (isCancelled()) return {Words::tr("Cancelled before it began.\n"), false};
     const ListFile list = makeListFile(syncArguments::list(m_order.entries));
     if (!list.reason.isEmpty()) return {list.reason + u'\n', false};
     m_events.listed(list.path);
@@ -92,9 +98,9 @@ void SyncRun::showFailure(const ToolResult &result)
 {
     QString explanation;
     if (m_state.isCancelledByUser())
-        explanation = u"Cancelled."_qs;
+        explanation = Words::tr("Cancelled.");
     else if (!result.output)
-        explanation = u"rsync's message is not readable text."_qs;
+        explanation = Words::tr("rsync's message is not readable text.");
     else if (result.wasStarted)
         explanation = explainSync(result.text(), m_order);
     m_events.failed(explanation + u"\nRSync ERROR : \n"_qs + result.text() + u"\n *** ERROR! *** "_qs);
@@ -106,8 +112,10 @@ void SyncRun::showFailure(const ToolResult &result)
 void SyncRun::noteSilentFailure(const ToolResult &result)
 {
     if (result.exitStatus == 0) return;
-    m_state.setFailure(item, u"It ended with status %1 and did not say why; not everything is copied. "
-                             "Run it again."_qs.arg(result.exitStatus));
+    m_state.setFailure(
+        item,
+        Words::tr("It ended with status %1 and did not say why; not everything is copied. Run it again.")
+            .arg(result.exitStatus));
 }
 
 void SyncRun::readPreviewFrom(const ToolResult &result)
@@ -125,13 +133,14 @@ void SyncRun::readPreviewFrom(const ToolResult &result)
 
 QString SyncRun::summary() const
 {
-    if (m_kind == Kind::Preview) return m_state.isCancelledByUser() ? u"Preview cancelled."_qs : QString();
+    if (m_kind == Kind::Preview)
+        return m_state.isCancelledByUser() ? Words::tr("Preview cancelled.") : QString();
     if (m_state.isCancelledByUser())
-        return u"Cancelled. What was copied stays; the next run goes on from there."_qs;
+        return Words::tr("Cancelled. What was copied stays; the next run goes on from there.");
     if (!m_state.failure().isEmpty()) return u"Failed. "_qs + m_state.failure();
-    return u"Synchronised %1 in %2."_qs.arg(
-        m_order.entries.size() == 1 ? u"1 entry"_qs : u"%1 entries"_qs.arg(m_order.entries.size()),
-        clockText(m_state.elapsed()));
+    return Words::tr("Synchronised %1 in %2.")
+        .arg(m_order.entries.size() == 1 ? u"1 entry"_qs : u"%1 entries"_qs.arg(m_order.entries.size()),
+             clockText(m_state.elapsed()));
 }
 
 } // namespace

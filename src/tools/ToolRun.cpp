@@ -1,5 +1,6 @@
 #include "tools/ToolRun.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -16,6 +17,10 @@
 #include <vector>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(tools)
+};
 
 /// Says whether it wants more.
 using TakeBytes = std::function<bool(QByteArrayView)>;
@@ -201,7 +206,7 @@ RunningTools &runningTools()
 QString whyNotStarted(const QString &tool, int error)
 {
     const QString reason = QString::fromLocal8Bit(std::strerror(error));
-    return u"Can't start \"%1\": %2. Choose the tool's path on the Tools tab.\n"_qs.arg(tool, reason);
+    return Words::tr("Can't start \"%1\": %2. Choose the tool's path on the Tools tab.\n").arg(tool, reason);
 }
 
 /// An argument ends at a zero byte, so a tool would get less than it is to have: part of a password, or of
@@ -210,8 +215,8 @@ QString whyNoArguments(const QString &tool, const QStringList &arguments)
 {
     const auto isCut = [](const QString &text) { return text.contains(QChar::Null); };
     if (!isCut(tool) && std::none_of(arguments.begin(), arguments.end(), isCut)) return {};
-    return u"Can't start \"%1\": a name or a password for it holds a zero byte.\n"_qs.arg(
-        QString(tool).remove(QChar::Null));
+    return Words::tr("Can't start \"%1\": a name or a password for it holds a zero byte.\n")
+        .arg(QString(tool).remove(QChar::Null));
 }
 
 /// How a tool ended.
@@ -221,7 +226,9 @@ struct RawResult {
 };
 
 /// The tool is killed where nobody wants more of what it says.
-RawResult runRaw(const QString &tool, const QStringList &arguments, int inherited, const TakeBytes &take)
+RawResult runRaw(
+    const QString &tool, const QStringList &arguments, int inherited, const TakeBytes &take,
+    const std::function<void(int)> &started = [](int) {})
 {
     if (const QString problem = whyNoArguments(tool, arguments); !problem.isEmpty())
         return {.problem = problem};
@@ -234,6 +241,7 @@ RawResult runRaw(const QString &tool, const QStringList &arguments, int inherite
     if (error) return {.problem = whyNotStarted(tool, error)};
 
     pipe.closeWriteEnd();
+    started(child);
     if (!pipe.readTo(take)) runningTools().kill(child);
     return {.waitStatus = runningTools().waitFor(child)};
 }
@@ -244,19 +252,23 @@ QString describeEnd(const QString &tool, int status)
 {
     if (!WIFSIGNALED(status)) return {};
     const int signal = WTERMSIG(status);
-    return u"\"%1\" was ended by signal %2 (%3).\n"_qs.arg(tool).arg(signal).arg(
-        QString::fromLocal8Bit(strsignal(signal)));
+    return Words::tr("\"%1\" was ended by signal %2 (%3).\n")
+        .arg(tool)
+        .arg(signal)
+        .arg(QString::fromLocal8Bit(strsignal(signal)));
 }
 
 } // namespace
 
-ToolResult runTool(const QString &tool, const QStringList &arguments, int inherited)
+ToolResult runTool(const QString &tool, const QStringList &arguments, int inherited,
+                   const std::function<void(int)> &started)
 {
     QByteArray bytes;
-    const RawResult raw = runRaw(tool, arguments, inherited, [&](QByteArrayView piece) {
+    const auto take = [&](QByteArrayView piece) {
         bytes.append(piece);
         return true;
-    });
+    };
+    const RawResult raw = runRaw(tool, arguments, inherited, take, started);
     if (!raw.problem.isEmpty()) return {raw.problem, false};
     const int status = raw.waitStatus;
     bytes.append(describeEnd(tool, status).toUtf8());
@@ -306,16 +318,21 @@ void endTools(std::chrono::milliseconds grace)
     runningTools().signalAll(SIGKILL);
 }
 
-// "rchar" in proc_pid_io(5).
 quint64 bytesReadByTools()
 {
     quint64 bytes = 0;
-    for (const pid_t tool : runningTools().ids()) {
-        std::ifstream figures("/proc/" + std::to_string(tool) + "/io");
-        std::string name;
-        quint64 value = 0;
-        if (figures >> name >> value && name == "rchar:") bytes += value;
-    }
+    for (const pid_t tool : runningTools().ids())
+        bytes += bytesReadBy(tool).value_or(0);
+    return bytes;
+}
+
+// "rchar" in proc_pid_io(5).
+std::optional<quint64> bytesReadBy(int processId)
+{
+    std::ifstream figures("/proc/" + std::to_string(processId) + "/io");
+    std::string name;
+    quint64 bytes = 0;
+    if (!(figures >> name >> bytes) || name != "rchar:") return std::nullopt;
     return bytes;
 }
 

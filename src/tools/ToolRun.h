@@ -31,8 +31,11 @@ struct ToolResult {
 /// Runs `tool` (an absolute path) to its end and blocks the calling thread. No shell takes part: each
 /// argument arrives as it is, empty ones too. The child has no controlling terminal, so that it can't stop
 /// for a prompt. It inherits the descriptor `inherited` as it is, unless that is -1. An argument with a zero
-/// byte, of which the tool would get a part, keeps it from being started.
-[[nodiscard]] ToolResult runTool(const QString &tool, const QStringList &arguments, int inherited = -1);
+/// byte, of which the tool would get a part, keeps it from being started. Once it runs, `started` is given
+/// its process id.
+[[nodiscard]] ToolResult runTool(
+    const QString &tool, const QStringList &arguments, int inherited = -1,
+    const std::function<void(int)> &started = [](int) {});
 
 /// The same for a tool that prints bytes: at most the first `most` of them, and then the tool is killed. None
 /// where it could not be started, or ended by itself otherwise than well.
@@ -52,6 +55,10 @@ void endTools(std::chrono::milliseconds grace = std::chrono::seconds(2));
 /// How many bytes the tools that run have read by now, from files and connections; 0 where the system does
 /// not tell. What they have started is not counted.
 [[nodiscard]] quint64 bytesReadByTools();
+
+/// The same of the tool of that process id; none where the system does not tell, as of a program that keeps
+/// others out of its memory.
+[[nodiscard]] std::optional<quint64> bytesReadBy(int processId);
 
 /// How many tools run at this moment.
 [[nodiscard]] int toolsRunning();

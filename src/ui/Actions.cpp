@@ -3,9 +3,10 @@
 #include "app/QuillorentAppDelegate.h"
 #include "ui/ArchiveList.h"
 #include "ui/Binding.h"
-#include "ui/FolderList.h"
+#include "ui/FoldersPage.h"
 #include "ui/PanelDialog.h"
-#include "ui/SecretEdit.h"
+#include "ui/PathList.h"
+#include "ui/SizeEdit.h"
 #include "ui/StepperButtons.h"
 #include "ui/ToolTable.h"
 
@@ -66,30 +67,27 @@ void copyConsole(const ActionCall &call)
     QGuiApplication::clipboard()->setText(call.controller.consoleTextView01.text());
 }
 
-void showPage(const ActionCall &call, const QString &page)
-{
-    auto &tabs = *call.window.findChild<QTabWidget *>(u"mainTabs"_qs);
-    tabs.setCurrentWidget(tabs.findChild<QWidget *>(page));
-}
-
-// What is typed next is the password; a certificate is chosen.
-void showPasswords(const ActionCall &call)
-{
-    showPage(call, u"passwordsPage"_qs);
-    QWidget &page = *call.window.findChild<QStackedWidget *>(u"passTabs"_qs)->currentWidget();
-    for (auto *field : page.findChildren<SecretEdit *>()) {
-        if (!field->isVisibleTo(&page)) continue;
-        field->setFocus();
-        return;
-    }
-    page.findChild<QPushButton *>()->setFocus();
-}
-
 void showTools(const ActionCall &call)
 {
     call.controller.profileButton05ActionEnd();
-    showPage(call, u"toolsPage"_qs);
+    auto &tabs = *call.window.findChild<QTabWidget *>(u"mainTabs"_qs);
+    tabs.setCurrentWidget(tabs.findChild<QWidget *>(u"toolsPage"_qs));
 }
+
+FoldersPage &foldersPage(const ActionCall &call) { return *call.window.findChild<FoldersPage *>(); }
+
+void removeFolders(const ActionCall &call)
+{
+    const int first = call.controller.listTableView.selectedRow();
+    foldersPage(call).removeSelected();
+    call.controller.listTableView.setSelectedRows(first < 0 ? QList<int>() : QList<int>{first});
+}
+
+void showPasswords(const ActionCall &call) { foldersPage(call).goTo(Hindrance::Place::Password); }
+
+void openDestination(const ActionCall &call) { foldersPage(call).openDestination(); }
+
+void tryRestore(const ActionCall &call) { foldersPage(call).tryRestore(); }
 
 void openDownloadPage(const ActionCall &call)
 {
@@ -116,7 +114,7 @@ constexpr ActionRow table[] = {
     {"mainTabs"_name, send<&Controller::tabViewDidSelectTabViewItem>},
 
     {"folderButton01"_name, send<&Controller::folderButton01Action>},
-    {"folderButton02"_name, removeSelected<&Controller::listTableView, &Controller::folderButton02Action>},
+    {"folderButton02"_name, removeFolders},
     {"fileButton01"_name, send<&Controller::fileButton01Action>},
     {"checkBox04"_name, send<&Controller::prefCheck01Action>},
     {"prefText01"_name, send<&Controller::prefStepper01Action>},
@@ -124,6 +122,8 @@ constexpr ActionRow table[] = {
     {"checkBox05"_name, send<&Controller::checkBox05Action>},
     {"checkBox06"_name, send<&Controller::checkBox06Action>},
     {"protectionButton"_name, showPasswords},
+    {"openDestinationButton"_name, openDestination},
+    {"tryRestoreButton"_name, tryRestore},
     {"buttonLaunch01"_name, send<&Controller::buttonLaunch01>},
 
     {"extractButton01"_name, send<&Controller::extractButton01Action>},
@@ -206,11 +206,8 @@ constexpr ActionRow table[] = {
     {"prefCheck03"_name, send<&Controller::prefCheck03Action>},
     {"updatesCheck01"_name, send<&Controller::updatesCheck01Action>},
 
-    {"progressPanel01"_name, cancelRun<&Controller::buttonCancel01>},
     {"buttonCancel01"_name, cancelRun<&Controller::buttonCancel01>},
-    {"progressPanel02"_name, cancelRun<&Controller::buttonCancel02>},
     {"buttonCancel02"_name, cancelRun<&Controller::buttonCancel02>},
-    {"progressPanel03"_name, cancelRun<&Controller::buttonCancel03>},
     {"buttonCancel03"_name, cancelRun<&Controller::buttonCancel03>},
     {"previewPanel01"_name, send<&Controller::previewPanel01Close>},
     {"previewPanel01CloseButton"_name, send<&Controller::previewPanel01Close>},
@@ -252,6 +249,8 @@ bool connectControl(QWidget &widget, Perform perform)
         return bool(QObject::connect(button, &QAbstractButton::clicked, &widget, performPlain));
     if (auto *combo = qobject_cast<QComboBox *>(&widget))
         return bool(QObject::connect(combo, &QComboBox::activated, &widget, performPlain));
+    if (auto *size = qobject_cast<SizeEdit *>(&widget))
+        return bool(QObject::connect(size, &SizeEdit::thousandsEdited, &widget, perform));
     if (auto *field = qobject_cast<QLineEdit *>(&widget))
         return bool(QObject::connect(field, &QLineEdit::textEdited, &widget, perform));
     if (auto *stepper = qobject_cast<StepperButtons *>(&widget))

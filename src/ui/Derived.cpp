@@ -6,14 +6,13 @@
 #include "keys/SecretRules.h"
 #include "keys/Strength.h"
 #include "sync/SyncMeaning.h"
-#include "ui/CompressionHint.h"
+#include "ui/FoldersPage.h"
 #include "ui/Header.h"
 #include "ui/Protection.h"
 #include "ui/RefreshQueue.h"
 #include "ui_MainWindow.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 
 namespace ui {
 namespace {
@@ -21,15 +20,6 @@ namespace {
 using Controller = QuillorentAppDelegate;
 
 QString tr(const char *text) { return QCoreApplication::translate("Window", text); }
-
-QString volumeHint(const QString &size)
-{
-    bool isNumber = false;
-    const qint64 thousands = size.toLongLong(&isNumber);
-    if (!isNumber || thousands <= 0) return tr("not a size");
-    if (thousands > std::numeric_limits<qint64>::max() / 1000) return {};
-    return u"= "_qs + QLocale().formattedDataSize(thousands * 1000, 1, QLocale::DataSizeSIFormat);
-}
 
 // Says what to do, and never blocks: whose password it is decides.
 QString strengthHint(const QString &password)
@@ -59,21 +49,6 @@ void leadToShownField(RefreshQueue &queue, outlets::CheckBox &isMasked, QLabel &
                       QWidget &clear)
 {
     queue.watch(isMasked, [&] { label.setBuddy(isMasked.isOn() ? &masked : &clear); });
-}
-
-void showFolders(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
-{
-    enableBySelection(queue, all.listTableView, *form.folderButton02);
-    queue.watch({&all.passCombo01, &all.checkBox01, &all.secureText01a, &all.secureText01b, &all.keychainUser,
-                 &all.keychainPass, &all.keychainClear, &all.keychainOrigin, &all.certFile01},
-                [&] { form.protectionText->setText(protectionText(all)); });
-    new CompressionHint(all, queue, *form.compressionGain);
-    queue.watch(all.prefText01, [&] { form.volumeHint->setText(volumeHint(all.prefText01.text())); });
-    queue.watch(all.checkBox04, [&] {
-        for (QWidget *widget : std::initializer_list<QWidget *>{form.prefText01, form.prefStepper01,
-                                                                form.volumeUnit, form.volumeHint})
-            widget->setEnabled(all.checkBox04.isOn());
-    });
 }
 
 void showExtraction(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
@@ -126,7 +101,7 @@ void showSynchronisation(Controller &all, Ui::MainWindow &form, RefreshQueue &qu
 void showDerived(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
 {
     showHeader(all, form, queue);
-    showFolders(all, form, queue);
+    new FoldersPage(all, form, queue);
     showExtraction(all, form, queue);
     showPasswords(all, form, queue);
     showSynchronisation(all, form, queue);

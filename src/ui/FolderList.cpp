@@ -1,59 +1,144 @@
 #include "ui/FolderList.h"
 
+#include "files/Names.h"
 #include "ui/Appearance.h"
+#include "ui/SourceFacts.h"
+#include "ui/Wording.h"
 
 #include <QFileInfo>
-#include <QGuiApplication>
+#include <QFont>
+#include <QHeaderView>
 
 namespace ui {
 namespace {
 
 const QString pathColumn = u"c10"_qs;
-const QString kindCell = u"kind"_qs;
 
-enum Kind { Missing, File, Folder };
+enum Column { Name, Place, Size, BackedUp };
 
-// Asking the file system may take long (a network folder that does not answer), so it happens where slow
-// cells do.
-QVariant kindOfEntry(const outlets::TableDataSource &source, const QString &, int row)
+QList<OutletTableModel::Column> columns()
 {
-    const QFileInfo entry(source.objectValue(pathColumn, row).toString());
-    if (entry.isSymLink() && !entry.exists()) return int(File);
-    if (!entry.exists()) return int(Missing);
-    return int(entry.isDir() ? Folder : File);
+    return {{pathColumn, FolderListModel::tr("Name")},
+            {u"place"_qs, FolderListModel::tr("Place")},
+            {u"size"_qs, FolderListModel::tr("Size")},
+            {u"backedUp"_qs, FolderListModel::tr("Last backed up")}};
+}
+
+QString shortly(SourceState state)
+{
+    switch (state) {
+    case SourceState::Fine:
+        break;
+    case SourceState::Missing:
+        return FolderListModel::tr("not found");
+    case SourceState::Unsuitable:
+        return FolderListModel::tr("neither file nor folder");
+    case SourceState::Link:
+        return FolderListModel::tr("only a link");
+    case SourceState::HoldsDestination:
+        return FolderListModel::tr("holds the destination");
+    }
+    return {};
+}
+
+QString atLength(SourceState state)
+{
+    switch (state) {
+    case SourceState::Fine:
+        break;
+    case SourceState::Missing:
+        return FolderListModel::tr("Not found, and left out by a backup. Connect its disk, or remove it.");
+    case SourceState::Unsuitable:
+        return FolderListModel::tr("Neither a file nor a folder, and left out by a backup. Remove it.");
+    case SourceState::Link:
+        return FolderListModel::tr("A link to another place: only the link itself would be backed up. Add "
+                                   "the folder that it leads to.");
+    case SourceState::HoldsDestination:
+        return FolderListModel::tr("The archives go into this folder, so each would hold the ones before it. "
+                                   "Choose another destination.");
+    }
+    return {};
 }
 
 } // namespace
 
-FolderListModel::FolderListModel(QObject *parent)
-    : OutletTableModel({{pathColumn, tr("Folder or file")}}, parent, kindOfEntry, {kindCell})
+FolderListModel::FolderListModel(QObject *parent) : OutletTableModel(columns(), parent) {}
+
+void FolderListModel::setFacts(const SourceFacts &facts)
 {
+    m_facts = &facts;
+    connect(&facts, &SourceFacts::changed, this, [this] {
+        if (rowCount() > 0) Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+    });
+}
+
+QString FolderListModel::text(const QString &path, int column) const
+{
+    const SourceFacts::Fact fact = m_facts ? m_facts->of(path) : SourceFacts::Fact();
+    switch (column) {
+    case Name: {
+        const QString name = quillorentLibrary::lastPathComponent(path);
+        return name.isEmpty() ? path : name;
+    }
+    case Place:
+        return pathText(QFileInfo(path.endsWith(u'/') ? path.chopped(1) : path).path());
+    case Size:
+        if (fact.state != SourceState::Fine) return shortly(fact.state);
+        // The space keeps it off the next column.
+        return fact.bytes ? sizeText(*fact.bytes) + QChar(QChar::Nbsp)
+                          : tr("…", "a size that is being measured");
+    default:
+        if (fact.backedUp.isValid()) return momentText(fact.backedUp);
+        return fact.isKnown ? tr("never") : QString();
+    }
+}
+
+QString FolderListModel::explanation(const QString &path) const
+{
+    return m_facts ? atLength(m_facts->of(path).state) : QString();
 }
 
 QVariant FolderListModel::data(const QModelIndex &index, int role) const
 {
-    const int kind =
-        cell(index.row(), kindCell).isValid() ? cell(index.row(), kindCell).toInt() : int(Folder);
+    const QString path = cell(index.row(), pathColumn).toString();
+    const auto fact = m_facts ? m_facts->of(path) : SourceFacts::Fact();
+    const bool isWrong = fact.state != SourceState::Fine;
     switch (role) {
+    case Qt::DisplayRole:
+        return text(path, index.column());
     case Qt::DecorationRole:
-        return kind == File ? themeIcon(u"text-x-generic"_qs) : themeIcon(u"folder"_qs);
-    case Qt::ForegroundRole:
-        return kind == Missing ? QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text)
-                               : QVariant();
-    case Qt::ToolTipRole: {
-        const QString path = cell(index.row(), pathColumn).toString();
-        return plainToolTip(kind == Missing ? tr("%1\nnot found: will be skipped").arg(path) : path);
+        if (index.column() != Name) return {};
+        if (isWrong) return themeIcon(u"dialog-warning"_qs);
+        return themeIcon(fact.isFile ? u"text-x-generic"_qs : u"folder"_qs);
+    case Qt::FontRole: {
+        QFont font;
+        font.setItalic(fact.state == SourceState::Missing);
+        font.setBold(isWrong && index.column() == Size);
+        return isWrong ? font : QVariant();
     }
+    case Qt::TextAlignmentRole:
+        return index.column() == Size && !isWrong ? int(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
+    case Qt::ToolTipRole:
+        return plainToolTip(isWrong ? path + u'\n' + explanation(path) : path);
     case Qt::AccessibleDescriptionRole:
-        return kind == Missing ? tr("not found: will be skipped") : QVariant();
+        return isWrong ? explanation(path) : path;
     default:
         return OutletTableModel::data(index, role);
     }
 }
 
-FolderListView::FolderListView(QWidget *parent) : PathListView(tr("Drop folders here, or press Add"), parent)
+FolderListView::FolderListView(QWidget *parent)
+    : PathListView(tr("Drop folders here, or press Add"), parent), m_list(new FolderListModel(this))
 {
-    setOutletModel(new FolderListModel(this));
+    setOutletModel(m_list);
+    QHeaderView &header = *horizontalHeader();
+    header.setStretchLastSection(false);
+    header.setSectionResizeMode(Name, QHeaderView::Stretch);
+    header.setSectionResizeMode(Place, QHeaderView::Stretch);
+    header.setSectionResizeMode(Size, QHeaderView::ResizeToContents);
+    header.setSectionResizeMode(BackedUp, QHeaderView::ResizeToContents);
+    header.setSectionsClickable(false);
+    header.show();
 }
 
 } // namespace ui

@@ -218,8 +218,10 @@ Panels::Panels(QuillorentAppDelegate &controller, QWidget &window)
     m_all += makePreferences(controller, window);
     m_all +=
         {makeConsole(window), makePlain<Ui::PreviewPanel01>(window), makePlain<Ui::UpdatePanel01>(window)};
-    addProgressSheet<Ui::ProgressPanel01>(controller, window);
-    addProgressSheet<Ui::ProgressPanel02>(controller, window);
+    addProgressSheet<Ui::ProgressPanel01, &Ui::ProgressPanel01::view01progressIndicator01>(controller,
+                                                                                           window);
+    addProgressSheet<Ui::ProgressPanel02, &Ui::ProgressPanel02::progress02progressIndicator01>(controller,
+                                                                                               window);
     // rsync itself counts what it does.
     m_progressSheets += makePlain<Ui::ProgressPanel03>(window);
     m_progressSheets.last()->keepWindowClosable();
@@ -228,15 +230,15 @@ Panels::Panels(QuillorentAppDelegate &controller, QWidget &window)
 
 Panels::~Panels() = default;
 
-template <class Form>
+template <class Form, auto bar>
 void Panels::addProgressSheet(const QuillorentAppDelegate &controller, QWidget &window)
 {
     Form form;
     PanelDialog *sheet = makePanel(form, window);
     sheet->keepWindowClosable();
     auto figures = std::make_unique<ProgressFigures>(
-        controller,
-        ProgressFigures::Widgets{*form.itemsDone, *form.bytesDone, *form.elapsed, *form.itemsRunning});
+        controller, ProgressFigures::Widgets{*(form.*bar), *form.bytesDone, *form.pace, *form.timeLeft,
+                                             *form.elapsed, *form.itemsRunning});
     QObject::connect(sheet, &PanelDialog::visibilityChanged, figures.get(), &ProgressFigures::setRunning);
     m_figures.push_back(std::move(figures));
     m_progressSheets += sheet;

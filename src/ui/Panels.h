@@ -23,7 +23,7 @@ public:
     [[nodiscard]] const QList<PanelDialog *> &progressSheets() const { return m_progressSheets; }
 
 private:
-    template <class Form>
+    template <class Form, auto bar>
     void addProgressSheet(const QuillorentAppDelegate &controller, QWidget &window);
 
     QList<QWidget *> m_all;

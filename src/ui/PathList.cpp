@@ -8,9 +8,8 @@
 #include <QUrl>
 
 namespace ui {
-namespace {
 
-QStringList localPaths(const QMimeData &data)
+QStringList PathListView::localPaths(const QMimeData &data)
 {
     QStringList paths;
     for (const QUrl &url : data.urls())
@@ -18,17 +17,16 @@ QStringList localPaths(const QMimeData &data)
     return paths;
 }
 
-void acceptPaths(QDropEvent &event)
+bool PathListView::acceptPaths(QDropEvent &event)
 {
     if (localPaths(*event.mimeData()).isEmpty()) {
         event.ignore();
-        return;
+        return false;
     }
     event.setDropAction(Qt::CopyAction);
     event.accept();
+    return true;
 }
-
-} // namespace
 
 PathListView::PathListView(const QString &advice, QWidget *parent) : OutletTableView(parent), m_advice(advice)
 {
@@ -38,14 +36,27 @@ PathListView::PathListView(const QString &advice, QWidget *parent) : OutletTable
     horizontalHeader()->setStretchLastSection(true);
 }
 
-void PathListView::dragEnterEvent(QDragEnterEvent *event) { acceptPaths(*event); }
+void PathListView::dragEnterEvent(QDragEnterEvent *event)
+{
+    acceptPaths(*event);
+    setHeldOver(event->isAccepted());
+}
 
 void PathListView::dragMoveEvent(QDragMoveEvent *event) { acceptPaths(*event); }
 
+void PathListView::dragLeaveEvent(QDragLeaveEvent *) { setHeldOver(false); }
+
 void PathListView::dropEvent(QDropEvent *event)
 {
+    setHeldOver(false);
     acceptPaths(*event);
     if (event->isAccepted()) Q_EMIT pathsDropped(localPaths(*event->mimeData()));
+}
+
+void PathListView::setHeldOver(bool isHeldOver)
+{
+    m_isHeldOver = isHeldOver;
+    viewport()->update();
 }
 
 void PathListView::keyPressEvent(QKeyEvent *event)
@@ -59,11 +70,35 @@ void PathListView::keyPressEvent(QKeyEvent *event)
 void PathListView::paintEvent(QPaintEvent *event)
 {
     OutletTableView::paintEvent(event);
-    if (outletModel().rowCount() > 0) return;
     QPainter painter(viewport());
+    if (m_isHeldOver)
+        paintWelcome(painter);
+    else if (outletModel().rowCount() == 0)
+        paintAdvice(painter);
+}
+
+void PathListView::paintAdvice(QPainter &painter) const
+{
     painter.setPen(palette().color(QPalette::PlaceholderText));
     painter.drawText(viewport()->rect().adjusted(12, 12, -12, -12),
                      int(Qt::AlignCenter) | int(Qt::TextWordWrap), m_advice);
+}
+
+// Over the rows, which shine through: they stay where they are.
+void PathListView::paintWelcome(QPainter &painter) const
+{
+    const QRect all = viewport()->rect();
+    QColor veil = palette().color(QPalette::Base);
+    veil.setAlphaF(0.85F);
+    painter.fillRect(all, veil);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 3));
+    painter.drawRect(all.adjusted(1, 1, -2, -2));
+    QFont bold = font();
+    bold.setBold(true);
+    painter.setFont(bold);
+    painter.setPen(palette().color(QPalette::Text));
+    painter.drawText(all.adjusted(12, 12, -12, -12), int(Qt::AlignCenter) | int(Qt::TextWordWrap),
+                     tr("Let go to add to the list"));
 }
 
 } // namespace ui

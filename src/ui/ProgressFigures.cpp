@@ -1,12 +1,15 @@
 #include "ui/ProgressFigures.h"
 
 #include "runs/Clock.h"
-#include "runs/RunState.h"
+#include "runs/ProgressWords.h"
 #include "ui/Appearance.h"
+#include "ui/RunBar.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
+#include <QStyledItemDelegate>
 #include <QTreeWidget>
 
 using namespace std::chrono_literals;
@@ -14,27 +17,72 @@ using namespace std::chrono_literals;
 namespace ui {
 namespace {
 
-QString dataSize(double bytes)
+enum Column { Name, Step, Done };
+constexpr int partRole = Qt::UserRole; // how far an item is, in hundredths
+
+/// Draws how far an item is.
+class BarDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &cell, const QModelIndex &index) const override
+    {
+        QStyleOptionProgressBar bar;
+        bar.rect = cell.rect.adjusted(2, 2, -2, -2);
+        bar.palette = cell.palette;
+        bar.fontMetrics = cell.fontMetrics;
+        bar.direction = cell.direction;
+        bar.state = cell.state | QStyle::State_Horizontal;
+        bar.maximum = 100;
+        bar.progress = index.data(partRole).toInt();
+        bar.text = index.data(Qt::AccessibleTextRole).toString();
+        bar.textVisible = true;
+        bar.textAlignment = Qt::AlignCenter;
+        QApplication::style()->drawControl(QStyle::CE_ProgressBar, &bar, painter, cell.widget);
+    }
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &cell, const QModelIndex &) const override
+    {
+        return {cell.fontMetrics.averageCharWidth() * 16, cell.fontMetrics.height() + 8};
+    }
+};
+
+void setText(QTreeWidgetItem &row, Column column, const QString &text)
 {
-    return QLocale().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeSIFormat);
+    if (row.text(column) != text) row.setText(column, text);
 }
 
-void setCell(QTreeWidgetItem &row, int column, const QString &text)
+void setPath(QTreeWidgetItem &row, const QString &path)
 {
-    if (row.text(column) == text) return;
-    row.setText(column, text);
-    row.setToolTip(column, plainToolTip(text));
+    // A path reads from the left also where the words do not.
+    const QString shown = QChar(0x200e) + path;
+    if (row.text(Name) == shown) return;
+    row.setText(Name, shown);
+    row.setToolTip(Name, plainToolTip(path));
+}
+
+void setPart(QTreeWidgetItem &row, double done)
+{
+    const int hundredths = int(done * 100);
+    if (row.data(Done, partRole) == hundredths) return;
+    row.setData(Done, partRole, hundredths);
+    row.setData(Done, Qt::AccessibleTextRole,
+                QCoreApplication::translate("ProgressFigures", "%1 %").arg(QLocale().toString(hundredths)));
 }
 
 } // namespace
 
-ProgressFigures::ProgressFigures(const RunState &run, const Widgets &widgets) : m_run(run), m_widgets(widgets)
+ProgressFigures::ProgressFigures(const RunState &run, const Widgets &widgets)
+    : m_run(run), m_progress(run), m_widgets(widgets)
 {
-    widgets.itemsRunning.setHeaderLabels({tr("Being worked on"), tr("Stage")});
-    QHeaderView &header = *widgets.itemsRunning.header();
+    QTreeWidget &list = widgets.items;
+    list.setHeaderLabels({tr("What"), tr("Step"), tr("Done")});
+    list.setItemDelegateForColumn(Done, new BarDelegate(&list));
+    QHeaderView &header = *list.header();
     header.setStretchLastSection(false);
-    header.setSectionResizeMode(0, QHeaderView::Stretch);
-    header.setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    header.setSectionResizeMode(Name, QHeaderView::Stretch);
+    header.setSectionResizeMode(Step, QHeaderView::ResizeToContents);
+    header.setSectionResizeMode(Done, QHeaderView::ResizeToContents);
     m_timer.setInterval(200ms);
     connect(&m_timer, &QTimer::timeout, this, &ProgressFigures::update);
 }
@@ -45,32 +93,44 @@ void ProgressFigures::setRunning(bool running)
         m_timer.stop();
         return;
     }
+    m_progress = RunProgress(m_run);
+    m_firstRunning = -1;
+    m_widgets.items.clear();
     update();
     m_timer.start();
 }
 
 void ProgressFigures::update()
 {
-    m_widgets.itemsDone.setText(tr("%1 of %2 items").arg(m_run.foldersDone()).arg(m_run.foldersToDo()));
-    m_widgets.bytesDone.setText(tr("%1 of %2").arg(dataSize(m_run.sizeDone()), dataSize(m_run.sizeToDo())));
+    const RunFigures figures = m_progress.look();
+    m_widgets.bar.reach(figures.done());
+    m_widgets.bytesDone.setText(progressWords::bytes(figures));
+    m_widgets.pace.setText(progressWords::pace(figures));
+    m_widgets.timeLeft.setText(progressWords::left(figures));
     m_widgets.elapsed.setText(tr("Time: %1").arg(clockText(m_run.elapsed())));
-    updateItems();
+    updateItems(figures.items);
 }
 
 // Rows are changed in place: a list that is made anew five times a second could not be scrolled.
-void ProgressFigures::updateItems()
+void ProgressFigures::updateItems(const std::vector<RunFigures::Item> &items)
 {
-    QTreeWidget &list = m_widgets.itemsRunning;
-    const std::vector<RunState::Item> items = m_run.itemsRunning();
+    QTreeWidget &list = m_widgets.items;
     const int count = int(items.size());
     while (list.topLevelItemCount() > count)
         delete list.takeTopLevelItem(list.topLevelItemCount() - 1);
     while (list.topLevelItemCount() < count)
         new QTreeWidgetItem(&list);
-    for (int row = 0; row < count; ++row) {
-        setCell(*list.topLevelItem(row), 0, items[size_t(row)].path);
-        setCell(*list.topLevelItem(row), 1, items[size_t(row)].stage);
+    int firstRunning = -1;
+    for (int number = 0; number < count; ++number) {
+        const RunFigures::Item &item = items[size_t(number)];
+        QTreeWidgetItem &row = *list.topLevelItem(number);
+        setPath(row, item.path);
+        setText(row, Step, progressWords::step(item));
+        setPart(row, item.done);
+        if (firstRunning < 0 && item.phase == RunItem::Phase::Running) firstRunning = number;
     }
+    if (firstRunning >= 0 && firstRunning != std::exchange(m_firstRunning, firstRunning))
+        list.scrollToItem(list.topLevelItem(firstRunning));
 }
 
 } // namespace ui

@@ -10,7 +10,9 @@
 #include "ui/LevelBar.h"
 #include "ui/OutletTableView.h"
 #include "ui/PanelDialog.h"
+#include "ui/RunBar.h"
 #include "ui/SecretEdit.h"
+#include "ui/SizeEdit.h"
 #include "ui/Spinner.h"
 #include "ui/StepperButtons.h"
 #include "ui/TextArea.h"
@@ -21,7 +23,6 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QPlainTextEdit>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStackedWidget>
@@ -45,6 +46,13 @@ void connectWidget(RefreshQueue &queue, outlets::TextField &field, QLineEdit &ed
     });
     QObject::connect(&edit, &QLineEdit::textEdited, &edit,
                      [&field](const QString &text) { field.setText(text); });
+}
+
+void connectWidget(RefreshQueue &queue, outlets::TextField &field, SizeEdit &edit)
+{
+    queue.watch(field, [&field, &edit] { edit.setThousands(field.text()); });
+    QObject::connect(&edit, &SizeEdit::thousandsEdited, &edit,
+                     [&field](const QString &thousands) { field.setText(thousands); });
 }
 
 void connectWidget(RefreshQueue &queue, outlets::SecretField &field, SecretEdit &edit)
@@ -120,17 +128,12 @@ void connectWidget(RefreshQueue &queue, outlets::Chooser &outlet, QComboBox &com
                      [&outlet](int index) { outlet.selectIndex(index); });
 }
 
-void connectWidget(RefreshQueue &queue, outlets::ProgressBar &outlet, QProgressBar &bar)
+void connectWidget(RefreshQueue &queue, outlets::ProgressBar &outlet, RunBar &bar)
 {
-    constexpr int steps = 1000; // bytes do not fit into the bar's integers
     queue.watch(outlet, [&outlet, &bar] {
         const auto state = outlet.state();
-        if (state.indeterminate) {
-            bar.setRange(0, 0);
-            return;
-        }
-        bar.setRange(0, steps);
-        bar.setValue(state.maximum > 0 ? int(std::clamp(state.value / state.maximum, 0.0, 1.0) * steps) : 0);
+        bar.setIndeterminate(state.indeterminate);
+        bar.reach(state.maximum > 0 ? state.value / state.maximum : 0);
     });
 }
 
@@ -221,7 +224,8 @@ bool tie(RefreshQueue &queue, outlets::Outlet &outlet, QWidget &widget)
     using namespace outlets;
     // A password in any other widget would leave copies.
     if (dynamic_cast<SecretField *>(&outlet)) return tieAs<SecretField, SecretEdit>(queue, outlet, widget);
-    return tieAs<TextField, QLineEdit>(queue, outlet, widget) ||
+    return tieAs<TextField, SizeEdit>(queue, outlet, widget) ||
+           tieAs<TextField, QLineEdit>(queue, outlet, widget) ||
            tieAs<TextField, QLabel>(queue, outlet, widget) ||
            tieAs<TextField, TextArea>(queue, outlet, widget) ||
            tieAs<CheckBox, QCheckBox>(queue, outlet, widget) ||
@@ -230,7 +234,7 @@ bool tie(RefreshQueue &queue, outlets::Outlet &outlet, QWidget &widget)
            tieAs<Selector, QComboBox>(queue, outlet, widget) ||
            tieAs<Selector, QStackedWidget>(queue, outlet, widget) ||
            tieAs<Chooser, QComboBox>(queue, outlet, widget) ||
-           tieAs<outlets::ProgressBar, QProgressBar>(queue, outlet, widget) ||
+           tieAs<ProgressBar, RunBar>(queue, outlet, widget) ||
            tieAs<ProgressIndicator, Spinner>(queue, outlet, widget) ||
            tieAs<LevelIndicator, LevelBar>(queue, outlet, widget) ||
            tieAs<TextView, QPlainTextEdit>(queue, outlet, widget) ||

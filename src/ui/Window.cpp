@@ -10,7 +10,9 @@
 #include "ui/PanelDialog.h"
 #include "ui/Panels.h"
 #include "ui/PathDirection.h"
+#include "ui/RunNotices.h"
 #include "ui/ScrollingPages.h"
+#include "ui/StopQuestion.h"
 #include "ui/UnsavedChanges.h"
 #include "ui/WindowMemory.h"
 #include "ui_MainWindow.h"
@@ -20,28 +22,6 @@
 #include <QShortcut>
 
 namespace ui {
-namespace {
-
-struct RunWords {
-    QString title;
-    QString text;
-    QString consequence; ///< of stopping it
-};
-
-RunWords wordsOfRun(const QWidget &sheet)
-{
-    if (sheet.objectName() == u"progressPanel03")
-        return {Window::tr("Synchronisation in progress"), Window::tr("Folders are being synchronised."),
-                Window::tr("Quitting stops it: what is copied stays, and the next run goes on from there.")};
-    if (sheet.objectName() == u"progressPanel02")
-        return {Window::tr("Extraction in progress"), Window::tr("An extraction is running."),
-                Window::tr("Quitting stops it: what is extracted stays, and is not complete.")};
-    return {Window::tr("Backup in progress"), Window::tr("A backup is running."),
-            Window::tr("Quitting stops it: archives that are finished stay, those being made are not "
-                       "completed.")};
-}
-
-} // namespace
 
 Window::Window(QuillorentAppDelegate &controller)
     : m_controller(controller), m_form(std::make_unique<Ui::MainWindow>())
@@ -54,6 +34,10 @@ Window::Window(QuillorentAppDelegate &controller)
         scaleIcons(*root);
     m_binding = std::make_unique<Binding>(controller.outlets(), roots());
     connectActions(controller, *this, roots());
+    for (PanelDialog *sheet : m_panels->progressSheets())
+        connect(sheet, &PanelDialog::closeRequested, this, [this, sheet] { askToCancel(*sheet); });
+    const auto *notices = new RunNotices(controller, *this, m_panels->progressSheets());
+    connect(notices, &RunNotices::showRequested, this, &Window::comeToFront);
     m_unsaved = std::make_unique<UnsavedChanges>(controller, *this, *m_form->unsavedText);
     showDerived(controller, *m_form, m_binding->queue());
     connectMenu(*this);
@@ -124,30 +108,23 @@ void Window::closeEvent(QCloseEvent *event)
     Q_EMIT closed();
 }
 
+// Escape is pressed by mistake, and the work of hours may be behind it.
+void Window::askToCancel(const PanelDialog &sheet)
+{
+    if (m_question || m_controller.isCancelledByUser()) return;
+    // "progressPanel01" has "buttonCancel01".
+    auto *cancel = sheet.findChild<QAbstractButton *>(u"buttonCancel"_qs + sheet.objectName().last(2));
+    m_question =
+        ui::askToStop(*this, m_panels->progressSheets(), StopFor::Itself, [cancel] { cancel->click(); });
+}
+
 void Window::askToStop()
 {
     if (m_question) return;
-    QWidget *over = this;
-    for (PanelDialog *sheet : m_panels->progressSheets())
-        if (sheet->isVisible()) over = sheet;
-    const RunWords words = wordsOfRun(*over);
-    auto *question =
-        new QMessageBox(QMessageBox::Question, words.title, words.text, QMessageBox::NoButton, over);
-    question->setInformativeText(words.consequence);
-    QPushButton *stop = question->addButton(tr("&Stop and quit"), QMessageBox::DestructiveRole);
-    QPushButton *keep = question->addButton(tr("&Keep running"), QMessageBox::RejectRole);
-    question->setDefaultButton(keep);
-    question->setEscapeButton(keep);
-    question->setAttribute(Qt::WA_DeleteOnClose);
-    connect(stop, &QAbstractButton::clicked, this, [this] {
+    m_question = ui::askToStop(*this, m_panels->progressSheets(), StopFor::Quitting, [this] {
         m_mayStop = true;
         close();
     });
-    // The question goes with the sheet: then the run is over, or cancelled.
-    for (PanelDialog *sheet : m_panels->progressSheets())
-        connect(sheet, &PanelDialog::visibilityChanged, question, &QDialog::reject);
-    m_question = question;
-    question->open();
 }
 
 } // namespace ui

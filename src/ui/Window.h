@@ -14,6 +14,7 @@ class MainWindow;
 namespace ui {
 
 class Binding;
+class PanelDialog;
 class Panels;
 class UnsavedChanges;
 
@@ -43,6 +44,7 @@ private:
     void finishForm();
     void addShortcuts();
     void askToStop();
+    void askToCancel(const PanelDialog &sheet);
 
     QuillorentAppDelegate &m_controller;
     std::unique_ptr<Ui::MainWindow> m_form;

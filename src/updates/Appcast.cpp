@@ -1,11 +1,16 @@
 #include "updates/Appcast.h"
 
+#include <QCoreApplication>
 #include <QHostAddress>
 #include <QRegularExpression>
 #include <QVersionNumber>
 #include <QXmlStreamReader>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(updates)
+};
 
 // In characters. Who makes the feed, or can change it, is not to decide how long the window works on it.
 constexpr qsizetype longestMarkup = 8192;
@@ -109,7 +114,7 @@ bool isTrustworthy(const QUrl &address)
 AppcastContent readAppcast(const QByteArray &feed)
 {
     QXmlStreamReader xml(feed);
-    if (!isRss(xml)) return {std::nullopt, u"it is no RSS feed"_qs};
+    if (!isRss(xml)) return {std::nullopt, Words::tr("it is no RSS feed")};
     AppcastContent content;
     while (xml.readNextStartElement()) {
         if (xml.name() != u"item") {

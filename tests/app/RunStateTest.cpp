@@ -1,7 +1,14 @@
-#include "runs/RunState.h"
+#include "TemporaryFolder.h"
 
+#include "runs/RunProgress.h"
+#include "tools/ToolRun.h"
+
+#include <fstream>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <thread>
+
+using namespace std::chrono_literals;
 
 TEST(RunState, LosesNoUpdate)
 {
@@ -42,4 +49,67 @@ TEST(RunState, KeepsTheFlagUpWhileQuitting)
     state.setCancelFlag(false);
     EXPECT_TRUE(state.cancelFlag());
     EXPECT_TRUE(state.isCancelledByUser());
+}
+
+TEST(RunProgress, FollowsWhatToolsReadAndNeverGoesBack)
+{
+    const TemporaryFolder folder;
+    const std::string pipe = (folder / "pipe").string();
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    RunState state;
+    RunProgress progress(state);
+    for (const bool isHidden : {false, true}) {
+        ASSERT_TRUE(state.tryBeginRun());
+        EXPECT_EQ(progress.look().done(), 0) << "it is another run's";
+        state.planItem(u"/a"_qs, 1000);
+        state.planItem(u"/b"_qs, 3000);
+        state.beginItem(u"/b"_qs);
+        state.setStage(u"/b"_qs, u"storing"_qs, {.share = 0.4, .bytes = 1e6});
+        std::jthread tool([&] {
+            static_cast<void>(runTool(u"/bin/cat"_qs, {QString::fromStdString(pipe)}, -1,
+                                      [&](int id) { state.setTool(u"/b"_qs, id); }));
+            state.setTool(u"/b"_qs, -1);
+        });
+        std::ofstream input(pipe, std::ios::binary);
+        input << std::string(500'000, 'x') << std::flush;
+        while (progress.look().items[1].done < 0.2)
+            std::this_thread::sleep_for(1ms);
+        EXPECT_NEAR(progress.look().bytesDone, 600, 30);
+        input.close();
+        tool.join();
+        EXPECT_EQ(progress.look().bytesDone, 1200);
+
+        state.setStage(u"/b"_qs, u"encrypting"_qs, {.share = 0.6, .bytes = 1e6});
+        EXPECT_EQ(progress.look().bytesDone, 1200);
+        state.setTool(u"/b"_qs, isHidden ? 999'999'999 : getpid());
+        const double later = progress.look(std::chrono::steady_clock::now() + 1h).bytesDone;
+        EXPECT_TRUE(later > 1200 && later < 3000) << later;
+        state.setTool(u"/b"_qs, 0);
+        EXPECT_EQ(progress.look().bytesDone, later);
+        state.endItem(u"/b"_qs);
+        EXPECT_EQ(progress.look().bytesDone, 3000);
+        state.endRun();
+    }
+}
+
+TEST(Pace, SaysNothingThatItCanNotKnow)
+{
+    const Pace::Time start{1h};
+    Pace pace;
+    double done = 0;
+    const auto go = [&](int from, int to, double perSecond) {
+        for (int tenth = from * 10; tenth < to * 10; ++tenth)
+            pace.note(start + tenth * 100ms, done += perSecond / 10);
+    };
+    go(0, 2, 100);
+    EXPECT_FALSE(pace.perSecond());
+    go(2, 8, 100);
+    EXPECT_NEAR(pace.perSecond().value_or(0), 100, 1);
+    EXPECT_FALSE(pace.left(2000)) << "too early";
+    go(8, 12, 100);
+    EXPECT_NEAR(double(pace.left(2200).value_or(0s).count()), 10, 1);
+    go(12, 25, 10);
+    EXPECT_FALSE(pace.left(10'000)) << "nobody knows how it goes on";
+    go(25, 70, 0);
+    EXPECT_FALSE(pace.perSecond()) << "nothing moves";
 }

@@ -286,7 +286,8 @@ void FaultHome::expectNextRunRepairs(const Stage &stage) const
     // A file that came after the program's death can't be told from the user's own: it is kept, and named.
     std::vector<std::string> foreign = foreignNames();
     std::erase_if(foreign, [&](const std::string &name) {
-        return name.starts_with("kept-") && contains(next.errors, name);
+        return (stage.product.empty() ? name.starts_with("kept-") : name == "kept-" + stage.product) &&
+               contains(next.errors, name);
     });
     EXPECT_EQ(foreign, std::vector<std::string>());
     EXPECT_TRUE(isNew()) << next.errors;

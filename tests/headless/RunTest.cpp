@@ -10,6 +10,8 @@
 
 namespace fs = std::filesystem;
 
+using namespace std::string_literals;
+
 namespace {
 
 using Words = std::vector<std::string>;
@@ -99,7 +101,6 @@ TEST(Run, SaysWhyItCanNotStart)
                          {{"sync", "Default profile"}, 2, "The list is empty"},
                          {extract("/no/such.rar"), 2, "There is no archive \"/no/such.rar\""},
                          {extract(home.text("later.part2.rar")), 2, "The first volume is missing"}});
-    using namespace std::string_literals;
     for (const auto &[content, reason] : std::vector<std::pair<std::string, std::string>>{
              {"", "Write the password there"},
              {"\nfrom a file", "Write the password there"},
@@ -235,6 +236,11 @@ TEST(Run, TakesThePasswordFromTheProfilesSource)
 
 TEST(Run, EndsItsToolsOnASignalAndKeepsOthersOut)
 {
+    const SecretService session;
+    const std::string manager = "org.freedesktop.login1";
+    const auto sleep =
+        session.serve(manager, {"/usr/bin/python3", "-m", "dbusmock", "--system", "--template", "logind"});
+    const auto holds = [&] { return session.ask(manager, manager + ".Manager.ListInhibitors"); };
     for (const auto &[signal, name, synchronises] :
          {std::tuple{SIGINT, "rar", false}, {SIGTERM, "rsync", true}}) {
         ProgramHome home(QUILLORENT_RUN);
@@ -246,6 +252,9 @@ TEST(Run, EndsItsToolsOnASignalAndKeepsOthersOut)
             result = sync ? home.run({"sync", "Mine"}) : home.backUp();
         });
         const int tool = stub.processId();
+        waitUntil("a hold", [&] { return contains(holds(), "shutdown"); });
+        for (const std::string &word : {"idle:sleep"s, "block"s, synchronises ? "synchronised"s : "backup"s})
+            EXPECT_TRUE(contains(holds(), word)) << word << " is not in " << holds();
         if (!synchronises) {
             const CommandResult second = home.backUp({"--yes"});
             EXPECT_EQ(second.status, 2) << second.errors;
@@ -264,5 +273,6 @@ TEST(Run, EndsItsToolsOnASignalAndKeepsOthersOut)
         EXPECT_EQ(result.status, 1) << result.errors;
         EXPECT_TRUE(contains(result.errors, "Cancelled")) << result.errors;
         EXPECT_NE(kill(tool, 0), 0) << "the tool is left running";
+        waitUntil("the end of the hold", [&] { return !contains(holds(), "idle"); });
     }
 }

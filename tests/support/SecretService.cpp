@@ -1,5 +1,6 @@
 #include "SecretService.h"
 
+#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
@@ -13,14 +14,19 @@ namespace fs = std::filesystem;
 namespace {
 
 const std::string address = "DBUS_SESSION_BUS_ADDRESS";
+const std::string machineAddress = "DBUS_SYSTEM_BUS_ADDRESS";
+const std::string secrets = "org.freedesktop.secrets";
 
 // Without the folders of services: the bus starts nothing by itself, neither a service nor a prompt.
 std::string busConfiguration(const fs::path &socket)
 {
     return "<busconfig><type>session</type><listen>unix:path=" + socket.string() +
-           "</listen><auth>EXTERNAL</auth><policy context=\"default\"><allow send_destination=\"*\"/>"
+           "</listen><auth>EXTERNAL</auth><policy context=\"default\"><allow user=\"*\"/><allow "
+           "send_destination=\"*\"/>"
            "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>";
 }
+
+} // namespace
 
 void waitUntil(const std::string &what, const std::function<bool()> &condition)
 {
@@ -31,8 +37,6 @@ void waitUntil(const std::string &what, const std::function<bool()> &condition)
     }
 }
 
-} // namespace
-
 SecretService::SecretService()
 {
     const fs::path runtime = m_folder / "runtime";
@@ -41,6 +45,7 @@ SecretService::SecretService()
         fs::permissions(folder, fs::perms::owner_all);
     }
     m_environment = {{address, "unix:path=" + (m_folder / "bus").string()},
+                     {machineAddress, "unix:path=" + (m_folder / "bus").string()},
                      {"HOME", (m_folder / "home").string()},
                      {"XDG_RUNTIME_DIR", runtime.string()},
                      {"XDG_DATA_HOME", (m_folder / "data").string()},
@@ -49,20 +54,24 @@ SecretService::SecretService()
                      {"DISPLAY", ""},
                      {"WAYLAND_DISPLAY", ""}};
 
+    fs::permissions(m_folder.path(), fs::perms(0711)); // programs that a test makes another user's, too
     writeFile(m_folder / "bus.conf", busConfiguration(m_folder / "bus"));
     m_bus = run({"dbus-daemon", "--nofork", "--config-file=" + (m_folder / "bus.conf").string()});
     waitUntil("the bus", [this] { return fs::exists(m_folder / "bus"); });
 
-    if (const char *own = getenv(address.c_str())) m_replaced[address] = own;
-    setenv(address.c_str(), m_environment[address].c_str(), 1);
+    for (const std::string &bus : {address, machineAddress}) {
+        if (const char *own = getenv(bus.c_str())) m_replaced[bus] = own;
+        setenv(bus.c_str(), m_environment[bus].c_str(), 1);
+    }
 }
 
 SecretService::~SecretService()
 {
-    if (m_replaced.contains(address))
-        setenv(address.c_str(), m_replaced[address].c_str(), 1);
-    else
-        unsetenv(address.c_str());
+    for (const std::string &bus : {address, machineAddress})
+        if (m_replaced.contains(bus))
+            setenv(bus.c_str(), m_replaced[bus].c_str(), 1);
+        else
+            unsetenv(bus.c_str());
 }
 
 std::unique_ptr<BackgroundProgram> SecretService::run(const std::vector<std::string> &arguments,
@@ -93,19 +102,37 @@ void SecretService::thaw() const { m_daemon->signal(SIGCONT); }
 void SecretService::launch(const std::vector<std::string> &more, const std::string &input)
 {
     stop();
-    const std::vector<std::string> ownerQuery{"dbus-send",
-                                              "--bus=" + m_environment[address],
-                                              "--print-reply",
-                                              "--dest=org.freedesktop.DBus",
-                                              "/",
-                                              "org.freedesktop.DBus.NameHasOwner",
-                                              "string:org.freedesktop.secrets"};
-    const auto isThere = [&] { return runCommand(ownerQuery).output.find("true") != std::string::npos; };
-    waitUntil("the end of the service", [&] { return !isThere(); });
+    waitUntil("the end of the service", [&] { return !has(secrets); });
 
     std::vector<std::string> arguments{"gnome-keyring-daemon", "--foreground", "--components=secrets",
                                        "--control-directory=" + (m_folder / "control").string()};
     arguments.insert(arguments.end(), more.begin(), more.end());
     m_daemon = run(arguments, input);
-    waitUntil("the service", isThere);
+    waitUntil("the service", [&] { return has(secrets); });
+}
+
+bool SecretService::has(const std::string &name) const
+{
+    const std::string bus = "--bus=" + m_environment.at(address);
+    const std::string dbus = "org.freedesktop.DBus";
+    return runCommand({"dbus-send", bus, "--print-reply", "--dest=" + dbus, "/", dbus + ".NameHasOwner",
+                       "string:" + name})
+               .output.find("true") != std::string::npos;
+}
+
+std::unique_ptr<BackgroundProgram> SecretService::serve(const std::string &name,
+                                                        const std::vector<std::string> &arguments) const
+{
+    auto service = run(arguments);
+    waitUntil(name, [&] { return has(name); });
+    return service;
+}
+
+std::string SecretService::ask(const std::string &service, const std::string &method) const
+{
+    std::string path = "/" + service;
+    std::replace(path.begin(), path.end(), '.', '/');
+    return runCommand({"dbus-send", "--bus=" + m_environment.at(address), "--print-reply",
+                       "--dest=" + service, path, method})
+        .output;
 }

@@ -3,14 +3,19 @@
 #include "Command.h"
 #include "TemporaryFolder.h"
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
+/// Throws where the condition does not come true in good time.
+void waitUntil(const std::string &what, const std::function<bool()> &condition);
+
 /// A D-Bus session with a real Secret Service (gnome-keyring) in a home of its own. While it lives, the
-/// test's own process and what it starts find this session and no other. Nobody can be asked for a password
-/// here. Make and use it on the main thread: its processes end with the thread that made them.
+/// test's own process and what it starts find this session and no other; it is the machine's bus, too. Nobody
+/// can be asked for a password here. Make and use it on the main thread: its processes end with the thread
+/// that made them.
 class SecretService {
 public:
     enum class Keyring { Unlocked, Locked, None };
@@ -32,9 +37,16 @@ public:
     /// For processes that shall see this session.
     [[nodiscard]] const std::map<std::string, std::string> &environment() const { return m_environment; }
 
+    /// Another service of the session, which is the machine's, too: returns when it has its name.
+    [[nodiscard]] std::unique_ptr<BackgroundProgram> serve(const std::string &name,
+                                                           const std::vector<std::string> &arguments) const;
+    /// What such a service answers to a method of the interface, by whose name its object is called.
+    [[nodiscard]] std::string ask(const std::string &service, const std::string &method) const;
+
 private:
     [[nodiscard]] std::unique_ptr<BackgroundProgram> run(const std::vector<std::string> &arguments,
                                                          const std::string &input = {}) const;
+    [[nodiscard]] bool has(const std::string &name) const;
     void launch(const std::vector<std::string> &more, const std::string &input);
 
     TemporaryFolder m_folder;

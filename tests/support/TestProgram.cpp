@@ -25,7 +25,8 @@ TestProgram::TestProgram()
     quillorentLibrary::setResourceFolder(QStringLiteral(QUILLORENT_TEMPLATES));
     pauses() = {.beforeMeasuring = 20ms, .settingsSaved = 20ms, .profilesSaved = 20ms, .profileLoaded = 20ms};
     // Never the keychain of whoever runs the tests; a test that needs one brings a session of its own.
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
+    for (const char *bus : {"DBUS_SESSION_BUS_ADDRESS", "DBUS_SYSTEM_BUS_ADDRESS"})
+        qputenv(bus, "unix:path=/nowhere");
     setKeychain(nullptr);
     m_delegate = std::make_unique<QuillorentAppDelegate>();
     m_delegate->warningPanel01.observe([this] {

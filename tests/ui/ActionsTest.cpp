@@ -12,8 +12,10 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QTextBrowser>
+#include <QToolButton>
 
 namespace {
 
@@ -118,13 +120,34 @@ TEST_F(ActionsTest, TheVolumeSizeIsTypedAndStepped)
     QTest::keyClicks(&size, u"0"_qs);
     settle();
     EXPECT_EQ(size.cursorPosition(), 2) << "what comes back from the outlet moves it";
-    EXPECT_EQ(widget<QLabel>(u"volumeHint"_qs).text(), u"= 500.0 kB"_qs);
-    for (const auto &[key, expected] :
-         {std::pair{Qt::Key_Up, u"1500"_qs}, {Qt::Key_Down, u"500"_qs}, {Qt::Key_Down, u"1"_qs}}) {
+    EXPECT_EQ(widget<QLabel>(u"volumeHint"_qs).text(), u"= 500.0 MB"_qs);
+    for (const auto &[typed, kept] : {std::pair{u"4.7GB"_qs, u"4700000"_qs},
+                                      {u"25 g"_qs, u"25000000"_qs},
+                                      {u"0.001TB"_qs, u"1000000"_qs},
+                                      {u"many"_qs, u"many"_qs},
+                                      {u"1e3"_qs, u"1e3"_qs},
+                                      {u"500kb"_qs, u"500"_qs}}) {
+        size.selectAll();
+        QTest::keyClicks(&size, typed);
+        settle();
+        EXPECT_EQ(delegate.currentRecord().string(u"part"_qs), kept);
+        EXPECT_EQ(size.text(), typed) << "it is changed under the typing";
+    }
+    for (const auto &[key, expected, shown] : {std::tuple{Qt::Key_Up, u"1500"_qs, u"1.5 MB"_qs},
+                                               {Qt::Key_Down, u"500"_qs, u"500 kB"_qs},
+                                               {Qt::Key_Down, u"1"_qs, u"1 kB"_qs}}) {
         QTest::keyClick(&size, key);
         settle();
         EXPECT_EQ(delegate.currentRecord().string(u"part"_qs), expected);
-        EXPECT_EQ(size.text(), expected);
+        EXPECT_EQ(size.text(), shown);
+    }
+    // The usual ones by a menu, and none.
+    for (const auto &[row, isSplit, part] :
+         {std::tuple{0, true, u"700000"_qs}, {4, false, u"700000"_qs}, {1, true, u"4700000"_qs}}) {
+        widget<QToolButton>(u"volumeSizes"_qs).menu()->actions().at(row)->trigger();
+        settle();
+        EXPECT_EQ(delegate.currentRecord().isOn(u"split"_qs), isSplit);
+        EXPECT_EQ(delegate.currentRecord().string(u"part"_qs), part);
     }
 }
 
@@ -145,13 +168,6 @@ TEST_F(ActionsTest, FoldersComeAndGo)
     EXPECT_EQ(folders(), QStringList{three[1]});
     drop(list, {QUrl::fromLocalFile(program.path("home")), QUrl(u"http://localhost/page"_qs)});
     EXPECT_EQ(folders(), (QStringList{three[1], program.path("home")}));
-
-    // One of the two exists.
-    const auto toolTip = [&](int row) {
-        return list.outletModel().data(list.outletModel().index(row, 0), Qt::ToolTipRole).toString();
-    };
-    EXPECT_TRUE(waitUntil([&] { return toolTip(0).contains(u"not found"); }));
-    EXPECT_FALSE(toolTip(1).contains(u"not found"));
 }
 
 TEST_F(ActionsTest, TheGainOfCompressionIsToldOfWhatIsOnTheList)

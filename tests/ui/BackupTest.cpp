@@ -1,12 +1,17 @@
 #include "TestWindow.h"
 
+#include "Command.h"
+#include "SecretService.h"
 #include "Stub.h"
 #include "Tree.h"
 
 #include "tools/ToolRun.h"
+#include "ui/RunBar.h"
 #include "ui/TextArea.h"
 
+#include <QApplication>
 #include <QDir>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -14,6 +19,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTabWidget>
+#include <QWindow>
 
 namespace {
 
@@ -71,14 +77,30 @@ TEST_F(BackupTest, AWholeBackupByClicks)
 {
     auto &size = widget<QLineEdit>(u"prefText01"_qs);
     size.selectAll();
-    QTest::keyClicks(&size, u"30"_qs);
+    QTest::keyClicks(&size, u"30 kB"_qs);
 
+    const auto &bar = widget<ui::RunBar>(u"view01progressIndicator01"_qs);
+    std::vector<int> shown;
+    QObject::connect(&bar, &QProgressBar::valueChanged, &bar, [&](int value) { shown.push_back(value); });
     click(u"buttonLaunch01"_qs);
     waitForEnd();
+    EXPECT_TRUE(std::any_of(shown.begin(), shown.end(), [&](int value) {
+        return value > 0 && value < bar.maximum();
+    })) << "one folder is more than one step";
+    EXPECT_TRUE(std::is_sorted(shown.begin(), shown.end())) << "it goes back";
     EXPECT_FALSE(widget(u"consolePanel01"_qs).isVisible()) << delegate.consoleTextView01.text().toStdString();
     const QStringList volumes = archives();
     EXPECT_GE(volumes.size(), 2);
     EXPECT_TRUE(widget<ui::TextArea>(u"outputText01"_qs).text().contains(u"1 of 1"));
+    const auto &protection = widget<QLabel>(u"protectionText"_qs);
+    EXPECT_TRUE(waitUntil([&] { return protection.text().contains(u"it opens the archives"); }));
+    EXPECT_TRUE(widget<QLabel>(u"resultHeadline"_qs).text().contains(u"· 1 folder · 6"));
+    EXPECT_FALSE(widget(u"outputText01"_qs).isVisible()) << "said twice";
+
+    type(u"correct house"_qs, u"correct house"_qs);
+    EXPECT_FALSE(protection.text().contains(u"opens"));
+    EXPECT_TRUE(waitUntil([&] { return protection.text().contains(u"does not open the archives"); }));
+    type(u"correct horse"_qs, u"correct horse"_qs);
 
     // What is to be replaced is asked about first; the question is not answered by closing it.
     clickAndAnswer(u"buttonLaunch01"_qs, u"warningPanel03"_qs, [this] {
@@ -135,6 +157,8 @@ TEST_F(BackupTest, WhatIsLeftInClearIsShownUntilItIsRemoved)
     waitForEnd();
     click(u"consoleCloseButton"_qs);
     EXPECT_EQ(archives(), QStringList{u"docs.rar"_qs});
+    EXPECT_TRUE(waitUntil(
+        [this] { return widget<ui::TextArea>(u"resultDetails"_qs).text().startsWith(u"What failed"); }));
     EXPECT_TRUE(widget(u"clearText01"_qs).isVisible());
     EXPECT_TRUE(widget<ui::TextArea>(u"clearText01"_qs).text().contains(program.path("archives/docs.rar")));
     EXPECT_LT(widget(u"mainTabs"_qs).height(), heightBefore);
@@ -145,13 +169,62 @@ TEST_F(BackupTest, WhatIsLeftInClearIsShownUntilItIsRemoved)
     EXPECT_EQ(widget(u"mainTabs"_qs).height(), heightBefore);
 }
 
-TEST_F(BackupTest, ClosingDuringARunAsks)
+// By a real service of notices, whose buttons a script presses.
+TEST_F(BackupTest, WhoLooksElsewhereIsToldOfTheEnd)
+{
+    SecretService session;
+    writeFile(program.folder() / "dunstrc", "[all]\nsummary = \"*\"\naction_name = open\n");
+    const auto dunst = session.serve("org.freedesktop.Notifications",
+                                     {"env", std::string("DISPLAY=") + getenv("DISPLAY"), "dunst", "-conf",
+                                      (program.folder() / "dunstrc").string()});
+    QStringList opened;
+    delegate.openAddress = [&](const QString &address) { opened.append(address); };
+    // In front, whoever works with the window sees it there.
+    window.activateWindow();
+    ASSERT_TRUE(waitUntil([] { return QApplication::activeWindow() != nullptr; }));
+    click(u"buttonLaunch01"_qs);
+    waitForEnd();
+
+    QWindow other;
+    other.show();
+    clickAndAnswer(u"buttonLaunch01"_qs, u"warningPanel03"_qs, [this] { click(u"buttonLaunch01b"_qs); });
+    ASSERT_TRUE(waitUntil([this] { return widget(u"progressPanel01"_qs).isVisible(); }));
+    other.requestActivate();
+    ASSERT_TRUE(waitUntil([] { return !QApplication::activeWindow(); }));
+    waitForEnd();
+    const auto displayed = [] {
+        return QString::fromStdString(runCommand({"dunstctl", "count", "displayed"}).output);
+    };
+    ASSERT_TRUE(waitUntil([&] { return displayed().startsWith(u"1"); })) << displayed().toStdString();
+    EXPECT_EQ(runCommand({"dunstctl", "action", "0"}).status, 0);
+    EXPECT_TRUE(waitUntil([&] { return !opened.isEmpty(); }));
+    EXPECT_EQ(opened, QStringList{u"file://"_qs + program.path("archives")});
+    runCommand({"dunstctl", "close-all"});
+    const std::string history = runCommand({"dunstctl", "history"}).output;
+    EXPECT_NE(history.find("Backed up 1 of 1"), std::string::npos) << history;
+}
+
+TEST_F(BackupTest, StoppingAsks)
 {
     const Stub hanging(program.folder(), "rar", "hang");
     program.useTool(u"RAR"_qs, hanging.path());
     click(u"buttonLaunch01"_qs);
     ASSERT_TRUE(
         waitUntil([this] { return widget(u"progressPanel01"_qs).isVisible() && toolsRunning() > 0; }));
+    for (const QString &answer : {u"&Keep running"_qs, QString()}) {
+        QTest::keyClick(&widget(u"progressPanel01"_qs), Qt::Key_Escape);
+        settle();
+        ASSERT_TRUE(button(u"&Stop"_qs));
+        EXPECT_FALSE(delegate.cancelFlag());
+        if (QPushButton *given = button(answer)) given->click();
+        settle();
+    }
+    endTools();
+    waitForEnd();
+    EXPECT_FALSE(button(u"&Stop"_qs)) << "there is nothing left to stop";
+    click(u"consoleCloseButton"_qs);
+    click(u"buttonLaunch01"_qs);
+    ASSERT_TRUE(waitUntil([] { return toolsRunning() > 0; }));
     const QSignalSpy closed(&window, &ui::Window::closed);
     // Closing must get past the sheet, which blocks the rest of the window.
     EXPECT_FALSE(widget(u"progressPanel01"_qs).isModal());

@@ -3,7 +3,8 @@
 #include "TestWindow.h"
 
 #include "keychain/Secret.h"
-#include "ui/OutletTableModel.h"
+#include "ui/OutletTableView.h"
+#include "ui/SizeEdit.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -120,11 +121,12 @@ protected:
             return box->isChecked() ? u"1"_qs : u"0"_qs;
         if (const auto *chooser = qobject_cast<QComboBox *>(&shownBy))
             return control.values.value(chooser->currentIndex());
+        if (const auto *size = qobject_cast<ui::SizeEdit *>(&shownBy)) return size->thousands();
         if (const auto *field = qobject_cast<QLineEdit *>(&shownBy)) return field->text();
-        const QAbstractItemModel &model = *widget<QAbstractItemView>(control.name).model();
+        const ui::OutletTableModel &model = widget<ui::OutletTableView>(control.name).outletModel();
         QStringList rows;
         for (int row = 0; row < model.rowCount(); ++row)
-            rows.append(model.index(row, 0).data().toString());
+            rows.append(model.cell(row, u"c10"_qs).toString());
         return rows.join(u' ');
     }
 
@@ -147,7 +149,7 @@ protected:
             }
         } else if (auto *field = qobject_cast<QLineEdit *>(&pressed)) {
             field->selectAll();
-            QTest::keyClicks(field, value);
+            QTest::keyClicks(field, qobject_cast<ui::SizeEdit *>(field) ? value + u" kB"_qs : value);
         } else if (qobject_cast<QComboBox *>(&pressed)) {
             QTest::keyClick(&pressed, Qt::Key_Home);
             for (qsizetype row = control.values.indexOf(value); row > 0; --row)

@@ -193,7 +193,6 @@ TEST(PagesTest, AreCutOffNowhere)
             opened.forEachView([&](const std::string &view, const QList<QWidget *> &widgets) {
                 for (const QWidget *widget : widgets) {
                     if (!widget->isVisible() || widget->objectName().startsWith(u"qt_")) continue;
-                    if (widget->window()->objectName().startsWith(u"progressPanel")) continue;
                     const std::string why = whyCut(*widget);
                     EXPECT_TRUE(why.empty())
                         << points << " pt, "

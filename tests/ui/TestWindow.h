@@ -4,6 +4,7 @@
 
 #include "tools/Threads.h"
 #include "ui/Binding.h"
+#include "ui/FirstSteps.h"
 #include "ui/Window.h"
 
 #include <QAbstractItemView>
@@ -21,8 +22,9 @@ inline void PrintTo(const QString &text, std::ostream *stream)
 /// The program with its window, started up.
 class WindowTest : public testing::Test {
 protected:
-    WindowTest()
+    explicit WindowTest(bool isFirstStart = false)
     {
+        if (!isFirstStart) ui::FirstSteps::rememberSeen();
         program.closesWarnings = false;
         window.show();
         program.start();

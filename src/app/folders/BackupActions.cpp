@@ -8,14 +8,6 @@
 
 namespace {
 
-bool holdsNoPassword(const QuillorentAppDelegate &delegate)
-{
-    QString password = delegate.passwordSelector();
-    const bool isEmpty = password.isEmpty();
-    wipe(password);
-    return isEmpty;
-}
-
 /// The keychain's field keeps what it holds when a fetch fails, and then it is of another account.
 QString whatIsOdd(const QuillorentAppDelegate &delegate)
 {
@@ -27,23 +19,6 @@ QString whatIsOdd(const QuillorentAppDelegate &delegate)
            "password on the Password tab, or choose the other account again."_qs.arg(origin, account);
 }
 
-/// What keeps a backup from starting, in words that say what to do; the empty string where nothing does.
-QString whatIsMissing(const QuillorentAppDelegate &delegate)
-{
-    const plist::Dictionary record = delegate.currentRecord();
-    const QString destination = delegate.fileText01.text();
-    if (destination.isEmpty())
-        return u"No destination is chosen. Choose the folder that the archives go to."_qs;
-    // A record without a destination leaves the one of the profile before it on screen.
-    if (record.string(u"path"_qs) != destination)
-        return u"The destination that is shown is not this profile's own. Choose it again."_qs;
-    if (delegate.passCombo01.selectedIndex() == PasswordTab::KeychainPassword && holdsNoPassword(delegate))
-        return u"No password was fetched from the keychain. See the Password tab; without a password nothing is backed up."_qs;
-    if (record.array(u"folders"_qs).count() == 0)
-        return u"The profile has no folders. Add those that are to be backed up."_qs;
-    return {};
-}
-
 /// What the look, the question and the work have in common.
 struct Backup {
     std::shared_ptr<BackupOrder> order;
@@ -53,9 +28,7 @@ struct Backup {
 RunStart prepare(QuillorentAppDelegate &delegate, bool mayOverwrite)
 {
     const auto backup = std::make_shared<Backup>(Backup{readBackupOrder(delegate.currentProfile())});
-    const auto look = [backup, missing = whatIsMissing(delegate),
-                       odd = whatIsOdd(delegate)](const std::function<bool()> &goesOn) {
-        if (!missing.isEmpty()) return Findings{.obstacles = {missing}};
+    const auto look = [backup, odd = whatIsOdd(delegate)](const std::function<bool()> &goesOn) {
         Findings findings = lookAtBackup(*backup->order, backup->lock, goesOn);
         findings.addConcern(odd);
         return findings;

@@ -28,6 +28,7 @@ std::shared_ptr<BackupOrder> readOptions(const QString &profile, const QString &
         order->certificate = delegate.passwordSelector();
     else
         order->password = Secret::fromText(delegate.passwordSelector());
+    order->awaitsKeychain = delegate.passCombo01.selectedIndex() == PasswordTab::KeychainPassword;
     if (delegate.asksTwice && delegate.passCombo01.selectedIndex() <= PasswordTab::TypedPassword)
         order->repetition = Secret::fromText(delegate.secureText02.text());
     order->compresses = delegate.checkBox06.isOn();
@@ -50,7 +51,11 @@ void addItem(BackupOrder &order, const QString &source, const QString &baseName)
 std::shared_ptr<BackupOrder> readBackupOrder(const QString &profile)
 {
     const plist::Dictionary record = theDelegate().listPlist().dictionary(profile);
-    auto order = readOptions(profile, record.string(u"path"_qs).value_or(QString()));
+    const QString destination = record.string(u"path"_qs).value_or(QString());
+    auto order = readOptions(profile, destination);
+    // A record without a destination leaves the one of the profile before it on screen.
+    const QString shown = theDelegate().fileText01.text();
+    order->showsOtherDestination = !shown.isEmpty() && shown != destination;
     const QStringList folders = record.array(u"folders"_qs).strings();
     for (const QString &folder : folders)
         addItem(*order, folder, quillorentLibrary::nameRepeated(folder, folders));

@@ -5,9 +5,14 @@
 #include "keys/SecretRules.h"
 #include "tools/Threads.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(passwords)
+};
 
 outlets::OpenPanel keyChooser(const QString &title)
 {
@@ -26,11 +31,11 @@ void showOrHide(outlets::TextField &field, const QString &text)
 /// right one.
 QString keyWarning(const QString &certificate, const QString &key)
 {
-    const QString meaning = u"Nothing that is encrypted for this certificate can be opened without its "
-                            u"private key: make sure that you "
-                            "have it, and a copy in a safe place."_qs;
-    if (key.isEmpty()) return u"No private key is chosen. "_qs + meaning;
-    if (!QFileInfo(key).isFile()) return u"The private key is not where it was. "_qs + meaning;
+    const QString meaning =
+        Words::tr("Nothing that is encrypted for this certificate can be opened without its private key: "
+                  "make sure that you have it, and a copy in a safe place.");
+    if (key.isEmpty()) return Words::tr("No private key is chosen. ") + meaning;
+    if (!QFileInfo(key).isFile()) return Words::tr("The private key is not where it was. ") + meaning;
     if (quillorentLibrary::testKey(certificate, key)) return {};
     return quillorentLibrary::whyNoKey(certificate, key);
 }
@@ -59,7 +64,7 @@ CertificateNotes notesOn(const QString &certificate)
 
 void QuillorentAppDelegate::certButton01Action()
 {
-    const auto chosen = openPanel(keyChooser(u"Choose a certificate"_qs));
+    const auto chosen = openPanel(keyChooser(Words::tr("Choose a certificate")));
     if (!chosen) return;
     const QString path = chosen->value(0);
     detachThread(u"check-cert"_qs,
@@ -79,7 +84,7 @@ void QuillorentAppDelegate::certButton01Action()
 
 void QuillorentAppDelegate::pkButton01Action()
 {
-    const auto chosen = openPanel(keyChooser(u"Choose the private key"_qs));
+    const auto chosen = openPanel(keyChooser(Words::tr("Choose the private key")));
     if (!chosen) return;
     const QString path = chosen->value(0);
     detachThread(u"check-key"_qs, [this, path, certificate = certFile01.text(), record = currentRecord(),

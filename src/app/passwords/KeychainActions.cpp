@@ -3,7 +3,13 @@
 #include "keys/SecretRules.h"
 #include "tools/Threads.h"
 
+#include <QCoreApplication>
+
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(passwords)
+};
 
 QString service() { return u"com.brolvanek.Quillorent.encrypt"_qs; }
 
@@ -21,13 +27,13 @@ struct Answer {
 
 /// The words for an end that is told of by this tab's own account; any other end is the keychain's to
 /// explain.
-struct Words {
+struct Answers {
     QString success;
     KeychainStatus expectedFailure;
     QString failure;
 };
 
-QString describe(KeychainStatus status, const Words &words)
+QString describe(KeychainStatus status, const Answers &words)
 {
     if (status == KeychainStatus::Success) return words.success;
     return status == words.expectedFailure ? words.failure : keychain()->statusText(status);
@@ -37,16 +43,17 @@ QString describe(KeychainStatus status, const Words &words)
 QString whyNotUsable(const QString &password)
 {
     if (password.isNull())
-        return u"It is no text, in UTF-8. Another program stored it: choose another account."_qs;
+        return Words::tr("It is no text, in UTF-8. Another program stored it: choose another account.");
     return whyBadPassword(password);
 }
 
 Answer fetch(const QString &account)
 {
-    const Words words{u"The password of \"%1\" was fetched from the keychain."_qs.arg(account),
-                      KeychainStatus::ItemNotFound,
-                      u"The keychain holds no password of \"%1\". Check the account name; or type the "
-                      "password and store it."_qs.arg(account)};
+    const Answers words{Words::tr("The password of \"%1\" was fetched from the keychain.").arg(account),
+                        KeychainStatus::ItemNotFound,
+                        Words::tr("The keychain holds no password of \"%1\". Check the account name; or type "
+                                  "the password and store it.")
+                            .arg(account)};
     Answer answer;
     const auto item =
         EMGenericKeychainItem::genericKeychainItemForService(service(), account, &answer.status);
@@ -61,7 +68,7 @@ Answer fetch(const QString &account)
     QString password = item->password();
     const QString refusal = whyNotUsable(password);
     if (!refusal.isEmpty())
-        answer.text = u"What the keychain holds of \"%1\" is of no use. "_qs.arg(account) + refusal;
+        answer.text = Words::tr("What the keychain holds of \"%1\" is of no use. ").arg(account) + refusal;
     // An empty one is shown as what it is.
     if (refusal.isEmpty() || (password.isEmpty() && !password.isNull())) {
         answer.password = Secret::fromText(password);
@@ -78,13 +85,14 @@ Answer store(const QString &account, const Secret &secret)
     const QString refusal = password.isEmpty() ? QString() : whyBadPassword(password);
     if (!refusal.isEmpty()) {
         wipe(password);
-        return {KeychainStatus::InvalidValue, u"Nothing was stored. "_qs + refusal};
+        return {KeychainStatus::InvalidValue, Words::tr("Nothing was stored. ") + refusal};
     }
-    const Words words{
-        u"The password was stored in the keychain for \"%1\"."_qs.arg(account), KeychainStatus::DuplicateItem,
-        u"The keychain holds a password of \"%1\" already, and it stays as it is. Choose another "
-        "account name, or remove the old one in your desktop's password program "
-        "first."_qs.arg(account)};
+    const Answers words{
+        Words::tr("The password was stored in the keychain for \"%1\".").arg(account),
+        KeychainStatus::DuplicateItem,
+        Words::tr("The keychain holds a password of \"%1\" already, and it stays as it is. Choose another "
+                  "account name, or remove the old one in your desktop's password program first.")
+            .arg(account)};
     Answer answer;
     EMGenericKeychainItem::addGenericKeychainItemForService(service(), account, password, &answer.status);
     answer.text = describe(answer.status, words);
@@ -102,7 +110,7 @@ Answer unlock(const QString &account, bool isFetchWanted)
     Answer answer;
     answer.status = EMKeychainItem::unlockKeychain();
     if (answer.status == KeychainStatus::Success && isFetchWanted) return fetch(account);
-    answer.text = answer.status == KeychainStatus::Success ? u"The keychain is unlocked."_qs
+    answer.text = answer.status == KeychainStatus::Success ? Words::tr("The keychain is unlocked.")
                                                            : keychain()->statusText(answer.status);
     return answer;
 }
@@ -120,7 +128,7 @@ template <class Ask>
 void QuillorentAppDelegate::askKeychain(Ask ask)
 {
     const int request = m_keychainRequests.begin();
-    keychainText01.setText(u"Asking the keychain…"_qs);
+    keychainText01.setText(Words::tr("Asking the keychain…"));
     keychainUnlock01.setHidden(true);
     keychainIndicator01.startAnimation();
     detachThread(u"keychain"_qs, [this, request, ask] {

@@ -2,16 +2,22 @@
 #include "files/Paths.h"
 #include "settings/Store.h"
 
+#include <QCoreApplication>
+
 // Nothing here is written to disk before the profiles are saved.
 
 namespace {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(profiles)
+};
+
 /// Why a profile can't be called so; empty where it can.
 QString whyNotNamed(const QuillorentAppDelegate &delegate, const QString &name)
 {
-    if (name.trimmed().isEmpty()) return u"A profile needs a name, and none was typed."_qs;
+    if (name.trimmed().isEmpty()) return Words::tr("A profile needs a name, and none was typed.");
     if (delegate.noRepeatedProfileName(name)) return {};
-    return u"There is a profile \"%1\" already. Choose another name."_qs.arg(name);
+    return Words::tr("There is a profile \"%1\" already. Choose another name.").arg(name);
 }
 
 } // namespace
@@ -24,9 +30,9 @@ bool QuillorentAppDelegate::noRepeatedProfileName(const QString &name) const
 bool QuillorentAppDelegate::canHaveProfiles()
 {
     if (listPlist()) return true;
-    tellOfFiles({u"There can be no profiles, for their file can't be read:\n%1\nRepair it, or move it away, "
-                 u"and start "
-                 "the program again."_qs.arg(quillorentLibrary::whyProfilesAreUnread())});
+    tellOfFiles({Words::tr("There can be no profiles, for their file can't be read:\n%1\nRepair it, or move "
+                           "it away, and start the program again.")
+                     .arg(quillorentLibrary::whyProfilesAreUnread())});
     return false;
 }
 

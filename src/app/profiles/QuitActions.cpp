@@ -3,7 +3,16 @@
 #include "runs/Pauses.h"
 #include "tools/Threads.h"
 
+#include <QCoreApplication>
 #include <thread>
+
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(profiles)
+};
+
+} // namespace
 
 // What is saved before the program ends, while there is still a window that can tell of a failure.
 
@@ -64,7 +73,7 @@ QStringList QuillorentAppDelegate::saveCopies()
     for (const SavedFile *file : {&profilesToSave(), &settingsToSave()}) {
         if (!isUnsaved(*file)) continue;
         const QString reason = file->saveCopy((this->*file->content)(), m_copyFolder());
-        if (!reason.isEmpty()) failures.append(u"No copy could be saved either:\n%1"_qs.arg(reason));
+        if (!reason.isEmpty()) failures.append(Words::tr("No copy could be saved either:\n%1").arg(reason));
     }
     return failures;
 }
@@ -79,7 +88,7 @@ void QuillorentAppDelegate::quitPanel01Again() { answerQuitting(QuitChoice::Agai
 
 void QuillorentAppDelegate::quitPanel01Copy()
 {
-    const auto chosen = openPanel({.title = u"Choose a folder for the copy"_qs,
+    const auto chosen = openPanel({.title = Words::tr("Choose a folder for the copy"),
                                    .canChooseFiles = false,
                                    .canChooseDirectories = true,
                                    .canCreateDirectories = true});

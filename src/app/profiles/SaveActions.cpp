@@ -5,6 +5,7 @@
 #include "settings/Store.h"
 #include "tools/Threads.h"
 
+#include <QCoreApplication>
 #include <thread>
 
 using quillorentLibrary::InConflict;
@@ -12,14 +13,18 @@ using quillorentLibrary::Saved;
 
 namespace {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(profiles)
+};
+
 QString quoted(const QStringList &names) { return u"“"_qs + names.join(u"”, “"_qs) + u"”"_qs; }
 
 QString describeConflict(const SavedFile &file, const QStringList &names)
 {
-    return u"Another window or program has changed the file of the %1 since it was read here, and both of "
-           "you have changed %2.\n\n"
-           "Whichever you choose, the other one is kept beside the file. What only one of you has changed is "
-           "saved in any case."_qs.arg(file.name, quoted(names));
+    return Words::tr("Another window or program has changed the file of the %1 since it was read here, and "
+                     "both of you have changed %2.\n\nWhichever you choose, the other one is kept beside the "
+                     "file. What only one of you has changed is saved in any case.")
+        .arg(file.name, quoted(names));
 }
 
 /// Of some saves, what is to be told.
@@ -40,8 +45,9 @@ std::optional<QString> QuillorentAppDelegate::save(const SavedFile &file)
 {
     const plist::Dictionary content = (this->*file.content)();
     if (!content)
-        return u"The %1 can't be saved, for their file could not be read:\n%2\n\nRepair it, or move it away, "
-               "and start the program again."_qs.arg(file.name, file.whyUnread());
+        return Words::tr("The %1 can't be saved, for their file could not be read:\n%2\n\nRepair it, or move "
+                         "it away, and start the program again.")
+            .arg(file.name, file.whyUnread());
 
     Saved saved = file.save(content, m_endsUnasked ? InConflict::KeepMine : InConflict::Ask);
     if (!saved.conflicts.isEmpty() && !m_endsUnasked) {
@@ -51,15 +57,15 @@ std::optional<QString> QuillorentAppDelegate::save(const SavedFile &file)
     }
     QStringList notices = quillorentLibrary::takeNotices();
     if (saved.isDone() && !saved.takenOver.isEmpty())
-        notices.append(
-            u"Another window or program has changed %1: that is taken over."_qs.arg(quoted(saved.takenOver)));
+        notices.append(Words::tr("Another window or program has changed %1: that is taken over.")
+                           .arg(quoted(saved.takenOver)));
     if (!notices.isEmpty()) showFilesAgain();
     tellOfFiles(notices);
 
     if (saved.isDone()) return QString();
-    return u"The %1 could not be saved:\n%2\n\n"
-           "What you changed is kept only as long as the program runs. Make room, or make the folder "
-           "writable, and save again."_qs.arg(file.name, saved.reason);
+    return Words::tr("The %1 could not be saved:\n%2\n\nWhat you changed is kept only as long as the program "
+                     "runs. Make room, or make the folder writable, and save again.")
+        .arg(file.name, saved.reason);
 }
 
 std::optional<InConflict> QuillorentAppDelegate::askInConflict(const QString &text)

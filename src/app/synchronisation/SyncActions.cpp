@@ -1,6 +1,12 @@
 #include "app/QuillorentAppDelegate.h"
 
+#include <QCoreApplication>
+
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(synchronisation)
+};
 
 void store(const QString &key, const QString &value) { theDelegate().currentRecord().setValue(key, value); }
 
@@ -8,7 +14,7 @@ void store(const QString &key, const QString &value) { theDelegate().currentReco
 
 void QuillorentAppDelegate::syncButton01Action()
 {
-    const auto chosen = openPanel({.title = u"Add folders and files to synchronise"_qs,
+    const auto chosen = openPanel({.title = Words::tr("Add folders and files to synchronise"),
                                    .canChooseDirectories = true,
                                    .allowsMultipleSelection = true});
     addSyncEntries(chosen.value_or(QStringList()));
@@ -20,12 +26,13 @@ void QuillorentAppDelegate::syncButton02Action() { m_syncTable.removeSelected();
 
 void QuillorentAppDelegate::syncButtoSrcAction()
 {
-    chooseFolder(u"Choose the source folder"_qs, syncTextSourcePath, u"rsyncsrc"_qs);
+    chooseFolder(Words::tr("Choose the source folder"), syncTextSourcePath, u"rsyncsrc"_qs);
 }
 
 void QuillorentAppDelegate::syncButtoDestAction()
 {
-    chooseFolder(u"Choose the destination of the synchronisation"_qs, syncTextDestPath, u"rsyncdst"_qs);
+    chooseFolder(Words::tr("Choose the destination of the synchronisation"), syncTextDestPath,
+                 u"rsyncdst"_qs);
 }
 
 void QuillorentAppDelegate::syncTextDestPathAction() { store(u"rsyncdst"_qs, syncTextDestPath.text()); }

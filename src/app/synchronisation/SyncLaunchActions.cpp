@@ -5,7 +5,13 @@
 #include "sync/Preview.h"
 #include "sync/SyncLook.h"
 
+#include <QCoreApplication>
+
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(synchronisation)
+};
 
 bool deletes(const SyncOrder &order) { return order.deletesExtra || order.removesSources; }
 
@@ -13,9 +19,8 @@ Findings look(const SyncOrder &order, bool deletesUnseen)
 {
     Findings findings;
     if (deletesUnseen)
-        findings.addConcern(
-            u"The profile deletes files, at the destination or here. The window's preview shows "
-            "which."_qs);
+        findings.addConcern(Words::tr(
+            "The profile deletes files, at the destination or here. The window's preview shows which."));
     lookAtSync(order, findings);
     return findings;
 }
@@ -40,7 +45,7 @@ void QuillorentAppDelegate::previewFirst(const SyncOrder &order, RunMonitor &mon
                                          const std::shared_ptr<const Preview> &confirmed)
 {
     SyncDisplay display(*this);
-    display.begin(u"Comparing both sides…"_qs);
+    display.begin(Words::tr("Comparing both sides…"));
     runPreview(order, *this, monitor, display);
     const auto preview = display.preview();
     if (!preview || isCancelledByUser()) return;
@@ -48,8 +53,9 @@ void QuillorentAppDelegate::previewFirst(const SyncOrder &order, RunMonitor &mon
     if (preview->rows.empty() && !failure().isEmpty()) return;
     QString question = purpose == PreviewFor::Question ? askForDeletions(*preview) : QString();
     if (confirmed && !question.isEmpty())
-        question =
-            deletesMore(*preview, *confirmed) ? u"There is more to delete by now. "_qs + question : QString();
+        question = deletesMore(*preview, *confirmed)
+                       ? Words::tr("There is more to delete by now. ") + question
+                       : QString();
     if (purpose == PreviewFor::Question && question.isEmpty() && failure().isEmpty()) {
         if (tryBeginRun()) carryOut(prepareTransfer(order));
         return;
@@ -83,7 +89,7 @@ RunStart QuillorentAppDelegate::prepareSync(bool isPreview)
 {
     const SyncOrder order = readSyncOrder();
     const bool deletesUnseen = !isPreview && deletes(order) && !previewsDeletions;
-    SyncDisplay(*this).begin(u"Looking at both sides…"_qs);
+    SyncDisplay(*this).begin(Words::tr("Looking at both sides…"));
     const auto work = [this, order, isPreview](RunMonitor &monitor) {
         if (isPreview)
             previewFirst(order, monitor, PreviewFor::Looking);

@@ -5,14 +5,20 @@
 #include "tools/Threads.h"
 #include "tools/Verification.h"
 
+#include <QCoreApplication>
+
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(tools)
+};
 
 QString hintOnOpenSsl()
 {
     if (!quillorentLibrary::warnsOfItsKeyDerivation(registeredTool(u"OpenSSL"_qs))) return {};
-    return u"This OpenSSL can't be used by itself: it derives keys from passwords in another way than "
-           u"archives of this "
-           "program need, and complains of it. Choose Quillorent's own \"openssl\", which uses it."_qs;
+    return Words::tr(
+        "This OpenSSL can't be used by itself: it derives keys from passwords in another way than archives "
+        "of this program need, and complains of it. Choose Quillorent's own \"openssl\", which uses it.");
 }
 
 } // namespace

@@ -5,7 +5,13 @@
 #include "tools/RegisteredTool.h"
 #include "tools/Verification.h"
 
+#include <QCoreApplication>
+
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(tools)
+};
 
 plist::Dictionary registry() { return theDelegate().configPlist().dictionary(u"external"_qs); }
 
@@ -32,8 +38,8 @@ void pathTable::setObjectValue(const QVariant &value, const QString &column, int
 
 void QuillorentAppDelegate::selectFile()
 {
-    const auto chosen =
-        openPanel({.title = u"Choose a tool"_qs, .directory = u"/usr/bin"_qs, .allowedFileTypes = {u""_qs}});
+    const auto chosen = openPanel(
+        {.title = Words::tr("Choose a tool"), .directory = u"/usr/bin"_qs, .allowedFileTypes = {u""_qs}});
     const QString tool = registeredTools().value(pathTableView.selectedRow());
     if (chosen && !chosen->isEmpty() && !tool.isNull()) registry().setValue(tool, chosen->first());
     quillorentLibrary::updateCompliance();

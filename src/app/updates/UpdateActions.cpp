@@ -2,6 +2,16 @@
 #include "updates/Appcast.h"
 #include "updates/SUUpdater.h"
 
+#include <QCoreApplication>
+
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(updates)
+};
+
+} // namespace
+
 void QuillorentAppDelegate::updatesCheck01Action()
 {
     configPlist().dictionary(u"updates"_qs).setSwitch(u"automatic"_qs, updatesCheck01.isOn());
@@ -14,8 +24,8 @@ void QuillorentAppDelegate::checkForUpdatesAtStart()
         {.feed = [this] { return setting(u"updates"_qs, u"feed"_qs).value_or(QString()); },
          .showRelease =
              [this](const Release &release) {
-                 updateText01.setText(u"Version %1 is there. You have version %2."_qs.arg(
-                     release.version, QStringLiteral(QUILLORENT_VERSION)));
+                 updateText01.setText(Words::tr("Version %1 is there. You have version %2.")
+                                          .arg(release.version, QStringLiteral(QUILLORENT_VERSION)));
                  updateNotes01.setText(release.notes);
                  downloadButton01.setAlternateTitle(release.page.toString());
                  updatePanel01.orderFront();

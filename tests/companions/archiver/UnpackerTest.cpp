@@ -1,4 +1,6 @@
 #include "Companion.h"
+#include "HuffmanEncoder.h"
+#include "LiteralBlock.h"
 #include "Rar.h"
 #include "TokenStream.h"
 #include "Tree.h"
@@ -155,6 +157,33 @@ TEST_F(UnpackerTest, matchesOfAllKindsComeBack)
         entries.pop_back();
         expectContents(entries, contents, tables);
     }
+}
+
+// A code of one length never falls into step, and one of three symbols at once.
+TEST(LiteralBlock, comesBackFromAnywhereWithinIt)
+{
+    Numbers numbers(3);
+    auto codes = std::make_unique<BlockCodes>();
+    for (const std::size_t alphabet : {1u, 2u, 3u, 65u, 200u, 256u})
+        for (const std::size_t size : {1u, 40u, 500u, 9000u, 400'000u})
+            for (const bool isSkewed : {false, true}) {
+                ByteBuffer content(size);
+                for (std::uint8_t &byte : content)
+                    byte = std::uint8_t(below(numbers, isSkewed ? 1 + below(numbers, alphabet) : alphabet));
+                HuffmanEncoder encoder;
+                const Bytes block = encoder.encode(content, true);
+                const auto header = parseBlockHeader(block.first(blockHeaderSize(block)));
+                ASSERT_TRUE(header);
+                ByteBuffer payload(block.begin() + std::ptrdiff_t(header->headerSize), block.end());
+                payload.resize(payload.size() + BitReader::padding);
+                CodeLengths lengths{};
+                BitReader bits(Bytes(payload).first(payload.size() - BitReader::padding), *header);
+                ASSERT_TRUE(readCodeLengths(bits, lengths) && codes->build(lengths, size));
+                ByteBuffer unpacked(roomForLiterals(bits, lengths));
+                const auto count = unpackLiteralBlock(bits, lengths, *codes, unpacked, 1);
+                ASSERT_EQ(count, size) << alphabet;
+                EXPECT_TRUE(std::equal(content.begin(), content.end(), unpacked.begin())) << alphabet;
+            }
 }
 
 TEST_F(UnpackerTest, filtersAreUndone)

@@ -1,0 +1,140 @@
+#include "EntryWriter.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace archiver {
+
+namespace {
+
+// What some readers need of packed data in volumes: behind a block that is not the last one some bytes of the
+// next, and in a volume that ends in a file's data some more than a block's header.
+constexpr std::uint64_t spaceBehindBlock = 32;
+constexpr std::uint64_t smallestPart = 64;
+
+} // namespace
+
+EntryWriter::EntryWriter(OutputVolumes &output, Diagnostics &diagnostics)
+    : m_output(output), m_diagnostics(diagnostics)
+{
+}
+
+bool EntryWriter::write(const FileHeader &header)
+{
+    m_header = header;
+    m_headerBytes.clear();
+    putFileHeader(m_headerBytes, header);
+    return makeRoom(0) && m_output.append(m_headerBytes);
+}
+
+bool EntryWriter::begin(FileHeader header)
+{
+    m_header = std::move(header);
+    return beginPart();
+}
+
+std::optional<std::span<std::uint8_t>> EntryWriter::space()
+{
+    if (m_output.room() == 0 && !continueInNextVolume()) return std::nullopt;
+    if (!m_output.flushWhenFull()) return std::nullopt;
+    m_space = m_output.buffer();
+    m_space =
+        m_space.first(static_cast<std::size_t>(std::min<std::uint64_t>(m_space.size(), m_output.room())));
+    return m_space;
+}
+
+void EntryWriter::commit(std::size_t count)
+{
+    countData(m_space.first(count));
+    m_output.commit(count);
+}
+
+bool EntryWriter::putStored(Bytes bytes)
+{
+    while (!bytes.empty()) {
+        if (m_output.room() == 0 && !continueInNextVolume()) return false;
+        const auto count = static_cast<std::size_t>(std::min<std::uint64_t>(bytes.size(), m_output.room()));
+        if (!putData(bytes.first(count))) return false;
+        bytes = bytes.subspan(count);
+    }
+    return true;
+}
+
+bool EntryWriter::putBlock(Bytes block, bool last)
+{
+    for (;;) {
+        const std::uint64_t room = m_output.room();
+        if (block.size() <= room && (last || room - block.size() >= spaceBehindBlock)) return putData(block);
+        // A volume must not end right behind the block, nor in the header of the next: it ends inside this
+        // one.
+        const std::size_t tail = std::min<std::size_t>(spaceBehindBlock, block.size() / 2);
+        const std::size_t cut = block.size() > room ? static_cast<std::size_t>(room) : block.size() - tail;
+        if (!putData(block.first(cut)) || !continueInNextVolume()) return false;
+        block = block.subspan(cut);
+    }
+}
+
+bool EntryWriter::end(std::uint32_t crc, std::uint64_t size)
+{
+    m_header.crc = crc;
+    m_header.unpackedSize = size;
+    m_header.continuesAfter = false;
+    return endPart();
+}
+
+bool EntryWriter::makeRoom(std::uint64_t dataSize)
+{
+    if (m_headerBytes.size() > largestHeader)
+        return m_diagnostics.report(printable(m_header.name) + " has a longer name than an archive can hold");
+    const std::uint64_t needed = m_headerBytes.size() + std::min(dataSize, smallestPart);
+    if (m_output.room() >= needed) return true;
+    if (!m_output.atStart() && !m_output.nextVolume()) return false;
+    if (m_output.room() >= needed) return true;
+    return m_diagnostics.report("The volumes are too small for " + printable(m_header.name));
+}
+
+bool EntryWriter::beginPart()
+{
+    m_header.packedSize = 0;
+    m_header.continuesAfter = false;
+    m_header.crc = 0;
+    m_partCrc = 0;
+    m_headerBytes.clear();
+    putFileHeader(m_headerBytes, m_header);
+    if (!makeRoom(m_header.unpackedSize)) return false;
+    m_headerOffset = m_output.position();
+    return m_output.append(m_headerBytes);
+}
+
+bool EntryWriter::endPart()
+{
+    m_header.packedSize = m_output.position() - m_headerOffset - m_headerBytes.size();
+    const std::size_t length = m_headerBytes.size();
+    m_headerBytes.clear();
+    putFileHeader(m_headerBytes, m_header);
+    if (m_headerBytes.size() != length)
+        return m_diagnostics.report(printable(m_header.name) + " grew beyond what can be stored");
+    return m_output.patch(m_headerOffset, m_headerBytes);
+}
+
+bool EntryWriter::continueInNextVolume()
+{
+    m_header.crc = m_partCrc;
+    m_header.continuesAfter = true;
+    if (!endPart() || !m_output.nextVolume()) return false;
+    m_header.continuesBefore = true;
+    return beginPart();
+}
+
+void EntryWriter::countData(Bytes bytes)
+{
+    if (m_output.limited()) m_partCrc = crc32(bytes, m_partCrc);
+}
+
+bool EntryWriter::putData(Bytes bytes)
+{
+    countData(bytes);
+    return m_output.append(bytes);
+}
+
+} // namespace archiver

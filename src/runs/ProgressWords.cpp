@@ -1,0 +1,78 @@
+#include "runs/ProgressWords.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QLocale>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("Progress", text); }
+
+// The names that stages have, and what is said of them.
+const QHash<QString, const char *> &stages()
+{
+    static const QHash<QString, const char *> words{
+        {u"storing"_qs, QT_TRANSLATE_NOOP("Progress", "Collecting")},
+        {u"encrypting"_qs, QT_TRANSLATE_NOOP("Progress", "Encrypting")},
+        {u"packing"_qs, QT_TRANSLATE_NOOP("Progress", "Packing")},
+        {u"finishing"_qs, QT_TRANSLATE_NOOP("Progress", "Finishing")},
+        {u"testing"_qs, QT_TRANSLATE_NOOP("Progress", "Testing")},
+        {u"unpacking"_qs, QT_TRANSLATE_NOOP("Progress", "Unpacking")},
+        {u"decrypting"_qs, QT_TRANSLATE_NOOP("Progress", "Decrypting")},
+        {u"extracting"_qs, QT_TRANSLATE_NOOP("Progress", "Restoring")},
+        {u"copying"_qs, QT_TRANSLATE_NOOP("Progress", "Copying")},
+        {u"comparing"_qs, QT_TRANSLATE_NOOP("Progress", "Comparing")},
+    };
+    return words;
+}
+
+} // namespace
+
+QString progressWords::size(double bytes)
+{
+    return QLocale().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeSIFormat);
+}
+
+QString progressWords::bytes(const RunFigures &figures)
+{
+    if (figures.bytesToDo <= 0) return {};
+    return tr("%1 of %2").arg(size(figures.bytesDone), size(figures.bytesToDo));
+}
+
+QString progressWords::pace(const RunFigures &figures)
+{
+    return figures.bytesPerSecond ? tr("%1/s").arg(size(*figures.bytesPerSecond)) : QString();
+}
+
+// Roughly: nobody can know it better, and a figure that flickers is not read.
+QString progressWords::left(const RunFigures &figures)
+{
+    if (!figures.left) return {};
+    const qint64 seconds = figures.left->count();
+    const QLocale locale;
+    if (seconds < 10) return tr("A few seconds left");
+    if (seconds < 100) return tr("About %1 s left").arg(locale.toString((seconds + 9) / 10 * 10));
+    const qint64 minutes = (seconds + 30) / 60;
+    if (minutes < 100) return tr("About %1 min left").arg(locale.toString(minutes));
+    return tr("About %1 h left").arg(locale.toString((minutes + 30) / 60));
+}
+
+QString progressWords::step(const RunFigures::Item &item)
+{
+    switch (item.phase) {
+    case RunItem::Phase::Waiting:
+        return tr("Waiting");
+    case RunItem::Phase::Running:
+        break;
+    case RunItem::Phase::Done:
+        return tr("Done");
+    case RunItem::Phase::Failed:
+        return tr("Failed");
+    case RunItem::Phase::LeftOut:
+        return tr("Left out");
+    }
+    const char *const words = stages().value(item.stage);
+    return words ? tr(words) : item.stage;
+}

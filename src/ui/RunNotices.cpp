@@ -1,0 +1,112 @@
+#include "ui/RunNotices.h"
+
+#include "app/QuillorentAppDelegate.h"
+#include "ui/PanelDialog.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QUrl>
+
+using namespace std::chrono_literals;
+
+namespace ui {
+namespace {
+
+struct KindOfRun {
+    QString name;     ///< in its record
+    QString result;   ///< the widget that tells how it ended
+    QString finished; ///< titles of notices
+    QString failed;
+};
+
+KindOfRun kindOf(const RunRecord &record)
+{
+    if (record.kind == u"extract")
+        return {record.kind, u"outputText02"_qs, RunNotices::tr("Files restored"),
+                RunNotices::tr("Restoring failed")};
+    if (record.kind == u"sync")
+        return {record.kind, u"outputText03"_qs, RunNotices::tr("Folders synchronised"),
+                RunNotices::tr("The synchronisation failed")};
+    return {record.kind, u"outputText01"_qs, RunNotices::tr("Backup finished"),
+            RunNotices::tr("The backup failed")};
+}
+
+/// Says it where the screen is read aloud, when whatever is being said has been said.
+void announce(QWidget &result, const QString &text)
+{
+    result.setAccessibleDescription(text);
+    QAccessibleEvent alert(&result, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+} // namespace
+
+RunNotices::RunNotices(QuillorentAppDelegate &controller, QWidget &window, const QList<PanelDialog *> &sheets)
+    : QObject(&window), m_controller(controller), m_window(window), m_progress(controller)
+{
+    for (const PanelDialog *sheet : sheets)
+        connect(sheet, &PanelDialog::visibilityChanged, this, [this](bool isVisible) {
+            if (isVisible) begin();
+        });
+    m_timer.setInterval(250ms);
+    connect(&m_timer, &QTimer::timeout, this, &RunNotices::look);
+}
+
+void RunNotices::begin()
+{
+    if (!m_notices)
+        m_notices.emplace([this](DesktopNotices::Answer given) {
+            QMetaObject::invokeMethod(
+                this, [this, given] { answer(given); }, Qt::QueuedConnection);
+        });
+    m_progress = RunProgress(m_controller);
+    m_timer.start();
+}
+
+void RunNotices::look()
+{
+    if (m_controller.isRunActive()) {
+        const RunFigures figures = m_progress.look();
+        const int hundredth = int(figures.done() * 100);
+        if (figures.bytesToDo > 0 && std::exchange(m_shownHundredth, hundredth) != hundredth)
+            m_notices->showProgress(figures.done());
+        return;
+    }
+    m_timer.stop();
+    if (std::exchange(m_shownHundredth, std::nullopt)) m_notices->showProgress(std::nullopt);
+    const RunRecord record = m_controller.lastRecord();
+    if (!record.kind.isEmpty() && std::exchange(m_toldOf, record.began) != record.began) tellEnd(record);
+}
+
+void RunNotices::tellEnd(const RunRecord &record)
+{
+    const KindOfRun kind = kindOf(record);
+    if (auto *result = m_window.findChild<QWidget *>(kind.result)) announce(*result, record.summary);
+    // Who is here has seen it, and who has cancelled knows.
+    if (record.outcome == Outcome::Cancelled || QApplication::activeWindow()) return;
+    const bool isFailure = record.outcome != Outcome::Succeeded;
+    m_folder = isFailure ? QString() : folderToOpen(record);
+    m_notices->show({.title = isFailure ? kind.failed : kind.finished,
+                     .text = record.summary,
+                     .isFailure = isFailure,
+                     .opensFolder = !m_folder.isEmpty()});
+}
+
+// Of a synchronisation it may be on a server.
+QString RunNotices::folderToOpen(const RunRecord &record) const
+{
+    const QString extracted = record.kind == u"extract" ? m_controller.extractedFolder() : QString();
+    const QString folder = extracted.isEmpty() ? record.folder : extracted;
+    const bool mayBeRemote = record.kind == u"sync" && !folder.startsWith(u'/');
+    return mayBeRemote ? QString() : folder;
+}
+
+void RunNotices::answer(DesktopNotices::Answer answer)
+{
+    if (answer == DesktopNotices::Answer::Show)
+        Q_EMIT showRequested();
+    else if (!m_folder.isEmpty())
+        m_controller.openAddress(QUrl::fromLocalFile(m_folder).toString(QUrl::FullyEncoded));
+}
+
+} // namespace ui

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "app/DesktopNotices.h"
+#include "runs/RunProgress.h"
+#include "runs/RunRecord.h"
+
+#include <QTimer>
+#include <QWidget>
+
+class QuillorentAppDelegate;
+
+namespace ui {
+
+class PanelDialog;
+
+/// Tells how a run goes to whoever doesn't look at the window: on the program's sign in the desktop's bar
+/// while it works, by a notice at its end, and to those who hear what is on the screen.
+class RunNotices : public QObject {
+    Q_OBJECT
+
+public:
+    /// Begins when one of the sheets shows.
+    RunNotices(QuillorentAppDelegate &controller, QWidget &window, const QList<PanelDialog *> &sheets);
+
+Q_SIGNALS:
+    void showRequested(); ///< the notice was pressed
+
+private:
+    void begin();
+    void look();
+    void tellEnd(const RunRecord &record);
+    void answer(DesktopNotices::Answer answer);
+    [[nodiscard]] QString folderToOpen(const RunRecord &record) const;
+
+    QuillorentAppDelegate &m_controller;
+    QWidget &m_window;
+    RunProgress m_progress;
+    std::optional<int> m_shownHundredth;
+    QDateTime m_toldOf; ///< when the run began whose end was told last
+    QString m_folder;   ///< of the last notice
+    QTimer m_timer;
+    std::optional<DesktopNotices> m_notices; ///< from the first run on
+};
+
+} // namespace ui

@@ -1,0 +1,300 @@
+// The page of the backup, as a person finds it before and after one.
+
+#include "TestWindow.h"
+
+#include "Stub.h"
+#include "Tree.h"
+
+#include "runs/RunJournal.h"
+#include "ui/BackupResult.h"
+#include "ui/FolderList.h"
+#include "ui/TextArea.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QToolButton>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class FoldersTest : public WindowTest {
+protected:
+    explicit FoldersTest(bool isFirstStart = false) : WindowTest(isFirstStart)
+    {
+        QApplication::setActiveWindow(&window); // no window manager does
+    }
+
+    QStringList folders() const { return delegate.currentRecord().array(u"folders"_qs).strings(); }
+
+    void haveDestination(const std::string &name)
+    {
+        fs::create_directories(program.folder() / name);
+        delegate.openPanel = [this, name](const outlets::OpenPanel &) {
+            return QStringList{program.path(name)};
+        };
+        click(u"fileButton01"_qs);
+    }
+
+    /// What is shown of a row, in its columns.
+    QString row(int index)
+    {
+        const QAbstractItemModel &model = *widget<QAbstractItemView>(u"listTableView"_qs).model();
+        QStringList cells;
+        for (int column = 0; column < model.columnCount(); ++column)
+            cells.append(model.index(index, column).data().toString().trimmed());
+        return cells.join(u'|').replace(toQString(program.folder()), u"."_qs);
+    }
+
+    /// Of the list of what is missing, the texts and the buttons.
+    template <class W>
+    QList<W *> missing()
+    {
+        QList<W *> found;
+        for (W *each : widget(u"hindranceList"_qs).template findChildren<W *>())
+            if (each->isVisible() && !each->text().isEmpty()) found.append(each);
+        return found;
+    }
+
+    void pressUndo() { QTest::keyClick(window.focusWidget(), Qt::Key_Z, Qt::ControlModifier); }
+};
+
+class FirstStartTest : public FoldersTest {
+protected:
+    FirstStartTest() : FoldersTest(true) {}
+};
+
+} // namespace
+
+TEST_F(FoldersTest, TheListTellsWhatIsKnownOfEachEntry)
+{
+    for (const auto &[name, size] :
+         {std::pair{"data/docs/a", 150'000}, {"data/file", 2'000}, {"inside/x", 1}})
+        writeFile(program.folder() / name, randomBytes(size_t(size)));
+    fs::create_symlink(program.folder() / "data/docs", program.folder() / "link");
+    QStringList paths;
+    for (const char *name : {"data/docs", "data/file", "gone", "link", "inside"})
+        paths.append(program.path(name));
+    haveDestination("inside/archives");
+    delegate.addFolders(paths);
+    const QStringList expected{u"docs|./data|15"_qs, u"file|./data|2.0 kB|never"_qs,
+                               u"gone|.|not found|never"_qs, u"link|.|only a link|never"_qs,
+                               u"inside|.|holds the destination|never"_qs};
+    for (int index = 0; index < expected.size(); ++index)
+        EXPECT_TRUE(waitUntil([&] { return row(index).startsWith(expected[index]); }))
+            << qPrintable(row(index));
+    // What a run has told is told after it, and by a window that opens later.
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    RunJournal({.kind = u"backup"_qs,
+                .profile = delegate.currentProfile(),
+                .folder = program.path("inside/archives"),
+                .began = now.addSecs(-60),
+                .ended = now,
+                .outcome = Outcome::Succeeded,
+                .items = {{.path = paths[2], .outcome = Outcome::Succeeded, .bytes = 5}}})
+        .begin();
+    delegate.listTableView.reloadData();
+    EXPECT_TRUE(waitUntil([&] { return row(2).startsWith(u"gone|.|not found|today at "); }))
+        << qPrintable(row(2));
+}
+
+TEST_F(FoldersTest, WhatWasRemovedComesBack)
+{
+    QStringList all;
+    for (const char *name : {"a", "b", "c", "d"})
+        all.append(program.path(name));
+    delegate.addFolders(all);
+    settle();
+    auto &list = widget<ui::FolderListView>(u"listTableView"_qs);
+    list.setFocus();
+    for (const bool byKey : {true, false}) {
+        list.selectRows({0, 2});
+        settle();
+        QTest::keyClick(&list, Qt::Key_Delete);
+        settle();
+        EXPECT_EQ(folders(), (QStringList{all[1], all[3]}));
+        ASSERT_TRUE(widget(u"undoButton"_qs).isVisible());
+        EXPECT_EQ(widget<QLabel>(u"removedText"_qs).text(), u"2 entries are off the list."_qs);
+        byKey ? pressUndo() : click(u"undoButton"_qs);
+        settle();
+        EXPECT_EQ(folders(), all);
+        EXPECT_FALSE(widget(u"undoButton"_qs).isVisible());
+    }
+    // In another profile it would put them where they never were.
+    list.setFocus();
+    list.selectRows({0});
+    settle();
+    click(u"folderButton02"_qs);
+    ASSERT_TRUE(widget(u"undoButton"_qs).isVisible());
+    delegate.listPlist().setValue(u"other"_qs, delegate.defaultProfile().deepCopy());
+    delegate.setterCurrentProfile(u"other"_qs);
+    settle();
+    EXPECT_FALSE(widget(u"undoButton"_qs).isVisible());
+    pressUndo();
+    EXPECT_EQ(folders(), QStringList());
+}
+
+TEST_F(FoldersTest, ListsSayThatTheyTakeADrop)
+{
+    for (const auto &[page, name] : {std::pair{u"foldersPage"_qs, u"listTableView"_qs},
+                                     {u"extractPage"_qs, u"extractTableView"_qs},
+                                     {u"synchronisationPage"_qs, u"syncTableView"_qs}}) {
+        if (ui::widgetsNamed(page, window.roots()).size() == 1) showTab(page);
+        auto &viewport = *widget<QAbstractItemView>(name).viewport();
+        const QImage before = viewport.grab().toImage();
+        for (const bool isFile : {true, false}) {
+            QMimeData held;
+            held.setUrls({isFile ? QUrl::fromLocalFile(program.path("x")) : QUrl(u"http://localhost/x"_qs)});
+            QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &held, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(&viewport, &enter);
+            EXPECT_EQ(viewport.grab().toImage() != before, isFile) << qPrintable(name);
+            QDragLeaveEvent leave;
+            QCoreApplication::sendEvent(&viewport, &leave);
+            EXPECT_EQ(viewport.grab().toImage(), before) << qPrintable(name);
+        }
+    }
+}
+
+// The same sentences, whether the button is pressed or not; each leads to where it is put right.
+TEST_F(FoldersTest, WhatKeepsABackupFromStartingIsSaidBefore)
+{
+    const auto says = [this](const QStringList &parts) {
+        const bool isThere = waitUntil([&] { return missing<QToolButton>().size() == parts.size(); });
+        QStringList texts;
+        for (const QLabel *label : missing<QLabel>())
+            texts.append(label->text());
+        const QString all = texts.join(u'\n');
+        return isThere && std::all_of(parts.begin(), parts.end(),
+                                      [&](const QString &part) { return all.contains(part); });
+    };
+    const auto leadsTo = [this](int index) {
+        showTab(u"foldersPage"_qs);
+        missing<QToolButton>().at(index)->click();
+        settle();
+        return window.focusWidget() ? window.focusWidget()->objectName() : QString();
+    };
+    const QStringList atFirst{u"has no folders"_qs, u"No destination"_qs, u"No password"_qs};
+    ASSERT_TRUE(says(atFirst));
+    EXPECT_EQ(leadsTo(0), u"folderButton01"_qs);
+    EXPECT_EQ(leadsTo(1), u"fileButton01"_qs);
+    EXPECT_EQ(leadsTo(2), u"secureText01a"_qs);
+    showTab(u"foldersPage"_qs);
+    EXPECT_TRUE(widget(u"buttonLaunch01"_qs).isEnabled());
+    clickAndAnswer(u"buttonLaunch01"_qs, u"warningPanel01"_qs, [&] {
+        for (const QString &part : atFirst)
+            EXPECT_TRUE(delegate.warningText01.text().contains(part)) << qPrintable(part);
+        click(u"warningPanel01CloseButton"_qs);
+    });
+    program.waitForEnd();
+
+    haveDestination("archives");
+    delegate.addFolders({program.path("home")});
+    delegate.secureText01a.setText(u"correct horse"_qs);
+    EXPECT_TRUE(says({}));
+    fs::remove(program.folder() / "archives");
+    delegate.prefStepper01Action(u"many"_qs);
+    EXPECT_TRUE(says({u"does not exist"_qs, u"\"many\""_qs}));
+    EXPECT_EQ(leadsTo(1), u"prefText01"_qs);
+    EXPECT_TRUE(widget(u"prefText01"_qs).isVisible()) << "it is folded in";
+    delegate.passCombo01.selectIndex(PasswordTab::Certificate);
+    EXPECT_TRUE(says({u"does not exist"_qs, u"ertificate"_qs, u"\"many\""_qs}));
+    EXPECT_EQ(leadsTo(1), u"certButton01"_qs);
+}
+
+TEST_F(FoldersTest, TheLastResultStaysAndIsThereAfterARestart)
+{
+    const QString folder = program.path("archives");
+    const QDateTime ended = QDateTime::currentDateTimeUtc();
+    const ItemRecord good{
+        .path = u"/home/anna/Docs"_qs,
+        .outcome = Outcome::Succeeded,
+        .bytes = 24'100'000'000,
+        .archives = {folder + u"/Docs.rar.aes.part1.rar"_qs, folder + u"/Docs.rar.aes.part2.rar"_qs}};
+    const auto failed = [](const QString &reason) {
+        return ItemRecord{.path = u"/home/anna/Mail"_qs,
+                          .outcome = Outcome::Failed,
+                          .reason = reason,
+                          .left = {{u"/x/Mail.rar"_qs, true}}};
+    };
+    struct Case {
+        RunRecord record;
+        QStringList headline;
+        QStringList details; ///< in this order
+    };
+    for (const Case &c : {
+             Case{{.outcome = Outcome::Succeeded, .items = {good, good}},
+                  {u"Backed up today at "_qs, u"· 2 folders · 48.2 GB in 11 min"_qs},
+                  {}},
+             {{.outcome = Outcome::Failed,
+             .items = {good, {.path = u"/gone"_qs, .outcome = Outcome::Skipped, .reason = u"not there"_qs}}},
+              {u"but not everything · 1 of 2 folders · 24.1 GB"_qs},
+              {u"Left out: “gone” – not there"_qs}},
+             {{.outcome = Outcome::Failed, .items = {good, failed(u"RAR 1st: No space left on device"_qs)}},
+              {u"failed today at "_qs, u"1 of 2 folders"_qs},
+              {u"What failed: “Mail” – RAR 1st: No space left"_qs, u"What to do: Make room"_qs,
+               u"What was left: \"/x/Mail.rar\", which is not encrypted"_qs}},
+             {{.outcome = Outcome::Failed, .items = {failed(u"odd"_qs)}},
+              {u"0 of 1 folder"_qs},
+              {u"odd"_qs, u"What to do: Back up again."_qs}},
+             {{.outcome = Outcome::Cancelled, .items = {good, {.path = u"/x"_qs, .outcome = Outcome::Open}}},
+              {u"Cancelled today at "_qs, u"1 of 2 folders"_qs},
+              {}},
+         }) {
+        fs::remove_all(recordsFolder().toStdString());
+        RunRecord record = c.record;
+        record.kind = u"backup"_qs;
+        record.profile = delegate.currentProfile();
+        record.folder = folder;
+        record.began = ended.addSecs(-660);
+        record.ended = ended;
+        RunJournal(record).begin();
+        // As at the start: nothing but the record tells of it.
+        delegate.listTableView.reloadData();
+        const auto &headline = widget<QLabel>(u"resultHeadline"_qs);
+        for (const QString &part : c.headline)
+            EXPECT_TRUE(waitUntil([&] { return headline.text().contains(part); }))
+                << qPrintable(part + u" in: "_qs + headline.text());
+        const auto &details = widget<ui::TextArea>(u"resultDetails"_qs);
+        EXPECT_EQ(details.isVisible(), !c.details.isEmpty());
+        qsizetype place = 0;
+        for (const QString &part : c.details)
+            EXPECT_GE(place = details.text().indexOf(part, place), 0) << qPrintable(details.text());
+    }
+    // Archives are offered by their first files, once.
+    click(u"tryRestoreButton"_qs);
+    EXPECT_TRUE(widget(u"extractPage"_qs).isVisible());
+    showTab(u"foldersPage"_qs);
+    click(u"tryRestoreButton"_qs);
+    EXPECT_EQ(delegate.extractFullList.strings(), QStringList{good.archives.first()});
+
+    delegate.listPlist().setValue(u"other"_qs, delegate.defaultProfile().deepCopy());
+    delegate.setterCurrentProfile(u"other"_qs);
+    showTab(u"foldersPage"_qs);
+    EXPECT_FALSE(widget(u"backupResult"_qs).isVisible()) << "it is another profile's";
+}
+
+TEST_F(FirstStartTest, LeadsThroughThreeStepsAndNeverComesAgain)
+{
+    writeFile(program.folder() / "docs/a", "x");
+    fs::create_directory(program.folder() / "archives");
+    ASSERT_TRUE(widget(u"firstSteps"_qs).isVisible());
+    EXPECT_FALSE(widget(u"listTableView"_qs).isVisible());
+    EXPECT_FALSE(widget(u"hindranceList"_qs).isVisible());
+    delegate.openPanel = [this](const outlets::OpenPanel &) { return QStringList{program.path("docs")}; };
+    click(u"firstStep1"_qs);
+    EXPECT_EQ(folders(), QStringList{program.path("docs")});
+    EXPECT_FALSE(widget(u"firstStep1"_qs).isVisible());
+    click(u"skipStep2"_qs);
+    EXPECT_EQ(delegate.fileText01.text(), QString());
+    click(u"firstStep3"_qs);
+    EXPECT_EQ(window.focusWidget(), &widget(u"secureText01a"_qs));
+    EXPECT_FALSE(ui::FirstSteps::wasSeen());
+    QTest::keyClicks(window.focusWidget(), u"correct horse"_qs);
+    settle();
+    showTab(u"foldersPage"_qs);
+    EXPECT_TRUE(widget(u"listTableView"_qs).isVisible());
+    EXPECT_TRUE(ui::FirstSteps::wasSeen());
+}
