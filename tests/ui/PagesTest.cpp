@@ -41,6 +41,7 @@ struct Opened : WindowTest {
         for (QWidget *panel : window.roots()) {
             if (panel == &window) continue;
             panel->show();
+            EXPECT_TRUE(QTest::qWaitForWindowExposed(panel)) << panel->objectName().toStdString();
             settle();
             look(panel->objectName().toStdString(), shownBy(*panel));
             panel->hide();
