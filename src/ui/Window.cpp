@@ -80,6 +80,7 @@ void Window::finishForm()
     m_form->prefStepper01->setRange(1, 10'000'000, 1000);
     m_form->prefStepper01->listenTo(*m_form->prefText01);
     letPagesScroll(*m_form->mainTabs);
+    fitToShownPage(*m_form->passTabs);
     restorePlace(*this, *m_form->mainTabs);
 }
 
