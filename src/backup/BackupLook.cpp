@@ -78,9 +78,9 @@ void lookAtPassword(const BackupOrder &order, Findings &findings)
         order.repetition->bytes().isEmpty()
             ? u"The password was typed only once, and nothing tells whether it is mistyped. Type it again, "
               u"in "
-              "the second field on the Passwords tab: nobody can open what a mistyped password encrypts."_qs
+              "the second field on the Password tab: nobody can open what a mistyped password encrypts."_qs
             : u"The password and its repetition differ: one of them is mistyped. Type both again on the "
-              "Passwords tab: nobody can open what a mistyped password encrypts."_qs);
+              "Password tab: nobody can open what a mistyped password encrypts."_qs);
 }
 
 void lookForRepetitions(const BackupOrder &order, Findings &findings)

@@ -81,10 +81,10 @@ QString explainWrongKey(const FailedStage &stage)
 {
     if (!stage.keyIsReadable)
         return u"The private key can't be read. Choose the one that belongs to the certificate, on "
-               "the Passwords tab."_qs;
+               "the Password tab."_qs;
     if (!stage.certificateIsReadable)
         return u"The certificate can't be read. Choose the one that the archive was encrypted for, on "
-               "the Passwords tab."_qs;
+               "the Password tab."_qs;
     if (says(stage, {u"ends too early", u"goes on after the end", u"is damaged", u"is empty",
                      u"no S/MIME message", u"not an encrypted one"}))
         return u"What is in \"%1\" is damaged, or was not encrypted for a certificate: %2. "
@@ -94,8 +94,8 @@ QString explainWrongKey(const FailedStage &stage)
         return u"The private key or the certificate is not usable: %1. A key with a pass phrase can't "
                "be used."_qs.arg(stage.tool.firstLine());
     return u"\"%1\" can't be decrypted with this private key and certificate: %2. Choose "
-           "the pair that it was encrypted for, on the Passwords tab."_qs.arg(nameOf(stage.archive),
-                                                                              stage.tool.firstLine());
+           "the pair that it was encrypted for, on the Password tab."_qs.arg(nameOf(stage.archive),
+                                                                             stage.tool.firstLine());
 }
 
 QString explainDecryption(const FailedStage &stage)

@@ -91,7 +91,7 @@ void lookAtProtection(const ExtractOrder &order, const ExtractItem &item, Findin
     else if (order.isCertificateChosen)
         findings.addConcern(
             u"\"%1\" was encrypted by a password, and a certificate is chosen. Choose a password on "
-            "the Passwords tab."_qs.arg(name));
+            "the Password tab."_qs.arg(name));
 }
 
 void lookAtPlaces(const ExtractOrder &order, const ExtractItem &item, Findings &findings)

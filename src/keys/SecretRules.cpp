@@ -42,7 +42,7 @@ QString describeKey(const EVP_PKEY *key)
 
 QString refusal(const QString &path, const QString &reason)
 {
-    return Words::tr("The certificate \"%1\" %2. Choose another one on the Passwords tab.").arg(path, reason);
+    return Words::tr("The certificate \"%1\" %2. Choose another one on the Password tab.").arg(path, reason);
 }
 
 } // namespace
@@ -51,7 +51,7 @@ QString whyBadPassword(const QString &password)
 {
     if (password.isEmpty())
         return Words::tr(
-            "No password is given. Type one on the Passwords tab; without a password nothing is backed up.");
+            "No password is given. Type one on the Password tab; without a password nothing is backed up.");
     if (password.contains(QChar::Null))
         return Words::tr("The password holds a zero byte (is its file perhaps UTF-16?), and all behind it "
                          "would be lost. Use a password of ordinary characters, in UTF-8.");
@@ -69,7 +69,7 @@ QString whyBadPassword(const QString &password)
 CertificateJudgement judgeCertificate(const QString &path)
 {
     if (path.isEmpty())
-        return {.obstacle = Words::tr("No certificate is chosen. Choose one on the Passwords tab.")};
+        return {.obstacle = Words::tr("No certificate is chosen. Choose one on the Password tab.")};
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return {.obstacle = refusal(path, Words::tr("is not there, or can't be read"))};

@@ -2,7 +2,9 @@
 
 #include "ui/Placeholders.h"
 
+#include <QAbstractButton>
 #include <QGuiApplication>
+#include <QStyle>
 
 // At global scope, as the macro asks: the icons lie in a static library, which would not load them by itself.
 static void loadIcons() { Q_INIT_RESOURCE(icons); }
@@ -51,6 +53,14 @@ void setUpAppearance()
 }
 
 QIcon themeIcon(const QString &name) { return QIcon::fromTheme(name); }
+
+void scaleIcons(QWidget &root)
+{
+    const int usual = root.style()->pixelMetric(QStyle::PM_SmallIconSize);
+    const int size = std::max(usual, root.fontMetrics().height());
+    for (auto *button : root.findChildren<QAbstractButton *>())
+        button->setIconSize(QSize(size, size));
+}
 
 QIcon stateSign(Sign sign) { return QIcon(u"%1/%2.svg"_qs.arg(ownIcons, fileOf(sign))); }
 

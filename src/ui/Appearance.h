@@ -3,6 +3,8 @@
 #include <QIcon>
 #include <QString>
 
+class QWidget;
+
 namespace ui {
 
 inline const QString applicationId = QStringLiteral("com.brolvanek.Quillorent");
@@ -12,6 +14,9 @@ void setUpAppearance();
 
 /// The theme's icon, or the program's own where the theme has none of that name.
 [[nodiscard]] QIcon themeIcon(const QString &name);
+
+/// Lets the signs on the buttons below `root` grow with its font.
+void scaleIcons(QWidget &root);
 
 enum class Sign { Good, Bad, Pending };
 [[nodiscard]] QIcon stateSign(Sign sign);

@@ -7,7 +7,8 @@ namespace ui {
 
 namespace {
 
-/// Keeps paths readable in every language, and gives cells some room on their right, so that columns which fit their contents do not touch.
+/// Keeps paths readable in every language, and gives cells some room on their right, so that columns which
+/// fit their contents do not touch.
 class RoomyDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -18,7 +19,8 @@ public:
     }
 
 protected:
-    // A path is read from left to right where all else is mirrored: the marks keep its slashes in their places.
+    // A path is read from left to right where all else is mirrored: the marks keep its slashes in their
+    // places.
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
     {
         QStyledItemDelegate::initStyleOption(option, index);

@@ -22,7 +22,7 @@ QString ofKeychain(const PasswordTab &tab)
     const QString origin = tab.keychainOrigin.text();
     const outlets::SecretField &counting = tab.checkBox01.isOn() ? tab.keychainPass : tab.keychainClear;
     if (isKeychainFieldAmbiguous(tab))
-        return tr("Password from the keychain – please look at the Passwords tab");
+        return tr("Password from the keychain – please look at the Password tab");
     if (counting.isEmpty() && account.isEmpty())
         return tr("Password from the keychain – no account chosen yet");
     if (counting.isEmpty()) return tr("Password from the keychain – not fetched yet");

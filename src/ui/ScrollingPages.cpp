@@ -1,6 +1,7 @@
 #include "ui/ScrollingPages.h"
 
 #include <QScrollArea>
+#include <QStackedWidget>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -23,7 +24,23 @@ void letScroll(QWidget &page)
     column->addWidget(area);
 }
 
+void giveRoomToShownPage(QStackedWidget &stack)
+{
+    for (int page = 0; page < stack.count(); ++page) {
+        const bool isShown = page == stack.currentIndex();
+        const auto policy = isShown ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+        stack.widget(page)->setSizePolicy(policy, policy);
+    }
+}
+
 } // namespace
+
+void fitToShownPage(QStackedWidget &stack)
+{
+    QObject::connect(&stack, &QStackedWidget::currentChanged, &stack,
+                     [&stack] { giveRoomToShownPage(stack); });
+    giveRoomToShownPage(stack);
+}
 
 void letPagesScroll(QTabWidget &tabs)
 {

@@ -16,7 +16,7 @@ const QString buttonColumn = u"c40"_qs;
 } // namespace
 
 ToolTableModel::ToolTableModel(QObject *parent)
-    : OutletTableModel({{nameColumn, tr("Tool")},
+    : OutletTableModel({{nameColumn, tr("Program")},
                         {pathColumn, tr("Path")},
                         {stateColumn, tr("Status")},
                         {buttonColumn, QString()}},
@@ -24,9 +24,21 @@ ToolTableModel::ToolTableModel(QObject *parent)
 {
 }
 
+QString ToolTableModel::purpose(const QString &tool)
+{
+    if (tool == u"RAR") return tr("makes and opens archives");
+    if (tool == u"OpenSSL") return tr("encrypts and decrypts");
+    if (tool == u"RSync") return tr("copies what has changed");
+    return {};
+}
+
 QVariant ToolTableModel::data(const QModelIndex &index, int role) const
 {
     const QVariant value = cell(index.row(), identifier(index.column()));
+    if (role == Qt::DisplayRole && identifier(index.column()) == nameColumn) {
+        const QString what = purpose(value.toString());
+        return what.isEmpty() ? value.toString() : tr("%1: %2").arg(value.toString(), what);
+    }
     if (role == Qt::ToolTipRole && identifier(index.column()) == pathColumn)
         return plainToolTip(value.toString());
     if (identifier(index.column()) != stateColumn) return OutletTableModel::data(index, role);

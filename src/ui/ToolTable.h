@@ -12,6 +12,10 @@ public:
     explicit ToolTableModel(QObject *parent = nullptr);
 
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+
+private:
+    /// In words what a registered tool is there for; empty for one that is not the program's own.
+    static QString purpose(const QString &tool);
 };
 
 /// Shows the tools, with a button in each row that asks for another file.

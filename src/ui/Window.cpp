@@ -2,6 +2,7 @@
 
 #include "app/QuillorentAppDelegate.h"
 #include "ui/Actions.h"
+#include "ui/Appearance.h"
 #include "ui/Binding.h"
 #include "ui/Derived.h"
 #include "ui/Menu.h"
@@ -22,6 +23,7 @@
 #include <QShortcut>
 
 namespace ui {
+
 Window::Window(QuillorentAppDelegate &controller)
     : m_controller(controller), m_form(std::make_unique<Ui::MainWindow>())
 {
@@ -30,6 +32,8 @@ Window::Window(QuillorentAppDelegate &controller)
     finishForm();
     m_panels = std::make_unique<Panels>(controller, *this);
     keepPathsLeftToRight(roots());
+    for (QWidget *root : roots())
+        scaleIcons(*root);
     m_binding = std::make_unique<Binding>(controller.outlets(), roots());
     connectActions(controller, *this, roots());
     for (PanelDialog *sheet : m_panels->progressSheets())
@@ -78,6 +82,7 @@ void Window::finishForm()
     m_form->prefStepper01->setRange(1, 10'000'000, 1000);
     m_form->prefStepper01->listenTo(*m_form->prefText01);
     letPagesScroll(*m_form->mainTabs);
+    fitToShownPage(*m_form->passTabs);
     restorePlace(*this, *m_form->mainTabs);
 }
 

@@ -4,23 +4,6 @@
 
 #include <gtest/gtest.h>
 
-TEST(StartUp, GivesANewUserAProfileAndFiles)
-{
-    TestProgram program;
-    program.start();
-    QuillorentAppDelegate &delegate = program.delegate();
-    EXPECT_EQ(delegate.currentProfile(), u"Default profile"_qs);
-    EXPECT_EQ(delegate.settingsPanel01.place(), outlets::Panel::Place::Hidden);
-    EXPECT_EQ(delegate.decryptionCombo01.selectedIndex(), 4);
-    EXPECT_FALSE(delegate.currentProfileTextView.isHidden());
-    const plist::Dictionary made = delegate.defaultProfile();
-    EXPECT_GT(made.count(), 15);
-    for (const QString &key : made.keys())
-        EXPECT_EQ(made.string(key), delegate.currentRecord().string(key)) << qPrintable(key);
-    EXPECT_TRUE(made.array(u"folders"_qs) && made.array(u"sync"_qs));
-    EXPECT_FALSE(made.array(u"sync"_qs).isSameObject(made.array(u"folders"_qs)));
-}
-
 TEST(StartUp, DoesNothingWithDamagedFilesButSay)
 {
     TestProgram program;

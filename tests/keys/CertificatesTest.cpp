@@ -182,15 +182,6 @@ TEST_F(Certificates, AnAnswerThatComesLateStaysWithItsProfile)
     }
 }
 
-TEST_F(Certificates, PublicKeyStandsBetweenItsMarkers)
-{
-    const QString begin = u"-----BEGIN PUBLIC KEY-----"_qs;
-    const QString end = u"-----END PUBLIC KEY-----"_qs;
-    EXPECT_FALSE(trimPubKey(std::nullopt) || trimPubKey(u"writing RSA key\n"_qs));
-    EXPECT_EQ(trimPubKey(u"writing RSA key\n"_qs + begin + u"\nA\n"_qs + end + begin + end), u"\nA\n"_qs);
-    EXPECT_EQ(trimPubKey(begin + u"rest"_qs), u"rest"_qs);
-}
-
 TEST_F(Certificates, TellWhomTheyAreForAndHowLong)
 {
     const auto summary = [](const char *name) { return *readCertificateSummary(file(QLatin1String(name))); };

@@ -170,12 +170,10 @@ TEST_F(PasswordActions, RefusesWhatNoArchiveCanBeEncryptedWith)
 
 TEST(Strength, TellsWhatIsGuessedFromWhatIsNot)
 {
-    EXPECT_EQ(estimateStrength({}), Strength::None);
-    for (const char *weak : {"secret", "Passw0rd!", "qwertyuiop12", "aaaaaaaaaaaaaaaaaaaaaaaa", "20031987"})
-        EXPECT_EQ(estimateStrength(QString::fromLatin1(weak)), Strength::Weak) << weak;
-    EXPECT_EQ(estimateStrength(u"rain otter violin"_qs), Strength::Fair);
-    for (const QString &strong :
-         {u"w7#Kq9!vZp2$Lm"_qs, u"rain otter violin magnet crispy dune"_qs, u"žluťoučký kůň úpěl"_qs})
-        EXPECT_EQ(estimateStrength(strong), Strength::Strong) << qPrintable(strong);
-    EXPECT_EQ(estimateStrength(QString(100'000, u'x') + u"w7#Kq9!vZp2$Lm"_qs), Strength::Weak);
+    for (const auto &[password, strength] : {std::pair{QString(), Strength::None},
+                                             {u"Passw0rd!"_qs, Strength::Weak},
+                                             {QString(100'000, u'x') + u"w7#Kq9!vZp2$Lm"_qs, Strength::Weak},
+                                             {u"rain otter violin"_qs, Strength::Fair},
+                                             {u"žluťoučký kůň úpěl"_qs, Strength::Strong}})
+        EXPECT_EQ(estimateStrength(password), strength) << qPrintable(password.left(30));
 }

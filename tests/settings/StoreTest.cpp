@@ -100,17 +100,6 @@ TEST_F(Store, StartsFromTheTemplatesForTheUserAlone)
     EXPECT_EQ(fs::status(config.parent_path()).permissions(), fs::perms{0700});
 }
 
-TEST_F(Store, LiesInTheFolderThatTheEnvironmentNames)
-{
-    for (const char *configured : {"/some/where/", "relative", ""}) {
-        qputenv("XDG_CONFIG_HOME", configured);
-        const std::string expected =
-            *configured == '/' ? configured : qgetenv("HOME").toStdString() + "/.config/";
-        EXPECT_EQ(settingsPath().toStdString(), expected + settingsName);
-        EXPECT_EQ(profilesPath().toStdString(), expected + profilesName);
-    }
-}
-
 TEST_F(Store, IsBroughtUpToDateWhereTheVersionDiffers)
 {
     for (const auto &[version, isMerged] :

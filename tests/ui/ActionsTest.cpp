@@ -226,7 +226,7 @@ TEST_F(ActionsTest, TheKeychainIsAskedWhileTheWindowGoesOn)
     QTest::keyClicks(&widget(u"keychainClear"_qs), u"!"_qs);
     settle();
     EXPECT_TRUE(widget(u"keychainConflict"_qs).isVisible());
-    EXPECT_TRUE(protection.text().contains(u"look at the Passwords tab"));
+    EXPECT_TRUE(protection.text().contains(u"look at the Password tab"));
 }
 
 TEST_F(ActionsTest, ChoosersTakeFilesAndFoldersTogetherAndToolsWithoutExtension)

@@ -101,6 +101,7 @@ TEST_F(TableTest, ToolsAreJudgedInWords)
     EXPECT_TRUE(waitUntil([&] { return widget<ui::LevelBar>(u"level01"_qs).text().startsWith(u'2'); }));
 
     // What is missing is said as long as it is.
+    ASSERT_TRUE(waitForThreads(60s));
     showTab(u"syncPage"_qs);
     EXPECT_TRUE(widget(u"noPathPanel01"_qs).isVisible());
     delegate.configPlist().dictionary(u"external"_qs).setValue(u"OpenSSL"_qs, right);

@@ -18,11 +18,10 @@ QString noArchives(const QuillorentAppDelegate &delegate)
 QString whyNoPassword(const QuillorentAppDelegate &delegate)
 {
     QString password = delegate.passwordSelector();
-    QString refusal =
-        password.isEmpty()
-            ? u"No password is given. Type one on the Passwords tab; without a password nothing "
-              "is extracted."_qs
-            : whyBadPassword(password);
+    QString refusal = password.isEmpty()
+                          ? u"No password is given. Type one on the Password tab; without a password nothing "
+                            "is extracted."_qs
+                          : whyBadPassword(password);
     wipe(password);
     return refusal;
 }
@@ -38,7 +37,7 @@ QString whatIsMissing(const QuillorentAppDelegate &delegate)
         return u"The extraction folder that is shown is not this profile's own. Choose it again."_qs;
     if (delegate.extractList.count() == 0) return noArchives(delegate);
     if (delegate.passCombo01.selectedIndex() == PasswordTab::Certificate && !delegate.pkeySelector())
-        return u"No certificate is chosen. Choose one on the Passwords tab."_qs;
+        return u"No certificate is chosen. Choose one on the Password tab."_qs;
     return delegate.passCombo01.selectedIndex() == PasswordTab::Certificate ? QString()
                                                                             : whyNoPassword(delegate);
 }

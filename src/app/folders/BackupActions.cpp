@@ -16,7 +16,7 @@ QString whatIsOdd(const QuillorentAppDelegate &delegate)
     if (delegate.passCombo01.selectedIndex() != PasswordTab::KeychainPassword) return {};
     if (origin.isEmpty() || origin == account) return {};
     return u"The password is that of the account \"%1\", and the account that is chosen is \"%2\". Fetch its "
-           "password on the Passwords tab, or choose the other account again."_qs.arg(origin, account);
+           "password on the Password tab, or choose the other account again."_qs.arg(origin, account);
 }
 
 /// What the look, the question and the work have in common.
