@@ -346,6 +346,7 @@ void ArchiveExtraction::listContents()
     m_order.listing->archive = m_item;
     m_order.listing->files = identitiesOf(m_item);
     m_order.listing->entries = entriesBelow(contentsFolder(m_folder), [this] { return goesOn(); });
+    m_order.listing->places = sortedPlaces(m_order.listing->entries);
     m_order.listing->took = m_run.state().elapsed();
     // Folders that only lead to what was backed up are as old as this run.
     const qint64 began = QDateTime::currentMSecsSinceEpoch() - m_order.listing->took.count();

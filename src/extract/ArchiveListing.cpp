@@ -3,6 +3,7 @@
 #include "files/ArchiveFiles.h"
 #include "files/FolderWalk.h"
 
+#include <QCollator>
 #include <QFile>
 #include <algorithm>
 
@@ -64,6 +65,38 @@ std::vector<Entry> entriesBelow(const QString &folder, const std::function<bool(
     }
     addUp(entries);
     return entries;
+}
+
+std::vector<int> sortedPlaces(const std::vector<Entry> &entries)
+{
+    struct Key {
+        bool isFile;
+        QCollatorSortKey name;
+        std::size_t index;
+    };
+    std::vector<std::vector<std::size_t>> below(entries.size() + 1);
+    for (std::size_t index = 0; index < entries.size(); ++index) {
+        const int parent = entries[index].parent;
+        below[parent == ArchiveListing::top ? entries.size() : std::size_t(parent)].push_back(index);
+    }
+    QCollator byLanguage;
+    byLanguage.setNumericMode(true);
+    std::vector<int> places(entries.size());
+    for (const std::vector<std::size_t> &siblings : below) {
+        std::vector<Key> keys;
+        for (const std::size_t index : siblings) {
+            const QString name = QFile::decodeName(QByteArray::fromStdString(entries[index].name));
+            const bool isFile = entries[index].kind != FileEntry::Kind::Folder;
+            keys.push_back({isFile, byLanguage.sortKey(name), index});
+        }
+        std::sort(keys.begin(), keys.end(), [](const Key &left, const Key &right) {
+            if (left.isFile != right.isFile) return right.isFile;
+            return left.name.compare(right.name) < 0;
+        });
+        for (std::size_t place = 0; place < keys.size(); ++place)
+            places[keys[place].index] = int(place);
+    }
+    return places;
 }
 
 std::vector<FileIdentity> identitiesOf(const QString &archive)

@@ -20,7 +20,10 @@ struct ArchiveListing {
         int files = 0;       ///< below a folder; of anything else 1
     };
 
-    std::vector<Entry> entries{};      ///< folders before what is in them
+    std::vector<Entry> entries{}; ///< folders before what is in them
+    /// Of each entry, among what is in the same folder: folders first, then as the user's language sorts
+    /// names.
+    std::vector<int> places{};
     std::chrono::milliseconds took{};  ///< to look into the archive
     QString archive{};                 ///< in one piece, or the first volume of a set
     std::vector<FileIdentity> files{}; ///< of the archive when it was looked into
@@ -33,6 +36,9 @@ struct ArchiveListing {
 /// `goesOn` says no.
 [[nodiscard]] std::vector<ArchiveListing::Entry> entriesBelow(const QString &folder,
                                                               const std::function<bool()> &goesOn);
+
+/// Takes its time where there are very many.
+[[nodiscard]] std::vector<int> sortedPlaces(const std::vector<ArchiveListing::Entry> &entries);
 
 /// What tells an archive, with all volumes of its set, from what has come under its names since.
 [[nodiscard]] std::vector<FileIdentity> identitiesOf(const QString &archive);

@@ -177,7 +177,8 @@ QString MoveTree::rename(const Pair &in, const std::string &name)
     // A folder that changes its place is written to: the way up from it is another one.
     if (needsRight) fchmodat(in.from.descriptor(), name.c_str(), source->st_mode | S_IWUSR, 0);
     const int error = renameToFreeIn(in.from.descriptor(), name, in.to.descriptor(), name);
-    if (error == 0 && needsRight) fchmodat(in.to.descriptor(), name.c_str(), source->st_mode & 0777, 0);
+    const Folder &where = error == 0 ? in.to : in.from;
+    if (needsRight) fchmodat(where.descriptor(), name.c_str(), source->st_mode & 0777, 0);
     if (error == EXDEV) return copy(in, name);
     return error == 0 ? QString() : failure(in.to.pathOf(name), error);
 }

@@ -2,7 +2,6 @@
 
 #include "ui/Appearance.h"
 
-#include <QCollator>
 #include <QDateTime>
 #include <QFile>
 #include <QLocale>
@@ -42,18 +41,9 @@ const std::vector<int> &ContentsModel::below(int index) const
 {
     Node &node = m_nodes[index == ArchiveListing::top ? m_nodes.size() - 1 : std::size_t(index)];
     if (node.isSorted) return node.below;
-    QCollator byLocale;
-    byLocale.setNumericMode(true);
-    std::vector<std::pair<QString, int>> named;
-    for (const int each : node.below)
-        named.emplace_back(nameOf(each), each);
-    const auto isFile = [this](int each) { return entryOf(each).kind != FileEntry::Kind::Folder; };
-    std::sort(named.begin(), named.end(), [&](const auto &left, const auto &right) {
-        if (isFile(left.second) != isFile(right.second)) return isFile(right.second);
-        return byLocale.compare(left.first, right.first) < 0;
-    });
-    std::transform(named.begin(), named.end(), node.below.begin(),
-                   [](const auto &each) { return each.second; });
+    const std::vector<int> &places = m_listing->places;
+    std::sort(node.below.begin(), node.below.end(),
+              [&](int left, int right) { return places[std::size_t(left)] < places[std::size_t(right)]; });
     node.isSorted = true;
     return node.below;
 }

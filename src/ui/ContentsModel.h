@@ -7,7 +7,7 @@
 
 namespace ui {
 
-/// What an archive holds, as a tree with a box each. What is below a folder is sorted when it is first looked
+/// What an archive holds, as a tree with a box each. What is below a folder is put in order when first looked
 /// at: there may be a million names.
 class ContentsModel : public QAbstractItemModel {
     Q_OBJECT
