@@ -7,6 +7,7 @@
 #include "app/extraction/ExtractSheet.h"
 #include "app/extraction/ExtractTab.h"
 #include "app/extraction/ExtractTable.h"
+#include "app/extraction/Listings.h"
 #include "app/folders/BackupSheet.h"
 #include "app/folders/FolderTab.h"
 #include "app/folders/ListTable.h"
@@ -68,8 +69,11 @@ public:
     plist::Array extractList = plist::Array::make();     ///< archives to extract
     plist::Array extractFullList = plist::Array::make(); ///< archives shown
     Guarded<RunRecord> lastRecord; ///< of the run that ended last; without a kind before one has
-    /// Where the last extraction went; empty unless all of it succeeded.
+    /// The deepest folder of all that the last extraction brought back; empty unless all of it succeeded.
     [[nodiscard]] QString extractedFolder() const { return openFolderButton.alternateTitle(); }
+    Listings listings;                             ///< of archives that were looked into
+    Guarded<Listings::Listing> shownListing;       ///< the one that `contentsPanel01` shows
+    Guarded<std::vector<std::string>> chosenPaths; ///< what is chosen there, as the archive has it
     /// On: a synchronisation that deletes shows first what. Off: it is a concern like others. Set before it
     /// starts.
     bool previewsDeletions = true;
@@ -174,7 +178,15 @@ public:
     void extractButton02Action();               ///< remove
     void extractButton03Action();               ///< clear
     void addArchives(const QStringList &paths); ///< chosen in a panel, or dropped onto the list
+    void takeOffArchives(const QStringList &paths);
     void extractPathButtonAction();
+    void takeRestoredFolder();     ///< a folder of that name in the home becomes the one to extract into
+    void contentsButton01Action(); ///< look into the selected archive, or the only one
+    void lookInto(const QStringList &archives);
+    void showContents(const Listings::Listing &listing); ///< any thread
+    void contentsPanel01Restore();                       ///< what is chosen there
+    void contentsPanel01Close();
+    void restoreChosen(const QStringList &archives, const std::vector<std::string> &chosen);
     void buttonLaunch02();
     void buttonLaunch02b();
     void buttonLaunch02Stop();

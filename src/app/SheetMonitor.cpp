@@ -1,12 +1,23 @@
 #include "app/SheetMonitor.h"
 
 #include "app/QuillorentAppDelegate.h"
+#include "extract/ChosenPaths.h"
 
 namespace {
 
 void setHidden(outlets::TextField *label, bool hidden)
 {
     if (label) label->setHidden(hidden);
+}
+
+/// The deepest that all of what was brought back shares.
+QString folderOfContents(const RunRecord &record)
+{
+    QString folder;
+    for (const ItemRecord &item : record.items)
+        if (!item.contents.isEmpty())
+            folder = folder.isEmpty() ? item.contents : commonFolder(folder, item.contents);
+    return folder.isEmpty() ? record.folder : folder;
 }
 
 } // namespace
@@ -62,7 +73,7 @@ void SheetMonitor::toolsStillRun(const QStringList &what)
 void SheetMonitor::concluded(const RunRecord &record)
 {
     if (record.kind == u"extract" && record.outcome == Outcome::Succeeded)
-        m_delegate.openFolderButton.setAlternateTitle(record.folder);
+        m_delegate.openFolderButton.setAlternateTitle(folderOfContents(record));
     m_sheet.result.setText(record.summary);
     m_delegate.lastRecord.set(record);
     m_delegate.showLeftInClear();

@@ -1,15 +1,21 @@
 #include "extract/ArchiveExtraction.h"
 
+#include "extract/ArchiveListing.h"
+#include "extract/ChosenPaths.h"
 #include "extract/Explanation.h"
 #include "extract/ExtractArguments.h"
 #include "extract/UsualRights.h"
+#include "files/MoveTree.h"
 #include "files/Names.h"
+#include "files/Paths.h"
 #include "files/Room.h"
 #include "files/Sizes.h"
 #include "runs/ItemPipeline.h"
 #include "runs/Pauses.h"
 #include "runs/Run.h"
 
+#include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -34,6 +40,7 @@ public:
     void run();
 
 private:
+    [[nodiscard]] bool begin();
     void unpackOuter();
     [[nodiscard]] bool hold(const QStringList &paths);
     void letGo();
@@ -43,6 +50,10 @@ private:
     [[nodiscard]] ToolResult runDecoder();
     void unpackInner();
     [[nodiscard]] QStringList entriesOf(const QString &archive) const;
+    void listContents();
+    void bringChosen();
+    [[nodiscard]] QString whatIsNotThere(const MoveTree &tree) const;
+    void noteContents(const QString &path);
     struct Contents;
     [[nodiscard]] Contents contentsOf(const QString &archive) const;
     [[nodiscard]] QString folderForContents(Contents &contents);
@@ -54,12 +65,14 @@ private:
     const ExtractOrder &m_order;
     ExtractShared &m_shared;
     const ExtractItem &m_paths;
-    QStringList m_held;  ///< paths that no other archive writes to as long as this one is on its way
-    QString m_entryName; ///< of the encrypted file in the archive, where it is another than expected
+    QStringList m_held;     ///< paths that no other archive writes to as long as this one is on its way
+    const QString m_folder; ///< where the stages work
+    QString m_entryName;    ///< of the encrypted file in the archive, where it is another than expected
     QString m_command;
     bool m_isDecrypted = false;
     bool m_isExtracted = false;
     bool m_innerIsArchive = false;
+    QString m_example; ///< of a path in the archive
     FailedStage::Kind m_stage = FailedStage::Kind::UnpackOuter;
     ToolResult m_result; ///< of the last stage that ran
 };
@@ -71,6 +84,11 @@ Place whatIsAt(const QString &path)
     if (there->kind == FileEntry::Kind::Link) return Place::Link;
     return there->kind == FileEntry::Kind::Folder ? Place::Folder : Place::File;
 }
+
+QString tr(const char *text) { return QCoreApplication::translate("ArchiveExtraction", text); }
+
+/// In the folder of a run's own, beside the files between the stages.
+QString contentsFolder(const QString &privateFolder) { return joined(privateFolder, u"contents"_qs); }
 
 /// Whether a file begins as RAR archives do, of any version.
 bool beginsAsArchive(const QString &path)
@@ -93,6 +111,8 @@ bool hasCome(const QStringList &some, const QString &folder)
 struct ArchiveExtraction::Contents {
     QStringList some; ///< the first ones and the last
     EntryNames names; ///< where there are other archives that may have the same
+    QString common;   ///< the deepest path that all of them are, or lie in, behind a slash; empty where there
+                      ///< are none
 };
 
 ArchiveExtraction::ArchiveExtraction(Run &run, const ExtractOrder &order, qsizetype index,
@@ -101,15 +121,27 @@ ArchiveExtraction::ArchiveExtraction(Run &run, const ExtractOrder &order, qsizet
     , m_order(order)
     , m_shared(shared)
     , m_paths(order.items[index])
+    , m_folder(order.privateFolder.isEmpty() ? order.folder : order.privateFolder)
     , m_command(m_paths.command)
 {
-    expect({m_paths.paths.encrypted, m_paths.paths.inner}, m_paths.paths.inner);
+    // A folder of the run's own is in clear as a whole.
+    expect({m_paths.paths.encrypted, m_paths.paths.inner},
+           order.privateFolder.isEmpty() ? m_paths.paths.inner : QString());
+}
+
+bool ArchiveExtraction::begin()
+{
+    if (m_order.privateFolder.isEmpty() || isCancelled()) return true;
+    const ToolResult result = openPrivateFolder(m_order.privateFolder);
+    if (result.isSilent()) return true;
+    judgeStage(FailedStage::Kind::Place, u"\nRESTORE"_qs, result, true, m_order.privateFolder);
+    return false;
 }
 
 void ArchiveExtraction::run()
 {
     const ExtractPaths &paths = m_paths.paths;
-    unpackOuter();
+    if (begin()) unpackOuter();
     takeRenamedEntry();
     decrypt();
     if (goesOn() && m_isDecrypted) removeOwn(paths.encrypted);
@@ -117,6 +149,8 @@ void ArchiveExtraction::run()
     if (goesOn() && m_isExtracted) removeOwn(paths.inner);
     // Only where this run has put it there: something else was set aside.
     if (goesOn() && m_isExtracted && paths.leftover != paths.encrypted) QFile::remove(paths.leftover);
+    listContents();
+    bringChosen();
 
     if (m_succeeded) {
         succeed(quillorentLibrary::calculateSize(m_item));
@@ -124,6 +158,7 @@ void ArchiveExtraction::run()
         const QString explanation = explainFailure();
         fail(u'\n' + explanation, explanation);
     }
+    closePrivateFolder();
     letGo();
     end(m_isExtracted, {});
 }
@@ -153,6 +188,8 @@ ArchiveExtraction::Contents ArchiveExtraction::contentsOf(const QString &archive
     runForLines(m_order.archiver, extractArguments::list(archive), [&](const QString &entry) {
         if (contents.some.size() > sample) contents.some.removeLast();
         contents.some.append(entry);
+        const QString path = u'/' + entry;
+        contents.common = contents.common.isEmpty() ? path : commonFolder(contents.common, path);
         if (mayMeetOthers) contents.names.add(entry);
     });
     return contents;
@@ -199,12 +236,12 @@ void ArchiveExtraction::unpackOuter()
     // An archive that was renamed holds its encrypted file under the old name, which another's may have, too.
     QStringList entries;
     for (const QString &entry : entriesOf(m_item))
-        entries.append(joined(m_order.folder, lastPathComponent(entry)));
+        entries.append(joined(m_folder, lastPathComponent(entry)));
     const ExtractPaths &paths = m_paths.paths;
     if (!hold(QStringList{paths.encrypted, paths.inner, paths.leftover} + entries)) return;
     ToolResult result = makeWayForEntries(entries);
     if (result.isSilent())
-        result = runStage(m_order.archiver, extractArguments::unpackOuter(m_item, m_order.folder));
+        result = runStage(m_order.archiver, extractArguments::unpackOuter(m_item, m_folder));
     // Whether the encrypted file is there is for the next stage to say: its name may be another one.
     judgeStage(FailedStage::Kind::UnpackOuter, u"\nunRAR 1st"_qs, result, true, m_paths.paths.encrypted);
 }
@@ -216,7 +253,7 @@ void ArchiveExtraction::takeRenamedEntry()
     const QStringList entries = entriesOf(m_item);
     if (entries.size() != 1) return;
     const QString name = lastPathComponent(entries.first());
-    const QString entry = joined(m_order.folder, name);
+    const QString entry = joined(m_folder, name);
     if (whatIsAt(entry) == Place::File && renameToFree(entry, m_paths.paths.encrypted) == 0)
         m_entryName = name;
     noteBetween(m_paths.paths.encrypted);
@@ -259,6 +296,7 @@ ToolResult ArchiveExtraction::runDecoder()
 /// archive of this run has brought back.
 QString ArchiveExtraction::folderForContents(Contents &contents)
 {
+    if (m_order.isPart()) return contentsFolder(m_folder);
     if (m_order.items.size() < 2 || m_shared.names.claim(std::move(contents.names))) return m_order.folder;
     const QString inner = lastPathComponent(m_paths.paths.inner);
     const QString name = inner.endsWith(u".rar"_qs) ? inner.chopped(4) : inner + u" contents"_qs;
@@ -279,6 +317,7 @@ void ArchiveExtraction::unpackInner()
     Contents contents = m_innerIsArchive ? contentsOf(inner) : Contents();
     const QString folder = folderForContents(contents);
     ToolResult result = checkInput(inner);
+    if (m_order.isPart()) QDir().mkdir(folder);
     if (result.isSilent()) {
         const UsualRights rights;
         result = runStage(m_order.archiver, extractArguments::unpackInner(inner, folder));
@@ -289,6 +328,69 @@ void ArchiveExtraction::unpackInner()
     judgeStage(FailedStage::Kind::UnpackInner, u"\nunRAR 2nd"_qs, result, hasCome(contents.some, folder),
                folder);
     m_isExtracted = m_succeeded && m_distrust.isEmpty();
+    if (!contents.some.isEmpty()) m_example = contents.some.first();
+    if (m_isExtracted && !m_order.isPart()) noteContents(folder + contents.common);
+}
+
+/// Notes the folder of what was brought back at `path`, or the path itself where it is one.
+void ArchiveExtraction::noteContents(const QString &path)
+{
+    // A name may be printed otherwise than it is.
+    QString folder = QDir::cleanPath(path);
+    while (whatIsAt(folder) != Place::Folder && folder.size() > m_order.folder.size())
+        folder = QFileInfo(folder).path();
+    if (!quillorentLibrary::isInside(folder, m_order.folder)) return;
+    m_run.journal().changeItem(m_index, [&](ItemRecord &item) {
+        item.contents = item.contents.isEmpty() ? folder : commonFolder(item.contents, folder);
+    });
+}
+
+void ArchiveExtraction::listContents()
+{
+    if (!goesOn() || !m_isExtracted || !m_order.listing) return;
+    m_order.listing->archive = m_item;
+    m_order.listing->files = identitiesOf(m_item);
+    m_order.listing->entries = entriesBelow(contentsFolder(m_folder), [this] { return goesOn(); });
+    m_order.listing->places = sortedPlaces(m_order.listing->entries);
+    m_order.listing->took = m_run.state().elapsed();
+    // Folders that only lead to what was backed up are as old as this run.
+    const qint64 began = QDateTime::currentMSecsSinceEpoch() - m_order.listing->took.count();
+    for (ArchiveListing::Entry &entry : m_order.listing->entries)
+        if (entry.kind == FileEntry::Kind::Folder && entry.modified >= began / 1000) entry.modified = 0;
+}
+
+QString ArchiveExtraction::whatIsNotThere(const MoveTree &tree) const
+{
+    const auto missing = std::find_if(m_order.chosen.begin(), m_order.chosen.end(),
+                                      [&](const std::string &path) { return !tree.has(path); });
+    if (missing == m_order.chosen.end()) return {};
+    return tr("There is no \"%1\" in \"%2\", so nothing was brought back. The archive's paths look like "
+              "\"%3\".")
+        .arg(QFile::decodeName(QByteArray::fromStdString(*missing)), lastPathComponent(m_item), m_example);
+}
+
+void ArchiveExtraction::bringChosen()
+{
+    if (!goesOn() || !m_isExtracted || m_order.chosen.empty()) return;
+    setStage(u"bringing back what was chosen"_qs);
+    MoveTree tree(QFile::encodeName(contentsFolder(m_folder)).toStdString(),
+                  QFile::encodeName(m_order.folder).toStdString(),
+                  {.keep = [this](const Aside &kept) { noteKept(kept); },
+                   .keptAsItWas = [this] { noteNotKept(); },
+                   .goesOn = [this] { return !isCancelled(); }});
+    QString reason = whatIsNotThere(tree);
+    for (const std::string &path : m_order.chosen) {
+        if (!reason.isEmpty() || isCancelled()) break;
+        reason = tree.move(path);
+        if (reason.isEmpty())
+            noteContents(joined(m_order.folder, QFile::decodeName(QByteArray::fromStdString(path))));
+    }
+    if (isCancelled()) {
+        m_isExtracted = false;
+        return;
+    }
+    judgeStage(FailedStage::Kind::Place, u"\nRESTORE"_qs, {.output = reason}, true, m_order.folder);
+    m_isExtracted = m_succeeded;
 }
 
 QString ArchiveExtraction::explainFailure() const

@@ -161,9 +161,11 @@ QString explainByStage(const FailedStage &stage)
     case Kind::Decrypt:
         return explainDecryption(stage);
     case Kind::UnpackInner:
+        return explainInner(stage);
+    case Kind::Place:
         break;
     }
-    return explainInner(stage);
+    return stage.tool.text();
 }
 
 } // namespace

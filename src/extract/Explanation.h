@@ -8,7 +8,8 @@
 /// What is known of a stage of an extraction that failed: which one, what its tool said, and what was found
 /// by looking afterwards.
 struct FailedStage {
-    enum class Kind { Test, UnpackOuter, Decrypt, UnpackInner };
+    enum class Kind { Test, UnpackOuter, Decrypt, UnpackInner, Place };
+    // Place: what was chosen goes to its place, without a tool.
     /// What lies at a path.
     enum class Place { Nothing, File, Link, Folder };
 

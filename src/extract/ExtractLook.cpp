@@ -1,6 +1,7 @@
 #include "extract/ExtractLook.h"
 
 #include "extract/Candidates.h"
+#include "extract/ChosenPaths.h"
 #include "extract/VolumeSet.h"
 #include "files/Names.h"
 #include "files/Paths.h"
@@ -9,6 +10,7 @@
 #include "runs/Looks.h"
 #include "runs/Run.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QSet>
 #include <algorithm>
@@ -151,6 +153,17 @@ void repair(const ExtractOrder &order, const QString &folder)
                       [&](const QString &archive) { return isWholeArchive(order.archiver, archive); });
 }
 
+/// One archive at a time: of several, names that meet would tell nobody which of them was meant.
+void lookAtChoice(ExtractOrder &order, Findings &findings)
+{
+    if (order.items.size() != 1)
+        findings.addObstacle(QCoreApplication::translate(
+            "ExtractLook", "Single files are looked for in one archive at a time. Choose one archive, or of "
+                           "a set its first volume."));
+    findings.addObstacle(tidyChosen(order.chosen));
+    if (findings.obstacles.isEmpty()) workInPrivate(order);
+}
+
 /// Archives are extracted from where backups are made: one that was killed may have left its former archive
 /// under another name there.
 void repairAround(const ExtractOrder &order)
@@ -174,6 +187,7 @@ Findings lookAtExtraction(ExtractOrder &order, FolderLock &lock)
             "choose another one."_qs.arg(order.folder));
         return findings;
     }
+    if (order.isPart()) lookAtChoice(order, findings);
     lookForArchivesInTheWay(order, findings);
     if (!findings.obstacles.isEmpty()) return findings;
     repairAround(order);
@@ -198,7 +212,8 @@ Findings lookAtExtraction(ExtractOrder &order, FolderLock &lock)
     lookForLeftOut(order, findings);
     findings.addConcern(concernAboutRecords());
     lookForRoom(order, findings);
-    if (order.asksBeforeReplacing && !quillorentLibrary::holdsNothing(order.folder))
+    // What is chosen replaces nothing.
+    if (!order.isPart() && order.asksBeforeReplacing && !quillorentLibrary::holdsNothing(order.folder))
         findings.overwrites =
             u"The extraction folder \"%1\" is not empty. Files of the same name are replaced."_qs.arg(
                 order.folder);

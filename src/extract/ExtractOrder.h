@@ -7,6 +7,11 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <memory>
+#include <string>
+#include <vector>
+
+struct ArchiveListing;
 
 /// One archive, and the files that its extraction makes, one out of the other.
 struct ExtractItem {
@@ -23,6 +28,14 @@ struct ExtractOrder {
     QList<ExtractItem> items{};
     QStringList shown{}; ///< all archives and volumes that were named, those that are not extracted, too
 
+    /// What of the one archive goes to its place, by paths as the archive has them, in bytes; empty: all.
+    std::vector<std::string> chosen{};
+    /// Takes what the one archive holds; then nothing goes to its place. None: that is not wanted.
+    std::shared_ptr<ArchiveListing> listing{};
+    /// Where the stages work, so that nothing comes into the extraction folder by itself; it exists for as
+    /// long as they do. Empty: in the extraction folder.
+    QString privateFolder{};
+
     QString archiver{}; ///< path of the program; empty where none is registered
     QString decoder{};
     QList<Method> methods{};
@@ -35,4 +48,6 @@ struct ExtractOrder {
 
     bool asksBeforeReplacing = true; ///< a folder that is not empty is a concern
     QList<LeftFile> known{};         ///< what earlier runs left in the folder
+
+    [[nodiscard]] bool isPart() const { return listing || !chosen.empty(); }
 };

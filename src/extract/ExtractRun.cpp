@@ -1,6 +1,7 @@
 #include "extract/ExtractRun.h"
 
 #include "extract/ArchiveExtraction.h"
+#include "extract/ArchiveListing.h"
 #include "extract/Candidates.h"
 #include "extract/Explanation.h"
 #include "extract/ExtractArguments.h"
@@ -10,6 +11,7 @@
 #include "runs/Run.h"
 #include "tools/ToolRun.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <memory>
 #include <thread>
@@ -26,6 +28,7 @@ protected:
     [[nodiscard]] QString summary() const override;
 
 private:
+    [[nodiscard]] QString success() const;
     [[nodiscard]] bool allAreWhole();
     [[nodiscard]] ToolResult test(const QString &archive);
     void measure();
@@ -37,6 +40,11 @@ private:
     mutable ExtractShared m_shared;
 };
 
+QString tr(const char *text, int count = -1)
+{
+    return QCoreApplication::translate("ExtractRun", text, nullptr, count);
+}
+
 QStringList archivesOf(const ExtractOrder &order)
 {
     QStringList archives;
@@ -47,7 +55,7 @@ QStringList archivesOf(const ExtractOrder &order)
 
 RunRecord recordOf(const ExtractOrder &order)
 {
-    RunRecord record{.kind = u"extract"_qs,
+    RunRecord record{.kind = order.listing ? u"look"_qs : u"extract"_qs,
                      .profile = order.profile,
                      .folder = order.folder,
                      .began = QDateTime::currentDateTimeUtc()};
@@ -141,18 +149,31 @@ void ExtractRun::launchWorkers()
     }
 }
 
+QString ExtractRun::success() const
+{
+    if (m_order.listing)
+        return tr("Looked into the archive: it holds %n file(s) and folder(s).",
+                  int(m_order.listing->entries.size()));
+    if (m_order.isPart())
+        return tr("Brought back what was chosen, %n file(s) or folder(s), to \"%1\".",
+                  int(m_order.chosen.size()))
+            .arg(m_order.folder);
+    const QLocale locale;
+    return u"Extracted %1 of %2 into \"%3\"."_qs.arg(locale.toString(qint64(m_state.foldersDone())),
+                                                     locale.toString(m_order.items.size()), m_order.folder);
+}
+
 QString ExtractRun::summary() const
 {
-    const QLocale locale;
     QStringList sentences;
     if (!m_state.failure().isEmpty())
         sentences.append(u"Failed: "_qs + m_state.failure());
+    else if (m_state.isCancelledByUser() && m_order.isPart())
+        sentences.append(tr("Cancelled. What was chosen may have been brought back in part."));
     else if (m_state.isCancelledByUser())
         sentences.append(u"Cancelled. Files left in the extraction folder may be incomplete."_qs);
     else
-        sentences.append(
-            u"Extracted %1 of %2 into \"%3\"."_qs.arg(locale.toString(qint64(m_state.foldersDone())),
-                                                      locale.toString(m_order.items.size()), m_order.folder));
+        sentences.append(success());
     const std::lock_guard lock(m_shared.mutex);
     for (const QString &folder : m_shared.ownFolders)
         sentences.append(u"\"%1\" has what would have replaced files of another archive."_qs.arg(folder));

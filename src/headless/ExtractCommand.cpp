@@ -3,8 +3,12 @@
 #include "app/QuillorentAppDelegate.h"
 #include "headless/Print.h"
 #include "headless/RunCommand.h"
+#include "tools/Threads.h"
 
+#include <QDateTime>
+#include <QFile>
 #include <QFileInfo>
+#include <cstdio>
 
 namespace {
 
@@ -46,14 +50,65 @@ void answerPanels(QuillorentAppDelegate &delegate, PanelAnswers &answers)
     answers.answer(delegate.extractPanel01, [&] { delegate.stopProcess02b(); });
 }
 
+/// Whether all is there that a run needs to begin.
+bool prepare(QuillorentAppDelegate &delegate, const Options &options)
+{
+    return fillIn(delegate, options) && supplyPassword(delegate, options.passwordFile, Asking::Once);
+}
+
+std::vector<std::string> encoded(const QStringList &paths)
+{
+    std::vector<std::string> bytes;
+    for (const QString &path : paths)
+        bytes.push_back(QFile::encodeName(path).toStdString());
+    return bytes;
+}
+
+/// A line break in a name would begin another line, and a backslash tell nothing.
+std::string inOneLine(const std::string &path)
+{
+    std::string line;
+    for (const char c : path)
+        line += c == '\n' ? "\\n" : c == '\\' ? "\\\\" : std::string(1, c);
+    return line;
+}
+
+void printListing(const ArchiveListing &listing)
+{
+    for (int index = 0; index < int(listing.entries.size()); ++index) {
+        const ArchiveListing::Entry &entry = listing.entries[std::size_t(index)];
+        const QDateTime changed = QDateTime::fromSecsSinceEpoch(entry.modified, Qt::UTC);
+        const QString time = entry.modified == 0 ? QString() : changed.toString(Qt::ISODate);
+        const char *end = entry.kind == FileEntry::Kind::Folder ? "/" : "";
+        std::printf("%lld\t%s\t%s%s\n", static_cast<long long>(entry.bytes), qUtf8Printable(time),
+                    inOneLine(listing.pathOf(index)).c_str(), end);
+    }
+}
+
 } // namespace
 
 ExitStatus runExtraction(QuillorentAppDelegate &delegate, const Options &options)
 {
-    if (!fillIn(delegate, options)) return NotStarted;
-    if (!supplyPassword(delegate, options.passwordFile, Asking::Once)) return NotStarted;
-
+    if (!prepare(delegate, options)) return NotStarted;
     PanelAnswers answers(delegate, options.yes);
     answerPanels(delegate, answers);
-    return runToEnd(delegate, options, answers, delegate.buttonCancel02, [&] { delegate.buttonLaunch02(); });
+    return runToEnd(delegate, options, answers, delegate.buttonCancel02, [&] {
+        if (options.only.isEmpty())
+            delegate.buttonLaunch02();
+        else
+            delegate.restoreChosen(delegate.extractList.strings(), encoded(options.only));
+    });
+}
+
+ExitStatus runListing(QuillorentAppDelegate &delegate, const Options &options)
+{
+    if (!prepare(delegate, options)) return NotStarted;
+    PanelAnswers answers(delegate, options.yes);
+    answerPanels(delegate, answers);
+    const ExitStatus status = runToEnd(delegate, options, answers, delegate.buttonCancel02,
+                                       [&] { delegate.lookInto(delegate.extractList.strings()); });
+    // The run is at rest a moment before what it found is shown.
+    if (status == Done && waitForThreads(std::chrono::minutes(1)))
+        if (const auto listing = delegate.shownListing()) printListing(*listing);
+    return status;
 }

@@ -22,6 +22,10 @@ const QList<CommandRow> &commands()
         {Command::Extract,
          u"extract"_qs,
          2,
+         {u"to"_qs, u"only"_qs, u"method"_qs, u"password-file"_qs, u"yes"_qs, u"progress"_qs, u"json"_qs}},
+        {Command::List,
+         u"list"_qs,
+         2,
          {u"to"_qs, u"method"_qs, u"password-file"_qs, u"yes"_qs, u"progress"_qs, u"json"_qs}},
         {Command::Sync, u"sync"_qs, 2, {u"yes"_qs, u"progress"_qs, u"json"_qs}},
         {Command::Tools, u"tools"_qs, 1, {}},
@@ -52,6 +56,8 @@ void describe(QCommandLineParser &parser)
         "  backup [PROFILE]                  back up the folders of a profile\n"
         "  extract [PROFILE] -- ARCHIVE...   turn archives back into folders; of a set the first volume,\n"
         "                                    or a folder of archives\n"
+        "  list [PROFILE] -- ARCHIVE         tell what an archive holds: bytes, time, path, separated by\n"
+        "                                    tabs; needs the password, room and time as extract does\n"
         "  sync [PROFILE]                    synchronise the files and folders of a profile\n"
         "  tools                             list the external tools: name, path, ok or not\n"
         "  profiles                          list the profiles; * marks the one opened at start-up\n\n"
@@ -62,6 +68,11 @@ void describe(QCommandLineParser &parser)
          {{u"v"_qs, u"version"_qs}, u"Show the version."_qs},
          {u"password-file"_qs, u"Take the password from the first line of FILE; - is standard input."_qs,
           u"FILE"_qs},
+         {u"only"_qs,
+          u"Bring back PATH alone, a file or folder of the one archive, as list tells it; may be given "
+          u"several "
+          "times. Nothing is replaced: what is there gets a name that begins with \"kept-\"."_qs,
+          u"PATH"_qs},
          {u"to"_qs, u"Extract into FOLDER instead of the profile's extraction folder."_qs, u"FOLDER"_qs},
          {u"method"_qs, u"Decrypt by METHOD: aes, bf, 3d, smime, or auto, by the archive's name."_qs,
           u"METHOD"_qs},
@@ -70,7 +81,7 @@ void describe(QCommandLineParser &parser)
           "files that will be deleted, and the like. What would lose files is refused all the same."_qs},
          {u"json"_qs, u"Print the run's record on standard output when it has ended."_qs},
          {u"progress"_qs, u"Show progress even where no terminal is."_qs}});
-    parser.addPositionalArgument(u"command"_qs, u"backup, extract, sync, tools or profiles."_qs);
+    parser.addPositionalArgument(u"command"_qs, u"backup, extract, list, sync, tools or profiles."_qs);
     parser.addPositionalArgument(u"PROFILE"_qs,
                                  u"The profile; without it the one that the window would open."_qs);
 }
@@ -92,15 +103,15 @@ ParsedArguments parseArguments(const QStringList &arguments)
 
     const QStringList words = parser.positionalArguments();
     if (words.isEmpty())
-        return wrongUsage(u"A command is missing: backup, extract, sync, tools or profiles."_qs);
+        return wrongUsage(u"A command is missing: backup, extract, list, sync, tools or profiles."_qs);
     const auto command = std::find_if(commands().begin(), commands().end(),
                                       [&](const CommandRow &row) { return row.name == words.first(); });
     if (command == commands().end())
         return wrongUsage(
-            u"\"%1\" is no command; there are backup, extract, sync, tools and profiles."_qs.arg(
+            u"\"%1\" is no command; there are backup, extract, list, sync, tools and profiles."_qs.arg(
                 words.first()));
 
-    const bool extracts = command->command == Command::Extract;
+    const bool extracts = command->command == Command::Extract || command->command == Command::List;
     if (extracts && archives.isEmpty())
         return wrongUsage(u"Archives are missing: name them behind \"--\"."_qs);
     const QStringList tooMany = words.mid(command->words) + (extracts ? QStringList() : archives);
@@ -119,6 +130,7 @@ ParsedArguments parseArguments(const QStringList &arguments)
                     .method = parser.isSet(u"method"_qs) ? std::optional(int(methods.indexOf(method)))
                                                          : std::nullopt,
                     .archives = archives,
+                    .only = parser.values(u"only"_qs),
                     .yes = parser.isSet(u"yes"_qs),
                     .json = parser.isSet(u"json"_qs),
                     .progress = parser.isSet(u"progress"_qs)},

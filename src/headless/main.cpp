@@ -63,6 +63,8 @@ ExitStatus runCommand(QuillorentAppDelegate &delegate, const Options &options)
         return runForProfile(runBackup);
     case Options::Command::Extract:
         return runForProfile(runExtraction);
+    case Options::Command::List:
+        return runForProfile(runListing);
     case Options::Command::Sync:
         return runForProfile(runSync);
     }

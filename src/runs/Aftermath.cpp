@@ -2,6 +2,7 @@
 
 #include "files/ArchiveFiles.h"
 #include "files/FolderLock.h"
+#include "files/PrivateFolder.h"
 #include "runs/RunJournal.h"
 
 #include <QFile>
@@ -70,6 +71,15 @@ bool repairFormer(RunRecord &record, const aftermath::IsWhole &isWhole)
     return isAny;
 }
 
+/// Whether what was left is what is there now. A folder's times change with what is in it.
+bool isStill(const LeftFile &file, const FileEntry &there)
+{
+    if (!file.identity) return true;
+    if (there.kind == FileEntry::Kind::Folder)
+        return isPrivateFolder(file.path) && file.identity->isSameFile(there.identity);
+    return *file.identity == there.identity;
+}
+
 /// Of the files that may have been left, those that are there. One that can't be told from others that came
 /// to bear its name stays without identity.
 QList<LeftFile> stillThere(const ItemRecord &item)
@@ -79,7 +89,7 @@ QList<LeftFile> stillThere(const ItemRecord &item)
     for (const LeftFile &file : item.left) {
         const auto there = entryAt(file.path);
         noted.append(file.path);
-        if (there && (!file.identity || *file.identity == there->identity)) left.append(file);
+        if (there && isStill(file, *there)) left.append(file);
     }
     if (item.outcome != Outcome::Open) return left;
     for (const QString &path : item.between)
@@ -101,6 +111,25 @@ void closeKilled(RunRecord &record, const aftermath::IsWhole &isWhole)
     record.ended = QDateTime::currentDateTimeUtc();
 }
 
+/// A run's own folder goes with all that is in it. True where one did.
+bool removePrivateFolders(RunRecord &record)
+{
+    const auto isGone = [](const LeftFile &file) {
+        return isPrivateFolder(file.path) && removePrivateFolder(file.path, file.identity);
+    };
+    qsizetype removed = 0;
+    for (ItemRecord &item : record.items)
+        removed += item.left.removeIf(isGone);
+    return removed > 0;
+}
+
+void removeLeft(const LeftFile &file)
+{
+    const auto there = entryAt(file.path);
+    if (there && there->isFile()) QFile::remove(file.path);
+    if (there && isPrivateFolder(file.path)) removePrivateFolder(file.path, file.identity);
+}
+
 template <class Use>
 void forAllClear(Use use)
 {
@@ -110,7 +139,7 @@ void forAllClear(Use use)
         if (isAtWork) continue;
         for (const ItemRecord &item : kept.record.items)
             for (const LeftFile &file : stillThere(item))
-                if (file.isClear) use(file.path);
+                if (file.isClear) use(file);
     }
 }
 
@@ -120,11 +149,11 @@ void aftermath::repair(const QString &folder, const IsWhole &isWhole)
 {
     for (KeptRecord &kept : keptRecords()) {
         if (!isSameFolder(kept.record.folder, folder)) continue;
-        if (!kept.record.ended.isValid())
-            closeKilled(kept.record, isWhole);
-        else if (!repairFormer(kept.record, isWhole))
-            continue;
-        rewrite(kept);
+        const bool wasKilled = !kept.record.ended.isValid();
+        if (wasKilled) closeKilled(kept.record, isWhole);
+        const bool isRepaired = !wasKilled && repairFormer(kept.record, isWhole);
+        const bool isTidied = removePrivateFolders(kept.record);
+        if (wasKilled || isRepaired || isTidied) rewrite(kept);
     }
 }
 
@@ -148,15 +177,14 @@ QList<LeftFile> aftermath::leftIn(const QString &folder)
 QStringList aftermath::leftInClear()
 {
     QStringList paths;
-    forAllClear([&](const QString &path) {
-        if (!paths.contains(path)) paths.append(path);
+    forAllClear([&](const LeftFile &file) {
+        if (!paths.contains(file.path)) paths.append(file.path);
     });
     return paths;
 }
 
 QStringList aftermath::removeLeftInClear()
 {
-    for (const QString &path : leftInClear())
-        if (const auto there = entryAt(path); there && there->isFile()) QFile::remove(path);
+    forAllClear(removeLeft);
     return leftInClear();
 }

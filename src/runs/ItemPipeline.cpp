@@ -1,6 +1,7 @@
 #include "runs/ItemPipeline.h"
 
 #include "files/Names.h"
+#include "files/PrivateFolder.h"
 #include "runs/Run.h"
 
 #include <QFile>
@@ -144,6 +145,41 @@ void ItemPipeline::removeOwn(const QString &path)
 {
     const auto there = entryAt(path);
     if (there && there->isFile() && m_made.value(path).isSameFile(there->identity)) QFile::remove(path);
+}
+
+ToolResult ItemPipeline::openPrivateFolder(const QString &path)
+{
+    // Noted before it is there, and again when it can be told from others. Until then it is empty.
+    m_run.journal().changeItem(m_index, [&](ItemRecord &item) {
+        item.between.append(path);
+        item.clear = path;
+    });
+    if (const int error = makePrivateFolder(path))
+        return complaint(u"\"%1\" can't be made: %2"_qs.arg(path, qt_error_string(error)));
+    m_privateFolder = path;
+    if (const auto made = entryAt(path)) m_strays.append({path, true, made->identity});
+    noteBetween();
+    return silence();
+}
+
+void ItemPipeline::closePrivateFolder()
+{
+    if (m_privateFolder.isEmpty()) return;
+    const auto isIt = [this](const LeftFile &left) { return left.path == m_privateFolder; };
+    const auto noted = std::find_if(m_strays.begin(), m_strays.end(), isIt);
+    if (noted == m_strays.end() || !removePrivateFolder(m_privateFolder, noted->identity)) return;
+    m_strays.erase(noted);
+    noteBetween();
+}
+
+void ItemPipeline::noteKept(const Aside &kept)
+{
+    m_run.journal().changeItem(m_index, [&](ItemRecord &item) { item.kept.append(kept); });
+}
+
+void ItemPipeline::noteNotKept()
+{
+    m_run.journal().changeItem(m_index, [](ItemRecord &item) { item.kept.removeLast(); });
 }
 
 ToolResult ItemPipeline::runStage(const QString &tool, const QStringList &arguments) const

@@ -45,6 +45,16 @@ protected:
     /// Removes a file that this item made, unless something else has come into its place.
     void removeOwn(const QString &path);
 
+    /// Makes a folder of the run's own, planned by planPrivateFolder(), that the next run knows again. The
+    /// result tells where that failed; else it is silent.
+    [[nodiscard]] ToolResult openPrivateFolder(const QString &path);
+    /// Removes it, with all that is in it, also of a run that failed or was cancelled. Where something stays,
+    /// it is noted as left in clear.
+    void closePrivateFolder();
+    /// Notes that something which is in the way of the item is about to get another name, or did not.
+    void noteKept(const Aside &kept);
+    void noteNotKept();
+
     [[nodiscard]] ToolResult runStage(const QString &tool, const QStringList &arguments) const;
 
     /// The same, of a tool whose lines are wanted; see forEachLineOf().
@@ -77,7 +87,8 @@ private:
     void claim(const QString &path);
 
     const QList<LeftFile> m_known;
-    QList<LeftFile> m_strays; ///< of runs that were killed, under other names now
+    QList<LeftFile> m_strays; ///< of runs that were killed, under other names now; a folder of this run's own
+    QString m_privateFolder;
     QStringList m_between;
     QString m_clear;
     QHash<QString, FileIdentity> m_made; ///< by this item's stages, by path

@@ -5,6 +5,7 @@
 #include "tools/Threads.h"
 #include "tools/ToolRun.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <thread>
 #include <unistd.h>
@@ -78,6 +79,13 @@ QStringList Run::describeKept() const
                 sentences.append(
                     u"\"%1\" was in the way and is called \"%2\" now."_qs.arg(kept.from, kept.to));
     });
+    constexpr qsizetype most = 12; // as many as a person reads; the record has all
+    const qsizetype more = sentences.size() - most;
+    if (more > 0)
+        sentences = sentences.first(most) +
+                    QStringList{QCoreApplication::translate(
+                        "Run", "%n more were in the way, and their names begin with \"kept-\" now.", nullptr,
+                        int(more))};
     return sentences;
 }
 

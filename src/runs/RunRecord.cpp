@@ -103,6 +103,7 @@ QJsonValue fromItem(const ItemRecord &item)
                        {u"kept"_qs, arrayOf(item.kept, fromAside)}};
     if (!item.reason.isEmpty()) object[u"reason"] = item.reason;
     if (!item.clear.isEmpty()) object[u"clear"] = item.clear;
+    if (!item.contents.isEmpty()) object[u"contents"] = item.contents;
     if (item.packingSince.isValid()) object[u"packingSince"] = textOf(item.packingSince);
     return object;
 }
@@ -120,7 +121,8 @@ ItemRecord readItem(const QJsonValue &value)
             .former = listOf<Aside>(value[u"former"], readAside),
             .final = listOf<QString>(value[u"final"], readText),
             .packingSince = timeOf(value[u"packingSince"]),
-            .kept = listOf<Aside>(value[u"kept"], readAside)};
+            .kept = listOf<Aside>(value[u"kept"], readAside),
+            .contents = value[u"contents"].toString()};
 }
 
 } // namespace

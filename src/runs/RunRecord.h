@@ -35,12 +35,13 @@ struct ItemRecord {
     QStringList final{};      ///< names that the new archive may take, without those of its volumes
     QDateTime packingSince{}; ///< when its making began; invalid before
     QList<Aside> kept{};      ///< what was in the way and is not the run's: it stays under its other name
+    QString contents{};       ///< the deepest folder that all of what an extraction brought back shares
 };
 
 /// What a run leaves in writing: for the next run, which tidies up after one that was killed, and for people.
 /// No secret is ever in it.
 struct RunRecord {
-    QString kind{}; ///< "backup", "extract" or "sync"
+    QString kind{}; ///< "backup", "extract", "look" (into an archive) or "sync"
     QString profile{};
     QString folder{}; ///< where it writes
     QDateTime began{};

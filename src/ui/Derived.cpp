@@ -6,6 +6,7 @@
 #include "keys/SecretRules.h"
 #include "keys/Strength.h"
 #include "sync/SyncMeaning.h"
+#include "ui/BackupOffer.h"
 #include "ui/FoldersPage.h"
 #include "ui/Header.h"
 #include "ui/Protection.h"
@@ -54,6 +55,14 @@ void leadToShownField(RefreshQueue &queue, outlets::CheckBox &isMasked, QLabel &
 void showExtraction(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
 {
     enableBySelection(queue, all.extractTableView, *form.extractButton02);
+    new BackupOffer(all, queue, *form.backupsFoundLabel, *form.backupsFound);
+    queue.watch(all.extractTableView, [&] {
+        const bool isAny = all.extractList.count() > 0;
+        form.contentsButton01->setEnabled(isAny);
+        form.contentsHint->setVisible(isAny);
+    });
+    queue.watch(all.extractPath,
+                [&] { form.restoredFolderButton01->setVisible(all.extractPath.text().isEmpty()); });
     queue.watch(all.openFolderButton,
                 [&] { form.openFolderButton->setEnabled(!all.extractedFolder().isEmpty()); });
 }

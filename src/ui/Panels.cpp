@@ -2,11 +2,13 @@
 
 #include "app/QuillorentAppDelegate.h"
 #include "ui/Appearance.h"
+#include "ui/ContentsSheet.h"
 #include "ui/PanelDialog.h"
 #include "ui/ProgressFigures.h"
 #include "ui_ChoicePanel.h"
 #include "ui_ConcernsPanel01.h"
 #include "ui_ConsolePanel01.h"
+#include "ui_ContentsPanel01.h"
 #include "ui_ExtractPanel01.h"
 #include "ui_MessagePanel.h"
 #include "ui_NamePanel.h"
@@ -79,6 +81,16 @@ PanelDialog *makeConsole(QWidget &window)
     Ui::ConsolePanel01 form;
     PanelDialog *panel = makePanel(form, window);
     form.consoleTextView01->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    return panel;
+}
+
+PanelDialog *makeContents(QuillorentAppDelegate &controller, QWidget &window)
+{
+    Ui::ContentsPanel01 form;
+    PanelDialog *panel = makePanel(form, window);
+    new ContentsSheet(controller, *panel,
+                      {*form.contentsHeading, *form.contentsSearch, *form.contentsTree, *form.contentsChoice,
+                       *form.contentsPanel01RestoreButton});
     return panel;
 }
 
@@ -216,8 +228,8 @@ Panels::Panels(QuillorentAppDelegate &controller, QWidget &window)
     : m_all(makeMessages(window) + makeQuestions(window) + makeProfileSheets(window))
 {
     m_all += makePreferences(controller, window);
-    m_all +=
-        {makeConsole(window), makePlain<Ui::PreviewPanel01>(window), makePlain<Ui::UpdatePanel01>(window)};
+    m_all += {makeConsole(window), makePlain<Ui::PreviewPanel01>(window),
+              makePlain<Ui::UpdatePanel01>(window), makeContents(controller, window)};
     addProgressSheet<Ui::ProgressPanel01, &Ui::ProgressPanel01::view01progressIndicator01>(controller,
                                                                                            window);
     addProgressSheet<Ui::ProgressPanel02, &Ui::ProgressPanel02::progress02progressIndicator01>(controller,

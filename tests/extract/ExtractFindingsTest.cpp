@@ -166,6 +166,6 @@ TEST_F(ExtractFindings, AreShownAndMayBeOverruled)
         program.waitForEnd();
         EXPECT_TRUE((said.isEmpty() ? program.lastWarning() : said).contains(expected)) << qPrintable(said);
         EXPECT_EQ(fs::exists(extracted(docs) / "file"), goesOn);
-        EXPECT_EQ(delegate.extractedFolder(), goesOn ? text(out) : QString());
+        EXPECT_EQ(delegate.extractedFolder(), goesOn ? text(extracted(docs)) : QString());
     }
 }

@@ -31,7 +31,7 @@ struct Fault {
 /// must find the same answers whatever hit the run.
 class FaultHome {
 public:
-    enum class Kind { Backup, Extraction };
+    enum class Kind { Backup, Extraction, Part }; ///< Part: an extraction of what is chosen
 
     /// `splits`: into volumes, and what goes into them is compressed.
     FaultHome(Kind kind, bool splits);

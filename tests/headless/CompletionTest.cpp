@@ -36,7 +36,7 @@ TEST(Completion, OffersWhatFitsThePlaceInBash)
     const ProgramHome home(QUILLORENT_RUN);
     EXPECT_EQ(home.run({"profiles"}).status, 0);
     for (const auto &[line, words] : {
-             std::pair(Words{""}, "backup|extract|sync|tools|profiles"),
+             std::pair(Words{""}, "backup|extract|list|sync|tools|profiles"),
              {{"s"}, "sync"},
              {{"--h"}, "--help"},
              {{"backup", ""}, "Default\\ profile|Mine"},

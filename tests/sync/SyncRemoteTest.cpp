@@ -43,7 +43,13 @@ TEST(SyncRemote, CopiesAndDeletesWithAKey)
 {
     RemoteSync sync;
     makeSampleTree(sync.folder / "src/d/tree");
+    std::vector<std::string> names{"with space", "*", "#comment", ";", "-dash", "[a]", "caf\u00e9", "\\"};
+    for (const std::string &name : names)
+        writeFile(sync.folder / "src" / name, name);
+    names.emplace_back("d");
+    sync.list(names);
     EXPECT_EQ(sync.run(), "");
+    EXPECT_TRUE(sync.summary.startsWith(u"Synchronised 9 entries"));
     EXPECT_EQ(treeDifference(sync.folder / "src", sync.folder / "there", sameSecond), "");
 
     sync.order.deletesExtra = true;

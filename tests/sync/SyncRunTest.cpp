@@ -6,20 +6,6 @@
 namespace fs = std::filesystem;
 using Change = PreviewRow::Change;
 
-TEST(SyncRun, CopiesWhatBackupsMeet)
-{
-    SyncSample sync;
-    makeSampleTree(sync.folder / "src/tree");
-    std::vector<std::string> names{"with space", "*", "#comment", ";", "-dash", "[a]", "caf\u00e9", "\\"};
-    for (const std::string &name : names)
-        writeFile(sync.folder / "src" / name, name);
-    names.emplace_back("tree");
-    sync.list(names);
-    EXPECT_EQ(sync.run(), "");
-    EXPECT_EQ(treeDifference(sync.folder / "src", sync.folder / "dst", sameSecond), "");
-    EXPECT_TRUE(sync.summary.startsWith(u"Synchronised 9 entries"));
-}
-
 TEST(SyncRun, MakesTheFolderThatASingleFileGoesTo)
 {
     SyncSample sync;

@@ -1,9 +1,13 @@
 #include "TestWindow.h"
 
+#include "tools/Threads.h"
 #include "ui/ArchiveList.h"
+#include "ui/BackupList.h"
 #include "ui/TextArea.h"
 
 #include <QGuiApplication>
+#include <QLabel>
+#include <QTreeView>
 
 namespace {
 
@@ -56,4 +60,85 @@ TEST_F(ExtractTest, AWholeExtractionByHand)
     EXPECT_TRUE(widget(u"openFolderButton"_qs).isEnabled());
     EXPECT_TRUE(
         std::filesystem::exists(program.folder() / "out" / program.folder().relative_path() / "docs/data"));
+}
+
+TEST_F(ExtractTest, BackupsAreOfferedAndTakenByOneClick)
+{
+    auto &found = widget<ui::BackupList>(u"backupsFound"_qs);
+    ASSERT_TRUE(waitUntil([&] { return found.topLevelItemCount() == 1; }));
+    const auto tick = [&] {
+        found.setCurrentItem(found.topLevelItem(0));
+        QTest::keyClick(&found, Qt::Key_Space);
+        settle();
+    };
+    EXPECT_EQ(found.topLevelItem(0)->text(0), u"docs"_qs);
+    EXPECT_EQ(list.outletModel().rowCount(), 0) << "nothing is taken unasked";
+    for (const int rows : {1, 0, 1}) {
+        tick();
+        EXPECT_EQ(list.outletModel().rowCount(), rows);
+    }
+    EXPECT_EQ(delegate.extractList.strings(), QStringList{program.path("archives/docs.rar.aes.part1.rar")});
+    // Others add to it, and volumes go.
+    writeFile(program.folder() / "archives/old.rar.aes.part2.rar", "x");
+    std::filesystem::remove(program.folder() / "archives/docs.rar.aes.part2.rar");
+    showTab(u"passwordsPage"_qs);
+    showTab(u"extractPage"_qs);
+    ASSERT_TRUE(waitUntil([&] { return found.topLevelItemCount() == 2; }));
+    EXPECT_EQ(found.topLevelItem(0)->text(3), u"its first part is missing"_qs);
+    EXPECT_EQ(found.topLevelItem(1)->text(3), u"incomplete"_qs);
+
+    EXPECT_FALSE(widget(u"restoredFolderButton01"_qs).isVisible()) << "a place is chosen";
+    delegate.extractPath.setText({});
+    settle();
+    click(u"restoredFolderButton01"_qs);
+    EXPECT_EQ(delegate.extractPath.text(), QDir::home().filePath(u"Restored"_qs));
+    EXPECT_TRUE(QDir(delegate.currentRecord().string(u"extractpath"_qs).value_or(QString())).exists());
+}
+
+TEST_F(ExtractTest, OneFileIsFoundAndComesBackAlone)
+{
+    writeFile(program.folder() / "docs" / "other", "x");
+    program.backUp();
+    settle();
+    dropOnList(program.path("archives"));
+    const auto look = [&] {
+        click(u"contentsButton01"_qs);
+        EXPECT_TRUE(waitUntil([&] { return widget(u"contentsPanel01"_qs).isVisible(); }))
+            << delegate.outputText02.text().toStdString();
+        settle();
+    };
+    look();
+    EXPECT_FALSE(widget(u"contentsPanel01RestoreButton"_qs).isEnabled());
+    QTest::keyClicks(&widget(u"contentsSearch"_qs), u"DAT"_qs);
+    QTest::keyClick(&widget(u"contentsTree"_qs), Qt::Key_Space);
+    settle();
+    EXPECT_TRUE(widget<QLabel>(u"contentsChoice"_qs).text().contains(u"1 file"))
+        << widget<QLabel>(u"contentsChoice"_qs).text().toStdString();
+    click(u"contentsPanel01RestoreButton"_qs);
+    program.waitForEnd();
+    settle();
+    const std::filesystem::path place =
+        program.folder() / "out" / (program.folder() / "docs").relative_path();
+    EXPECT_TRUE(readFile(place / "data") == readFile(program.folder() / "docs/data"));
+    EXPECT_FALSE(std::filesystem::exists(place / "other"));
+    EXPECT_EQ(delegate.extractedFolder(), toQString(place));
+    EXPECT_EQ(
+        QDir(program.path("out")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(),
+        1);
+
+    // What is known needs no password, and what has changed since is not known.
+    delegate.secureText01a.setText(u"wrong"_qs);
+    look();
+    QTest::keyClick(&widget(u"contentsPanel01"_qs), Qt::Key_Escape);
+    settle();
+    delegate.secureText01a.setText(u"correct horse"_qs);
+    program.backUp();
+    settle();
+    delegate.secureText01a.setText(u"wrong"_qs);
+    click(u"contentsButton01"_qs);
+    program.waitForEnd();
+    EXPECT_TRUE(waitForThreads(std::chrono::seconds(60)));
+    settle();
+    EXPECT_FALSE(widget(u"contentsPanel01"_qs).isVisible());
+    EXPECT_TRUE(widget<ui::TextArea>(u"outputText02"_qs).text().contains(u"password"));
 }

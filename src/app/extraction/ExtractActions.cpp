@@ -1,10 +1,13 @@
 #include "app/QuillorentAppDelegate.h"
 #include "app/Start.h"
 #include "app/extraction/ExtractOrders.h"
+#include "app/extraction/ExtractStart.h"
 #include "extract/Candidates.h"
 #include "extract/ExtractLook.h"
 #include "extract/ExtractRun.h"
 #include "keys/SecretRules.h"
+
+#include <QCoreApplication>
 
 namespace {
 
@@ -27,7 +30,7 @@ QString whyNoPassword(const QuillorentAppDelegate &delegate)
 }
 
 /// What keeps an extraction from starting, in words that say what to do; the empty string where nothing does.
-QString whatIsMissing(const QuillorentAppDelegate &delegate)
+QString whatIsMissing(const QuillorentAppDelegate &delegate, const QString &missingArchives)
 {
     const QString folder = delegate.extractPath.text();
     if (folder.isEmpty())
@@ -35,7 +38,7 @@ QString whatIsMissing(const QuillorentAppDelegate &delegate)
     // A record without a folder leaves the one of the profile before it on screen.
     if (delegate.currentRecord().string(u"extractpath"_qs) != folder)
         return u"The extraction folder that is shown is not this profile's own. Choose it again."_qs;
-    if (delegate.extractList.count() == 0) return noArchives(delegate);
+    if (!missingArchives.isEmpty()) return missingArchives;
     if (delegate.passCombo01.selectedIndex() == PasswordTab::Certificate && !delegate.pkeySelector())
         return u"No certificate is chosen. Choose one on the Password tab."_qs;
     return delegate.passCombo01.selectedIndex() == PasswordTab::Certificate ? QString()
@@ -48,19 +51,31 @@ struct Extraction {
     FolderLock lock{};
 };
 
+void carryOut(QuillorentAppDelegate &delegate, Extraction &extraction, RunMonitor &monitor)
+{
+    runExtraction(
+        *extraction.order, delegate, monitor, std::move(extraction.lock),
+        [&](const QString &archive, const QString &reason) { showDamage(delegate, archive, reason); });
+}
+
+QString noArchiveToLookInto()
+{
+    return QCoreApplication::translate("PartActions", "No archive is chosen. Add the one that has the file.");
+}
+
 RunStart prepare(QuillorentAppDelegate &delegate, bool mayOverwrite)
 {
     delegate.openFolderButton.setAlternateTitle({});
     const auto extraction =
         std::make_shared<Extraction>(Extraction{readExtractOrder(delegate.currentProfile())});
-    const auto look = [extraction, missing = whatIsMissing(delegate)](const std::function<bool()> &) {
+    const QString missing =
+        whatIsMissing(delegate, delegate.extractList.count() == 0 ? noArchives(delegate) : QString());
+    const auto look = [extraction, missing](const std::function<bool()> &) {
         if (!missing.isEmpty()) return Findings{.obstacles = {missing}};
         return lookAtExtraction(*extraction->order, extraction->lock);
     };
     const auto work = [&delegate, extraction](RunMonitor &monitor) {
-        runExtraction(
-            *extraction->order, delegate, monitor, std::move(extraction->lock),
-            [&](const QString &archive, const QString &reason) { showDamage(delegate, archive, reason); });
+        carryOut(delegate, *extraction, monitor);
     };
     const auto show = [&delegate, folder = extraction->order->folder](const QString &) {
         delegate.folderNotEmptyText01.setText(folder);
@@ -69,6 +84,56 @@ RunStart prepare(QuillorentAppDelegate &delegate, bool mayOverwrite)
 }
 
 } // namespace
+
+RunStart preparePart(QuillorentAppDelegate &delegate, const QStringList &archives,
+                     const std::vector<std::string> &chosen)
+{
+    delegate.openFolderButton.setAlternateTitle({});
+    const auto extraction =
+        std::make_shared<Extraction>(Extraction{readExtractOrderOf(delegate.currentProfile(), archives)});
+    extraction->order->chosen = chosen;
+    const QString missing = whatIsMissing(delegate, archives.isEmpty() ? noArchiveToLookInto() : QString());
+    const auto look = [extraction, missing](const std::function<bool()> &) {
+        if (!missing.isEmpty()) return Findings{.obstacles = {missing}};
+        return lookAtExtraction(*extraction->order, extraction->lock);
+    };
+    const auto work = [&delegate, extraction](RunMonitor &monitor) {
+        carryOut(delegate, *extraction, monitor);
+    };
+    return {extractSheet(delegate), look, work};
+}
+
+RunStart prepareLook(QuillorentAppDelegate &delegate, const QStringList &archives)
+{
+    // Looked up on the run's thread: an archive may lie on a disk that takes its time.
+    struct Looking {
+        std::shared_ptr<ArchiveListing> listing = std::make_shared<ArchiveListing>();
+        Listings::Listing known{};
+    };
+    const auto looking = std::make_shared<Looking>();
+    const auto extraction =
+        std::make_shared<Extraction>(Extraction{readExtractOrderOf(delegate.currentProfile(), archives)});
+    extraction->order->listing = looking->listing;
+    const QString missing = whatIsMissing(delegate, archives.isEmpty() ? noArchiveToLookInto() : QString());
+    const auto look = [&delegate, looking, extraction, archives, missing](const std::function<bool()> &) {
+        if (archives.size() == 1) looking->known = delegate.listings.find(archives.first());
+        if (looking->known) return Findings();
+        if (!missing.isEmpty()) return Findings{.obstacles = {missing}};
+        return lookAtExtraction(*extraction->order, extraction->lock);
+    };
+    const auto work = [&delegate, looking, extraction](RunMonitor &monitor) {
+        if (looking->known) {
+            delegate.endRun();
+            delegate.showContents(looking->known);
+            return;
+        }
+        carryOut(delegate, *extraction, monitor);
+        if (delegate.lastRecord().outcome != Outcome::Succeeded) return;
+        delegate.listings.add(looking->listing);
+        delegate.showContents(looking->listing);
+    };
+    return {extractSheet(delegate), look, work};
+}
 
 void QuillorentAppDelegate::buttonLaunch02()
 {

@@ -37,10 +37,17 @@ void QuillorentAppDelegate::addArchives(const QStringList &paths)
 void QuillorentAppDelegate::extractButton02Action()
 {
     const QStringList shown = extractFullList.strings();
-    for (const int row : extractTableView.selectedRows()) {
-        if (row >= shown.size()) continue;
-        removeFrom(extractFullList, shown[row]);
-        removeFrom(extractList, shown[row]);
+    QStringList selected;
+    for (const int row : extractTableView.selectedRows())
+        if (row < shown.size()) selected.append(shown[row]);
+    takeOffArchives(selected);
+}
+
+void QuillorentAppDelegate::takeOffArchives(const QStringList &paths)
+{
+    for (const QString &path : paths) {
+        removeFrom(extractFullList, path);
+        removeFrom(extractList, path);
     }
     extractTableView.reloadData();
 }

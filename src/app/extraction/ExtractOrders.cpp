@@ -8,6 +8,11 @@
 
 namespace {
 
+QString extractionFolder(const QString &profile)
+{
+    return theDelegate().listPlist().dictionary(profile).string(u"extractpath"_qs).value_or(QString());
+}
+
 /// All but the items.
 std::shared_ptr<ExtractOrder> readOptions(const QString &profile, const QString &folder)
 {
@@ -51,10 +56,18 @@ RunSheet extractSheet(QuillorentAppDelegate &delegate)
 std::shared_ptr<ExtractOrder> readExtractOrder(const QString &profile)
 {
     const QuillorentAppDelegate &delegate = theDelegate();
-    auto order = readOptions(
-        profile, delegate.listPlist().dictionary(profile).string(u"extractpath"_qs).value_or(QString()));
+    auto order = readOptions(profile, extractionFolder(profile));
     order->shown = delegate.extractFullList.strings();
     for (const QString &archive : delegate.extractList.strings())
+        addItem(*order, archive);
+    return order;
+}
+
+std::shared_ptr<ExtractOrder> readExtractOrderOf(const QString &profile, const QStringList &archives)
+{
+    auto order = readOptions(profile, extractionFolder(profile));
+    order->shown = archives;
+    for (const QString &archive : archives)
         addItem(*order, archive);
     return order;
 }

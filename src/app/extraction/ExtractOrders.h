@@ -12,6 +12,10 @@
 /// moment. Main thread.
 [[nodiscard]] std::shared_ptr<ExtractOrder> readExtractOrder(const QString &profile);
 
+/// The same of these archives, whatever is on the list.
+[[nodiscard]] std::shared_ptr<ExtractOrder> readExtractOrderOf(const QString &profile,
+                                                               const QStringList &archives);
+
 /// Shows which archive is damaged, and waits until the person has seen it.
 void showDamage(QuillorentAppDelegate &delegate, const QString &archive, const QString &reason);
 

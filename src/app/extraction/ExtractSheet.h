@@ -17,6 +17,8 @@ struct ExtractSheet : virtual outlets::Registry {
     outlets::Panel warningPanel02{*this, u"warningPanel02"_qs}; ///< the folder holds something: go on?
     outlets::TextField folderNotEmptyText01{*this, u"folderNotEmptyText01"_qs};
 
+    outlets::Panel contentsPanel01{*this, u"contentsPanel01"_qs}; ///< what an archive holds
+
     outlets::Panel extractPanel01{*this, u"extractPanel01"_qs};               ///< an archive failed its test
     outlets::TextField extractPanelText01{*this, u"extractPanelText01"_qs};   ///< which
     outlets::TextField extractReasonText01{*this, u"extractReasonText01"_qs}; ///< why, and what to do

@@ -1,0 +1,72 @@
+#include "app/QuillorentAppDelegate.h"
+#include "app/extraction/ExtractStart.h"
+#include "files/ArchiveFiles.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <algorithm>
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("PartActions", text); }
+
+/// The one of the list that is selected, or the only one that there is.
+QStringList archiveToLookInto(const QuillorentAppDelegate &delegate)
+{
+    const QStringList shown = delegate.extractFullList.strings();
+    QStringList archives;
+    for (const int row : delegate.extractTableView.selectedRows())
+        if (row < shown.size()) archives.append(shown[row]);
+    const QStringList extracted = delegate.extractList.strings();
+    if (archives.isEmpty()) return extracted;
+    // A later volume stands for its set.
+    for (QString &archive : archives)
+        if (!extracted.contains(archive))
+            for (const QString &other : extracted)
+                if (withoutVolumePart(other) == withoutVolumePart(archive)) archive = other;
+    archives.removeDuplicates();
+    return archives;
+}
+
+} // namespace
+
+void QuillorentAppDelegate::takeRestoredFolder()
+{
+    const QString folder = QDir::home().filePath(u"Restored"_qs);
+    if (!QDir().mkpath(folder)) {
+        warn(tr("The folder \"%1\" can't be made. Choose another one.").arg(folder));
+        return;
+    }
+    extractPath.setText(folder);
+    currentRecord().setValue(u"extractpath"_qs, folder);
+}
+
+void QuillorentAppDelegate::contentsButton01Action() { lookInto(archiveToLookInto(*this)); }
+
+void QuillorentAppDelegate::lookInto(const QStringList &archives)
+{
+    startRun(u"extract-look"_qs, [this, archives] { return prepareLook(*this, archives); });
+}
+
+void QuillorentAppDelegate::restoreChosen(const QStringList &archives, const std::vector<std::string> &chosen)
+{
+    startRun(u"extract-run"_qs, [this, archives, chosen] { return preparePart(*this, archives, chosen); });
+}
+
+void QuillorentAppDelegate::showContents(const Listings::Listing &listing)
+{
+    shownListing.set(listing);
+    chosenPaths.set({});
+    contentsPanel01.beginSheet();
+}
+
+void QuillorentAppDelegate::contentsPanel01Restore()
+{
+    const Listings::Listing listing = shownListing();
+    const std::vector<std::string> chosen = chosenPaths();
+    if (!listing || chosen.empty()) return;
+    closeSheet(contentsPanel01);
+    restoreChosen({listing->archive}, chosen);
+}
+
+void QuillorentAppDelegate::contentsPanel01Close() { closeSheet(contentsPanel01); }
