@@ -372,7 +372,7 @@ QString ArchiveExtraction::whatIsNotThere(const MoveTree &tree) const
 void ArchiveExtraction::bringChosen()
 {
     if (!goesOn() || !m_isExtracted || m_order.chosen.empty()) return;
-    setStage(u"bringing back what was chosen"_qs);
+    setStage(u"bringing back what was chosen"_qs, {}); // by renaming: it takes no time
     MoveTree tree(QFile::encodeName(contentsFolder(m_folder)).toStdString(),
                   QFile::encodeName(m_order.folder).toStdString(),
                   {.keep = [this](const Aside &kept) { noteKept(kept); },

@@ -24,6 +24,7 @@ const QHash<QString, const char *> &stages()
         {u"unpacking"_qs, QT_TRANSLATE_NOOP("Progress", "Unpacking")},
         {u"decrypting"_qs, QT_TRANSLATE_NOOP("Progress", "Decrypting")},
         {u"extracting"_qs, QT_TRANSLATE_NOOP("Progress", "Restoring")},
+        {u"bringing back what was chosen"_qs, QT_TRANSLATE_NOOP("Progress", "Putting in place")},
         {u"copying"_qs, QT_TRANSLATE_NOOP("Progress", "Copying")},
         {u"comparing"_qs, QT_TRANSLATE_NOOP("Progress", "Comparing")},
     };
