@@ -54,8 +54,9 @@ protected:
     QList<W *> missing()
     {
         QList<W *> found;
-        for (W *each : widget(u"hindranceList"_qs).template findChildren<W *>())
-            if (each->isVisible() && !each->text().isEmpty()) found.append(each);
+        const QWidget &list = widget(u"hindranceList"_qs);
+        for (W *each : list.findChildren<W *>())
+            if (!list.isHidden() && each->isVisibleTo(&list) && !each->text().isEmpty()) found.append(each);
         return found;
     }
 
@@ -165,13 +166,17 @@ TEST_F(FoldersTest, ListsSayThatTheyTakeADrop)
 TEST_F(FoldersTest, WhatKeepsABackupFromStartingIsSaidBefore)
 {
     const auto says = [this](const QStringList &parts) {
-        const bool isThere = waitUntil([&] { return missing<QToolButton>().size() == parts.size(); });
-        QStringList texts;
-        for (const QLabel *label : missing<QLabel>())
-            texts.append(label->text());
-        const QString all = texts.join(u'\n');
-        return isThere && std::all_of(parts.begin(), parts.end(),
-                                      [&](const QString &part) { return all.contains(part); });
+        QString all;
+        const bool isSaid = waitUntil([&] {
+            QStringList texts;
+            for (const QLabel *label : missing<QLabel>())
+                texts.append(label->text());
+            all = texts.join(u'\n');
+            return missing<QToolButton>().size() == parts.size() &&
+                   std::all_of(parts.begin(), parts.end(),
+                               [&](const QString &part) { return all.contains(part); });
+        });
+        return (isSaid ? testing::AssertionSuccess() : testing::AssertionFailure()) << qPrintable(all);
     };
     const auto leadsTo = [this](int index) {
         showTab(u"foldersPage"_qs);
