@@ -19,6 +19,15 @@ std::string resolved(const std::string &path)
     return real ? std::string(real.get()) : path;
 }
 
+/// False for what is open and has no name any more, to which only the kernel's links lead: a link in place of
+/// which a file came would be lost.
+bool hasName(const std::string &path, const struct stat &file)
+{
+    struct stat named {};
+    return lstat(resolved(path).c_str(), &named) == 0 && named.st_dev == file.st_dev &&
+           named.st_ino == file.st_ino;
+}
+
 base::PassingNames passingNames(const std::string &name) { return {".openssl", name}; }
 
 } // namespace
@@ -45,7 +54,10 @@ bool ResultFile::mayReplace()
         fstatat(AT_FDCWD, m_path->c_str(), &status, m_target == Target::Name ? AT_SYMLINK_NOFOLLOW : 0) == 0;
     // A link that leads nowhere: writing makes the file that it names.
     if (!isThere) return m_target == Target::Name || lstat(m_path->c_str(), &status) != 0;
-    if (S_ISREG(status.st_mode)) return access(m_path->c_str(), W_OK) == 0;
+    if (S_ISREG(status.st_mode)) {
+        if (m_target == Target::Opened && !hasName(*m_path, status)) return false;
+        return access(m_path->c_str(), W_OK) == 0;
+    }
     if (m_target == Target::Opened || S_ISDIR(status.st_mode)) return false;
     if (!S_ISBLK(status.st_mode) && !S_ISCHR(status.st_mode)) return true;
     m_problem = "cannot write " + *m_path + ": it is " + base::kindOf(status.st_mode);
