@@ -24,9 +24,9 @@ constexpr std::array explanations{
     Explanation{"REMOTE HOST IDENTIFICATION HAS CHANGED",
                 QT_TRANSLATE_NOOP("sync", "The server \"%1\" shows another key than before; someone may be "
                                           "in its place. Ask who runs it before you connect again.")},
-    Explanation{
-        "Host key verification failed",
-        QT_TRANSLATE_NOOP("sync", "ssh does not know the server \"%1\" yet. Connect to it once in a terminal "
+    Explanation{"Host key verification failed",
+                QT_TRANSLATE_NOOP("sync",
+                                  "ssh does not know the server \"%1\" yet. Connect to it once in a terminal "
                                   "(ssh %1), compare the key that it shows, and try again.")},
     Explanation{
         "Could not resolve hostname",
@@ -50,10 +50,10 @@ constexpr std::array explanations{
                             "by a key that ssh finds without a question (see ssh-agent, ~/.ssh/config).")},
     Explanation{"rsync: (command )?not found",
                 QT_TRANSLATE_NOOP("sync", "The server \"%1\" has no rsync. Install it there.")},
-    Explanation{
-        "syntax or usage error",
-        QT_TRANSLATE_NOOP(
-            "sync", "rsync does not understand its arguments. Check \"rsyncparams\" and \"rsyncexcludes\" in "
+    Explanation{"syntax or usage error",
+                QT_TRANSLATE_NOOP(
+                    "sync",
+                    "rsync does not understand its arguments. Check \"rsyncparams\" and \"rsyncexcludes\" in "
                     "the settings file: both must be there, and each be one option.")},
     Explanation{"(mkdir|\\[receiver\\] change_dir).*No such file",
                 QT_TRANSLATE_NOOP("sync", "The server took the port for the beginning of the folder's path. "
