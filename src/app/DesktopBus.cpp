@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <deque>
 #include <filesystem>
+#include <mutex>
 #include <string>
 #include <thread>
 
@@ -27,7 +28,7 @@ std::string addressOf(DesktopBus::Kind kind)
 
 } // namespace
 
-/// All but the constructor and the destructor runs on the thread itself, and nothing of it blocks.
+/// All but the constructor, the destructor and invoke() runs on the thread itself, and nothing of it blocks.
 struct DesktopBus::Thread {
     using Step = std::function<void(GDBusConnection *)>;
     using Take = std::function<void(GVariant *, GUnixFDList *)>;
@@ -35,7 +36,8 @@ struct DesktopBus::Thread {
     explicit Thread(Kind kind);
     ~Thread();
 
-    void invoke(std::function<void()> step);
+    void invoke(std::function<void()> step); ///< called on any thread
+    void runNext();
     void take(Step step);
     void run(const std::string &address);
     void stop();
@@ -54,7 +56,9 @@ struct DesktopBus::Thread {
     GMainLoop *const loop = g_main_loop_new(context, FALSE);
     GCancellable *const cancellable = g_cancellable_new();
     GDBusConnection *connection = nullptr;
-    std::deque<Step> waiting; ///< for the connection
+    std::mutex mutex;
+    std::deque<std::function<void()>> steps; ///< handed over; guarded by the mutex
+    std::deque<Step> waiting;                ///< for the connection
     int pending = 0;
     bool isUseless = false; ///< there is no connection, and will be none
     bool isStopping = false;
@@ -75,18 +79,32 @@ DesktopBus::Thread::~Thread()
 
 void DesktopBus::Thread::invoke(std::function<void()> step)
 {
+    {
+        const std::lock_guard lock(mutex);
+        steps.push_back(std::move(step));
+    }
     GSource *source = g_idle_source_new();
     g_source_set_priority(source, G_PRIORITY_DEFAULT);
     g_source_set_callback(
         source,
-        [](gpointer data) -> gboolean {
-            (*static_cast<std::function<void()> *>(data))();
+        [](gpointer self) -> gboolean {
+            static_cast<Thread *>(self)->runNext();
             return G_SOURCE_REMOVE;
         },
-        new std::function<void()>(std::move(step)),
-        [](gpointer data) { delete static_cast<std::function<void()> *>(data); });
+        this, nullptr);
     g_source_attach(source, context);
     g_source_unref(source);
+}
+
+void DesktopBus::Thread::runNext()
+{
+    std::function<void()> step;
+    {
+        const std::lock_guard lock(mutex);
+        step = std::move(steps.front());
+        steps.pop_front();
+    }
+    step();
 }
 
 void DesktopBus::Thread::run(const std::string &address)
