@@ -28,7 +28,8 @@ std::string addressOf(DesktopBus::Kind kind)
 
 } // namespace
 
-/// All but the constructor, the destructor and invoke() runs on the thread itself, and nothing of it blocks.
+/// All but the constructor, the destructor, end() and invoke() runs on the thread itself, and nothing of it
+/// blocks.
 struct DesktopBus::Thread {
     using Step = std::function<void(GDBusConnection *)>;
     using Take = std::function<void(GVariant *, GUnixFDList *)>;
@@ -36,6 +37,7 @@ struct DesktopBus::Thread {
     explicit Thread(Kind kind);
     ~Thread();
 
+    void end();                              ///< called once its owner is done with it
     void invoke(std::function<void()> step); ///< called on any thread
     void runNext();
     void take(Step step);
@@ -69,12 +71,18 @@ DesktopBus::Thread::Thread(Kind kind) : thread([this, address = addressOf(kind)]
 
 DesktopBus::Thread::~Thread()
 {
-    invoke([this] { stop(); });
-    thread.join();
+    end();
     if (connection) g_object_unref(connection);
     g_object_unref(cancellable);
     g_main_loop_unref(loop);
     g_main_context_unref(context);
+}
+
+void DesktopBus::Thread::end()
+{
+    if (!thread.joinable()) return;
+    invoke([this] { stop(); });
+    thread.join();
 }
 
 void DesktopBus::Thread::invoke(std::function<void()> step)
@@ -177,7 +185,10 @@ void DesktopBus::Thread::stop()
 
 DesktopBus::DesktopBus(Kind kind) : m_thread(std::make_shared<Thread>(kind)) {}
 
-DesktopBus::~DesktopBus() = default;
+// Steps use this object as long as the thread runs.
+DesktopBus::~DesktopBus() { end(); }
+
+void DesktopBus::end() { m_thread->end(); }
 
 void DesktopBus::post(std::function<void(GDBusConnection *)> step)
 {

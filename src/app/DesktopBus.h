@@ -19,7 +19,7 @@ public:
     DesktopBus &operator=(const DesktopBus &) = delete;
 
     /// What was not answered by now is dropped; nothing runs on the bus's thread any more.
-    void end() { m_thread.reset(); }
+    void end();
 
     /// Runs the step on the bus's thread, after those before it, once there is a connection.
     void post(std::function<void(GDBusConnection *)> step);
