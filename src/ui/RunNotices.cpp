@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QEvent>
 #include <QUrl>
 
 using namespace std::chrono_literals;
@@ -56,8 +57,8 @@ void RunNotices::begin()
 {
     if (!m_notices)
         m_notices.emplace([this](DesktopNotices::Answer given) {
-            QMetaObject::invokeMethod(
-                this, [this, given] { answer(given); }, Qt::QueuedConnection);
+            m_given = given;
+            QCoreApplication::postEvent(this, new QEvent(QEvent::User));
         });
     m_progress = RunProgress(m_controller);
     m_timer.start();
@@ -101,9 +102,9 @@ QString RunNotices::folderToOpen(const RunRecord &record) const
     return mayBeRemote ? QString() : folder;
 }
 
-void RunNotices::answer(DesktopNotices::Answer answer)
+void RunNotices::customEvent(QEvent *)
 {
-    if (answer == DesktopNotices::Answer::Show)
+    if (m_given == DesktopNotices::Answer::Show)
         Q_EMIT showRequested();
     else if (!m_folder.isEmpty())
         m_controller.openAddress(QUrl::fromLocalFile(m_folder).toString(QUrl::FullyEncoded));

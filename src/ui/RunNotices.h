@@ -6,6 +6,7 @@
 
 #include <QTimer>
 #include <QWidget>
+#include <atomic>
 
 class QuillorentAppDelegate;
 
@@ -25,11 +26,13 @@ public:
 Q_SIGNALS:
     void showRequested(); ///< the notice was pressed
 
+protected:
+    void customEvent(QEvent *) override; ///< the notice was answered
+
 private:
     void begin();
     void look();
     void tellEnd(const RunRecord &record);
-    void answer(DesktopNotices::Answer answer);
     [[nodiscard]] QString folderToOpen(const RunRecord &record) const;
 
     QuillorentAppDelegate &m_controller;
@@ -39,7 +42,8 @@ private:
     QDateTime m_toldOf; ///< when the run began whose end was told last
     QString m_folder;   ///< of the last notice
     QTimer m_timer;
-    std::optional<DesktopNotices> m_notices; ///< from the first run on
+    std::atomic<DesktopNotices::Answer> m_given{DesktopNotices::Answer::Show}; ///< on the bus's thread
+    std::optional<DesktopNotices> m_notices;                                   ///< from the first run on
 };
 
 } // namespace ui
