@@ -6,6 +6,7 @@
 #include "tools/Verification.h"
 
 #include <QCoreApplication>
+#include <mutex>
 
 namespace {
 
@@ -52,5 +53,11 @@ bool quillorentLibrary::compliance()
 
 void quillorentLibrary::updateCompliance()
 {
-    detachThread(u"verify-tools"_qs, [] { theDelegate().compliance.set(compliance()); });
+    detachThread(u"verify-tools"_qs, [] {
+        // One after the other, each of the tools as they are by then: one that began earlier and took longer
+        // would show what isn't so any more.
+        static std::mutex oneAtATime;
+        const std::lock_guard lock(oneAtATime);
+        theDelegate().compliance.set(compliance());
+    });
 }
