@@ -14,6 +14,14 @@ struct Words {
     Q_DECLARE_TR_FUNCTIONS(tools)
 };
 
+/// Held by whoever verifies and shows the result: each looks at the tools as they are by then, and none that
+/// began earlier and took longer shows what isn't so any more.
+std::recursive_mutex &oneVerification()
+{
+    static std::recursive_mutex mutex;
+    return mutex;
+}
+
 QString hintOnOpenSsl()
 {
     if (!quillorentLibrary::warnsOfItsKeyDerivation(registeredTool(u"OpenSSL"_qs))) return {};
@@ -26,6 +34,7 @@ QString hintOnOpenSsl()
 
 bool quillorentLibrary::compliance()
 {
+    const std::lock_guard lock(oneVerification());
     QuillorentAppDelegate &delegate = theDelegate();
     ++delegate.verifications;
     delegate.compliant.set(0);
@@ -54,10 +63,7 @@ bool quillorentLibrary::compliance()
 void quillorentLibrary::updateCompliance()
 {
     detachThread(u"verify-tools"_qs, [] {
-        // One after the other, each of the tools as they are by then: one that began earlier and took longer
-        // would show what isn't so any more.
-        static std::mutex oneAtATime;
-        const std::lock_guard lock(oneAtATime);
+        const std::lock_guard lock(oneVerification());
         theDelegate().compliance.set(compliance());
     });
 }
