@@ -206,7 +206,8 @@ TEST(Run, BringsBackWhatItBackedUp)
     EXPECT_TRUE(contains(home.extract({unnamed}).errors, "does not tell how it was encrypted"));
     const CommandResult wrong = home.extract({unnamed}, {"--method", "bf", "--yes"});
     EXPECT_EQ(wrong.status, 1);
-    EXPECT_TRUE(contains(wrong.errors, "DECODE ERROR - " + unnamed)) << wrong.errors;
+    // One time in 256 what a wrong cipher makes of the end looks like padding, and the next tool refuses it.
+    EXPECT_TRUE(contains(wrong.errors, " ERROR - " + unnamed)) << wrong.errors;
     EXPECT_FALSE(contains(wrong.errors, "from a file")) << "the password is shown";
     EXPECT_EQ(home.extract({unnamed}, {"--yes"}).status, 0);
 }
