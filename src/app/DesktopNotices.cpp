@@ -6,6 +6,10 @@
 
 namespace {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(DesktopNotices)
+};
+
 // https://specifications.freedesktop.org/notification-spec/
 constexpr const char *service = "org.freedesktop.Notifications";
 constexpr const char *path = "/org/freedesktop/Notifications";
@@ -66,11 +70,10 @@ void DesktopNotices::send(const Notice &notice, bool takesMarkup)
         g_variant_builder_add(&actions, "s", key);
         g_variant_builder_add(&actions, "s", label.toUtf8().constData());
     };
-    const auto tr = [](const char *words) { return QCoreApplication::translate("DesktopNotices", words); };
     GVariantBuilder actions;
     g_variant_builder_init(&actions, G_VARIANT_TYPE("as"));
-    add(actions, "default", tr("Show the window"));
-    if (notice.opensFolder) add(actions, openKey, tr("Open folder"));
+    add(actions, "default", Words::tr("Show the window"));
+    if (notice.opensFolder) add(actions, openKey, Words::tr("Open folder"));
     GVariantBuilder hints;
     g_variant_builder_init(&hints, G_VARIANT_TYPE("a{sv}"));
     g_variant_builder_add(&hints, "{sv}", "desktop-entry", g_variant_new_string("com.brolvanek.Quillorent"));

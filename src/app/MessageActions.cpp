@@ -1,5 +1,15 @@
 #include "app/QuillorentAppDelegate.h"
 
+#include <QCoreApplication>
+
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(app)
+};
+
+} // namespace
+
 void QuillorentAppDelegate::warn(const QString &text)
 {
     warningText01.setText(text);
@@ -30,10 +40,9 @@ void QuillorentAppDelegate::tabViewDidSelectTabViewItem()
 {
     const int missing = compliantBase() - compliant();
     if (missing == 0 || verifications > 0) return;
-    noPathText01.setText(
-        u"%1 of %2 programs that do the work are missing or wrong. The Tools tab shows which: choose the "
-        "right program there, or install it."_qs.arg(QString::number(missing),
-                                                     QString::number(compliantBase())));
+    noPathText01.setText(Words::tr("%1 of %2 programs that do the work are missing or wrong. The Tools tab "
+                                   "shows which: choose the right program there, or install it.")
+                             .arg(QString::number(missing), QString::number(compliantBase())));
     noPathPanel01.orderFront();
 }
 

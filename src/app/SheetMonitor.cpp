@@ -3,7 +3,13 @@
 #include "app/QuillorentAppDelegate.h"
 #include "extract/ChosenPaths.h"
 
+#include <QCoreApplication>
+
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(app)
+};
 
 void setHidden(outlets::TextField *label, bool hidden)
 {
@@ -24,7 +30,7 @@ QString folderOfContents(const RunRecord &record)
 
 void SheetMonitor::showSheet()
 {
-    m_sheet.cancelButton.setTitle(u"Cancel"_qs);
+    m_sheet.cancelButton.setTitle(QString::fromUtf8(QT_TRANSLATE_NOOP("outlets", "Cancel")));
     m_sheet.sheet.beginSheet();
     m_sheet.bar.setValue(0);
     m_sheet.bar.setIndeterminate(true);
@@ -65,7 +71,7 @@ void SheetMonitor::ended(const QString &summary)
 void SheetMonitor::toolsStillRun(const QStringList &what)
 {
     m_delegate.toolsText01.setText(what.isEmpty() ? QString()
-                                                  : u"Still at work: %1."_qs.arg(what.join(u", "_qs)));
+                                                  : Words::tr("Still at work: %1.").arg(what.join(u", "_qs)));
     m_delegate.toolsText01.setHidden(what.isEmpty());
     m_delegate.toolsCancel01.setHidden(what.isEmpty());
 }

@@ -15,11 +15,16 @@ using namespace std::chrono_literals;
 
 namespace {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(app)
+};
+
 QString sentences(const QStringList &list)
 {
     constexpr qsizetype most = 12; // as many as a person reads
     if (list.size() <= most) return list.join(u"\n\n"_qs);
-    return list.first(most).join(u"\n\n"_qs) + u"\n\n… and %1 more."_qs.arg(list.size() - most);
+    return list.first(most).join(u"\n\n"_qs) + u"\n\n"_qs +
+           Words::tr("… and %1 more.").arg(list.size() - most);
 }
 
 /// Shows the sheet while it lives, to somebody who has waited for a moment: most looks take no time, and a
@@ -59,11 +64,11 @@ private:
 /// What somebody is told who wants to shut the machine down meanwhile.
 QString whyAwake(const RunStart &start)
 {
-    const auto tr = [](const char *text) { return QCoreApplication::translate("StayAwake", text); };
     const QString &sheet = start.sheet.sheet.name();
-    if (sheet == u"progressPanel02") return tr("Files are being restored, and would not be complete.");
-    if (sheet == u"progressPanel03") return tr("Folders are being synchronised, and would not be in step.");
-    return tr("A backup is running, and would not be complete.");
+    if (sheet == u"progressPanel02") return Words::tr("Files are being restored, and would not be complete.");
+    if (sheet == u"progressPanel03")
+        return Words::tr("Folders are being synchronised, and would not be in step.");
+    return Words::tr("A backup is running, and would not be complete.");
 }
 
 } // namespace
@@ -78,7 +83,7 @@ void QuillorentAppDelegate::carryOut(const RunStart &start)
     }();
     showLeftInClear(); // of a run, too, whose tools have only just ended
     if (cancelFlag()) {
-        const QString summary = u"Cancelled before anything was done."_qs;
+        const QString summary = Words::tr("Cancelled before anything was done.");
         start.sheet.result.setText(summary);
         lastRecord.set({.outcome = Outcome::Cancelled, .summary = summary});
         endRun();
@@ -128,7 +133,7 @@ void QuillorentAppDelegate::answer(outlets::Panel &panel, bool goesOn)
 void QuillorentAppDelegate::startRun(const QString &threadName, const std::function<RunStart()> &prepare)
 {
     if (!tryBeginRun()) {
-        warn(u"A run is at work, or still ending its tools. Try again when it has ended."_qs);
+        warn(Words::tr("A run is at work, or still ending its tools. Try again when it has ended."));
         return;
     }
     const auto go = [this, threadName, prepare] {
@@ -150,7 +155,7 @@ void QuillorentAppDelegate::startRun(const QString &threadName, const std::funct
         }
         endRun();
         if (profile != currentProfile())
-            warn(u"Another profile was opened while the keychain was asked. Start again."_qs);
+            warn(Words::tr("Another profile was opened while the keychain was asked. Start again."));
     });
     wait->start(pauses().poll);
 }
@@ -162,7 +167,7 @@ void QuillorentAppDelegate::concernsPanel01Stop() { answer(concernsPanel01, fals
 void QuillorentAppDelegate::toolsCancel01Action()
 {
     cancelByUser();
-    toolsText01.setText(u"Wait..."_qs);
+    toolsText01.setText(QString::fromUtf8(QT_TRANSLATE_NOOP("outlets", "Wait...")));
 }
 
 void QuillorentAppDelegate::showLeftInClear()
@@ -171,7 +176,7 @@ void QuillorentAppDelegate::showLeftInClear()
     clearText01.setText(
         left.isEmpty()
             ? QString()
-            : u"Left by a run that did not end well, and not encrypted:\n%1"_qs.arg(left.join(u'\n')));
+            : Words::tr("Left by a run that did not end well, and not encrypted:\n%1").arg(left.join(u'\n')));
     clearText01.setHidden(left.isEmpty());
     clearRemove01.setHidden(left.isEmpty());
 }
@@ -180,7 +185,7 @@ void QuillorentAppDelegate::clearRemove01Action()
 {
     // A run may be making just these at the moment.
     if (isRunActive()) {
-        warn(u"A run is at work. Remove them when it has ended."_qs);
+        warn(Words::tr("A run is at work. Remove them when it has ended."));
         return;
     }
     detachThread(u"remove-clear"_qs, [this] {

@@ -6,9 +6,15 @@
 #include "tools/Threads.h"
 #include "tools/ToolRun.h"
 
+#include <QCoreApplication>
+
 using namespace std::chrono_literals;
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(app)
+};
 
 plist::Dictionary makeDefaultProfile()
 {
@@ -39,9 +45,9 @@ plist::Dictionary makeDefaultProfile()
 /// What a person must know of a file that gave no dictionary.
 QString describeUnreadable(const QString &what, const QString &reason)
 {
-    return u"The %1 can't be read:\n%2\n"
-           "Their file stays as it is. Repair it, or move it away: the next start makes a new one."_qs.arg(
-               what, reason);
+    return Words::tr("The %1 can't be read:\n%2\nTheir file stays as it is. Repair it, or move it away: the "
+                     "next start makes a new one.")
+        .arg(what, reason);
 }
 
 } // namespace

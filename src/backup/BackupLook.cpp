@@ -12,10 +12,15 @@
 #include "runs/Aftermath.h"
 #include "runs/Looks.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <future>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(backup)
+};
 
 using quillorentLibrary::lastPathComponent;
 
@@ -29,16 +34,17 @@ void lookForFilesInTheWay(const BackupOrder &order, const BackupItem &item, Find
         });
         if (isKnown) continue;
         if (there->kind == FileEntry::Kind::Folder)
-            findings.addConcern(
-                u"\"%1\" is a folder, and a file of that name is needed for a while: the backup will "
-                "fail. Rename it."_qs.arg(path));
+            findings.addConcern(Words::tr("\"%1\" is a folder, and a file of that name is needed for a "
+                                          "while: the backup will fail. Rename it.")
+                                    .arg(path));
         else
-            findings.addConcern(u"\"%1\" is there, and its name is needed for a while. It may be yours, or "
-                                u"left in clear by a run "
-                                "that was interrupted. It will be called \"%2\", and stay."_qs.arg(path, [&] {
-                                    const auto plan = planAside({path}, u"kept"_qs);
-                                    return plan ? lastPathComponent(plan->first().to) : u"kept-…"_qs;
-                                }()));
+            findings.addConcern(
+                Words::tr("\"%1\" is there, and its name is needed for a while. It may be yours, or left in "
+                          "clear by a run that was interrupted. It will be called \"%2\", and stay.")
+                    .arg(path, [&] {
+                        const auto plan = planAside({path}, u"kept"_qs);
+                        return plan ? lastPathComponent(plan->first().to) : u"kept-…"_qs;
+                    }()));
     }
 }
 
@@ -54,11 +60,11 @@ void lookForFormerArchives(const BackupOrder &order, Findings &findings)
         }
     if (!names.isEmpty())
         findings.overwrites =
-            u"These archives are in \"%1\" and will be replaced, other files stay: %2."_qs.arg(
-                order.destination, names.join(u", "_qs));
+            Words::tr("These archives are in \"%1\" and will be replaced, other files stay: %2.")
+                .arg(order.destination, names.join(u", "_qs));
     else if (!quillorentLibrary::holdsNothing(order.destination))
-        findings.overwrites =
-            u"The destination \"%1\" is not empty. Other files stay as they are."_qs.arg(order.destination);
+        findings.overwrites = Words::tr("The destination \"%1\" is not empty. Other files stay as they are.")
+                                  .arg(order.destination);
 }
 
 /// A mistyped password is a lost backup: archives that are there tell whether it is mistyped, or else who
@@ -69,18 +75,19 @@ void lookAtPassword(const BackupOrder &order, Findings &findings)
     const PasswordTrial trial = tryPassword(order);
     if (trial.verdict == PasswordTrial::Verdict::Opens) return;
     if (trial.verdict == PasswordTrial::Verdict::Wrong)
-        findings.addConcern(u"\"%1\" does not open with this password: it is not the password of the "
-                            "archives there, or this one is damaged. If it is mistyped, stop and correct it. "
-                            "If you go on, the new archives open with this password only."_qs.arg(
-                                lastPathComponent(trial.archive)));
+        findings.addConcern(
+            Words::tr("\"%1\" does not open with this password: it is not the password of the archives "
+                      "there, or this one is damaged. If it is mistyped, stop and correct it. If you go on, "
+                      "the new archives open with this password only.")
+                .arg(lastPathComponent(trial.archive)));
     if (!order.repetition || order.repetition->bytes() == order.password.bytes()) return;
     findings.addConcern(
         order.repetition->bytes().isEmpty()
-            ? u"The password was typed only once, and nothing tells whether it is mistyped. Type it again, "
-              u"in "
-              "the second field on the Password tab: nobody can open what a mistyped password encrypts."_qs
-            : u"The password and its repetition differ: one of them is mistyped. Type both again on the "
-              "Password tab: nobody can open what a mistyped password encrypts."_qs);
+            ? Words::tr("The password was typed only once, and nothing tells whether it is mistyped. Type it "
+                        "again, in the second field on the Password tab: nobody can open what a mistyped "
+                        "password encrypts.")
+            : Words::tr("The password and its repetition differ: one of them is mistyped. Type both again on "
+                        "the Password tab: nobody can open what a mistyped password encrypts."));
 }
 
 void lookForRepetitions(const BackupOrder &order, Findings &findings)
@@ -88,9 +95,9 @@ void lookForRepetitions(const BackupOrder &order, Findings &findings)
     QStringList seen;
     for (const BackupItem &item : order.items) {
         if (seen.contains(item.source))
-            findings.addConcern(
-                u"\"%1\" is listed more than once, and is backed up as often, one after the other, "
-                "into one archive."_qs.arg(item.source));
+            findings.addConcern(Words::tr("\"%1\" is listed more than once, and is backed up as often, one "
+                                          "after the other, into one archive.")
+                                    .arg(item.source));
         seen.append(item.source);
     }
 }

@@ -6,11 +6,16 @@
 #include "runs/Pauses.h"
 #include "runs/Run.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QLocale>
 #include <thread>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(backup)
+};
 
 class BackupRun : public Run {
 public:
@@ -84,7 +89,8 @@ bool BackupRun::skip(qsizetype index)
     m_state.endItem(source, RunItem::Phase::LeftOut);
     journal().changeItem(index, [&](ItemRecord &item) {
         item.outcome = Outcome::Skipped;
-        item.reason = isMissing ? u"it is not there"_qs : u"it is neither a file nor a folder"_qs;
+        item.reason =
+            isMissing ? Words::tr("it is not there") : Words::tr("it is neither a file nor a folder");
     });
     return true;
 }
@@ -95,17 +101,18 @@ QString BackupRun::summary() const
     const auto number = [&](double value) { return locale.toString(qint64(value)); };
     QStringList sentences;
     if (!m_state.failure().isEmpty())
-        sentences.append(u"Failed: "_qs + m_state.failure());
+        sentences.append(Words::tr("Failed: %1").arg(m_state.failure()));
     else if (m_state.isCancelledByUser())
-        sentences.append(u"Cancelled."_qs);
+        sentences.append(Words::tr("Cancelled."));
     else
-        sentences.append(u"Backed up %1 of %2 (%3)."_qs.arg(
-            number(m_state.foldersDone()), number(m_state.foldersToDo()),
-            locale.formattedDataSize(qint64(m_state.sizeDone()), 1, QLocale::DataSizeSIFormat)));
-    if (!m_missing.isEmpty()) sentences.append(u"Not found: %1."_qs.arg(m_missing.join(u", "_qs)));
-    if (!m_unsuitable.isEmpty())
         sentences.append(
-            u"Left out, as they are neither files nor folders: %1."_qs.arg(m_unsuitable.join(u", "_qs)));
+            Words::tr("Backed up %1 of %2 (%3).")
+                .arg(number(m_state.foldersDone()), number(m_state.foldersToDo()),
+                     locale.formattedDataSize(qint64(m_state.sizeDone()), 1, QLocale::DataSizeSIFormat)));
+    if (!m_missing.isEmpty()) sentences.append(Words::tr("Not found: %1.").arg(m_missing.join(u", "_qs)));
+    if (!m_unsuitable.isEmpty())
+        sentences.append(Words::tr("Left out, as they are neither files nor folders: %1.")
+                             .arg(m_unsuitable.join(u", "_qs)));
     sentences += describeKept();
     return sentences.join(u' ');
 }

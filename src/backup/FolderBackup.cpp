@@ -8,11 +8,16 @@
 #include "runs/Looks.h"
 #include "runs/Run.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <future>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(backup)
+};
 
 /// One item on its way to an archive.
 class FolderBackup : private ItemPipeline {
@@ -160,7 +165,8 @@ QString FolderBackup::setFormerAside()
     const QStringList files = filesOfArchive(m_paths.final);
     const auto plan = planAside(files, u"former"_qs);
     if (!plan)
-        return u"\"%1\" can't be given another name while its successor is made."_qs.arg(files.value(0));
+        return Words::tr("\"%1\" can't be given another name while its successor is made.")
+            .arg(files.value(0));
     // Where the names are written down first, a run that is killed now is repaired by the next.
     m_run.journal().changeItem(m_index, [&](ItemRecord &item) {
         item.former = *plan;
@@ -170,8 +176,8 @@ QString FolderBackup::setFormerAside()
     m_run.journal().sync();
     const QString reason = setAside(*plan);
     if (!reason.isEmpty())
-        return u"\"%1\" can't be given another name while its successor is made: %2."_qs.arg(files.value(0),
-                                                                                             reason);
+        return Words::tr("\"%1\" can't be given another name while its successor is made: %2.")
+            .arg(files.value(0), reason);
     m_former = *plan;
     return {};
 }
@@ -195,7 +201,9 @@ void FolderBackup::settleFormer()
         const QString reason = putBack(m_former);
         m_isPacked = false;
         if (!reason.isEmpty()) {
-            m_reason += u"\nThe former archive is called \"%1\" now: %2."_qs.arg(m_former.first().to, reason);
+            m_reason +=
+                u'\n' +
+                Words::tr("The former archive is called \"%1\" now: %2.").arg(m_former.first().to, reason);
             return; // the record still knows, so the next run tries again
         }
     }
@@ -208,8 +216,8 @@ QStringList FolderBackup::newFiles() const { return filesOfArchive(m_paths.final
 QString FolderBackup::whatIsLeftInClear() const
 {
     if (!entryAt(m_paths.stored)) return {};
-    return u"\n\"%1\" is left and is not encrypted: run the backup again, or remove it."_qs.arg(
-        m_paths.stored);
+    return u'\n' + Words::tr("\"%1\" is left and is not encrypted: run the backup again, or remove it.")
+                       .arg(m_paths.stored);
 }
 
 } // namespace

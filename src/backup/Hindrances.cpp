@@ -15,12 +15,12 @@
 
 namespace {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(backup)
+};
+
 using quillorentLibrary::lastPathComponent;
 using Place = Hindrance::Place;
-
-struct Words {
-    Q_DECLARE_TR_FUNCTIONS(Hindrances)
-};
 
 class Found {
 public:
@@ -46,14 +46,15 @@ void lookAtSettings(const BackupOrder &order, Found &found)
     const auto missing = [&](const QString &value, const QString &what) {
         if (value.isEmpty())
             found.add(Place::Settings,
-                      u"The settings have no %1, and without it files would be lost. Repair the "
-                      "settings file, or move it away: the next start makes a new one."_qs.arg(what));
+                      Words::tr("The settings have no %1, and without it files would be lost. Repair the "
+                                "settings file, or move it away: the next start makes a new one.")
+                          .arg(what));
     };
-    missing(order.archiveExtension, u"file extension of archives (\"extensions\", \"RAR\")"_qs);
-    missing(order.methodExtension, u"file extension of \"%1\" (\"extensions\")"_qs.arg(order.method));
-    missing(order.cipher, u"command for \"%1\" (\"encparam\")"_qs.arg(order.method));
-    missing(order.archiver, u"path of the archiver (\"external\", \"RAR\")"_qs);
-    missing(order.encoder, u"path of the OpenSSL tool (\"external\", \"OpenSSL\")"_qs);
+    missing(order.archiveExtension, Words::tr("file extension of archives (\"extensions\", \"RAR\")"));
+    missing(order.methodExtension, Words::tr("file extension of \"%1\" (\"extensions\")").arg(order.method));
+    missing(order.cipher, Words::tr("command for \"%1\" (\"encparam\")").arg(order.method));
+    missing(order.archiver, Words::tr("path of the archiver (\"external\", \"RAR\")"));
+    missing(order.encoder, Words::tr("path of the OpenSSL tool (\"external\", \"OpenSSL\")"));
 }
 
 void lookAtSources(const BackupOrder &order, Found &found)
@@ -109,8 +110,9 @@ void lookAtNames(const BackupOrder &order, Found &found)
         for (const QString &name : namesOf(item))
             if (QFile::encodeName(name).size() + decoration > NAME_MAX)
                 found.add(Place::Sources,
-                          u"The archive of \"%1\" would have a name that is too long for a file. Rename "
-                          "it, or back up the folder that it lies in."_qs.arg(item.source));
+                          Words::tr("The archive of \"%1\" would have a name that is too long for a file. "
+                                    "Rename it, or back up the folder that it lies in.")
+                              .arg(item.source));
 }
 
 /// The same, and what stands for all volumes of a set that one of them is or may be of.
@@ -134,9 +136,10 @@ void lookForMeetings(const BackupOrder &order, Found &found)
             const QString owner = owners.value(asFound(name), item.source);
             if (owner != item.source)
                 found.add(Place::Sources,
-                          u"\"%1\" and \"%2\" would both need the file \"%3\" in the destination, and one "
-                          "archive would replace the other. Rename one of them, or back it up by a "
-                          "profile of its own."_qs.arg(owner, item.source, name));
+                          Words::tr("\"%1\" and \"%2\" would both need the file \"%3\" in the destination, "
+                                    "and one archive would replace the other. Rename one of them, or back it "
+                                    "up by a profile of its own.")
+                              .arg(owner, item.source, name));
             owners.insert(asFound(name), item.source);
         }
 }
@@ -153,8 +156,9 @@ void lookForSourcesInTheWay(const BackupOrder &order, Found &found)
              QStringList{item.stored, item.encrypted, item.final} + filesOfArchive(item.final))
             if (sources.contains(path) || sources.contains(canonicalPath(path)))
                 found.add(Place::Sources,
-                          u"\"%1\" is on the list, and its name is needed for the archive of \"%2\". "
-                          "Choose another destination, or rename it."_qs.arg(path, item.source));
+                          Words::tr("\"%1\" is on the list, and its name is needed for the archive of "
+                                    "\"%2\". Choose another destination, or rename it.")
+                              .arg(path, item.source));
 }
 
 } // namespace

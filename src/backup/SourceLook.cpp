@@ -4,7 +4,16 @@
 #include "files/Names.h"
 #include "files/Paths.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
+
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(backup)
+};
+
+} // namespace
 
 QString canonicalPath(const QString &path)
 {
@@ -35,19 +44,22 @@ QString concernAboutSource(SourceState state, const QString &source, const QStri
     case SourceState::Fine:
         return {};
     case SourceState::Missing:
-        return u"\"%1\" is not there, and is left out. Connect its disk, or remove it from the list."_qs.arg(
-            source);
+        return Words::tr(
+                   "\"%1\" is not there, and is left out. Connect its disk, or remove it from the list.")
+            .arg(source);
     case SourceState::Unsuitable: {
         const auto there = entryAt(source);
-        return u"\"%1\" is %2, and is left out."_qs.arg(
-            source, describeKind(there ? there->kind : FileEntry::Kind::Other));
+        return Words::tr("\"%1\" is %2, and is left out.")
+            .arg(source, describeKind(there ? there->kind : FileEntry::Kind::Other));
     }
     case SourceState::Link:
-        return u"\"%1\" is a link, and only the link itself would be backed up, nothing that it leads "
-               "to. Put a slash behind it, or add the folder that it leads to."_qs.arg(source);
+        return Words::tr("\"%1\" is a link, and only the link itself would be backed up, nothing that it "
+                         "leads to. Put a slash behind it, or add the folder that it leads to.")
+            .arg(source);
     case SourceState::HoldsDestination:
-        return u"The destination \"%1\" lies in \"%2\", so each archive would hold the ones before it. "
-               "Choose another destination."_qs.arg(destination, source);
+        return Words::tr("The destination \"%1\" lies in \"%2\", so each archive would hold the ones before "
+                         "it. Choose another destination.")
+            .arg(destination, source);
     }
     return {};
 }

@@ -24,6 +24,10 @@
 
 namespace {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(extract)
+};
+
 using Place = FailedStage::Place;
 using quillorentLibrary::joined;
 using quillorentLibrary::lastPathComponent;
@@ -84,8 +88,6 @@ Place whatIsAt(const QString &path)
     if (there->kind == FileEntry::Kind::Link) return Place::Link;
     return there->kind == FileEntry::Kind::Folder ? Place::Folder : Place::File;
 }
-
-QString tr(const char *text) { return QCoreApplication::translate("ArchiveExtraction", text); }
 
 /// In the folder of a run's own, beside the files between the stages.
 QString contentsFolder(const QString &privateFolder) { return joined(privateFolder, u"contents"_qs); }
@@ -324,7 +326,7 @@ void ArchiveExtraction::unpackInner()
     }
     // Now and then a wrong password decrypts to rubbish, without a word, and some archivers say nothing about
     // rubbish.
-    if (result.isSilent() && !m_innerIsArchive) result.output = u"\"%1\" is no archive"_qs.arg(inner);
+    if (result.isSilent() && !m_innerIsArchive) result.output = Words::tr("\"%1\" is no archive").arg(inner);
     judgeStage(FailedStage::Kind::UnpackInner, u"\nunRAR 2nd"_qs, result, hasCome(contents.some, folder),
                folder);
     m_isExtracted = m_succeeded && m_distrust.isEmpty();
@@ -364,15 +366,16 @@ QString ArchiveExtraction::whatIsNotThere(const MoveTree &tree) const
     const auto missing = std::find_if(m_order.chosen.begin(), m_order.chosen.end(),
                                       [&](const std::string &path) { return !tree.has(path); });
     if (missing == m_order.chosen.end()) return {};
-    return tr("There is no \"%1\" in \"%2\", so nothing was brought back. The archive's paths look like "
-              "\"%3\".")
+    return Words::tr(
+               "There is no \"%1\" in \"%2\", so nothing was brought back. The archive's paths look like "
+               "\"%3\".")
         .arg(QFile::decodeName(QByteArray::fromStdString(*missing)), lastPathComponent(m_item), m_example);
 }
 
 void ArchiveExtraction::bringChosen()
 {
     if (!goesOn() || !m_isExtracted || m_order.chosen.empty()) return;
-    setStage(u"bringing back what was chosen"_qs, {}); // by renaming: it takes no time
+    setStage(Words::tr("bringing back what was chosen"), {}); // by renaming: it takes no time
     MoveTree tree(QFile::encodeName(contentsFolder(m_folder)).toStdString(),
                   QFile::encodeName(m_order.folder).toStdString(),
                   {.keep = [this](const Aside &kept) { noteKept(kept); },

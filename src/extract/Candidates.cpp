@@ -3,10 +3,15 @@
 #include "extract/ArchiveName.h"
 #include "files/Names.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <algorithm>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(extract)
+};
 
 bool isArchive(const QString &path) { return path.endsWith(u".rar"_qs, Qt::CaseInsensitive); }
 
@@ -39,13 +44,15 @@ QString describe(const QString &leftOut, const QStringList &all)
     const QString name = quillorentLibrary::lastPathComponent(leftOut);
     const std::optional<VolumeName> volume = volumeName(leftOut);
     if (!volume || !volume->isLater())
-        return u"\"%1\" is not extracted: its path has \"part\" and, after that, a number as later "
-               "volumes have it. Move or rename it, and add it again."_qs.arg(leftOut);
+        return Words::tr("\"%1\" is not extracted: its path has \"part\" and, after that, a number as later "
+                         "volumes have it. Move or rename it, and add it again.")
+            .arg(leftOut);
     if (holdsFirstVolume(all, volume->set)) return {};
-    return u"The first volume is missing: \"%1\" is volume %2 of its set. Add the first one, "
-           "\"%3.part1.rar\" or \"…part01.rar\"."_qs.arg(name)
-               .arg(volume->number)
-               .arg(quillorentLibrary::lastPathComponent(volume->set));
+    return Words::tr("The first volume is missing: \"%1\" is volume %2 of its set. Add the first one, "
+                     "\"%3.part1.rar\" or \"…part01.rar\".")
+        .arg(name)
+        .arg(volume->number)
+        .arg(quillorentLibrary::lastPathComponent(volume->set));
 }
 
 } // namespace

@@ -9,7 +9,9 @@
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("ChosenPaths", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(extract)
+};
 
 /// Empty where the path leads nowhere, or up.
 std::string tidied(const std::string &path)
@@ -33,8 +35,9 @@ QString tidyChosen(std::vector<std::string> &paths)
     for (std::string &path : paths) {
         const std::string tidy = tidied(path);
         if (tidy.empty() || path.find('\0') != std::string::npos)
-            return tr("\"%1\" can't be the path of anything in an archive. Name a file or a folder as the "
-                      "archive has it, such as \"home/anna/letter\".")
+            return Words::tr(
+                       "\"%1\" can't be the path of anything in an archive. Name a file or a folder as the "
+                       "archive has it, such as \"home/anna/letter\".")
                 .arg(QFile::decodeName(QByteArray::fromStdString(path)));
         path = tidy;
     }

@@ -17,6 +17,10 @@
 
 namespace {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(extract)
+};
+
 using quillorentLibrary::lastPathComponent;
 
 bool isReadableFile(const QString &path)
@@ -51,9 +55,9 @@ void lookForArchivesInTheWay(const ExtractOrder &order, Findings &findings)
     for (const ExtractItem &item : order.items)
         for (const QString &path : pathsBetween(item.paths))
             if (archives.contains(QFileInfo(path).canonicalFilePath()))
-                findings.addObstacle(
-                    u"\"%1\" is one of the archives, and its name is needed for what comes out of "
-                    "\"%2\". Extract into another folder."_qs.arg(path, item.archive));
+                findings.addObstacle(Words::tr("\"%1\" is one of the archives, and its name is needed for "
+                                               "what comes out of \"%2\". Extract into another folder.")
+                                         .arg(path, item.archive));
 }
 
 void lookAtVolumes(const ExtractItem &item, Findings &findings)
@@ -61,39 +65,38 @@ void lookAtVolumes(const ExtractItem &item, Findings &findings)
     const std::optional<QList<Volume>> volumes = volumesBeside(item.archive);
     const QString missing = volumes ? whatIsMissing(*volumes) : QString();
     if (!missing.isEmpty())
-        findings.addConcern(
-            u"The set of \"%1\" seems incomplete or mixed: %2. Put all its volumes, and no others, into one "
-            "folder."_qs.arg(lastPathComponent(item.archive), missing));
+        findings.addConcern(Words::tr("The set of \"%1\" seems incomplete or mixed: %2. Put all its volumes, "
+                                      "and no others, into one folder.")
+                                .arg(lastPathComponent(item.archive), missing));
 }
 
 void lookAtKey(const ExtractOrder &order, Findings &findings)
 {
     if (order.key.isEmpty())
-        findings.addConcern(
-            u"No private key is chosen. Without it nothing that was encrypted for a certificate can "
-            "be decrypted."_qs);
+        findings.addConcern(Words::tr("No private key is chosen. Without it nothing that was encrypted for a "
+                                      "certificate can be decrypted."));
     else if (!isReadableFile(order.key))
-        findings.addConcern(u"The private key \"%1\" can't be read."_qs.arg(order.key));
+        findings.addConcern(Words::tr("The private key \"%1\" can't be read.").arg(order.key));
     if (order.certificate.isEmpty())
         findings.addConcern(
-            u"No certificate is chosen. Choose the one that the archives were encrypted for."_qs);
+            Words::tr("No certificate is chosen. Choose the one that the archives were encrypted for."));
     else if (!isReadableFile(order.certificate))
-        findings.addConcern(u"The certificate \"%1\" can't be read."_qs.arg(order.certificate));
+        findings.addConcern(Words::tr("The certificate \"%1\" can't be read.").arg(order.certificate));
 }
 
 void lookAtProtection(const ExtractOrder &order, const ExtractItem &item, Findings &findings)
 {
     const QString name = lastPathComponent(item.archive);
     if (item.command.isEmpty())
-        findings.addConcern(
-            u"The name of \"%1\" does not tell how it was encrypted. Choose the method, unless the "
-            "name of what is in it tells."_qs.arg(name));
+        findings.addConcern(Words::tr("The name of \"%1\" does not tell how it was encrypted. Choose the "
+                                      "method, unless the name of what is in it tells.")
+                                .arg(name));
     else if (item.command == u"smime")
         lookAtKey(order, findings);
     else if (order.isCertificateChosen)
-        findings.addConcern(
-            u"\"%1\" was encrypted by a password, and a certificate is chosen. Choose a password on "
-            "the Password tab."_qs.arg(name));
+        findings.addConcern(Words::tr("\"%1\" was encrypted by a password, and a certificate is chosen. "
+                                      "Choose a password on the Password tab.")
+                                .arg(name));
 }
 
 void lookAtPlaces(const ExtractOrder &order, const ExtractItem &item, Findings &findings)
@@ -106,12 +109,12 @@ void lookAtPlaces(const ExtractOrder &order, const ExtractItem &item, Findings &
         });
         if (there->kind == FileEntry::Kind::Folder)
             findings.addConcern(
-                u"\"%1\" is a folder, and a file of that name is needed for a while. Rename it."_qs.arg(
-                    path));
+                Words::tr("\"%1\" is a folder, and a file of that name is needed for a while. Rename it.")
+                    .arg(path));
         else if (!isKnown)
-            findings.addConcern(
-                u"\"%1\" is there, and its name is needed for a while. It will get another name, "
-                "which begins with \"kept\", and stay."_qs.arg(path));
+            findings.addConcern(Words::tr("\"%1\" is there, and its name is needed for a while. It will get "
+                                          "another name, which begins with \"kept\", and stay.")
+                                    .arg(path));
     }
 }
 
@@ -122,9 +125,9 @@ void lookForNamesakes(const ExtractOrder &order, Findings &findings)
         for (const QString &path : pathsBetween(item.paths)) {
             if (taken.contains(path))
                 findings.addConcern(
-                    u"Two archives need the name \"%1\" for a while. They are extracted one after the "
-                    "other; what the second would replace goes into a folder of its own."_qs.arg(
-                        lastPathComponent(path)));
+                    Words::tr("Two archives need the name \"%1\" for a while. They are extracted one after "
+                              "the other; what the second would replace goes into a folder of its own.")
+                        .arg(lastPathComponent(path)));
             taken.insert(path);
         }
 }
@@ -157,9 +160,9 @@ void repair(const ExtractOrder &order, const QString &folder)
 void lookAtChoice(ExtractOrder &order, Findings &findings)
 {
     if (order.items.size() != 1)
-        findings.addObstacle(QCoreApplication::translate(
-            "ExtractLook", "Single files are looked for in one archive at a time. Choose one archive, or of "
-                           "a set its first volume."));
+        findings.addObstacle(
+            Words::tr("Single files are looked for in one archive at a time. Choose one archive, or of "
+                      "a set its first volume."));
     findings.addObstacle(tidyChosen(order.chosen));
     if (findings.obstacles.isEmpty()) workInPrivate(order);
 }
@@ -182,9 +185,9 @@ Findings lookAtExtraction(ExtractOrder &order, FolderLock &lock)
 {
     Findings findings;
     if (!quillorentLibrary::folderExists(order.folder)) {
-        findings.addObstacle(
-            u"The extraction folder \"%1\" does not exist or is no folder. Connect its disk, or "
-            "choose another one."_qs.arg(order.folder));
+        findings.addObstacle(Words::tr("The extraction folder \"%1\" does not exist or is no folder. Connect "
+                                       "its disk, or choose another one.")
+                                 .arg(order.folder));
         return findings;
     }
     if (order.isPart()) lookAtChoice(order, findings);
@@ -201,7 +204,8 @@ Findings lookAtExtraction(ExtractOrder &order, FolderLock &lock)
 
     for (const ExtractItem &item : order.items) {
         if (!isReadableFile(item.archive)) {
-            findings.addConcern(u"\"%1\" is not there any more, or can't be read."_qs.arg(item.archive));
+            findings.addConcern(
+                Words::tr("\"%1\" is not there any more, or can't be read.").arg(item.archive));
             continue;
         }
         lookAtVolumes(item, findings);
@@ -215,8 +219,8 @@ Findings lookAtExtraction(ExtractOrder &order, FolderLock &lock)
     // What is chosen replaces nothing.
     if (!order.isPart() && order.asksBeforeReplacing && !quillorentLibrary::holdsNothing(order.folder))
         findings.overwrites =
-            u"The extraction folder \"%1\" is not empty. Files of the same name are replaced."_qs.arg(
-                order.folder);
+            Words::tr("The extraction folder \"%1\" is not empty. Files of the same name are replaced.")
+                .arg(order.folder);
     return findings;
 }
 

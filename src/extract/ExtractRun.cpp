@@ -18,6 +18,10 @@
 
 namespace {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(extract)
+};
+
 class ExtractRun : public Run {
 public:
     ExtractRun(const ExtractOrder &order, RunState &state, RunMonitor &monitor, FolderLock lock,
@@ -40,11 +44,6 @@ private:
     mutable ExtractShared m_shared;
 };
 
-QString tr(const char *text, int count = -1)
-{
-    return QCoreApplication::translate("ExtractRun", text, nullptr, count);
-}
-
 QStringList archivesOf(const ExtractOrder &order)
 {
     QStringList archives;
@@ -64,7 +63,7 @@ RunRecord recordOf(const ExtractOrder &order)
     for (const QString &archive : namesLeftOut(order.shown, archivesOf(order)))
         record.items.append({.path = archive,
                              .outcome = Outcome::Skipped,
-                             .reason = u"its name is that of a later volume"_qs});
+                             .reason = Words::tr("its name is that of a later volume")});
     return record;
 }
 
@@ -152,35 +151,37 @@ void ExtractRun::launchWorkers()
 QString ExtractRun::success() const
 {
     if (m_order.listing)
-        return tr("Looked into the archive: it holds %n file(s) and folder(s).",
-                  int(m_order.listing->entries.size()));
+        return Words::tr("Looked into the archive: it holds %n file(s) and folder(s).", nullptr,
+                         int(m_order.listing->entries.size()));
     if (m_order.isPart())
-        return tr("Brought back what was chosen, %n file(s) or folder(s), to \"%1\".",
-                  int(m_order.chosen.size()))
+        return Words::tr("Brought back what was chosen, %n file(s) or folder(s), to \"%1\".", nullptr,
+                         int(m_order.chosen.size()))
             .arg(m_order.folder);
     const QLocale locale;
-    return u"Extracted %1 of %2 into \"%3\"."_qs.arg(locale.toString(qint64(m_state.foldersDone())),
-                                                     locale.toString(m_order.items.size()), m_order.folder);
+    return Words::tr("Extracted %1 of %2 into \"%3\".")
+        .arg(locale.toString(qint64(m_state.foldersDone())), locale.toString(m_order.items.size()),
+             m_order.folder);
 }
 
 QString ExtractRun::summary() const
 {
     QStringList sentences;
     if (!m_state.failure().isEmpty())
-        sentences.append(u"Failed: "_qs + m_state.failure());
+        sentences.append(Words::tr("Failed: %1").arg(m_state.failure()));
     else if (m_state.isCancelledByUser() && m_order.isPart())
-        sentences.append(tr("Cancelled. What was chosen may have been brought back in part."));
+        sentences.append(Words::tr("Cancelled. What was chosen may have been brought back in part."));
     else if (m_state.isCancelledByUser())
-        sentences.append(u"Cancelled. Files left in the extraction folder may be incomplete."_qs);
+        sentences.append(Words::tr("Cancelled. Files left in the extraction folder may be incomplete."));
     else
         sentences.append(success());
     const std::lock_guard lock(m_shared.mutex);
     for (const QString &folder : m_shared.ownFolders)
-        sentences.append(u"\"%1\" has what would have replaced files of another archive."_qs.arg(folder));
+        sentences.append(
+            Words::tr("\"%1\" has what would have replaced files of another archive.").arg(folder));
     const QStringList leftOut = namesLeftOut(m_order.shown, archivesOf(m_order));
     if (!leftOut.isEmpty())
         sentences.append(
-            u"Not extracted, as they look like later volumes: %1."_qs.arg(leftOut.join(u", "_qs)));
+            Words::tr("Not extracted, as they look like later volumes: %1.").arg(leftOut.join(u", "_qs)));
     sentences += describeKept();
     return sentences.join(u' ');
 }

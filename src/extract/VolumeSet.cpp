@@ -2,8 +2,17 @@
 
 #include "extract/ArchiveName.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <algorithm>
+
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(extract)
+};
+
+} // namespace
 
 std::optional<QList<Volume>> volumesBeside(const QString &archive)
 {
@@ -27,20 +36,23 @@ QString whatIsMissing(const QList<Volume> &volumes)
     const auto isTwice = [](const Volume &one, const Volume &other) { return one.number == other.number; };
     const auto twice = std::adjacent_find(volumes.begin(), volumes.end(), isTwice);
     if (twice != volumes.end())
-        return u"volume %1 is there twice, so some are leftovers of another backup"_qs.arg(twice->number);
+        return Words::tr("volume %1 is there twice, so some are leftovers of another backup")
+            .arg(twice->number);
     for (qsizetype index = 0; index < volumes.size(); ++index)
-        if (volumes[index].number > qulonglong(index) + 1) return u"volume %1 is missing"_qs.arg(index + 1);
-    if (volumes.size() < 2) return u"all volumes but the first are missing"_qs;
+        if (volumes[index].number > qulonglong(index) + 1)
+            return Words::tr("volume %1 is missing").arg(index + 1);
+    if (volumes.size() < 2) return Words::tr("all volumes but the first are missing");
 
     const qint64 full = volumes.first().bytes;
     for (const Volume &volume : volumes.first(volumes.size() - 1))
         if (volume.bytes < full)
-            return u"volume %1 is shorter than the one before it. Either it was cut short, or it is the last "
-                   "one, and those from volume %2 on are leftovers of a larger backup"_qs.arg(volume.number)
-                       .arg(volume.number + 1);
+            return Words::tr("volume %1 is shorter than the one before it. Either it was cut short, or it is "
+                             "the last one, and those from volume %2 on are leftovers of a larger backup")
+                .arg(volume.number)
+                .arg(volume.number + 1);
     if (volumes.last().bytes >= full)
-        return u"volume %1 is as large as those before it, so it may not be the last"_qs.arg(
-            volumes.last().number);
+        return Words::tr("volume %1 is as large as those before it, so it may not be the last")
+            .arg(volumes.last().number);
     return {};
 }
 

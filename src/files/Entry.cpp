@@ -1,5 +1,6 @@
 #include "files/Entry.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <cerrno>
 #include <fcntl.h>
@@ -7,6 +8,10 @@
 #include <unistd.h>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(files)
+};
 
 FileEntry::Kind kindOf(mode_t mode)
 {
@@ -42,7 +47,7 @@ QString describeKind(FileEntry::Kind kind)
     case FileEntry::Kind::Other:
         break;
     }
-    return u"a pipe, a socket or a device"_qs;
+    return Words::tr("a pipe, a socket or a device");
 }
 
 QString syncToDisk(const QString &path)

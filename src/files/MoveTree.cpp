@@ -15,7 +15,9 @@
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("MoveTree", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(files)
+};
 
 QString shown(const std::string &path) { return QFile::decodeName(QByteArray::fromStdString(path)); }
 
@@ -136,7 +138,7 @@ QString MoveTree::moveBelow(const Pair &parents, const std::string &path, std::s
     const int error = isMade ? 0 : errno;
     const Folder target(parents.to, name);
     if (!target.isOpen() && (error == EEXIST || error == 0))
-        return tr("\"%1\" is a link or a file in the destination, where a folder is needed")
+        return Words::tr("\"%1\" is a link or a file in the destination, where a folder is needed")
             .arg(shown(parents.to.pathOf(name)));
     if (!target.isOpen()) return failure(parents.to.pathOf(name), error);
     QString reason = moveBelow({source, target}, path, end + 1);
@@ -146,7 +148,7 @@ QString MoveTree::moveBelow(const Pair &parents, const std::string &path, std::s
 
 QString MoveTree::place(const Pair &in, const std::string &name)
 {
-    if (!m_events.goesOn()) return tr("cancelled");
+    if (!m_events.goesOn()) return Words::tr("cancelled");
     const auto source = statusOf(in.from.descriptor(), name);
     const auto there = statusOf(in.to.descriptor(), name);
     if (!source) return failure(in.from.pathOf(name), errno);

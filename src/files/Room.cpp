@@ -1,5 +1,6 @@
 #include "files/Room.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QLocale>
 #include <QStorageInfo>
@@ -8,6 +9,14 @@
 #include <cerrno>
 #include <sys/vfs.h>
 #include <unistd.h>
+
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(files)
+};
+
+} // namespace
 
 std::optional<qint64> roomFree(const QString &folder)
 {
@@ -22,14 +31,15 @@ QString whyTooLittleRoom(const QString &folder, qint64 bytesNeeded)
     const auto size = [](qint64 bytes) {
         return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
     };
-    return u"There may not be enough room: about %1 are needed, and %2 are free in \"%3\"."_qs.arg(
-        size(bytesNeeded), size(*free), folder);
+    return Words::tr("There may not be enough room: about %1 are needed, and %2 are free in \"%3\".")
+        .arg(size(bytesNeeded), size(*free), folder);
 }
 
 QString whyNotWritable(const QString &folder)
 {
     if (access(QFile::encodeName(folder).constData(), W_OK | X_OK) == 0) return {};
-    return u"Nothing may be written into \"%1\": %2. Choose another folder, or change its permissions."_qs
+    return Words::tr(
+               "Nothing may be written into \"%1\": %2. Choose another folder, or change its permissions.")
         .arg(folder, qt_error_string(errno));
 }
 

@@ -4,10 +4,20 @@
 #include "headless/Print.h"
 #include "headless/RunCommand.h"
 
+#include <QCoreApplication>
+
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(headless)
+};
+
+} // namespace
+
 ExitStatus runBackup(QuillorentAppDelegate &delegate, const Options &options)
 {
     if (!options.passwordFile.isEmpty() && delegate.passCombo01.selectedIndex() == PasswordTab::Certificate) {
-        printError(u"The profile encrypts for a certificate; a password does not go with it."_qs);
+        printError(Words::tr("The profile encrypts for a certificate; a password does not go with it."));
         return NotStarted;
     }
     if (!supplyPassword(delegate, options.passwordFile, Asking::Twice)) return NotStarted;

@@ -5,12 +5,17 @@
 #include "headless/RunCommand.h"
 #include "tools/Threads.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <cstdio>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(headless)
+};
 
 // An absolute path can't be taken for an option, nor be relative to another folder.
 QString absolute(const QString &path) { return QFileInfo(path).absoluteFilePath(); }
@@ -28,7 +33,7 @@ bool fillIn(QuillorentAppDelegate &delegate, const Options &options)
     QStringList archives;
     for (const QString &archive : options.archives) {
         if (!QFileInfo::exists(archive)) {
-            printError(u"There is no archive \"%1\"."_qs.arg(archive));
+            printError(Words::tr("There is no archive \"%1\".").arg(archive));
             return false;
         }
         archives.append(absolute(archive));
@@ -42,8 +47,9 @@ void answerPanels(QuillorentAppDelegate &delegate, PanelAnswers &answers)
     answers.answerQuestion(
         delegate.warningPanel02,
         [&] {
-            return u"The extraction folder \"%1\" is not empty. Files of the same name would be "
-                   "replaced."_qs.arg(delegate.folderNotEmptyText01.text());
+            return Words::tr(
+                       "The extraction folder \"%1\" is not empty. Files of the same name would be replaced.")
+                .arg(delegate.folderNotEmptyText01.text());
         },
         [&] { delegate.buttonLaunch02b(); }, [&] { delegate.buttonLaunch02Stop(); });
     // Which archive is damaged is said at the end.

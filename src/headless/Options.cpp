@@ -3,8 +3,13 @@
 #include "headless/ExitStatus.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(headless)
+};
 
 using Command = Options::Command;
 
@@ -37,7 +42,7 @@ const QStringList methods{u"aes"_qs, u"bf"_qs, u"3d"_qs, u"smime"_qs, u"auto"_qs
 
 ParsedArguments wrongUsage(const QString &message)
 {
-    return {std::nullopt, message + u"\nTry \"quillorent-run --help\".\n"_qs, WrongUsage};
+    return {std::nullopt, message + u'\n' + Words::tr("Try \"quillorent-run --help\".") + u'\n', WrongUsage};
 }
 
 /// The first option that was given and that the command has no use for; empty where there is none.
@@ -50,8 +55,9 @@ QString firstUseless(const QCommandLineParser &parser, const CommandRow &command
 
 void describe(QCommandLineParser &parser)
 {
-    parser.setApplicationDescription(
-        u"Runs what Quillorent's window runs, without a window.\n\n"
+    parser.setApplicationDescription(Words::tr(
+        "Runs what Quillorent's window runs, without a window.\n"
+        "\n"
         "Commands:\n"
         "  backup [PROFILE]                  back up the folders of a profile\n"
         "  extract [PROFILE] -- ARCHIVE...   turn archives back into folders; of a set the first volume,\n"
@@ -60,30 +66,32 @@ void describe(QCommandLineParser &parser)
         "                                    tabs; needs the password, room and time as extract does\n"
         "  sync [PROFILE]                    synchronise the files and folders of a profile\n"
         "  tools                             list the external tools: name, path, ok or not\n"
-        "  profiles                          list the profiles; * marks the one opened at start-up\n\n"
+        "  profiles                          list the profiles; * marks the one opened at start-up\n"
+        "\n"
         "Exit status: 0 done, 1 failed or cancelled, 2 could not start, or was not to\n"
-        "go on (see --yes), 64 wrong usage."_qs);
+        "go on (see --yes), 64 wrong usage."));
     parser.addOptions(
-        {{{u"h"_qs, u"help"_qs}, u"Show this text."_qs},
-         {{u"v"_qs, u"version"_qs}, u"Show the version."_qs},
-         {u"password-file"_qs, u"Take the password from the first line of FILE; - is standard input."_qs,
-          u"FILE"_qs},
+        {{{u"h"_qs, u"help"_qs}, Words::tr("Show this text.")},
+         {{u"v"_qs, u"version"_qs}, Words::tr("Show the version.")},
+         {u"password-file"_qs,
+          Words::tr("Take the password from the first line of FILE; - is standard input."), u"FILE"_qs},
          {u"only"_qs,
-          u"Bring back PATH alone, a file or folder of the one archive, as list tells it; may be given "
-          u"several "
-          "times. Nothing is replaced: what is there gets a name that begins with \"kept-\"."_qs,
+          Words::tr(
+              "Bring back PATH alone, a file or folder of the one archive, as list tells it; may be given "
+              "several times. Nothing is replaced: what is there gets a name that begins with \"kept-\"."),
           u"PATH"_qs},
-         {u"to"_qs, u"Extract into FOLDER instead of the profile's extraction folder."_qs, u"FOLDER"_qs},
-         {u"method"_qs, u"Decrypt by METHOD: aes, bf, 3d, smime, or auto, by the archive's name."_qs,
+         {u"to"_qs, Words::tr("Extract into FOLDER instead of the profile's extraction folder."),
+          u"FOLDER"_qs},
+         {u"method"_qs, Words::tr("Decrypt by METHOD: aes, bf, 3d, smime, or auto, by the archive's name."),
           u"METHOD"_qs},
-         {u"yes"_qs,
-          u"Go on in spite of what is found before the run: archives that will be replaced, too little room, "
-          "files that will be deleted, and the like. What would lose files is refused all the same."_qs},
-         {u"json"_qs, u"Print the run's record on standard output when it has ended."_qs},
-         {u"progress"_qs, u"Show progress even where no terminal is."_qs}});
-    parser.addPositionalArgument(u"command"_qs, u"backup, extract, list, sync, tools or profiles."_qs);
+         {u"yes"_qs, Words::tr("Go on in spite of what is found before the run: archives that will be "
+                               "replaced, too little room, files that will be deleted, and the like. What "
+                               "would lose files is refused all the same.")},
+         {u"json"_qs, Words::tr("Print the run's record on standard output when it has ended.")},
+         {u"progress"_qs, Words::tr("Show progress even where no terminal is.")}});
+    parser.addPositionalArgument(u"command"_qs, Words::tr("backup, extract, list, sync, tools or profiles."));
     parser.addPositionalArgument(u"PROFILE"_qs,
-                                 u"The profile; without it the one that the window would open."_qs);
+                                 Words::tr("The profile; without it the one that the window would open."));
 }
 
 } // namespace
@@ -103,25 +111,26 @@ ParsedArguments parseArguments(const QStringList &arguments)
 
     const QStringList words = parser.positionalArguments();
     if (words.isEmpty())
-        return wrongUsage(u"A command is missing: backup, extract, list, sync, tools or profiles."_qs);
+        return wrongUsage(Words::tr("A command is missing: backup, extract, list, sync, tools or profiles."));
     const auto command = std::find_if(commands().begin(), commands().end(),
                                       [&](const CommandRow &row) { return row.name == words.first(); });
     if (command == commands().end())
         return wrongUsage(
-            u"\"%1\" is no command; there are backup, extract, list, sync, tools and profiles."_qs.arg(
-                words.first()));
+            Words::tr("\"%1\" is no command; there are backup, extract, list, sync, tools and profiles.")
+                .arg(words.first()));
 
     const bool extracts = command->command == Command::Extract || command->command == Command::List;
     if (extracts && archives.isEmpty())
-        return wrongUsage(u"Archives are missing: name them behind \"--\"."_qs);
+        return wrongUsage(Words::tr("Archives are missing: name them behind \"--\"."));
     const QStringList tooMany = words.mid(command->words) + (extracts ? QStringList() : archives);
-    if (!tooMany.isEmpty()) return wrongUsage(u"\"%1\" is one word too many."_qs.arg(tooMany.first()));
+    if (!tooMany.isEmpty()) return wrongUsage(Words::tr("\"%1\" is one word too many.").arg(tooMany.first()));
     if (const QString useless = firstUseless(parser, *command); !useless.isEmpty())
-        return wrongUsage(u"\"%1\" does not go with \"%2\"."_qs.arg(useless, words.first()));
+        return wrongUsage(Words::tr("\"%1\" does not go with \"%2\".").arg(useless, words.first()));
 
     const QString method = parser.value(u"method"_qs);
     if (parser.isSet(u"method"_qs) && !methods.contains(method))
-        return wrongUsage(u"\"%1\" is no method; there are %2."_qs.arg(method, methods.join(u", "_qs)));
+        return wrongUsage(
+            Words::tr("\"%1\" is no method; there are %2.").arg(method, methods.join(u", "_qs)));
 
     return {Options{.command = command->command,
                     .profile = words.value(1),

@@ -2,6 +2,7 @@
 
 #include "headless/Terminal.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <array>
 #include <cerrno>
@@ -11,13 +12,20 @@
 
 namespace {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(headless)
+};
+
 constexpr qsizetype longestLine = 4096; // in bytes; no password is longer
 constexpr int tries = 3;
-const QString nothingTyped = QStringLiteral("No password was typed. Nothing was done.");
 
 PasswordInput refusal(const QString &reason) { return {std::nullopt, reason}; }
+PasswordInput nothingTyped() { return refusal(Words::tr("No password was typed. Nothing was done.")); }
 
-QString nameOf(const QString &path) { return path == u"-" ? u"standard input"_qs : u"\"%1\""_qs.arg(path); }
+QString nameOf(const QString &path)
+{
+    return path == u"-" ? Words::tr("standard input") : u"\"%1\""_qs.arg(path);
+}
 
 /// Up to the end of the first line, or `longestLine`: what comes behind is nobody's business, and a pipe may
 /// stay open. None, with errno set, where it can't be read.
@@ -49,18 +57,20 @@ PasswordInput toPassword(QByteArray line, const QString &source)
     text.fill('\0');
     line.fill('\0');
     if (isTooLong)
-        return refusal(u"The first line of %1 is longer than any password can be. Give a file whose first "
-                       "line is the password alone."_qs.arg(source));
+        return refusal(Words::tr("The first line of %1 is longer than any password can be. Give a file whose "
+                                 "first line is the password alone.")
+                           .arg(source));
     if (!isUtf8)
-        return refusal(u"The password in %1 is not UTF-8 text. Save the file as UTF-8."_qs.arg(source));
+        return refusal(
+            Words::tr("The password in %1 is not UTF-8 text. Save the file as UTF-8.").arg(source));
     return {password, {}};
 }
 
 PasswordInput askOnce(Terminal &terminal, const QByteArray &question)
 {
     const std::optional<QByteArray> line = terminal.ask(question);
-    if (!line) return refusal(nothingTyped);
-    return toPassword(*line, u"what was typed"_qs);
+    if (!line) return nothingTyped();
+    return toPassword(*line, Words::tr("what was typed"));
 }
 
 } // namespace
@@ -76,10 +86,11 @@ PasswordInput readPassword(const QString &path)
     if (line) {
         PasswordInput input = toPassword(*line, nameOf(path));
         if (!input.password || !input.password->isEmpty()) return input;
-        return refusal(u"The first line of %1 is empty. Write the password there."_qs.arg(nameOf(path)));
+        return refusal(
+            Words::tr("The first line of %1 is empty. Write the password there.").arg(nameOf(path)));
     }
-    return refusal(u"Can't read the password from %1: %2. Give another file."_qs.arg(
-        nameOf(path), QString::fromLocal8Bit(std::strerror(error))));
+    return refusal(Words::tr("Can't read the password from %1: %2. Give another file.")
+                       .arg(nameOf(path), QString::fromLocal8Bit(std::strerror(error))));
 }
 
 PasswordInput askForPassword(Asking asking)
@@ -88,11 +99,11 @@ PasswordInput askForPassword(Asking asking)
     if (!terminal) return {};
     for (int i = 0; i < tries; ++i) {
         PasswordInput first = askOnce(terminal, "Password for the archives: ");
-        if (first.password && first.password->isEmpty()) return refusal(nothingTyped);
+        if (first.password && first.password->isEmpty()) return nothingTyped();
         if (asking == Asking::Once || !first.password) return first;
         PasswordInput second = askOnce(terminal, "The same password again: ");
         if (!second.password || first.password == second.password) return second;
         terminal.print("The two passwords are not the same. Type both again.\n");
     }
-    return refusal(u"The password was not typed the same way twice. Nothing was done."_qs);
+    return refusal(Words::tr("The password was not typed the same way twice. Nothing was done."));
 }

@@ -8,12 +8,17 @@
 #include "headless/ProgressLine.h"
 #include "keys/SecretRules.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QTimer>
 
 using namespace std::chrono_literals;
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(headless)
+};
 
 /// Lets the program work until `isOver` says so.
 template <class IsOver>
@@ -32,7 +37,7 @@ void waitUntil(IsOver isOver)
 void tellOfClearFiles(const QuillorentAppDelegate &delegate)
 {
     if (const QString clear = delegate.clearText01.text(); !clear.isEmpty())
-        printError(clear + u"\nBack up again, or remove them."_qs);
+        printError(clear + u'\n' + Words::tr("Back up again, or remove them."));
 }
 
 /// Prints how the run ended, for people and, where it is wanted, for programs.
@@ -79,7 +84,7 @@ void PanelAnswers::answerQuestion(outlets::Panel &panel, std::function<QString()
             goOn();
             return;
         }
-        refuse(text() + u"\nSay --yes to go on all the same."_qs);
+        refuse(text() + u'\n' + Words::tr("Say --yes to go on all the same."));
         stop();
     });
 }

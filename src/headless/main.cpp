@@ -1,5 +1,6 @@
 #include "app/Process.h"
 #include "app/QuillorentAppDelegate.h"
+#include "app/Translations.h"
 #include "headless/BackupCommand.h"
 #include "headless/ExtractCommand.h"
 #include "headless/Print.h"
@@ -11,6 +12,10 @@
 #include <QLoggingCategory>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(headless)
+};
 
 ExitStatus listTools(const QuillorentAppDelegate &delegate)
 {
@@ -37,12 +42,12 @@ bool openProfile(QuillorentAppDelegate &delegate, const QString &name)
 {
     const QStringList names = delegate.listPlist().keys();
     if (names.isEmpty()) {
-        if (delegate.listPlist()) printError(u"There are no profiles."_qs);
+        if (delegate.listPlist()) printError(Words::tr("There are no profiles."));
         return false;
     }
     if (name.isEmpty()) return true;
     if (!names.contains(name)) {
-        printError(u"There is no profile \"%1\"; there are: %2."_qs.arg(name, names.join(u", "_qs)));
+        printError(Words::tr("There is no profile \"%1\"; there are: %2.").arg(name, names.join(u", "_qs)));
         return false;
     }
     delegate.setterCurrentProfile(name);
@@ -76,6 +81,7 @@ ExitStatus runCommand(QuillorentAppDelegate &delegate, const Options &options)
 int main(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
+    installTranslations();
     const ParsedArguments parsed = parseArguments(QCoreApplication::arguments().mid(1));
     if (!parsed.options) {
         std::fputs(qUtf8Printable(parsed.message), parsed.exitStatus == Done ? stdout : stderr);

@@ -1,8 +1,14 @@
 #include "plist/Markup.h"
 
+#include <QCoreApplication>
+
 namespace plist {
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(plist)
+};
 
 // Far above what any tag of a property list needs: the longest is the document type.
 constexpr qsizetype maximumTagLength = 1024;
@@ -68,7 +74,7 @@ std::optional<Refusal> forbiddenCharacter(QStringView text)
         if (isPair)
             ++index;
         else if (isControl || unit.isSurrogate() || unit >= QChar(0xFFFE))
-            return Refusal{index, u"U+%1, which XML can't carry"_qs.arg(hexadecimal(unit))};
+            return Refusal{index, Words::tr("U+%1, which XML can't carry").arg(hexadecimal(unit))};
     }
     return std::nullopt;
 }
@@ -76,16 +82,17 @@ std::optional<Refusal> forbiddenCharacter(QStringView text)
 std::optional<Refusal> refusedMarkup(QStringView document)
 {
     if (const auto forbidden = forbiddenCharacter(document))
-        return Refusal{forbidden->index, u"it holds "_qs + forbidden->reason};
+        return Refusal{forbidden->index, Words::tr("it holds ") + forbidden->reason};
 
     qsizetype index = document.indexOf(u'<');
     while (index >= 0) {
         const qsizetype end = pastMarkup(document, index);
         const QStringView markup = document.sliced(index, end - index);
         if (isTag(markup) && isDeclaration(markup))
-            return Refusal{index, u"declarations within the document are not supported"_qs};
+            return Refusal{index, Words::tr("declarations within the document are not supported")};
         if (isTag(markup) && markup.size() > maximumTagLength)
-            return Refusal{index, u"it holds a tag of more than %1 characters"_qs.arg(maximumTagLength)};
+            return Refusal{index,
+                           Words::tr("it holds a tag of more than %1 characters").arg(maximumTagLength)};
         index = document.indexOf(u'<', end);
     }
     return std::nullopt;

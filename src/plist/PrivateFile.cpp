@@ -1,5 +1,6 @@
 #include "plist/PrivateFile.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <cerrno>
@@ -9,6 +10,10 @@
 namespace plist {
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(plist)
+};
 
 // As many as the Linux kernel follows before it calls them a loop.
 constexpr int maximumLinks = 40;
@@ -41,14 +46,14 @@ PendingFile &PendingFile::operator=(PendingFile &&) noexcept = default;
 
 void PendingFile::fail(const QString &why)
 {
-    m_reason = u"%1: it can't be written: %2"_qs.arg(m_path, why);
+    m_reason = Words::tr("%1: it can't be written: %2").arg(m_path, why);
     m_file.reset();
 }
 
 void PendingFile::prepare(const QByteArray &content)
 {
     const auto target = targetOf(m_path);
-    if (!target) return fail(u"its links lead in a circle"_qs);
+    if (!target) return fail(Words::tr("its links lead in a circle"));
     m_file = std::make_unique<QSaveFile>(*target);
 
     if (!m_file->open(QIODevice::WriteOnly)) return fail(m_file->errorString());

@@ -2,6 +2,7 @@
 #include "plist/Markup.h"
 #include "plist/Value.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -12,6 +13,10 @@
 namespace plist {
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(plist)
+};
 
 /// One pass over one document. After the first refusal nothing more is read, and all that was read is
 /// dropped.
@@ -55,16 +60,18 @@ Dictionary Reader::readDocument()
 {
     if (!toNextTag()) return {};
     if (m_xml.qualifiedName() != u"plist")
-        return refuse(u"the root element is <%1>, not <plist>"_qs.arg(m_xml.qualifiedName())).dictionary();
+        return refuse(Words::tr("the root element is <%1>, not <plist>").arg(m_xml.qualifiedName()))
+            .dictionary();
     checkAttributes();
 
     if (!toNextTag()) return {};
-    if (m_xml.isEndElement()) return refuse(u"the list is empty"_qs).dictionary();
+    if (m_xml.isEndElement()) return refuse(Words::tr("the list is empty")).dictionary();
     if (m_xml.qualifiedName() != u"dict")
-        return refuse(u"the root is <%1>, not a dictionary"_qs.arg(m_xml.qualifiedName())).dictionary();
+        return refuse(Words::tr("the root is <%1>, not a dictionary").arg(m_xml.qualifiedName()))
+            .dictionary();
     const Dictionary root = readValue(1).dictionary();
 
-    if (toNextTag() && m_xml.isStartElement()) refuse(u"something follows the root dictionary"_qs);
+    if (toNextTag() && m_xml.isStartElement()) refuse(Words::tr("something follows the root dictionary"));
     while (toNextTag())
         ;
     return m_xml.hasError() ? Dictionary{} : root;
@@ -85,10 +92,10 @@ bool Reader::toNextTag()
             checkDocumentType();
             break;
         case QXmlStreamReader::Characters:
-            if (!m_xml.isWhitespace()) refuse(u"there is text between the elements"_qs);
+            if (!m_xml.isWhitespace()) refuse(Words::tr("there is text between the elements"));
             break;
         case QXmlStreamReader::EntityReference:
-            refuse(u"entities are not supported"_qs);
+            refuse(Words::tr("entities are not supported"));
             break;
         default:
             break; // comments and processing instructions say nothing about the values
@@ -102,12 +109,12 @@ void Reader::checkEncoding()
     const QString encoding = m_xml.documentEncoding().toString();
     const QStringList readable{u""_qs, u"UTF-8"_qs, u"US-ASCII"_qs};
     if (!readable.contains(encoding, Qt::CaseInsensitive))
-        refuse(u"its encoding is %1, not UTF-8"_qs.arg(encoding));
+        refuse(Words::tr("its encoding is %1, not UTF-8").arg(encoding));
 }
 
 void Reader::checkDocumentType()
 {
-    if (m_xml.dtdName() != u"plist") refuse(u"the document type is not that of a property list"_qs);
+    if (m_xml.dtdName() != u"plist") refuse(Words::tr("the document type is not that of a property list"));
 }
 
 void Reader::checkAttributes()
@@ -116,9 +123,9 @@ void Reader::checkAttributes()
     const QXmlStreamAttributes attributes = m_xml.attributes();
     for (const QXmlStreamAttribute &attribute : attributes) {
         if (!isRoot || attribute.qualifiedName() != u"version")
-            refuse(u"the attribute %1 is unknown"_qs.arg(attribute.qualifiedName()));
+            refuse(Words::tr("the attribute %1 is unknown").arg(attribute.qualifiedName()));
         else if (attribute.value() != u"1.0")
-            refuse(u"version %1 of the format is unknown"_qs.arg(attribute.value()));
+            refuse(Words::tr("version %1 of the format is unknown").arg(attribute.value()));
     }
 }
 
@@ -127,10 +134,10 @@ Dictionary Reader::readDictionary(int depth)
     const Dictionary dictionary = Dictionary::make();
     while (toNextTag() && m_xml.isStartElement()) {
         const QString key = readKey();
-        if (dictionary.contains(key)) refuse(u"the key %1 is there twice"_qs.arg(key));
+        if (dictionary.contains(key)) refuse(Words::tr("the key %1 is there twice").arg(key));
         if (!toNextTag()) break;
         if (m_xml.isEndElement() || m_xml.qualifiedName() == u"key")
-            refuse(u"the key %1 has no value"_qs.arg(key));
+            refuse(Words::tr("the key %1 has no value").arg(key));
         else
             dictionary.setValue(key, readValue(depth));
     }
@@ -148,7 +155,7 @@ Array Reader::readArray(int depth)
 QString Reader::readKey()
 {
     if (m_xml.qualifiedName() != u"key")
-        refuse(u"<%1> stands where a key is expected"_qs.arg(m_xml.qualifiedName()));
+        refuse(Words::tr("<%1> stands where a key is expected").arg(m_xml.qualifiedName()));
     checkAttributes();
     return m_xml.hasError() ? QString{} : m_xml.readElementText();
 }
@@ -158,7 +165,8 @@ Value Reader::readValue(int depth)
     const bool isDictionary = m_xml.qualifiedName() == u"dict";
     if (!isDictionary && m_xml.qualifiedName() != u"array") return readScalar();
 
-    if (depth > maximumDepth) return refuse(u"it is nested deeper than %1 levels"_qs.arg(maximumDepth));
+    if (depth > maximumDepth)
+        return refuse(Words::tr("it is nested deeper than %1 levels").arg(maximumDepth));
     checkAttributes();
     return isDictionary ? Value(readDictionary(depth + 1)) : Value(readArray(depth + 1));
 }
@@ -168,7 +176,7 @@ Value Reader::readScalar()
     const QString element = m_xml.qualifiedName().toString();
     const QStringList known{u"string"_qs, u"integer"_qs, u"real"_qs, u"true"_qs,
                             u"false"_qs,  u"data"_qs,    u"date"_qs};
-    if (!known.contains(element)) return refuse(u"the element <%1> is unknown"_qs.arg(element));
+    if (!known.contains(element)) return refuse(Words::tr("the element <%1> is unknown").arg(element));
     checkAttributes();
     if (m_xml.hasError()) return {};
 
@@ -184,10 +192,10 @@ Value Reader::readScalar()
 Value Reader::readInteger(const QString &text)
 {
     static const QRegularExpression form(uR"(\A[+-]?[0-9]+\z)"_qs);
-    if (!form.match(text).hasMatch()) return refuse(u"“%1” is not an integer"_qs.arg(text.left(40)));
+    if (!form.match(text).hasMatch()) return refuse(Words::tr("“%1” is not an integer").arg(text.left(40)));
     bool fits = false;
     const qint64 number = text.toLongLong(&fits);
-    if (!fits) return refuse(u"the integer %1 does not fit into 64 bits"_qs.arg(text.left(40)));
+    if (!fits) return refuse(Words::tr("the integer %1 does not fit into 64 bits").arg(text.left(40)));
     return number;
 }
 
@@ -200,7 +208,7 @@ Value Reader::readReal(const QString &text)
     static const QRegularExpression form(uR"(\A[+-]?([0-9]+\.?[0-9]*|\.[0-9]+)([eE][+-]?[0-9]+)?\z)"_qs);
     bool fits = form.match(text).hasMatch();
     const double number = fits ? text.toDouble(&fits) : 0;
-    if (!fits) return refuse(u"“%1” is not a real number"_qs.arg(text.left(40)));
+    if (!fits) return refuse(Words::tr("“%1” is not a real number").arg(text.left(40)));
     return number;
 }
 
@@ -209,7 +217,7 @@ Value Reader::readData(const QString &text)
     static const QRegularExpression space(u"[ \t\r\n]+"_qs);
     const QByteArray encoded = QString(text).remove(space).toUtf8();
     auto decoded = QByteArray::fromBase64Encoding(encoded, QByteArray::AbortOnBase64DecodingErrors);
-    if (!decoded) return refuse(u"the data is not Base64"_qs);
+    if (!decoded) return refuse(Words::tr("the data is not Base64"));
     return std::move(decoded.decoded);
 }
 
@@ -218,13 +226,13 @@ Value Reader::readDate(const QString &text)
     static const QRegularExpression form(uR"(\A[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9]{2}:[0-9]{2}:[0-9]{2}Z\z)"_qs);
     const QDateTime date = QDateTime::fromString(text, Qt::ISODate);
     if (!form.match(text).hasMatch() || !date.isValid())
-        return refuse(u"“%1” is not a date like 2001-12-31T23:59:59Z"_qs.arg(text.left(40)));
+        return refuse(Words::tr("“%1” is not a date like 2001-12-31T23:59:59Z").arg(text.left(40)));
     return date;
 }
 
 Value Reader::readTruth(const QString &text, bool truth)
 {
-    if (!text.isEmpty()) return refuse(u"there is text in <true> or <false>"_qs);
+    if (!text.isEmpty()) return refuse(Words::tr("there is text in <true> or <false>"));
     return truth;
 }
 
@@ -238,18 +246,18 @@ Bytes readBytes(const QString &path)
 {
     // Looked at before it is opened: opening a pipe would wait for its other end.
     const QFileInfo info(path);
-    if (!info.exists()) return {{}, u"there is no such file"_qs};
-    if (!info.isFile()) return {{}, u"it is not a regular file"_qs};
+    if (!info.exists()) return {{}, Words::tr("there is no such file")};
+    if (!info.isFile()) return {{}, Words::tr("it is not a regular file")};
 
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return {{}, file.errorString()};
     QByteArray bytes = file.read(maximumFileSize + 1);
     if (file.error() != QFile::NoError) return {{}, file.errorString()};
     if (bytes.size() > maximumFileSize)
-        return {{}, u"it is larger than %1 MiB"_qs.arg(maximumFileSize >> 20)};
-    if (bytes.isEmpty()) return {{}, u"it is empty"_qs};
+        return {{}, Words::tr("it is larger than %1 MiB").arg(maximumFileSize >> 20)};
+    if (bytes.isEmpty()) return {{}, Words::tr("it is empty")};
     if (bytes.startsWith("bplist"))
-        return {{}, u"it is a binary property list; only XML ones can be read"_qs};
+        return {{}, Words::tr("it is a binary property list; only XML ones can be read")};
     return {std::move(bytes), {}};
 }
 
@@ -263,7 +271,7 @@ FileContent readFile(const QString &path)
     // Decoded here, as the XML reader puts replacement characters for some of the bytes that are not UTF-8.
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString document = decoder(content.bytes);
-    if (decoder.hasError()) return {{}, u"%1: it is not UTF-8"_qs.arg(path)};
+    if (decoder.hasError()) return {{}, Words::tr("%1: it is not UTF-8").arg(path)};
 
     if (const auto refusal = refusedMarkup(document)) {
         const qsizetype line = QStringView(document).first(refusal->index).count(u'\n') + 1;

@@ -3,6 +3,7 @@
 #include "plist/PrivateFile.h"
 #include "plist/Value.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <QXmlStreamWriter>
 #include <cmath>
@@ -10,6 +11,10 @@
 namespace plist {
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(plist)
+};
 
 QString realText(double number)
 {
@@ -48,7 +53,7 @@ private:
 
 void Writer::refuse(const QString &reason)
 {
-    if (m_reason.isEmpty()) m_reason = u"the value under “%1” %2"_qs.arg(m_keys.join(u"/"_qs), reason);
+    if (m_reason.isEmpty()) m_reason = Words::tr("the value under “%1” %2").arg(m_keys.join(u"/"_qs), reason);
 }
 
 void Writer::writeDocument(const Dictionary &root)
@@ -60,9 +65,9 @@ void Writer::writeDocument(const Dictionary &root)
     m_xml.writeAttribute(u"version"_qs, u"1.0"_qs);
     writeDictionary(root, 1);
     m_xml.writeEndDocument();
-    if (m_xml.hasError() && m_reason.isEmpty()) m_reason = u"it can't be put into XML"_qs;
+    if (m_xml.hasError() && m_reason.isEmpty()) m_reason = Words::tr("it can't be put into XML");
     if (m_bytes.size() > maximumFileSize && m_reason.isEmpty())
-        m_reason = u"it would be larger than %1 MiB"_qs.arg(maximumFileSize >> 20);
+        m_reason = Words::tr("it would be larger than %1 MiB").arg(maximumFileSize >> 20);
 }
 
 void Writer::writeValue(const Value &value, int depth)
@@ -84,7 +89,7 @@ void Writer::writeValue(const Value &value, int depth)
 void Writer::writeDictionary(const Dictionary &dictionary, int depth)
 {
     // Also what ends the writing of a container that came to lie in itself.
-    if (depth > maximumDepth) return refuse(u"is nested deeper than %1 levels"_qs.arg(maximumDepth));
+    if (depth > maximumDepth) return refuse(Words::tr("is nested deeper than %1 levels").arg(maximumDepth));
     m_xml.writeStartElement(u"dict"_qs);
     const QList<Dictionary::Entry> entries = dictionary.entries();
     for (const Dictionary::Entry &entry : entries) {
@@ -98,7 +103,7 @@ void Writer::writeDictionary(const Dictionary &dictionary, int depth)
 
 void Writer::writeArray(const Array &array, int depth)
 {
-    if (depth > maximumDepth) return refuse(u"is nested deeper than %1 levels"_qs.arg(maximumDepth));
+    if (depth > maximumDepth) return refuse(Words::tr("is nested deeper than %1 levels").arg(maximumDepth));
     m_xml.writeStartElement(u"array"_qs);
     const QList<Value> values = array.values();
     for (const Value &value : values)
@@ -110,7 +115,7 @@ void Writer::writeDate(const QDateTime &date)
 {
     const QDateTime utc = date.toUTC();
     if (!utc.isValid() || utc.date().year() < 1 || utc.date().year() > 9999)
-        return refuse(u"is a date that a property list can't carry"_qs);
+        return refuse(Words::tr("is a date that a property list can't carry"));
     writeText(u"date"_qs, utc.toString(u"yyyy-MM-ddTHH:mm:ssZ"_qs));
 }
 
@@ -133,7 +138,7 @@ void Writer::writeText(const QString &element, const QString &text)
 
 Document toDocument(const Dictionary &dictionary)
 {
-    if (!dictionary) return {{}, u"there is nothing to write"_qs};
+    if (!dictionary) return {{}, Words::tr("there is nothing to write")};
     Writer writer;
     writer.writeDocument(dictionary);
     return {writer.bytes(), writer.reason()};

@@ -5,11 +5,16 @@
 #include "files/PrivateFolder.h"
 #include "runs/RunJournal.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(runs)
+};
 
 bool isSameFolder(const QString &path, const QString &other)
 {
@@ -104,10 +109,10 @@ void closeKilled(RunRecord &record, const aftermath::IsWhole &isWhole)
         item.left = stillThere(item);
         if (item.outcome != Outcome::Open) continue;
         item.outcome = Outcome::Failed;
-        item.reason = u"the program was ended in the middle of it"_qs;
+        item.reason = Words::tr("the program was ended in the middle of it");
     }
     record.outcome = Outcome::Failed;
-    record.summary = u"The program was ended before the run was."_qs;
+    record.summary = Words::tr("The program was ended before the run was.");
     record.ended = QDateTime::currentDateTimeUtc();
 }
 

@@ -4,10 +4,15 @@
 #include "files/PrivateFolder.h"
 #include "runs/Run.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <algorithm>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(runs)
+};
 
 ToolResult complaint(const QString &sentence) { return {.output = sentence, .wasStarted = false}; }
 
@@ -60,7 +65,7 @@ bool ItemPipeline::isKnown(const QString &path, const FileIdentity &identity) co
 QString ItemPipeline::moveAway(const QString &path)
 {
     const auto plan = planAside({path}, u"kept"_qs);
-    if (!plan) return u"no other name is free for it"_qs;
+    if (!plan) return Words::tr("no other name is free for it");
     const QString to = plan->first().to;
     // A run that was killed may have left it in clear: it is to be named as long as it is there, also where
     // this run is killed in its turn.
@@ -118,16 +123,18 @@ ToolResult ItemPipeline::clear(const QString &path)
     if (!there) return silence();
     if (there->kind == FileEntry::Kind::Folder)
         return complaint(
-            u"\"%1\" is a folder, and a file of that name is needed for a while. Rename it."_qs.arg(path));
+            Words::tr("\"%1\" is a folder, and a file of that name is needed for a while. Rename it.")
+                .arg(path));
     if (isKnown(path, there->identity)) {
         QFile::remove(path);
     } else if (const QString reason = moveAway(path); !reason.isEmpty()) {
-        return complaint(u"\"%1\" is in the way and can't be given another name: %2."_qs.arg(path, reason));
+        return complaint(
+            Words::tr("\"%1\" is in the way and can't be given another name: %2.").arg(path, reason));
     }
     if (const auto again = entryAt(path))
-        return complaint(
-            u"Something puts %1 under the name \"%2\" again and again. Choose a folder that nobody "
-            "else writes to."_qs.arg(describeKind(again->kind), path));
+        return complaint(Words::tr("Something puts %1 under the name \"%2\" again and again. Choose a folder "
+                                   "that nobody else writes to.")
+                             .arg(describeKind(again->kind), path));
     return silence();
 }
 
@@ -137,8 +144,10 @@ ToolResult ItemPipeline::checkInput(const QString &path) const
     if (!there) return silence(); // a tool complains by itself of what is missing
     const bool isOwn = there->isFile() && m_made.value(path).isSameFile(there->identity);
     if (isOwn) return silence();
-    return complaint(u"\"%1\" has been replaced by %2 of somebody else's. Choose a folder that nobody else "
-                     "writes to."_qs.arg(path, describeKind(there->kind)));
+    return complaint(
+        Words::tr(
+            "\"%1\" has been replaced by %2 of somebody else's. Choose a folder that nobody else writes to.")
+            .arg(path, describeKind(there->kind)));
 }
 
 void ItemPipeline::removeOwn(const QString &path)
@@ -155,7 +164,7 @@ ToolResult ItemPipeline::openPrivateFolder(const QString &path)
         item.clear = path;
     });
     if (const int error = makePrivateFolder(path))
-        return complaint(u"\"%1\" can't be made: %2"_qs.arg(path, qt_error_string(error)));
+        return complaint(Words::tr("\"%1\" can't be made: %2").arg(path, qt_error_string(error)));
     m_privateFolder = path;
     if (const auto made = entryAt(path)) m_strays.append({path, true, made->identity});
     noteBetween();
@@ -205,10 +214,11 @@ bool ItemPipeline::judge(const QString &line, const ToolResult &result, bool isM
     const QString stage = line.trimmed();
     QString wrong;
     if (result.exitStatus != 0)
-        wrong =
-            u"%1: the tool ended with status %2 and did not say why."_qs.arg(stage).arg(result.exitStatus);
+        wrong = Words::tr("%1: the tool ended with status %2 and did not say why.")
+                    .arg(stage)
+                    .arg(result.exitStatus);
     else if (!isMade)
-        wrong = u"%1: the tool said nothing, and did not make \"%2\"."_qs.arg(stage, product);
+        wrong = Words::tr("%1: the tool said nothing, and did not make \"%2\".").arg(stage, product);
     if (m_distrust.isEmpty()) m_distrust = wrong;
     return wrong.isEmpty();
 }

@@ -3,26 +3,35 @@
 #include "runs/RunJournal.h"
 #include "tools/ToolRun.h"
 
+#include <QCoreApplication>
+
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(runs)
+};
+
+} // namespace
+
 QString whyBusy(const QString &folder)
 {
-    return u"Another run is writing into \"%1\", or its tools still are. Wait until it has ended."_qs.arg(
-        folder);
+    return Words::tr("Another run is writing into \"%1\", or its tools still are. Wait until it has ended.")
+        .arg(folder);
 }
 
 QString concernAboutRecords()
 {
     const QString reason = whyNoRecords();
     if (reason.isEmpty()) return {};
-    return u"No record of the run can be kept: %1. What it leaves if it is interrupted could not be told "
-           u"from files "
-           "of your own."_qs.arg(reason);
+    return Words::tr("No record of the run can be kept: %1. What it leaves if it is interrupted could not be "
+                     "told from files of your own.")
+        .arg(reason);
 }
 
 QString whyOtherOpenSsl()
 {
-    return u"The OpenSSL that is registered derives keys from passwords in another way than the archives "
-           u"need. "
-           "Choose Quillorent's own on the Tools tab; the password may be right."_qs;
+    return Words::tr("The OpenSSL that is registered derives keys from passwords in another way than the "
+                     "archives need. Choose Quillorent's own on the Tools tab; the password may be right.");
 }
 
 bool isWholeArchive(const QString &archiver, const QString &archive)

@@ -9,24 +9,24 @@ using namespace std::chrono_literals;
 namespace {
 
 struct Words {
-    Q_DECLARE_TR_FUNCTIONS(Progress)
+    Q_DECLARE_TR_FUNCTIONS(runs)
 };
 
 // The names that stages have, and what is said of them.
 const QHash<QString, const char *> &stages()
 {
     static const QHash<QString, const char *> words{
-        {u"storing"_qs, QT_TRANSLATE_NOOP("Progress", "Collecting")},
-        {u"encrypting"_qs, QT_TRANSLATE_NOOP("Progress", "Encrypting")},
-        {u"packing"_qs, QT_TRANSLATE_NOOP("Progress", "Packing")},
-        {u"finishing"_qs, QT_TRANSLATE_NOOP("Progress", "Finishing")},
-        {u"testing"_qs, QT_TRANSLATE_NOOP("Progress", "Testing")},
-        {u"unpacking"_qs, QT_TRANSLATE_NOOP("Progress", "Unpacking")},
-        {u"decrypting"_qs, QT_TRANSLATE_NOOP("Progress", "Decrypting")},
-        {u"extracting"_qs, QT_TRANSLATE_NOOP("Progress", "Restoring")},
-        {u"bringing back what was chosen"_qs, QT_TRANSLATE_NOOP("Progress", "Putting in place")},
-        {u"copying"_qs, QT_TRANSLATE_NOOP("Progress", "Copying")},
-        {u"comparing"_qs, QT_TRANSLATE_NOOP("Progress", "Comparing")},
+        {u"storing"_qs, QT_TRANSLATE_NOOP("runs", "Collecting")},
+        {u"encrypting"_qs, QT_TRANSLATE_NOOP("runs", "Encrypting")},
+        {u"packing"_qs, QT_TRANSLATE_NOOP("runs", "Packing")},
+        {u"finishing"_qs, QT_TRANSLATE_NOOP("runs", "Finishing")},
+        {u"testing"_qs, QT_TRANSLATE_NOOP("runs", "Testing")},
+        {u"unpacking"_qs, QT_TRANSLATE_NOOP("runs", "Unpacking")},
+        {u"decrypting"_qs, QT_TRANSLATE_NOOP("runs", "Decrypting")},
+        {u"extracting"_qs, QT_TRANSLATE_NOOP("runs", "Restoring")},
+        {Words::tr("bringing back what was chosen"), QT_TRANSLATE_NOOP("runs", "Putting in place")},
+        {u"copying"_qs, QT_TRANSLATE_NOOP("runs", "Copying")},
+        {u"comparing"_qs, QT_TRANSLATE_NOOP("runs", "Comparing")},
     };
     return words;
 }

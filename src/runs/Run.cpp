@@ -14,6 +14,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(runs)
+};
+
 void poll() { std::this_thread::sleep_for(pauses().poll); }
 
 QStringList describe(const std::vector<RunState::Item> &items)
@@ -77,15 +81,15 @@ QStringList Run::describeKept() const
         for (const ItemRecord &item : record.items)
             for (const Aside &kept : item.kept)
                 sentences.append(
-                    u"\"%1\" was in the way and is called \"%2\" now."_qs.arg(kept.from, kept.to));
+                    Words::tr("\"%1\" was in the way and is called \"%2\" now.").arg(kept.from, kept.to));
     });
     constexpr qsizetype most = 12; // as many as a person reads; the record has all
     const qsizetype more = sentences.size() - most;
     if (more > 0)
-        sentences = sentences.first(most) +
-                    QStringList{QCoreApplication::translate(
-                        "Run", "%n more were in the way, and their names begin with \"kept-\" now.", nullptr,
-                        int(more))};
+        sentences =
+            sentences.first(most) +
+            QStringList{Words::tr("%n more were in the way, and their names begin with \"kept-\" now.",
+                                  nullptr, int(more))};
     return sentences;
 }
 

@@ -12,6 +12,10 @@
 
 namespace {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(runs)
+};
+
 Q_LOGGING_CATEGORY(logRecords, "quillorent.records")
 
 constexpr qsizetype mostKept = 200;
@@ -60,7 +64,7 @@ QString recordsFolder()
 QString whyNoRecords()
 {
     const QString folder = recordsFolder();
-    if (!QDir().mkpath(folder)) return u"the folder \"%1\" can't be made"_qs.arg(folder);
+    if (!QDir().mkpath(folder)) return Words::tr("the folder \"%1\" can't be made").arg(folder);
     QSaveFile probe(folder + u"/probe"_qs);
     if (probe.open(QIODevice::WriteOnly)) return {};
     return u"\"%1\": %2"_qs.arg(folder, probe.errorString());

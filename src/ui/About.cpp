@@ -10,7 +10,9 @@
 namespace ui {
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("About", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(About)
+};
 
 QString libraries()
 {
@@ -35,16 +37,18 @@ void showAbout(QWidget &window)
 {
     auto *box = new QMessageBox(&window);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setWindowTitle(tr("About Quillorent"));
+    box->setWindowTitle(Words::tr("About Quillorent"));
     box->setIconPixmap(
         themeIcon(applicationId).pixmap(box->style()->pixelMetric(QStyle::PM_LargeIconSize) * 2));
     box->setTextFormat(Qt::RichText);
-    box->setText(u"<h3>%1</h3>"_qs.arg(tr("Quillorent %1").arg(QString::fromLatin1(QUILLORENT_VERSION))));
+    box->setText(
+        u"<h3>%1</h3>"_qs.arg(Words::tr("Quillorent %1").arg(QString::fromLatin1(QUILLORENT_VERSION))));
     box->setInformativeText(u"<p>%1</p><p>%2</p><p>%3</p><ul>%4</ul>"_qs.arg(
-        tr("Makes encrypted archives of your folders, and brings them back."),
-        tr("© 2026 The Quillorent developers. Free software under the MIT licence: you may use, change and "
-           "share it; it comes without any warranty."),
-        tr("It stands on these libraries and their licences:"), libraries()));
+        Words::tr("Makes encrypted archives of your folders, and brings them back."),
+        Words::tr(
+            "© 2026 The Quillorent developers. Free software under the MIT licence: you may use, change and "
+            "share it; it comes without any warranty."),
+        Words::tr("It stands on these libraries and their licences:"), libraries()));
     box->addButton(QMessageBox::Close);
     box->open();
 }

@@ -1,23 +1,32 @@
 #include "ui/CommandLine.h"
 
+#include "app/Translations.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QUrl>
 #include <cstdio>
 
 namespace ui {
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+};
+
+} // namespace
 
 CommandLine::CommandLine(int argc, char **argv)
 {
-    m_parser.setApplicationDescription(
-        QStringLiteral("Backs up folders into encrypted archives, and brings them back. Opens a window;\n"
-                       "quillorent-run does the same without one."));
-    m_parser.addOptions(
-        {{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this text.")},
-         {{QStringLiteral("v"), QStringLiteral("version")}, QStringLiteral("Show the version.")}});
-    m_parser.addPositionalArgument(QStringLiteral("archive"), QStringLiteral("Archives to bring back."),
-                                   QStringLiteral("[archive...]"));
     const QCoreApplication application(argc, argv);
+    installTranslations();
+    m_parser.setApplicationDescription(
+        Words::tr("Backs up folders into encrypted archives, and brings them back. Opens a window;\n"
+                  "quillorent-run does the same without one."));
+    m_parser.addOptions({{{QStringLiteral("h"), QStringLiteral("help")}, Words::tr("Show this text.")},
+                         {{QStringLiteral("v"), QStringLiteral("version")}, Words::tr("Show the version.")}});
+    m_parser.addPositionalArgument(QStringLiteral("archive"), Words::tr("Archives to bring back."),
+                                   Words::tr("[archive...]"));
     m_parser.parse(QCoreApplication::arguments()); // what else there is may be for the toolkit
     m_help = m_parser.helpText();
 }

@@ -20,7 +20,9 @@ namespace {
 
 using Controller = QuillorentAppDelegate;
 
-QString tr(const char *text) { return QCoreApplication::translate("Window", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(Window)
+};
 
 // Says what to do, and never blocks: whose password it is decides.
 QString strengthHint(const QString &password)
@@ -29,12 +31,14 @@ QString strengthHint(const QString &password)
     case Strength::None:
         return {};
     case Strength::Weak:
-        return tr("Easy to guess. Five or six words that have nothing to do with each other are better.");
+        return Words::tr(
+            "Easy to guess. Five or six words that have nothing to do with each other are better.");
     case Strength::Fair:
-        return tr("Hard to guess. One more word makes it strong.");
+        return Words::tr("Hard to guess. One more word makes it strong.");
     case Strength::Strong:
-        return tr("Very hard to guess. Is it written down in a safe place? A mistyped or forgotten password "
-                  "is a lost backup.");
+        return Words::tr(
+            "Very hard to guess. Is it written down in a safe place? A mistyped or forgotten password "
+            "is a lost backup.");
     }
     return {};
 }

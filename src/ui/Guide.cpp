@@ -15,7 +15,9 @@ static void loadTexts() { Q_INIT_RESOURCE(help); }
 namespace ui {
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("Guide", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(Guide)
+};
 
 /// The guide in the first of the user's languages that there is one in, else in English.
 QString guideInOwnLanguage()
@@ -36,13 +38,13 @@ QDialog *makeGuide(QWidget &window)
 {
     auto *dialog = new QDialog(&window);
     dialog->setObjectName(u"guide"_qs);
-    dialog->setWindowTitle(tr("Guide"));
+    dialog->setWindowTitle(Words::tr("Guide"));
     auto *text = new QTextBrowser(dialog);
-    text->setAccessibleName(tr("Guide"));
+    text->setAccessibleName(Words::tr("Guide"));
     text->setOpenExternalLinks(true);
     text->setMinimumWidth(text->fontMetrics().averageCharWidth() * 40);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
-    QPushButton *back = buttons->addButton(tr("&Back"), QDialogButtonBox::ActionRole);
+    QPushButton *back = buttons->addButton(Words::tr("&Back"), QDialogButtonBox::ActionRole);
     back->setEnabled(false);
     QObject::connect(text, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
     QObject::connect(back, &QPushButton::clicked, text, &QTextBrowser::backward);

@@ -9,7 +9,9 @@
 namespace ui {
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("Window", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(Window)
+};
 
 /// Names the profile in use, with the sign that it has changes. The title ends with the program's name, so
 /// that the toolkit does not append it once more.
@@ -36,8 +38,8 @@ void showWhetherLoaded(const QuillorentAppDelegate &all, QPushButton &load)
     const QString chosen = all.profileCombo01.selectedTitle();
     const bool isOther = !chosen.isEmpty() && chosen != all.currentProfileTextView.text();
     accent(load, isOther);
-    load.setToolTip(isOther ? tr("Use “%1”, which is chosen but not in use yet").arg(chosen)
-                            : tr("Use the chosen profile; it is in use already"));
+    load.setToolTip(isOther ? Words::tr("Use “%1”, which is chosen but not in use yet").arg(chosen)
+                            : Words::tr("Use the chosen profile; it is in use already"));
 }
 
 } // namespace

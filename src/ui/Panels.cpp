@@ -28,7 +28,9 @@
 namespace ui {
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("Panels", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(Panels)
+};
 
 template <class Form>
 PanelDialog *makePanel(Form &form, QWidget &window)
@@ -67,7 +69,8 @@ PanelDialog *makePreferences(const QuillorentAppDelegate &controller, QWidget &w
     PanelDialog *panel = makePanel(form, window);
     const auto showStartUp = [&controller, label = form.startUpProfile] {
         const QString name = controller.setting(u"resources"_qs, u"selectedprofile"_qs).value_or(QString());
-        label->setText(name.isEmpty() ? tr("now: the last one of the list") : tr("now: %1").arg(name));
+        label->setText(name.isEmpty() ? Words::tr("now: the last one of the list")
+                                      : Words::tr("now: %1").arg(name));
     };
     QObject::connect(panel, &PanelDialog::visibilityChanged, panel, showStartUp);
     // Its action comes first, whichever is connected first.
@@ -164,13 +167,14 @@ PanelDialog *makeNameSheet(QWidget &window, const NameSheet &sheet)
 
 QList<QWidget *> makeMessages(QWidget &window)
 {
-    return {makeMessage(window, u"warningPanel01"_qs, u"warningText01"_qs, tr("Can't start")),
-            makeMessage(window, u"warningPanel04"_qs, u"warningText04"_qs, tr("No such name")),
-            makeMessage(window, u"certPanel01"_qs, u"certPanelText01"_qs, tr("Certificate not accepted")),
-            makeMessage(window, u"pkPanel01"_qs, u"pkPanelText01"_qs, tr("Private key not accepted")),
-            makeMessage(window, u"savePanel01"_qs, u"saveText01"_qs, tr("Can't save")),
-            makeMessage(window, u"settingsPanel01"_qs, u"settingsText01"_qs, tr("Settings and profiles")),
-            makeMessage(window, u"noPathPanel01"_qs, u"noPathText01"_qs, tr("Programs are missing"))};
+    return {
+        makeMessage(window, u"warningPanel01"_qs, u"warningText01"_qs, Words::tr("Can't start")),
+        makeMessage(window, u"warningPanel04"_qs, u"warningText04"_qs, Words::tr("No such name")),
+        makeMessage(window, u"certPanel01"_qs, u"certPanelText01"_qs, Words::tr("Certificate not accepted")),
+        makeMessage(window, u"pkPanel01"_qs, u"pkPanelText01"_qs, Words::tr("Private key not accepted")),
+        makeMessage(window, u"savePanel01"_qs, u"saveText01"_qs, Words::tr("Can't save")),
+        makeMessage(window, u"settingsPanel01"_qs, u"settingsText01"_qs, Words::tr("Settings and profiles")),
+        makeMessage(window, u"noPathPanel01"_qs, u"noPathText01"_qs, Words::tr("Programs are missing"))};
 }
 
 QList<QWidget *> makeQuestions(QWidget &window)
@@ -183,17 +187,17 @@ QList<QWidget *> makeQuestions(QWidget &window)
         makeWithIcon<ExtractPanel01, &ExtractPanel01::damageIcon>(window, u"dialog-warning"_qs),
         makeChoice(window, {u"conflictPanel01"_qs,
                             u"conflictText01"_qs,
-                            tr("Changed by others, too"),
-                            {{u"Mine"_qs, tr("&Save what I changed")},
-                             {u"Theirs"_qs, tr("&Take what is in the file")},
-                             {u"Stop"_qs, tr("&Cancel")}}}),
+                            Words::tr("Changed by others, too"),
+                            {{u"Mine"_qs, Words::tr("&Save what I changed")},
+                             {u"Theirs"_qs, Words::tr("&Take what is in the file")},
+                             {u"Stop"_qs, Words::tr("&Cancel")}}}),
         makeChoice(window, {u"quitPanel01"_qs,
                             u"quitText01"_qs,
-                            tr("Can't save"),
-                            {{u"Again"_qs, tr("&Try again")},
-                             {u"Copy"_qs, tr("&Save a copy...")},
-                             {u"Leave"_qs, tr("&Quit without saving")},
-                             {u"Stay"_qs, tr("&Cancel")}}}),
+                            Words::tr("Can't save"),
+                            {{u"Again"_qs, Words::tr("&Try again")},
+                             {u"Copy"_qs, Words::tr("&Save a copy...")},
+                             {u"Leave"_qs, Words::tr("&Quit without saving")},
+                             {u"Stay"_qs, Words::tr("&Cancel")}}}),
     };
 }
 
@@ -202,21 +206,21 @@ QList<QWidget *> makeProfileSheets(QWidget &window)
     return {makeNameSheet(window, {.panel = u"profilePanel01"_qs,
                                    .profileText = u"panel01text01"_qs,
                                    .nameEdit = u"panel01text02"_qs,
-                                   .title = tr("Rename a profile"),
-                                   .okTitle = tr("&Rename")}),
+                                   .title = Words::tr("Rename a profile"),
+                                   .okTitle = Words::tr("&Rename")}),
             makeNameSheet(window, {.panel = u"profilePanel02"_qs,
                                    .profileText = {},
                                    .nameEdit = u"panel02text01"_qs,
-                                   .title = tr("New profile"),
-                                   .okTitle = tr("C&reate")}),
+                                   .title = Words::tr("New profile"),
+                                   .okTitle = Words::tr("C&reate")}),
             makeNameSheet(
                 window,
                 {.panel = u"profilePanel03"_qs,
                  .profileText = u"panel03text01"_qs,
                  .nameEdit = u"panel03text02"_qs,
-                 .title = tr("Duplicate a profile"),
-                 .okTitle = tr("D&uplicate"),
-                 .advice = tr(
+                 .title = Words::tr("Duplicate a profile"),
+                 .okTitle = Words::tr("D&uplicate"),
+                 .advice = Words::tr(
                      "The two are independent of each other once the profiles are saved and the program is "
                      "started again. Until then a change in one is a change in both.")}),
             makePlain<Ui::ProfilePanel04>(window)};

@@ -8,12 +8,14 @@
 namespace ui {
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("Protection", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(Protection)
+};
 
 QString ofTypedPassword(const PasswordTab &tab)
 {
     const outlets::SecretField &field = tab.checkBox01.isOn() ? tab.secureText01a : tab.secureText01b;
-    return field.isEmpty() ? tr("Typed password – not entered yet") : tr("Typed password");
+    return field.isEmpty() ? Words::tr("Typed password – not entered yet") : Words::tr("Typed password");
 }
 
 QString ofKeychain(const PasswordTab &tab)
@@ -22,19 +24,19 @@ QString ofKeychain(const PasswordTab &tab)
     const QString origin = tab.keychainOrigin.text();
     const outlets::SecretField &counting = tab.checkBox01.isOn() ? tab.keychainPass : tab.keychainClear;
     if (isKeychainFieldAmbiguous(tab))
-        return tr("Password from the keychain – please look at the Password tab");
+        return Words::tr("Password from the keychain – please look at the Password tab");
     if (counting.isEmpty() && account.isEmpty())
-        return tr("Password from the keychain – no account chosen yet");
-    if (counting.isEmpty()) return tr("Password from the keychain – not fetched yet");
-    return origin.isEmpty() ? tr("Password typed for the keychain – not stored in it")
-                            : tr("Password from the keychain, account %1").arg(origin);
+        return Words::tr("Password from the keychain – no account chosen yet");
+    if (counting.isEmpty()) return Words::tr("Password from the keychain – not fetched yet");
+    return origin.isEmpty() ? Words::tr("Password typed for the keychain – not stored in it")
+                            : Words::tr("Password from the keychain, account %1").arg(origin);
 }
 
 QString ofCertificate(const PasswordTab &tab)
 {
     const QString path = tab.certFile01.text();
-    return path.isEmpty() ? tr("Certificate – none chosen yet")
-                          : tr("Certificate: %1").arg(QFileInfo(path).fileName());
+    return path.isEmpty() ? Words::tr("Certificate – none chosen yet")
+                          : Words::tr("Certificate: %1").arg(QFileInfo(path).fileName());
 }
 
 } // namespace

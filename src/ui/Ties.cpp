@@ -19,6 +19,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -33,6 +34,12 @@
 
 namespace ui {
 namespace {
+
+/// Of a fixed text; others stay as they are.
+QString inUsersLanguage(const QString &text)
+{
+    return QCoreApplication::translate("outlets", text.toUtf8().constData());
+}
 
 void connectWidget(RefreshQueue &queue, outlets::TextField &field, QLineEdit &edit)
 {
@@ -71,7 +78,7 @@ void connectWidget(RefreshQueue &queue, outlets::TextField &field, QLabel &label
     label.setTextFormat(Qt::PlainText);
     // A label whose text stands in the form keeps it until the program has another.
     if (field.text().isEmpty()) field.setText(label.text());
-    queue.watch(field, [&field, &label] { label.setText(field.text()); });
+    queue.watch(field, [&field, &label] { label.setText(inUsersLanguage(field.text())); });
 }
 
 void connectWidget(RefreshQueue &queue, outlets::TextField &field, TextArea &area)
@@ -91,7 +98,7 @@ void connectWidget(RefreshQueue &queue, outlets::CheckBox &outlet, QCheckBox &bo
 void connectWidget(RefreshQueue &queue, outlets::Button &outlet, QPushButton &button)
 {
     queue.watch(outlet, [&outlet, &button] {
-        if (!outlet.title().isEmpty()) button.setText(outlet.title());
+        if (!outlet.title().isEmpty()) button.setText(inUsersLanguage(outlet.title()));
     });
 }
 

@@ -1,6 +1,7 @@
 #include "app/Process.h"
 #include "app/QuillorentAppDelegate.h"
 #include "app/TerminationSignals.h"
+#include "app/Translations.h"
 #include "settings/Paths.h"
 #include "ui/Appearance.h"
 #include "ui/CommandLine.h"
@@ -19,6 +20,7 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     // Closing the window ends the program, and only that: a panel may close while the window is hidden.
     QApplication::setQuitOnLastWindowClosed(false);
+    installTranslations();
     ui::setUpAppearance();
 
     static_cast<void>(quillorentLibrary::makePrivateFolder(quillorentLibrary::preferencesFolder()));

@@ -11,20 +11,24 @@
 
 namespace {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(extraction)
+};
+
 QString noArchives(const QuillorentAppDelegate &delegate)
 {
     const QStringList shown = delegate.extractFullList.strings();
     const QString leftOut = describeLeftOut(shown, shown, {});
-    return leftOut.isEmpty() ? u"No archives are chosen. Add those that are to be extracted."_qs : leftOut;
+    return leftOut.isEmpty() ? Words::tr("No archives are chosen. Add those that are to be extracted.")
+                             : leftOut;
 }
 
 QString whyNoPassword(const QuillorentAppDelegate &delegate)
 {
     QString password = delegate.passwordSelector();
-    QString refusal = password.isEmpty()
-                          ? u"No password is given. Type one on the Password tab; without a password nothing "
-                            "is extracted."_qs
-                          : whyBadPassword(password);
+    QString refusal = password.isEmpty() ? Words::tr("No password is given. Type one on the Password tab; "
+                                                     "without a password nothing is extracted.")
+                                         : whyBadPassword(password);
     wipe(password);
     return refusal;
 }
@@ -34,13 +38,13 @@ QString whatIsMissing(const QuillorentAppDelegate &delegate, const QString &miss
 {
     const QString folder = delegate.extractPath.text();
     if (folder.isEmpty())
-        return u"No extraction folder is chosen. Choose the folder that the contents go to."_qs;
+        return Words::tr("No extraction folder is chosen. Choose the folder that the contents go to.");
     // A record without a folder leaves the one of the profile before it on screen.
     if (delegate.currentRecord().string(u"extractpath"_qs) != folder)
-        return u"The extraction folder that is shown is not this profile's own. Choose it again."_qs;
+        return Words::tr("The extraction folder that is shown is not this profile's own. Choose it again.");
     if (!missingArchives.isEmpty()) return missingArchives;
     if (delegate.passCombo01.selectedIndex() == PasswordTab::Certificate && !delegate.pkeySelector())
-        return u"No certificate is chosen. Choose one on the Password tab."_qs;
+        return Words::tr("No certificate is chosen. Choose one on the Password tab.");
     return delegate.passCombo01.selectedIndex() == PasswordTab::Certificate ? QString()
                                                                             : whyNoPassword(delegate);
 }
@@ -58,10 +62,7 @@ void carryOut(QuillorentAppDelegate &delegate, Extraction &extraction, RunMonito
         [&](const QString &archive, const QString &reason) { showDamage(delegate, archive, reason); });
 }
 
-QString noArchiveToLookInto()
-{
-    return QCoreApplication::translate("PartActions", "No archive is chosen. Add the one that has the file.");
-}
+QString noArchiveToLookInto() { return Words::tr("No archive is chosen. Add the one that has the file."); }
 
 RunStart prepare(QuillorentAppDelegate &delegate, bool mayOverwrite)
 {

@@ -1,7 +1,13 @@
 #include "app/QuillorentAppDelegate.h"
 #include "extract/Candidates.h"
 
+#include <QCoreApplication>
+
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(extraction)
+};
 
 void removeFrom(const plist::Array &list, const QString &path)
 {
@@ -16,8 +22,9 @@ void removeFrom(const plist::Array &list, const QString &path)
 
 void QuillorentAppDelegate::extractButton01Action()
 {
-    const auto chosen = openPanel(
-        {.title = u"Add archives"_qs, .allowsMultipleSelection = true, .allowedFileTypes = {u"rar"_qs}});
+    const auto chosen = openPanel({.title = Words::tr("Add archives"),
+                                   .allowsMultipleSelection = true,
+                                   .allowedFileTypes = {u"rar"_qs}});
     addArchives(chosen.value_or(QStringList()));
 }
 
@@ -30,7 +37,7 @@ void QuillorentAppDelegate::addArchives(const QStringList &paths)
 
     if (paths.isEmpty()) return;
     outputText02.setText(archives.isEmpty()
-                             ? u"There is no archive among them: archives end in \".rar\"."_qs
+                             ? Words::tr("There is no archive among them: archives end in \".rar\".")
                              : describeLeftOut(archives, extractFullList.strings(), extractList.strings()));
 }
 
@@ -61,5 +68,5 @@ void QuillorentAppDelegate::extractButton03Action()
 
 void QuillorentAppDelegate::extractPathButtonAction()
 {
-    chooseFolder(u"Choose where the archives are extracted to"_qs, extractPath, u"extractpath"_qs);
+    chooseFolder(Words::tr("Choose where the archives are extracted to"), extractPath, u"extractpath"_qs);
 }

@@ -8,7 +8,9 @@
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("PartActions", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(extraction)
+};
 
 /// The one of the list that is selected, or the only one that there is.
 QStringList archiveToLookInto(const QuillorentAppDelegate &delegate)
@@ -34,7 +36,7 @@ void QuillorentAppDelegate::takeRestoredFolder()
 {
     const QString folder = QDir::home().filePath(u"Restored"_qs);
     if (!QDir().mkpath(folder)) {
-        warn(tr("The folder \"%1\" can't be made. Choose another one.").arg(folder));
+        warn(Words::tr("The folder \"%1\" can't be made. Choose another one.").arg(folder));
         return;
     }
     extractPath.setText(folder);

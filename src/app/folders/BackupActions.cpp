@@ -6,7 +6,13 @@
 #include "backup/BackupRun.h"
 #include "tools/ToolRun.h"
 
+#include <QCoreApplication>
+
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(folders)
+};
 
 /// The keychain's field keeps what it holds when a fetch fails, and then it is of another account.
 QString whatIsOdd(const QuillorentAppDelegate &delegate)
@@ -15,8 +21,9 @@ QString whatIsOdd(const QuillorentAppDelegate &delegate)
     const QString account = delegate.keychainUser.text();
     if (delegate.passCombo01.selectedIndex() != PasswordTab::KeychainPassword) return {};
     if (origin.isEmpty() || origin == account) return {};
-    return u"The password is that of the account \"%1\", and the account that is chosen is \"%2\". Fetch its "
-           "password on the Password tab, or choose the other account again."_qs.arg(origin, account);
+    return Words::tr("The password is that of the account \"%1\", and the account that is chosen is \"%2\". "
+                     "Fetch its password on the Password tab, or choose the other account again.")
+        .arg(origin, account);
 }
 
 /// What the look, the question and the work have in common.
@@ -69,7 +76,7 @@ void QuillorentAppDelegate::buttonLaunch01Stop() { answer(warningPanel03, false)
 void QuillorentAppDelegate::buttonKill01(outlets::Button &sender)
 {
     cancelByUser();
-    sender.setTitle(u"Wait..."_qs);
+    sender.setTitle(QString::fromUtf8(QT_TRANSLATE_NOOP("outlets", "Wait...")));
 }
 
 void QuillorentAppDelegate::killer()

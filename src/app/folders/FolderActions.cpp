@@ -1,8 +1,18 @@
 #include "app/QuillorentAppDelegate.h"
 
+#include <QCoreApplication>
+
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(folders)
+};
+
+} // namespace
+
 void QuillorentAppDelegate::folderButton01Action()
 {
-    const auto chosen = openPanel({.title = u"Add folders and files"_qs,
+    const auto chosen = openPanel({.title = Words::tr("Add folders and files"),
                                    .canChooseDirectories = true,
                                    .allowsMultipleSelection = true});
     addFolders(chosen.value_or(QStringList()));
@@ -14,5 +24,5 @@ void QuillorentAppDelegate::folderButton02Action() { m_listTable.removeSelected(
 
 void QuillorentAppDelegate::fileButton01Action()
 {
-    chooseFolder(u"Choose the destination of the archives"_qs, fileText01, u"path"_qs);
+    chooseFolder(Words::tr("Choose the destination of the archives"), fileText01, u"path"_qs);
 }

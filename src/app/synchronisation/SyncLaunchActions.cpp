@@ -33,7 +33,7 @@ void transfer(QuillorentAppDelegate &delegate, const SyncOrder &order, RunMonito
         return;
     }
     SyncDisplay display(delegate);
-    display.begin(u"Synchronising…"_qs);
+    display.begin(Words::tr("Synchronising…"));
     runSync(order, delegate, monitor, display);
 }
 

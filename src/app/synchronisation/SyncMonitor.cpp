@@ -3,6 +3,16 @@
 #include "app/QuillorentAppDelegate.h"
 #include "runs/Clock.h"
 
+#include <QCoreApplication>
+
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(synchronisation)
+};
+
+} // namespace
+
 RunSheet syncSheet(QuillorentAppDelegate &delegate)
 {
     return {delegate.progressPanel03, delegate.progress03progressIndicator01, delegate.buttonCancel03,
@@ -12,7 +22,7 @@ RunSheet syncSheet(QuillorentAppDelegate &delegate)
 void SyncDisplay::begin(const QString &what)
 {
     m_delegate.progress03progressLabel01.setText(what);
-    m_delegate.progress03progressLabel02.setText(u"Time: "_qs + clockText({}));
+    m_delegate.progress03progressLabel02.setText(Words::tr("Time: %1").arg(clockText({})));
 }
 
 void SyncDisplay::listed(const QString &listFile) { m_delegate.tempFile.set(listFile); }

@@ -4,6 +4,16 @@
 #include "app/synchronisation/SyncMonitor.h"
 #include "tools/RegisteredTool.h"
 
+#include <QCoreApplication>
+
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(synchronisation)
+};
+
+} // namespace
+
 SyncOrder readSyncOrder()
 {
     const QuillorentAppDelegate &delegate = theDelegate();
@@ -30,7 +40,7 @@ void quillorentLibrary::launchSync(const QString &)
     SheetMonitor monitor(delegate, syncSheet(delegate));
     SyncDisplay display(delegate);
     if (!delegate.tryBeginRun()) return;
-    display.begin(u"Synchronising…"_qs);
+    display.begin(Words::tr("Synchronising…"));
     runSync(order, delegate, monitor, display);
 }
 
