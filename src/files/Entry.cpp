@@ -39,15 +39,20 @@ QString describeKind(FileEntry::Kind kind)
 {
     switch (kind) {
     case FileEntry::Kind::File:
-        return u"a file"_qs;
+        return Words::tr("a file");
     case FileEntry::Kind::Folder:
-        return u"a folder"_qs;
+        return Words::tr("a folder");
     case FileEntry::Kind::Link:
-        return u"a link"_qs;
+        return Words::tr("a link");
     case FileEntry::Kind::Other:
         break;
     }
     return Words::tr("a pipe, a socket or a device");
+}
+
+void tryToSetRights(int folder, const std::string &name, mode_t rights)
+{
+    [[maybe_unused]] const int result = fchmodat(folder, name.c_str(), rights, 0);
 }
 
 QString syncToDisk(const QString &path)

@@ -2,6 +2,8 @@
 
 #include <QString>
 #include <optional>
+#include <string>
+#include <sys/types.h>
 
 /// What tells a file from another one that has come to bear its name.
 struct FileIdentity {
@@ -34,6 +36,10 @@ struct FileEntry {
 
 /// "a folder", "a link" and the like, for a sentence.
 [[nodiscard]] QString describeKind(FileEntry::Kind kind);
+
+/// Gives an entry of an open folder other rights, where that can be done: what needs them fails otherwise,
+/// and tells it.
+void tryToSetRights(int folder, const std::string &name, mode_t rights);
 
 /// Waits until a file's content, or a folder's names, are on the disk; the reason where that failed, else
 /// empty. What is no file or folder is not opened.

@@ -1,5 +1,6 @@
 #include "files/MoveTree.h"
 
+#include "files/Entry.h"
 #include "files/FileCopy.h"
 
 #include <QCoreApplication>
@@ -162,7 +163,7 @@ QString MoveTree::place(const Pair &in, const std::string &name)
 QString MoveTree::merge(const Pair &in, const std::string &name)
 {
     // What comes out of it is renamed: for the owner, whatever the archive says.
-    fchmodat(in.from.descriptor(), name.c_str(), 0700, 0);
+    tryToSetRights(in.from.descriptor(), name, 0700);
     const Folder source(in.from, name);
     const Folder target(in.to, name);
     if (!source.isOpen()) return failure(in.from.pathOf(name), errno);
@@ -177,10 +178,10 @@ QString MoveTree::rename(const Pair &in, const std::string &name)
     const auto source = statusOf(in.from.descriptor(), name);
     const bool needsRight = isFolder(source) && (source->st_mode & S_IWUSR) == 0;
     // A folder that changes its place is written to: the way up from it is another one.
-    if (needsRight) fchmodat(in.from.descriptor(), name.c_str(), source->st_mode | S_IWUSR, 0);
+    if (needsRight) tryToSetRights(in.from.descriptor(), name, source->st_mode | S_IWUSR);
     const int error = renameToFreeIn(in.from.descriptor(), name, in.to.descriptor(), name);
     const Folder &where = error == 0 ? in.to : in.from;
-    if (needsRight) fchmodat(where.descriptor(), name.c_str(), source->st_mode & 0777, 0);
+    if (needsRight) tryToSetRights(where.descriptor(), name, source->st_mode & 0777);
     if (error == EXDEV) return copy(in, name);
     return error == 0 ? QString() : failure(in.to.pathOf(name), error);
 }

@@ -1,5 +1,6 @@
 #include "files/PrivateFolder.h"
 
+#include "files/Entry.h"
 #include "files/Names.h"
 
 #include <QFile>
@@ -53,9 +54,9 @@ std::vector<std::string> removeFiles(DIR *folder)
 /// Gives it a name in the folder above that nothing there has.
 bool bringUp(int folder, const std::string &name, int top, unsigned &number)
 {
-    fchmodat(folder, name.c_str(), 0700, 0); // its own "..", too, is written to
+    tryToSetRights(folder, name, 0700); // its own "..", too, is written to
     for (;;) {
-        const std::string to = "~" + std::to_string(++number);
+        const std::string to = std::string("~").append(std::to_string(++number));
         if (faccessat(top, to.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0) continue;
         return renameat(folder, name.c_str(), top, to.c_str()) == 0;
     }
@@ -72,7 +73,7 @@ bool emptyFolder(DIR *top)
         if (folders.empty()) return true;
         bool isAnyGone = false;
         for (const std::string &name : folders) {
-            fchmodat(dirfd(top), name.c_str(), 0700, 0);
+            tryToSetRights(dirfd(top), name, 0700);
             if (const OpenFolder folder = openFolderIn(dirfd(top), name.c_str()))
                 for (const std::string &below : removeFiles(folder.get()))
                     isAnyGone = bringUp(dirfd(folder.get()), below, dirfd(top), number) || isAnyGone;
