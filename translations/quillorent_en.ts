@@ -39,6 +39,23 @@
     </message>
 </context>
 <context>
+    <name>sync</name>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n file</numerusform>
+            <numerusform>%n files</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries</source>
+        <translation>
+            <numerusform>%n entry</numerusform>
+            <numerusform>%n entries</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ui::BackupResult</name>
     <message numerus="yes">
         <source>%n folders</source>

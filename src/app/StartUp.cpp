@@ -71,9 +71,9 @@ void QuillorentAppDelegate::applicationDidFinishLaunching()
 
     QStringList notices = quillorentLibrary::takeNotices();
     if (!configPlist())
-        notices.append(describeUnreadable(u"settings"_qs, quillorentLibrary::whySettingsAreUnread()));
+        notices.append(describeUnreadable(Words::tr("settings"), quillorentLibrary::whySettingsAreUnread()));
     if (!listPlist())
-        notices.append(describeUnreadable(u"profiles"_qs, quillorentLibrary::whyProfilesAreUnread()));
+        notices.append(describeUnreadable(Words::tr("profiles"), quillorentLibrary::whyProfilesAreUnread()));
     tellOfFiles(notices);
 }
 

@@ -1,5 +1,7 @@
 #include "backup/Advice.h"
 
+#include "tools/ToolRun.h"
+
 #include <QCoreApplication>
 #include <QStringList>
 #include <algorithm>
@@ -45,10 +47,10 @@ QString adviceOnFailure(const QString &reason)
         return Words::tr(
             "Something may not be read or written by you. Change its permissions, or take it off the "
             "list, and back up again.");
-    if (namesAny(reason, {u"Can't start \""_qs}))
+    if (tellsThatNotStarted(reason))
         return Words::tr(
-            "A program that the backup needs can't be started. The tools' page shows which one and "
+            "A program that the backup needs can't be started. The Tools tab shows which one and "
             "lets you choose it.");
-    return Words::tr(
-        "Back up again. If it fails again, the tools' own words below the log button tell more.");
+    return Words::tr("Back up again. If it fails again, the messages of the tools tell more (Show messages, "
+                     "on the Tools tab).");
 }

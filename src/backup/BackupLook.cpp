@@ -55,7 +55,8 @@ void lookForFormerArchives(const BackupOrder &order, Findings &findings)
     for (const BackupItem &item : order.items)
         if (const QStringList files = filesOfArchive(item.final); !files.isEmpty()) {
             const QString name = lastPathComponent(files.first());
-            const QString more = files.size() > 1 ? u" and %1 more"_qs.arg(files.size() - 1) : QString();
+            const QString more =
+                files.size() > 1 ? u' ' + Words::tr("and %1 more").arg(files.size() - 1) : QString();
             if (!names.contains(name + more)) names.append(name + more);
         }
     if (!names.isEmpty())

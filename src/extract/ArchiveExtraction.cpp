@@ -375,7 +375,7 @@ QString ArchiveExtraction::whatIsNotThere(const MoveTree &tree) const
 void ArchiveExtraction::bringChosen()
 {
     if (!goesOn() || !m_isExtracted || m_order.chosen.empty()) return;
-    setStage(Words::tr("bringing back what was chosen"), {}); // by renaming: it takes no time
+    setStage(u"placing"_qs, {}); // by renaming: it takes no time
     MoveTree tree(QFile::encodeName(contentsFolder(m_folder)).toStdString(),
                   QFile::encodeName(m_order.folder).toStdString(),
                   {.keep = [this](const Aside &kept) { noteKept(kept); },

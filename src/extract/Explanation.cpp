@@ -30,7 +30,7 @@ bool says(const FailedStage &stage, std::initializer_list<QStringView> words)
 QString explainByTool(const FailedStage &stage)
 {
     if (!stage.tool.wasStarted) return stage.tool.firstLine();
-    if (says(stage, {u"was ended by signal"}))
+    if (stage.tool.wasKilled)
         return Words::tr("%1 Extract again; if it happens again, the machine may be short of memory.")
             .arg(stage.tool.text().trimmed().section(u'\n', -1));
     return {};

@@ -3,6 +3,7 @@
 #include "files/Entry.h"
 #include "files/Names.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
@@ -13,6 +14,10 @@
 #include <unistd.h>
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(files)
+};
 
 QByteArray encoded(const QString &path) { return QFile::encodeName(path); }
 
@@ -108,7 +113,7 @@ QString putBack(const QList<Aside> &files)
     // All or none: half a set opens as little as none does, and has two names to look for.
     for (const Aside &aside : files)
         if (const auto there = entryAt(aside.from); there && there->kind == FileEntry::Kind::Folder)
-            return u"\"%1\" is a folder"_qs.arg(aside.from);
+            return Words::tr("\"%1\" is a folder").arg(aside.from);
     QList<Aside> back;
     for (const Aside &aside : files) {
         if (!isTaken(aside.to)) continue;

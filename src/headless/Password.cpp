@@ -98,12 +98,13 @@ PasswordInput askForPassword(Asking asking)
     Terminal terminal;
     if (!terminal) return {};
     for (int i = 0; i < tries; ++i) {
-        PasswordInput first = askOnce(terminal, "Password for the archives: ");
+        PasswordInput first = askOnce(terminal, Words::tr("Password for the archives: ").toLocal8Bit());
         if (first.password && first.password->isEmpty()) return nothingTyped();
         if (asking == Asking::Once || !first.password) return first;
-        PasswordInput second = askOnce(terminal, "The same password again: ");
+        PasswordInput second = askOnce(terminal, Words::tr("The same password again: ").toLocal8Bit());
         if (!second.password || first.password == second.password) return second;
-        terminal.print("The two passwords are not the same. Type both again.\n");
+        terminal.print(Words::tr("The two passwords are not the same. Type both again.").toLocal8Bit() +
+                       '\n');
     }
     return refusal(Words::tr("The password was not typed the same way twice. Nothing was done."));
 }

@@ -36,7 +36,8 @@ std::unique_ptr<X509, FreeCertificate> readCertificate(const QByteArray &pem)
 QString describeKey(const EVP_PKEY *key)
 {
     const char *kind = EVP_PKEY_get0_type_name(key);
-    return u"%1, %2 bits"_qs.arg(QString::fromLatin1(kind ? kind : "unknown kind"))
+    return Words::tr("%1, %2 bits")
+        .arg(kind ? QString::fromLatin1(kind) : Words::tr("unknown kind"))
         .arg(EVP_PKEY_get_bits(key));
 }
 

@@ -82,7 +82,7 @@ std::optional<Refusal> forbiddenCharacter(QStringView text)
 std::optional<Refusal> refusedMarkup(QStringView document)
 {
     if (const auto forbidden = forbiddenCharacter(document))
-        return Refusal{forbidden->index, Words::tr("it holds ") + forbidden->reason};
+        return Refusal{forbidden->index, Words::tr("it holds %1").arg(forbidden->reason)};
 
     qsizetype index = document.indexOf(u'<');
     while (index >= 0) {

@@ -121,7 +121,8 @@ void Writer::writeDate(const QDateTime &date)
 
 void Writer::writeText(const QString &element, const QString &text)
 {
-    if (const auto forbidden = forbiddenCharacter(text)) return refuse(u"holds "_qs + forbidden->reason);
+    if (const auto forbidden = forbiddenCharacter(text))
+        return refuse(Words::tr("holds %1").arg(forbidden->reason));
 
     m_xml.writeStartElement(element);
     m_xml.writeCharacters({}); // so that even an empty element has both of its tags

@@ -24,7 +24,7 @@ const QHash<QString, const char *> &stages()
         {u"unpacking"_qs, QT_TRANSLATE_NOOP("runs", "Unpacking")},
         {u"decrypting"_qs, QT_TRANSLATE_NOOP("runs", "Decrypting")},
         {u"extracting"_qs, QT_TRANSLATE_NOOP("runs", "Restoring")},
-        {Words::tr("bringing back what was chosen"), QT_TRANSLATE_NOOP("runs", "Putting in place")},
+        {u"placing"_qs, QT_TRANSLATE_NOOP("runs", "Putting in place")},
         {u"copying"_qs, QT_TRANSLATE_NOOP("runs", "Copying")},
         {u"comparing"_qs, QT_TRANSLATE_NOOP("runs", "Comparing")},
     };

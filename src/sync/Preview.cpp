@@ -98,9 +98,9 @@ QString describeChange(Change change, bool removesSources)
     case Change::Delete:
         return Words::tr("deleted at the destination");
     case Change::Replace:
-        return removesSources ? Words::tr("replaced there, removed here") : u"replaced"_qs;
+        return removesSources ? Words::tr("replaced there, removed here") : Words::tr("replaced");
     case Change::Copy:
-        return removesSources ? Words::tr("moved there") : u"copied"_qs;
+        return removesSources ? Words::tr("moved there") : Words::tr("copied");
     case Change::RemoveHere:
         return Words::tr("there already, removed here");
     case Change::MakeFolder:
@@ -147,11 +147,9 @@ QString askForDeletions(const Preview &preview)
         if (row.change == Change::Delete) ++there;
         if (isRemovedHere(preview, row)) ++here;
     }
-    const auto files = [](qsizetype count) {
-        return count == 1 ? u"1 file"_qs : u"%1 files"_qs.arg(QLocale().toString(count));
-    };
+    const auto files = [](qsizetype count) { return Words::tr("%n file(s)", nullptr, int(count)); };
     if (there > 0 && here > 0)
-        return Words::tr("Delete %1 there, remove %2 here?").arg(files(there), QLocale().toString(here));
+        return Words::tr("Delete %1 there, remove %2 here?").arg(files(there), files(here));
     if (there > 0) return Words::tr("Delete %1 there?").arg(files(there));
     return here > 0 ? Words::tr("Remove %1 here?").arg(files(here)) : QString();
 }

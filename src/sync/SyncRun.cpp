@@ -139,8 +139,7 @@ QString SyncRun::summary() const
         return Words::tr("Cancelled. What was copied stays; the next run goes on from there.");
     if (!m_state.failure().isEmpty()) return Words::tr("Failed. %1").arg(m_state.failure());
     return Words::tr("Synchronised %1 in %2.")
-        .arg(m_order.entries.size() == 1 ? u"1 entry"_qs : u"%1 entries"_qs.arg(m_order.entries.size()),
-             clockText(m_state.elapsed()));
+        .arg(Words::tr("%n entries", nullptr, int(m_order.entries.size())), clockText(m_state.elapsed()));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "tools/ToolRun.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -203,10 +204,15 @@ RunningTools &runningTools()
     return *tools;
 }
 
+QString cannotStart()
+{
+    return Words::tr("Can't start \"%1\": %2. Choose the tool's path on the Tools tab.");
+}
+
 QString whyNotStarted(const QString &tool, int error)
 {
     const QString reason = QString::fromLocal8Bit(std::strerror(error));
-    return Words::tr("Can't start \"%1\": %2. Choose the tool's path on the Tools tab.\n").arg(tool, reason);
+    return cannotStart().arg(tool, reason) + u'\n';
 }
 
 /// An argument ends at a zero byte, so a tool would get less than it is to have: part of a password, or of
@@ -260,6 +266,14 @@ QString describeEnd(const QString &tool, int status)
 
 } // namespace
 
+bool tellsThatNotStarted(const QString &text)
+{
+    // In the user's language, where the path may come first or last.
+    const QString anything = u".+"_qs;
+    const QString pattern = QRegularExpression::escape(cannotStart()).replace(u"%1"_qs, anything);
+    return text.contains(QRegularExpression(QString(pattern).replace(u"%2"_qs, anything)));
+}
+
 ToolResult runTool(const QString &tool, const QStringList &arguments, int inherited,
                    const std::function<void(int)> &started)
 {
@@ -273,8 +287,8 @@ ToolResult runTool(const QString &tool, const QStringList &arguments, int inheri
     const int status = raw.waitStatus;
     bytes.append(describeEnd(tool, status).toUtf8());
     const int exitStatus = WIFEXITED(status) ? WEXITSTATUS(status) : 0;
-    if (!bytes.isValidUtf8()) return {std::nullopt, true, exitStatus};
-    return {QString::fromUtf8(bytes), true, exitStatus};
+    return {bytes.isValidUtf8() ? std::optional(QString::fromUtf8(bytes)) : std::nullopt, true, exitStatus,
+            bool(WIFSIGNALED(status))};
 }
 
 std::optional<QByteArray> firstBytesOf(const QString &tool, const QStringList &arguments, qsizetype most)

@@ -12,7 +12,8 @@
 struct ToolResult {
     std::optional<QString> output; ///< none where it was not UTF-8
     bool wasStarted = true;
-    int exitStatus = 0; ///< 0 also where a signal ended it
+    int exitStatus = 0;     ///< 0 also where a signal ended it
+    bool wasKilled = false; ///< by a signal
 
     /// A tool succeeded when it said nothing, whatever its exit status.
     [[nodiscard]] bool isSilent() const { return output && output->isEmpty(); }
@@ -36,6 +37,9 @@ struct ToolResult {
 [[nodiscard]] ToolResult runTool(
     const QString &tool, const QStringList &arguments, int inherited = -1,
     const std::function<void(int)> &started = [](int) {});
+
+/// Whether a text is what a result says of a tool that could not be started.
+[[nodiscard]] bool tellsThatNotStarted(const QString &text);
 
 /// The same for a tool that prints bytes: at most the first `most` of them, and then the tool is killed. None
 /// where it could not be started, or ended by itself otherwise than well.

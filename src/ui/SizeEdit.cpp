@@ -40,7 +40,8 @@ SizeEdit::SizeEdit(QWidget *parent) : QLineEdit(parent)
 
 QString SizeEdit::thousands() const
 {
-    static const QRegularExpression form(u"^\\s*([0-9][0-9.,']*)\\s*([kKmMgGtT])?[bB]?\\s*$"_qs);
+    // French bytes are "octets".
+    static const QRegularExpression form(u"^\\s*([0-9][0-9.,']*)\\s*([kKmMgGtT])?[bBoO]?\\s*$"_qs);
     const QRegularExpressionMatch match = form.match(text());
     const auto number = match.hasMatch() ? numberOf(match.captured(1)) : std::nullopt;
     if (!number) return text();
@@ -70,7 +71,7 @@ QString SizeEdit::withUnit(const QString &thousands)
     QString digits = locale.toString(double(number) / double(unit->thousands), 'f', decimals);
     while (decimals > 0 && digits.endsWith(locale.zeroDigit()))
         digits.chop(1);
-    return u"%1 %2B"_qs.arg(digits, QChar(unit->letter));
+    return tr("%1 %2B").arg(digits, QChar(unit->letter));
 }
 
 } // namespace ui

@@ -4,6 +4,7 @@
 
 #include <QHeaderView>
 #include <QPushButton>
+#include <algorithm>
 
 namespace ui {
 namespace {
@@ -79,6 +80,9 @@ void ToolTableView::updateButtons()
                 selectRows({row});
                 Q_EMIT chooseRequested();
             });
+            // Letters of another font may make it taller than the table's own do a row.
+            const int height = std::max(verticalHeader()->defaultSectionSize(), button->sizeHint().height());
+            verticalHeader()->setDefaultSectionSize(height);
             setIndexWidget(place, button);
         }
         button->setAccessibleName(

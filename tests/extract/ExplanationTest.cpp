@@ -37,7 +37,8 @@ TEST(Explanation, TellsTheCausesApart)
              {Kind::UnpackInner, u"Skipping the symbolic link a -> /b"_qs, u"Quillorent's own archiver"_qs,
               isArchive},
              {Kind::Test, u"/x belongs to another set of volumes"_qs, u"do not belong together"_qs},
-             {Kind::Test, u"\"/rar\" was ended by signal 9 (Killed).\n"_qs, u"short of memory"_qs},
+             {Kind::Test, u"\"/rar\" was ended by signal 9 (Killed).\n"_qs, u"short of memory"_qs,
+              [](auto &s) { s.tool.wasKilled = true; }},
          }) {
         FailedStage stage{.kind = kind,
                           .tool = {said},

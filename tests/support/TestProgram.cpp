@@ -1,7 +1,7 @@
 #include "TestProgram.h"
 
+#include "app/Translations.h"
 #include "keychain/Keychain.h"
-
 #include "runs/Pauses.h"
 #include "settings/Paths.h"
 #include "tools/Threads.h"
@@ -23,6 +23,8 @@ TestProgram::TestProgram()
     qputenv("XDG_CONFIG_HOME", (m_folder / "config").string().c_str());
     qputenv("XDG_STATE_HOME", (m_folder / "state").string().c_str());
     quillorentLibrary::setResourceFolder(QStringLiteral(QUILLORENT_TEMPLATES));
+    // The plurals of English, too, are a translation.
+    [[maybe_unused]] static const bool speaks = (installTranslations(), true);
     pauses() = {.beforeMeasuring = 20ms, .settingsSaved = 20ms, .profilesSaved = 20ms, .profileLoaded = 20ms};
     // Never the keychain of whoever runs the tests; a test that needs one brings a session of its own.
     for (const char *bus : {"DBUS_SESSION_BUS_ADDRESS", "DBUS_SYSTEM_BUS_ADDRESS"})

@@ -61,7 +61,7 @@ TEST_F(SyncStart, AsksBeforeItDeletesAndDoesJustWhatItShowed)
 {
     setSwitches(true, true);
     ASSERT_NO_FATAL_FAILURE(launchUntil(delegate.previewPanel01));
-    EXPECT_TRUE(delegate.previewText01.text().startsWith(u"Delete 1 file there, remove 2 here?\n"));
+    EXPECT_TRUE(delegate.previewText01.text().startsWith(u"Delete 1 file there, remove 2 files here?\n"));
     EXPECT_EQ(files(), untouched);
     delegate.previewPanel01Close();
     program.waitForEnd();

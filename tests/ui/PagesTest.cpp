@@ -6,8 +6,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QDirIterator>
-#include <QFile>
+#include <QDir>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLayout>
@@ -15,7 +14,7 @@
 #include <QMenuBar>
 #include <QStackedWidget>
 #include <QTranslator>
-#include <QXmlStreamReader>
+#include <vector>
 
 namespace {
 
@@ -65,32 +64,29 @@ private:
     }
 };
 
-/// Translates by the text of a translator's file, whether it is compiled or not.
-class TextTranslator : public QTranslator {
+/// The window's language, for a while.
+class Language {
 public:
-    explicit TextTranslator(const QString &path)
+    /// The path of a compiled translation; empty: as the sources have it.
+    explicit Language(const QString &path)
     {
-        QFile file(path);
-        if (!file.open(QIODevice::ReadOnly)) qFatal("can't read %s", qUtf8Printable(path));
-        QXmlStreamReader xml(&file);
-        QString context;
-        for (QString source; !xml.atEnd(); xml.readNext()) {
-            if (!xml.isStartElement()) continue;
-            if (xml.name() == u"name") context = xml.readElementText();
-            if (xml.name() == u"source") source = xml.readElementText();
-            if (xml.name() == u"translation")
-                m_texts[context + source] = xml.readElementText(QXmlStreamReader::IncludeChildElements);
-        }
+        if (path.isEmpty()) return;
+        EXPECT_TRUE(m_translator.load(path)) << path.toStdString();
+        QCoreApplication::installTranslator(&m_translator);
     }
-    QString translate(const char *context, const char *source, const char *, int) const override
-    {
-        return m_texts.value(QString::fromUtf8(context) + QString::fromUtf8(source));
-    }
-    bool isEmpty() const override { return m_texts.isEmpty(); }
 
 private:
-    QHash<QString, QString> m_texts;
+    QTranslator m_translator; // its end uninstalls it
 };
+
+QStringList languages()
+{
+    QStringList paths{QString()};
+    for (const QFileInfo &file : QDir(QStringLiteral(QUILLORENT_TRANSLATIONS)).entryInfoList({u"*.qm"_qs}))
+        paths.append(file.filePath());
+    EXPECT_GT(paths.size(), 5) << "no translations";
+    return paths;
+}
 
 QStringList mnemonicTexts(const QWidget &widget)
 {
@@ -151,15 +147,9 @@ std::string whyCut(const QWidget &widget)
 
 TEST(PagesTest, HaveEachMnemonicOnce)
 {
-    QStringList languages{QString()}; // as written, and as translated
-    for (QDirIterator files(QStringLiteral(QUILLORENT_SOURCES), {u"*.ts"_qs}, QDir::Files,
-                            QDirIterator::Subdirectories);
-         files.hasNext();)
-        languages.append(files.next());
-    for (const QString &language : languages) {
-        SCOPED_TRACE(language.toStdString());
-        std::optional<TextTranslator> translator;
-        if (!language.isEmpty()) QCoreApplication::installTranslator(&translator.emplace(language));
+    for (const QString &path : languages()) {
+        SCOPED_TRACE(path.toStdString());
+        const Language language(path);
         Opened opened;
         opened.forEachView([&](const std::string &view, const QList<QWidget *> &widgets) {
             QStringList texts;
@@ -174,29 +164,39 @@ TEST(PagesTest, HaveEachMnemonicOnce)
 
 TEST(PagesTest, AreCutOffNowhere)
 {
+    struct Look {
+        QString language;
+        int points;
+        Qt::LayoutDirection direction = Qt::LeftToRight;
+    };
+    std::vector<Look> looks;
+    for (const int points : {8, 12, 18, 24})
+        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft})
+            looks.push_back({{}, points, direction});
+    for (const QString &language : languages())
+        looks.push_back({language, 14});
     const QFont usual = QApplication::font();
-    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft})
-        for (const int points : {8, 12, 18, 24}) {
-            QFont font = usual;
-            font.setPointSize(points);
-            QApplication::setFont(font);
-            QGuiApplication::setLayoutDirection(direction);
-            Opened opened;
-            opened.window.resize(1, 1);
-            const QSize least = opened.window.minimumSizeHint();
-            EXPECT_TRUE(least.width() <= 1366 && least.height() <= 768)
-                << points << " pt: " << least.width() << 'x' << least.height();
-            opened.forEachView([&](const std::string &view, const QList<QWidget *> &widgets) {
-                for (const QWidget *widget : widgets) {
-                    if (!widget->isVisible() || widget->objectName().startsWith(u"qt_")) continue;
-                    const std::string why = whyCut(*widget);
-                    EXPECT_TRUE(why.empty())
-                        << points << " pt, "
-                        << (direction == Qt::LeftToRight ? "from the left" : "from the right") << ", " << view
-                        << ": " << widget->objectName().toStdString() << ' ' << why;
-                }
-            });
-        }
+    for (const Look &look : looks) {
+        const std::string trace = look.language.toStdString() + ' ' + std::to_string(look.points) + " pt " +
+                                  (look.direction == Qt::LeftToRight ? "from the left" : "from the right");
+        SCOPED_TRACE(trace);
+        const Language language(look.language);
+        QFont font = usual;
+        font.setPointSize(look.points);
+        QApplication::setFont(font);
+        QGuiApplication::setLayoutDirection(look.direction);
+        Opened opened;
+        opened.window.resize(1, 1);
+        const QSize least = opened.window.minimumSizeHint();
+        EXPECT_TRUE(least.width() <= 1366 && least.height() <= 768) << least.width() << 'x' << least.height();
+        opened.forEachView([&](const std::string &view, const QList<QWidget *> &widgets) {
+            for (const QWidget *widget : widgets) {
+                if (!widget->isVisible() || widget->objectName().startsWith(u"qt_")) continue;
+                const std::string why = whyCut(*widget);
+                EXPECT_TRUE(why.empty()) << view << ": " << widget->objectName().toStdString() << ' ' << why;
+            }
+        });
+    }
     QGuiApplication::setLayoutDirection(Qt::LeftToRight);
     QApplication::setFont(usual);
 }

@@ -6,6 +6,7 @@
 #include "tools/Threads.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <thread>
 
 using quillorentLibrary::InConflict;
@@ -17,7 +18,13 @@ struct Words {
     Q_DECLARE_TR_FUNCTIONS(profiles)
 };
 
-QString quoted(const QStringList &names) { return u"“"_qs + names.join(u"”, “"_qs) + u"”"_qs; }
+QString quoted(const QStringList &names)
+{
+    QStringList all;
+    for (const QString &name : names)
+        all.append(Words::tr("“%1”").arg(name));
+    return QLocale().createSeparatedList(all);
+}
 
 QString describeConflict(const SavedFile &file, const QStringList &names)
 {
