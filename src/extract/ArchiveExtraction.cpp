@@ -5,7 +5,6 @@
 #include "extract/Explanation.h"
 #include "extract/ExtractArguments.h"
 #include "extract/UsualRights.h"
-#include "files/MoveTree.h"
 #include "files/Names.h"
 #include "files/Paths.h"
 #include "files/Room.h"
@@ -15,7 +14,6 @@
 #include "runs/Run.h"
 
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -56,7 +54,6 @@ private:
     [[nodiscard]] QStringList entriesOf(const QString &archive) const;
     void listContents();
     void bringChosen();
-    [[nodiscard]] QString whatIsNotThere(const MoveTree &tree) const;
     void noteContents(const QString &path);
     struct Contents;
     [[nodiscard]] Contents contentsOf(const QString &archive) const;
@@ -350,44 +347,19 @@ void ArchiveExtraction::noteContents(const QString &path)
 void ArchiveExtraction::listContents()
 {
     if (!goesOn() || !m_isExtracted || !m_order.listing) return;
-    m_order.listing->archive = m_item;
-    m_order.listing->files = identitiesOf(m_item);
-    m_order.listing->entries = entriesBelow(contentsFolder(m_folder), [this] { return goesOn(); });
-    m_order.listing->places = sortedPlaces(m_order.listing->entries);
-    m_order.listing->took = m_run.state().elapsed();
-    // Folders that only lead to what was backed up are as old as this run.
-    const qint64 began = QDateTime::currentMSecsSinceEpoch() - m_order.listing->took.count();
-    for (ArchiveListing::Entry &entry : m_order.listing->entries)
-        if (entry.kind == FileEntry::Kind::Folder && entry.modified >= began / 1000) entry.modified = 0;
-}
-
-QString ArchiveExtraction::whatIsNotThere(const MoveTree &tree) const
-{
-    const auto missing = std::find_if(m_order.chosen.begin(), m_order.chosen.end(),
-                                      [&](const std::string &path) { return !tree.has(path); });
-    if (missing == m_order.chosen.end()) return {};
-    return Words::tr(
-               "There is no \"%1\" in \"%2\", so nothing was brought back. The archive's paths look like "
-               "\"%3\".")
-        .arg(QFile::decodeName(QByteArray::fromStdString(*missing)), lastPathComponent(m_item), m_example);
+    *m_order.listing =
+        listArchive(m_item, contentsFolder(m_folder), m_run.state().elapsed(), [this] { return goesOn(); });
 }
 
 void ArchiveExtraction::bringChosen()
 {
     if (!goesOn() || !m_isExtracted || m_order.chosen.empty()) return;
     setStage(u"placing"_qs, {}); // by renaming: it takes no time
-    MoveTree tree(QFile::encodeName(contentsFolder(m_folder)).toStdString(),
-                  QFile::encodeName(m_order.folder).toStdString(),
-                  {.keep = [this](const Aside &kept) { noteKept(kept); },
-                   .keptAsItWas = [this] { noteNotKept(); },
-                   .goesOn = [this] { return !isCancelled(); }});
-    QString reason = whatIsNotThere(tree);
-    for (const std::string &path : m_order.chosen) {
-        if (!reason.isEmpty() || isCancelled()) break;
-        reason = tree.move(path);
-        if (reason.isEmpty())
-            noteContents(joined(m_order.folder, QFile::decodeName(QByteArray::fromStdString(path))));
-    }
+    const QString reason = ::bringChosen(m_order, m_item, contentsFolder(m_folder), m_example,
+                                         {.keep = [this](const Aside &kept) { noteKept(kept); },
+                                          .keptAsItWas = [this] { noteNotKept(); },
+                                          .goesOn = [this] { return !isCancelled(); }},
+                                         [this](const QString &path) { noteContents(path); });
     if (isCancelled()) {
         m_isExtracted = false;
         return;

@@ -4,6 +4,7 @@
 #include "files/FolderWalk.h"
 
 #include <QCollator>
+#include <QDateTime>
 #include <QFile>
 #include <algorithm>
 
@@ -27,14 +28,6 @@ void addUp(std::vector<Entry> &entries)
         parent.bytes += entry->bytes;
         parent.files += entry->files;
     }
-}
-
-} // namespace
-
-std::string ArchiveListing::pathOf(int index) const
-{
-    const Entry &entry = entries[std::size_t(index)];
-    return entry.parent == top ? entry.name : pathOf(entry.parent) + '/' + entry.name;
 }
 
 std::vector<Entry> entriesBelow(const QString &folder, const std::function<bool()> &goesOn)
@@ -67,6 +60,7 @@ std::vector<Entry> entriesBelow(const QString &folder, const std::function<bool(
     return entries;
 }
 
+/// Takes its time where there are very many.
 std::vector<int> sortedPlaces(const std::vector<Entry> &entries)
 {
     struct Key {
@@ -99,10 +93,33 @@ std::vector<int> sortedPlaces(const std::vector<Entry> &entries)
     return places;
 }
 
+} // namespace
+
+std::string ArchiveListing::pathOf(int index) const
+{
+    const Entry &entry = entries[std::size_t(index)];
+    return entry.parent == top ? entry.name : pathOf(entry.parent) + '/' + entry.name;
+}
+
 std::vector<FileIdentity> identitiesOf(const QString &archive)
 {
     std::vector<FileIdentity> identities;
     for (const QString &file : filesOfArchive(withoutVolumePart(archive)))
         if (const auto there = entryAt(file)) identities.push_back(there->identity);
     return identities;
+}
+
+ArchiveListing listArchive(const QString &archive, const QString &folder, std::chrono::milliseconds took,
+                           const std::function<bool()> &goesOn)
+{
+    ArchiveListing listing{.entries = entriesBelow(folder, goesOn),
+                           .took = took,
+                           .archive = archive,
+                           .files = identitiesOf(archive)};
+    listing.places = sortedPlaces(listing.entries);
+    // Folders that only lead to what was backed up are as old as the run that unpacked them.
+    const qint64 began = QDateTime::currentMSecsSinceEpoch() - took.count();
+    for (Entry &entry : listing.entries)
+        if (entry.kind == FileEntry::Kind::Folder && entry.modified >= began / 1000) entry.modified = 0;
+    return listing;
 }

@@ -32,13 +32,11 @@ struct ArchiveListing {
     [[nodiscard]] std::string pathOf(int index) const;
 };
 
-/// All that is below a folder. What can't be read is left out. Gives up, with what it has by then, once
-/// `goesOn` says no.
-[[nodiscard]] std::vector<ArchiveListing::Entry> entriesBelow(const QString &folder,
-                                                              const std::function<bool()> &goesOn);
-
-/// Takes its time where there are very many.
-[[nodiscard]] std::vector<int> sortedPlaces(const std::vector<ArchiveListing::Entry> &entries);
+/// What `archive` holds, all of which lies in `folder` and took that long to be unpacked. What can't be read
+/// is left out. Gives up, with what it has by then, once `goesOn` says no. Takes its time where there are
+/// very many entries.
+[[nodiscard]] ArchiveListing listArchive(const QString &archive, const QString &folder,
+                                         std::chrono::milliseconds took, const std::function<bool()> &goesOn);
 
 /// What tells an archive, with all volumes of its set, from what has come under its names since.
 [[nodiscard]] std::vector<FileIdentity> identitiesOf(const QString &archive);

@@ -1,5 +1,6 @@
 #include "extract/ChosenPaths.h"
 
+#include "files/Names.h"
 #include "files/Paths.h"
 #include "files/PrivateFolder.h"
 
@@ -28,6 +29,8 @@ std::string tidied(const std::string &path)
     return tidy;
 }
 
+QString shown(const std::string &path) { return QFile::decodeName(QByteArray::fromStdString(path)); }
+
 } // namespace
 
 QString tidyChosen(std::vector<std::string> &paths)
@@ -38,7 +41,7 @@ QString tidyChosen(std::vector<std::string> &paths)
             return Words::tr(
                        "\"%1\" can't be the path of anything in an archive. Name a file or a folder as the "
                        "archive has it, such as \"home/anna/letter\".")
-                .arg(QFile::decodeName(QByteArray::fromStdString(path)));
+                .arg(shown(path));
         path = tidy;
     }
     std::sort(paths.begin(), paths.end());
@@ -58,6 +61,27 @@ void workInPrivate(ExtractOrder &order)
         const QString extension = item.paths.leftover.mid(item.paths.encrypted.size());
         item.paths = extractPaths(item.archive, order.privateFolder, extension);
     }
+}
+
+QString bringChosen(const ExtractOrder &order, const QString &archive, const QString &folder,
+                    const QString &example, const MoveTree::Events &events,
+                    const std::function<void(const QString &)> &brought)
+{
+    MoveTree tree(QFile::encodeName(folder).toStdString(), QFile::encodeName(order.folder).toStdString(),
+                  events);
+    const auto missing = std::find_if(order.chosen.begin(), order.chosen.end(),
+                                      [&](const std::string &path) { return !tree.has(path); });
+    if (missing != order.chosen.end())
+        return Words::tr(
+                   "There is no \"%1\" in \"%2\", so nothing was brought back. The archive's paths look like "
+                   "\"%3\".")
+            .arg(shown(*missing), quillorentLibrary::lastPathComponent(archive), example);
+    for (const std::string &path : order.chosen) {
+        if (!events.goesOn()) break;
+        if (QString reason = tree.move(path); !reason.isEmpty()) return reason;
+        brought(quillorentLibrary::joined(order.folder, shown(path)));
+    }
+    return {};
 }
 
 QString commonFolder(const QString &one, const QString &other)
