@@ -3,6 +3,7 @@
 
 #include "app/Process.h"
 #include "app/QuillorentAppDelegate.h"
+#include "app/Translations.h"
 #include "ui/Appearance.h"
 #include "ui/Window.h"
 
@@ -153,6 +154,7 @@ int main(int argc, char *argv[])
     prepareProcess();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    installTranslations();
     ui::setUpAppearance();
     const QStringList words = QApplication::arguments().mid(1);
     if (words.isEmpty() || !QDir().mkpath(words.first())) {

@@ -13,8 +13,6 @@ using namespace std::chrono_literals;
 namespace ui {
 namespace {
 
-constexpr auto soon = 50ms; // several changes come together
-constexpr auto afterRun = 500ms;
 constexpr auto afterTyping = 1500ms;
 
 } // namespace
@@ -24,6 +22,7 @@ BackupReadiness::BackupReadiness(QuillorentAppDelegate &controller, RefreshQueue
     : QObject(parent)
     , m_controller(controller)
     , m_page(page)
+    , m_timer(controller, [this] { look(); })
     , m_look(u"hindrances"_qs,
              [this](Hindrances found) {
                  m_hindrances = std::move(found);
@@ -35,8 +34,6 @@ BackupReadiness::BackupReadiness(QuillorentAppDelegate &controller, RefreshQueue
         Q_EMIT changed();
     })
 {
-    m_soon.setSingleShot(true);
-    connect(&m_soon, &QTimer::timeout, this, &BackupReadiness::look);
     m_trialSoon.setSingleShot(true);
     m_trialSoon.setInterval(afterTyping);
     connect(&m_trialSoon, &QTimer::timeout, this, &BackupReadiness::tryPasswordNow);
@@ -53,17 +50,8 @@ BackupReadiness::BackupReadiness(QuillorentAppDelegate &controller, RefreshQueue
                 });
 }
 
-void BackupReadiness::lookSoon()
-{
-    if (!m_soon.isActive()) m_soon.start(soon);
-}
-
 void BackupReadiness::look()
 {
-    if (m_controller.isRunActive()) {
-        m_soon.start(afterRun);
-        return;
-    }
     const std::shared_ptr<BackupOrder> order = readBackupOrder(m_controller.currentProfile());
     Hindrances byPassword = hindrancesByPassword(*order);
     order->password = Secret(); // nobody needs it there

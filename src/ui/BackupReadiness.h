@@ -3,6 +3,7 @@
 #include "backup/Hindrances.h"
 #include "backup/PasswordTrial.h"
 #include "ui/Beside.h"
+#include "ui/LookTimer.h"
 
 #include <QTimer>
 
@@ -25,7 +26,7 @@ public:
     [[nodiscard]] const Hindrances &hindrances() const { return m_hindrances; }
     [[nodiscard]] PasswordTrial::Verdict verdict() const { return m_verdict; }
 
-    void lookSoon();
+    void lookSoon() { m_timer.lookSoon(); }
 
 Q_SIGNALS:
     void changed();
@@ -37,7 +38,7 @@ private:
 
     QuillorentAppDelegate &m_controller;
     const QWidget &m_page;
-    QTimer m_soon;
+    LookTimer m_timer;
     QTimer m_trialSoon;
     Beside<Hindrances> m_look;
     Beside<PasswordTrial> m_trial;

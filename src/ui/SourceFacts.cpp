@@ -13,8 +13,6 @@ using namespace std::chrono_literals;
 namespace ui {
 namespace {
 
-constexpr auto soon = 50ms; // several changes come together
-constexpr auto afterRun = 500ms;
 constexpr auto stale = 10min;
 
 } // namespace
@@ -22,37 +20,27 @@ constexpr auto stale = 10min;
 SourceFacts::SourceFacts(QuillorentAppDelegate &controller, RefreshQueue &queue, QObject *parent)
     : QObject(parent)
     , m_controller(controller)
+    , m_timer(controller, [this] { look(); })
     , m_look(u"folder-facts"_qs, [this](Look found) { take(std::move(found)); })
     , m_measure(u"folder-sizes"_qs, [this](const Size &size) { takeSize(size); })
 {
-    m_soon.setSingleShot(true);
-    connect(&m_soon, &QTimer::timeout, this, &SourceFacts::look);
     queue.watch({&controller.listTableView, &controller.fileText01, &controller.outputText01,
                  &controller.progressPanel01},
-                [this] { lookSoon(); });
+                [this] { m_timer.lookSoon(); });
     queue.watch(controller.currentProfileTextView, [this] {
         if (m_profile == m_controller.currentProfile()) return;
         m_history = {}; // it is another's
-        lookSoon();
+        m_timer.lookSoon();
     });
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
-        if (state == Qt::ApplicationActive) lookSoon();
+        if (state == Qt::ApplicationActive) m_timer.lookSoon();
     });
 }
 
 QStringList SourceFacts::paths() const { return m_controller.currentRecord().array(u"folders"_qs).strings(); }
 
-void SourceFacts::lookSoon()
-{
-    if (!m_soon.isActive()) m_soon.start(soon);
-}
-
 void SourceFacts::look()
 {
-    if (m_controller.isRunActive()) {
-        m_soon.start(afterRun);
-        return;
-    }
     const QStringList list = paths();
     m_look.ask([profile = m_controller.currentProfile(), destination = m_controller.fileText01.text(),
                 sources = std::vector<QString>(list.begin(), list.end())](const auto &goesOn) {
@@ -102,7 +90,7 @@ void SourceFacts::measureNext()
 void SourceFacts::takeSize(const Size &size)
 {
     if (!size.bytes) {
-        lookSoon();
+        m_timer.lookSoon();
         return;
     }
     m_sizes[size.path] = {*size.bytes, std::chrono::steady_clock::now()};

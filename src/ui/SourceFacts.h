@@ -3,8 +3,8 @@
 #include "backup/SourceLook.h"
 #include "runs/BackupHistory.h"
 #include "ui/Beside.h"
+#include "ui/LookTimer.h"
 
-#include <QTimer>
 #include <chrono>
 #include <unordered_map>
 #include <vector>
@@ -63,7 +63,6 @@ private:
         std::chrono::steady_clock::time_point since;
     };
 
-    void lookSoon();
     void look();
     void take(Look found);
     void measureNext();
@@ -71,7 +70,7 @@ private:
     [[nodiscard]] QStringList paths() const;
 
     QuillorentAppDelegate &m_controller;
-    QTimer m_soon;
+    LookTimer m_timer;
     Beside<Look> m_look;
     Beside<Size> m_measure;
     QString m_profile;
