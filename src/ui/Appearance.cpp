@@ -1,8 +1,10 @@
 #include "ui/Appearance.h"
 
+#include "ui/InkIcon.h"
 #include "ui/Placeholders.h"
 
 #include <QAbstractButton>
+#include <QFile>
 #include <QGuiApplication>
 #include <QStyle>
 
@@ -12,18 +14,16 @@ static void loadIcons() { Q_INIT_RESOURCE(icons); }
 namespace ui {
 namespace {
 
-const QString systemIcons = u"/usr/share/icons"_qs;
 const QString ownIcons = u":/icons"_qs;
 
-void chooseIconTheme()
-{
-    QStringList paths = QIcon::themeSearchPaths();
-    if (!paths.contains(systemIcons)) paths.append(systemIcons);
-    QIcon::setThemeSearchPaths(paths);
-    QIcon::setFallbackSearchPaths(QIcon::fallbackSearchPaths() << ownIcons);
+QString drawingOf(const QString &name) { return u"%1/%2.svg"_qs.arg(ownIcons, name); }
 
-    // A session that names no theme gets the one that nearly every system has.
-    if (QIcon::themeName().isEmpty() || QIcon::themeName() == u"hicolor") QIcon::setThemeName(u"Adwaita"_qs);
+/// The forms ask the session's theme for their icons. It need not have one: what keeps their names is ours.
+void letFormsFindIcons()
+{
+    QIcon::setFallbackSearchPaths(QIcon::fallbackSearchPaths() << ownIcons);
+    // Where no theme has a name, the toolkit looks nowhere.
+    if (QIcon::themeName().isEmpty()) QIcon::setThemeName(u"hicolor"_qs);
 }
 
 QString fileOf(Sign sign)
@@ -44,25 +44,33 @@ QString fileOf(Sign sign)
 void setUpAppearance()
 {
     loadIcons();
-    chooseIconTheme();
+    letFormsFindIcons();
     keepPlaceholdersReadable();
     QGuiApplication::setApplicationName(u"quillorent"_qs);
     QGuiApplication::setApplicationDisplayName(u"Quillorent"_qs);
     QGuiApplication::setDesktopFileName(applicationId);
-    QGuiApplication::setWindowIcon(themeIcon(applicationId));
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(applicationId, themeIcon(applicationId)));
 }
 
-QIcon themeIcon(const QString &name) { return QIcon::fromTheme(name); }
+QIcon themeIcon(const QString &name)
+{
+    QFile file(drawingOf(name));
+    if (!file.open(QIODevice::ReadOnly)) return QIcon::fromTheme(name);
+    const QByteArray drawing = file.readAll();
+    return hasInk(drawing) ? inkIcon(name, drawing) : QIcon(file.fileName());
+}
 
-void scaleIcons(QWidget &root)
+void dressButtons(QWidget &root)
 {
     const int usual = root.style()->pixelMetric(QStyle::PM_SmallIconSize);
     const int size = std::max(usual, root.fontMetrics().height());
-    for (auto *button : root.findChildren<QAbstractButton *>())
+    for (auto *button : root.findChildren<QAbstractButton *>()) {
         button->setIconSize(QSize(size, size));
+        if (const QString name = button->icon().name(); !name.isEmpty()) button->setIcon(themeIcon(name));
+    }
 }
 
-QIcon stateSign(Sign sign) { return QIcon(u"%1/%2.svg"_qs.arg(ownIcons, fileOf(sign))); }
+QIcon stateSign(Sign sign) { return QIcon(drawingOf(fileOf(sign))); }
 
 QString plainToolTip(const QString &text)
 {

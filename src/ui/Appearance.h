@@ -9,14 +9,15 @@ namespace ui {
 
 inline const QString applicationId = QStringLiteral("com.brolvanek.Quillorent");
 
-/// Name, icon and icon theme of the program. Called once, after the application object was made.
+/// Name and icons of the program. Called once, after the application object was made.
 void setUpAppearance();
 
-/// The theme's icon, or the program's own where the theme has none of that name.
+/// The program's own icon of that name, or the session's theme's where there is none. Its lines have the
+/// colour of text.
 [[nodiscard]] QIcon themeIcon(const QString &name);
 
-/// Lets the signs on the buttons below `root` grow with its font.
-void scaleIcons(QWidget &root);
+/// Gives the buttons below `root` that have an icon the program's own of that name; it grows with the font.
+void dressButtons(QWidget &root);
 
 enum class Sign { Good, Bad, Pending };
 [[nodiscard]] QIcon stateSign(Sign sign);

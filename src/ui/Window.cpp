@@ -33,7 +33,7 @@ Window::Window(QuillorentAppDelegate &controller)
     m_panels = std::make_unique<Panels>(controller, *this);
     keepPathsLeftToRight(roots());
     for (QWidget *root : roots())
-        scaleIcons(*root);
+        dressButtons(*root);
     m_binding = std::make_unique<Binding>(controller.outlets(), roots());
     connectActions(controller, *this, roots());
     for (PanelDialog *sheet : m_panels->progressSheets())

@@ -2,6 +2,7 @@
 
 #include "TestWindow.h"
 
+#include "ui/Appearance.h"
 #include "ui/ElidedLabel.h"
 
 #include <QAbstractButton>
@@ -143,7 +144,42 @@ std::string whyCut(const QWidget &widget)
     return {};
 }
 
+/// How much lighter or darker than the background the icon's boldest point is; at most 255.
+int contrast(const QIcon &icon, const QColor &background)
+{
+    const QImage image = icon.pixmap(16).toImage();
+    int best = 0;
+    for (int point = 0; point < image.width() * image.height(); ++point) {
+        const QColor color = image.pixelColor(point % image.width(), point / image.width());
+        const int difference = std::abs(qGray(color.rgb()) - qGray(background.rgb()));
+        if (color.alpha() == 255) best = std::max(best, difference);
+    }
+    return best;
+}
+
 } // namespace
+
+// Of the buttons' icons, none is the session's: those may be missing, or made for another background.
+TEST(PagesTest, HaveIconsThatAreSeenInLightAndDark)
+{
+    const QPalette usual = QApplication::palette();
+    Opened opened;
+    for (const QColor background : {QColor(0xf0f0f0), QColor(0x2d2d30)}) {
+        QApplication::setPalette(QPalette(background));
+        for (const QWidget *root : opened.window.roots())
+            for (const auto *button : root->findChildren<QAbstractButton *>()) {
+                const QString name = button->objectName();
+                if (name != u"contentsButton01" && (button->icon().isNull() || name.startsWith(u"qt_")))
+                    continue;
+                EXPECT_GE(contrast(button->icon(), background), 50) << name.toStdString();
+            }
+        for (const auto &name : {u"folder"_qs, u"text-x-generic"_qs, u"package-x-generic"_qs})
+            EXPECT_GE(contrast(ui::themeIcon(name), background), 50) << name.toStdString();
+        for (const ui::Sign sign : {ui::Sign::Good, ui::Sign::Bad, ui::Sign::Pending})
+            EXPECT_GE(contrast(ui::stateSign(sign), background), 50) << int(sign);
+    }
+    QApplication::setPalette(usual);
+}
 
 TEST(PagesTest, HaveEachMnemonicOnce)
 {
