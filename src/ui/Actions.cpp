@@ -11,6 +11,7 @@
 #include "ui/ToolTable.h"
 
 #include <QAbstractButton>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDesktopServices>
@@ -250,6 +251,8 @@ template <class Perform>
 bool connectControl(QWidget &widget, Perform perform)
 {
     const auto performPlain = [perform] { perform(QString()); };
+    if (auto *box = qobject_cast<QCheckBox *>(&widget))
+        return bool(QObject::connect(box, &QCheckBox::toggled, &widget, performPlain));
     if (auto *button = qobject_cast<QAbstractButton *>(&widget))
         return bool(QObject::connect(button, &QAbstractButton::clicked, &widget, performPlain));
     if (auto *combo = qobject_cast<QComboBox *>(&widget))
@@ -257,7 +260,7 @@ bool connectControl(QWidget &widget, Perform perform)
     if (auto *size = qobject_cast<SizeEdit *>(&widget))
         return bool(QObject::connect(size, &SizeEdit::thousandsEdited, &widget, perform));
     if (auto *field = qobject_cast<QLineEdit *>(&widget))
-        return bool(QObject::connect(field, &QLineEdit::textEdited, &widget, perform));
+        return bool(QObject::connect(field, &QLineEdit::textChanged, &widget, perform));
     if (auto *stepper = qobject_cast<StepperButtons *>(&widget))
         return bool(QObject::connect(stepper, &StepperButtons::stepped, &widget,
                                      [perform](int value) { perform(QString::number(value)); }));

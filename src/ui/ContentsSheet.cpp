@@ -39,8 +39,8 @@ ContentsSheet::ContentsSheet(QuillorentAppDelegate &controller, PanelDialog &she
     tree.header()->setSectionResizeMode(ContentsModel::Name, QHeaderView::Stretch);
     widgets.heading.setTextFormat(Qt::PlainText);
     connect(&m_model, &ContentsModel::choiceChanged, this, &ContentsSheet::showChoice);
-    connect(&widgets.search, &QLineEdit::textEdited, this, &ContentsSheet::findNext);
-    connect(&widgets.search, &QLineEdit::returnPressed, this, &ContentsSheet::findNext);
+    connect(&widgets.search, &QLineEdit::textChanged, this, [this] { find(From::Here); });
+    connect(&widgets.search, &QLineEdit::returnPressed, this, [this] { find(From::Behind); });
     connect(&sheet, &PanelDialog::visibilityChanged, this, [this](bool isVisible) {
         if (isVisible) open();
     });
@@ -89,13 +89,11 @@ void ContentsSheet::showChoice()
                        time));
 }
 
-void ContentsSheet::findNext()
+void ContentsSheet::find(From start)
 {
-    const bool isNewText = m_widgets.search.isModified();
-    m_widgets.search.setModified(false);
     // While a name is being typed, the one that is found already stays as long as it fits.
     QModelIndex from = m_widgets.tree.currentIndex().siblingAtColumn(0);
-    if (isNewText && from.isValid() &&
+    if (start == From::Here && from.isValid() &&
         from.data().toString().contains(m_widgets.search.text(), Qt::CaseInsensitive))
         return;
     const QModelIndex found = m_model.find(m_widgets.search.text(), from);

@@ -32,7 +32,8 @@ public:
 private:
     void open();
     void showChoice();
-    void findNext();
+    enum class From { Here, Behind }; ///< the line that is current
+    void find(From start);
     void openFirstFork();
 
     QuillorentAppDelegate &m_controller;

@@ -1,8 +1,10 @@
 #include "ui/OpenPanelDialog.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileSystemModel>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QSortFilterProxyModel>
@@ -64,6 +66,16 @@ private:
     const QStringList m_extensions;
 };
 
+// A screen reader knows them by their labels only, and the toolkit doesn't say which those are.
+void nameCombos(const QFileDialog &dialog)
+{
+    for (const QString &name : {u"lookIn"_qs, u"fileType"_qs}) {
+        auto *label = dialog.findChild<QLabel *>(name + u"Label"_qs);
+        auto *combo = dialog.findChild<QComboBox *>(name + u"Combo"_qs);
+        if (label && combo) label->setBuddy(combo);
+    }
+}
+
 std::unique_ptr<QFileDialog> makeMixedDialog(QWidget *parent)
 {
     auto dialog = std::make_unique<MixedFileDialog>(parent);
@@ -72,6 +84,7 @@ std::unique_ptr<QFileDialog> makeMixedDialog(QWidget *parent)
     for (QAbstractItemView *view : dialog->findChildren<QAbstractItemView *>())
         if (view->objectName() == u"listView" || view->objectName() == u"treeView")
             view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    nameCombos(*dialog);
     return dialog;
 }
 

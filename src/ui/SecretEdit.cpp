@@ -2,6 +2,8 @@
 
 #include "keychain/Secret.h"
 
+#include <QSignalBlocker>
+
 namespace ui {
 
 // What is typed goes into the room that the text has. One that has to grow is copied, and nobody overwrites
@@ -18,6 +20,7 @@ void SecretEdit::setSecret(QString &&text)
     roomy += text;
     wipe(text);
     overwrite();
+    const QSignalBlocker quiet(this);
     setText(roomy); // shares what it is given
 }
 

@@ -2,6 +2,7 @@
 
 #include <QLocale>
 #include <QRegularExpression>
+#include <QSignalBlocker>
 #include <array>
 #include <cmath>
 
@@ -34,8 +35,8 @@ std::optional<double> numberOf(const QString &text)
 
 SizeEdit::SizeEdit(QWidget *parent) : QLineEdit(parent)
 {
-    connect(this, &QLineEdit::textEdited, this, [this] { Q_EMIT thousandsEdited(thousands()); });
-    connect(this, &QLineEdit::editingFinished, this, [this] { setText(withUnit(thousands())); });
+    connect(this, &QLineEdit::textChanged, this, [this] { Q_EMIT thousandsEdited(thousands()); });
+    connect(this, &QLineEdit::editingFinished, this, [this] { showSize(thousands()); });
 }
 
 QString SizeEdit::thousands() const
@@ -53,7 +54,13 @@ QString SizeEdit::thousands() const
 
 void SizeEdit::setThousands(const QString &thousands)
 {
-    if (thousands != this->thousands()) setText(withUnit(thousands));
+    if (thousands != this->thousands()) showSize(thousands);
+}
+
+void SizeEdit::showSize(const QString &thousands)
+{
+    const QSignalBlocker quiet(this);
+    setText(withUnit(thousands));
 }
 
 QString SizeEdit::withUnit(const QString &thousands)

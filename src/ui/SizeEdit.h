@@ -22,6 +22,9 @@ public:
 Q_SIGNALS:
     /// Sent when the user typed.
     void thousandsEdited(const QString &thousands);
+
+private:
+    void showSize(const QString &thousands);
 };
 
 } // namespace ui

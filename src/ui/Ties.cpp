@@ -26,11 +26,13 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QTextCursor>
 
-// Widgets tell of the user's doing by signals that setting them from here does not send (textEdited, clicked,
-// activated), so nothing echoes.
+// Widgets tell of the user's doing by signals that setting them from here does not send, so nothing echoes. A
+// screen reader or a keyboard on the screen fills in fields and ticks boxes without textEdited and clicked:
+// of those it is textChanged and toggled, and what the program sets, it sets without a word.
 
 namespace ui {
 namespace {
@@ -46,12 +48,13 @@ void connectWidget(RefreshQueue &queue, outlets::TextField &field, QLineEdit &ed
     queue.watch(field, [&field, &edit] {
         // Setting the text that is there already would move the cursor away under the typing user.
         if (edit.text() == field.text()) return;
+        const QSignalBlocker quiet(edit);
         edit.setText(field.text());
         if (!edit.isReadOnly()) return;
         edit.setCursorPosition(0);
         edit.setToolTip(plainToolTip(field.text()));
     });
-    QObject::connect(&edit, &QLineEdit::textEdited, &edit,
+    QObject::connect(&edit, &QLineEdit::textChanged, &edit,
                      [&field](const QString &text) { field.setText(text); });
 }
 
@@ -69,7 +72,7 @@ void connectWidget(RefreshQueue &queue, outlets::SecretField &field, SecretEdit 
         if (!edit.holds(text)) edit.setSecret(std::move(text));
         wipe(text);
     });
-    QObject::connect(&edit, &QLineEdit::textEdited, &edit,
+    QObject::connect(&edit, &QLineEdit::textChanged, &edit,
                      [&field](const QString &text) { field.setText(text); });
 }
 
@@ -91,8 +94,11 @@ void connectWidget(RefreshQueue &queue, outlets::TextField &field, TextArea &are
 
 void connectWidget(RefreshQueue &queue, outlets::CheckBox &outlet, QCheckBox &box)
 {
-    queue.watch(outlet, [&outlet, &box] { box.setChecked(outlet.isOn()); });
-    QObject::connect(&box, &QCheckBox::clicked, &box, [&outlet](bool on) { outlet.setOn(on); });
+    queue.watch(outlet, [&outlet, &box] {
+        const QSignalBlocker quiet(box);
+        box.setChecked(outlet.isOn());
+    });
+    QObject::connect(&box, &QCheckBox::toggled, &box, [&outlet](bool on) { outlet.setOn(on); });
 }
 
 void connectWidget(RefreshQueue &queue, outlets::Button &outlet, QPushButton &button)
