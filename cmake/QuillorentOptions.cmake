@@ -21,7 +21,8 @@ target_compile_definitions(quillorent-options INTERFACE _FILE_OFFSET_BITS=64)
 
 if(QUILLORENT_SANITIZE)
     target_compile_options(quillorent-options INTERFACE
-        -fsanitize=${QUILLORENT_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+        -fsanitize=${QUILLORENT_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all
+        -g1) # lines are all that a report needs, and it links in half the time
     target_link_options(quillorent-options INTERFACE -fsanitize=${QUILLORENT_SANITIZE})
 else()
     # What makes a fault in memory end the program rather than open it; a packager's own flags come on top.

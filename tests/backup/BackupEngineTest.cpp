@@ -27,6 +27,9 @@ TEST_F(BackupEngine, SaysWhichStageFailed)
 {
     const std::string stored = "\n   RAR 1st OK - SOURCE\n";
     const fs::path source = sample("docs");
+    backUp({source});
+    expectSuccess();
+    const std::string former = readFile(archives / "docs.rar.aes.rar");
     struct Case {
         std::string stage, body; ///< what the tool does there; none: it is missing
         std::string console;     ///< all but its beginning and its end
@@ -54,9 +57,6 @@ TEST_F(BackupEngine, SaysWhichStageFailed)
              {second, "$real \"$@\"; exit 1", "", u"RAR 2nd: the tool ended with status 1"_qs},
          }) {
         SCOPED_TRACE(reason.toStdString() + " | " + console);
-        backUp({source});
-        expectSuccess();
-        const std::string former = readFile(archives / "docs.rar.aes.rar");
         BackupOrder order = backupOrder({source});
         QString &tool = stage == encoder ? order.encoder : order.archiver;
         tool = body.empty() ? u"/nowhere/tool"_qs : fake(tool, stage, body);
