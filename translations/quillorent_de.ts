@@ -1329,7 +1329,7 @@ quillorent-run tut dasselbe ohne Fenster.</translation>
     <name>ProgressFigures</name>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -2147,6 +2147,10 @@ Ihre Datei bleibt, wie sie ist. Reparieren Sie sie, oder verschieben Sie sie: De
     <message>
         <source>volume %1 is as large as those before it, so it may not be the last</source>
         <translation>Teil %1 ist so groß wie die vor ihm, also womöglich nicht der letzte</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a link</source>
+        <translation>„%1“ ist eine Verknüpfung</translation>
     </message>
 </context>
 <context>
@@ -3519,6 +3523,10 @@ Was Sie geändert haben, bleibt nur, solange das Programm läuft. Schaffen Sie P
         <source>Can&apos;t start &quot;%1&quot;: %2. Choose the tool&apos;s path on the Tools tab.</source>
         <translation>„%1“ lässt sich nicht starten: %2. Wählen Sie den Pfad des Werkzeugs auf der Seite „Werkzeuge“.</translation>
     </message>
+    <message>
+        <source>the tool&apos;s message is not readable text</source>
+        <translation>die Meldung des Werkzeugs ist kein lesbarer Text</translation>
+    </message>
 </context>
 <context>
     <name>ui::ArchiveListModel</name>
@@ -3676,7 +3684,7 @@ Was Sie geändert haben, bleibt nur, solange das Programm läuft. Schaffen Sie P
     <name>ui::CompressionHint</name>
     <message>
         <source>archives about %1 % smaller</source>
-        <translation>Archive etwa %1 % kleiner</translation>
+        <translation>Archive etwa %1&#xa0;% kleiner</translation>
     </message>
     <message>
         <source>gains next to nothing here</source>

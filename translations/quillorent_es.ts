@@ -1329,7 +1329,7 @@ quillorent-run hace lo mismo sin ella.</translation>
     <name>ProgressFigures</name>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -2147,6 +2147,10 @@ Su archivo se queda como está. Repárelo o muévalo a otro lugar: en el próxim
     <message>
         <source>volume %1 is as large as those before it, so it may not be the last</source>
         <translation>el volumen %1 es tan grande como los anteriores, así que puede no ser el último</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a link</source>
+        <translation>“%1” es un enlace</translation>
     </message>
 </context>
 <context>
@@ -3519,6 +3523,10 @@ Lo que ha cambiado se conserva solo mientras el programa esté abierto. Libere e
         <source>Can&apos;t start &quot;%1&quot;: %2. Choose the tool&apos;s path on the Tools tab.</source>
         <translation>No se puede iniciar “%1”: %2. Elija la ruta de la herramienta en la pestaña Herramientas.</translation>
     </message>
+    <message>
+        <source>the tool&apos;s message is not readable text</source>
+        <translation>el mensaje de la herramienta no es texto legible</translation>
+    </message>
 </context>
 <context>
     <name>ui::ArchiveListModel</name>
@@ -3676,7 +3684,7 @@ Lo que ha cambiado se conserva solo mientras el programa esté abierto. Libere e
     <name>ui::CompressionHint</name>
     <message>
         <source>archives about %1 % smaller</source>
-        <translation>paquetes cerca de un %1 % más pequeños</translation>
+        <translation>paquetes cerca de un %1&#xa0;% más pequeños</translation>
     </message>
     <message>
         <source>gains next to nothing here</source>

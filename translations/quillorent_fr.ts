@@ -17,11 +17,11 @@
     </message>
     <message>
         <source>© 2026 The Quillorent developers. Free software under the MIT licence: you may use, change and share it; it comes without any warranty.</source>
-        <translation>© 2026 Les développeurs de Quillorent. Logiciel libre sous licence MIT : vous pouvez l’utiliser, le modifier et le partager ; il est fourni sans aucune garantie.</translation>
+        <translation>© 2026 Les développeurs de Quillorent. Logiciel libre sous licence MIT&#xa0;: vous pouvez l’utiliser, le modifier et le partager&#xa0;; il est fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>It stands on these libraries and their licences:</source>
-        <translation>Il s’appuie sur ces bibliothèques et leurs licences :</translation>
+        <translation>Il s’appuie sur ces bibliothèques et leurs licences&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -32,7 +32,7 @@
     </message>
     <message>
         <source>The destination takes no files of that size. Have the archives split into files of less than 4 GB, and back up again.</source>
-        <translation>La destination n’accepte pas de fichiers de cette taille. Faites découper les archives en fichiers de moins de 4 Go, puis relancez la sauvegarde.</translation>
+        <translation>La destination n’accepte pas de fichiers de cette taille. Faites découper les archives en fichiers de moins de 4&#xa0;Go, puis relancez la sauvegarde.</translation>
     </message>
     <message>
         <source>Nothing can be written to the destination any more. Connect its disk anew, or choose another one, and back up again.</source>
@@ -48,11 +48,11 @@
     </message>
     <message>
         <source>A program that the backup needs can&apos;t be started. The Tools tab shows which one and lets you choose it.</source>
-        <translation>Un programme nécessaire à la sauvegarde ne démarre pas. L’onglet « Outils » indique lequel et permet de le choisir.</translation>
+        <translation>Un programme nécessaire à la sauvegarde ne démarre pas. L’onglet «&#xa0;Outils&#xa0;» indique lequel et permet de le choisir.</translation>
     </message>
     <message>
         <source>Back up again. If it fails again, the messages of the tools tell more (Show messages, on the Tools tab).</source>
-        <translation>Relancez la sauvegarde. Si elle échoue encore, les messages des outils en disent plus (« Voir les messages », dans l’onglet « Outils »).</translation>
+        <translation>Relancez la sauvegarde. Si elle échoue encore, les messages des outils en disent plus («&#xa0;Voir les messages&#xa0;», dans l’onglet «&#xa0;Outils&#xa0;»).</translation>
     </message>
 </context>
 <context>
@@ -71,7 +71,7 @@
     <message>
         <source>Backs up folders into encrypted archives, and brings them back. Opens a window;
 quillorent-run does the same without one.</source>
-        <translation>Sauvegarde des dossiers dans des archives chiffrées, et les restaure. Ouvre une fenêtre ;
+        <translation>Sauvegarde des dossiers dans des archives chiffrées, et les restaure. Ouvre une fenêtre&#xa0;;
 quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
@@ -103,7 +103,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Please read this before you go on:</source>
-        <translation>Veuillez lire ceci avant de continuer :</translation>
+        <translation>Veuillez lire ceci avant de continuer&#xa0;:</translation>
     </message>
     <message>
         <source>What to think of before it begins</source>
@@ -161,7 +161,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Part of a name; Return goes to the next one</source>
-        <translation>Partie d’un nom ; Entrée passe au suivant</translation>
+        <translation>Partie d’un nom&#xa0;; Entrée passe au suivant</translation>
     </message>
     <message>
         <source>What the archive holds</source>
@@ -199,7 +199,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Nothing was extracted, because this archive is not whole:</source>
-        <translation>Rien n’a été extrait, car cette archive n’est pas intacte :</translation>
+        <translation>Rien n’a été extrait, car cette archive n’est pas intacte&#xa0;:</translation>
     </message>
     <message>
         <source>The archive that failed its test</source>
@@ -233,7 +233,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>The profile to load; loading makes it the one in use</source>
-        <translation>Le profil à charger ; une fois chargé, il devient le profil actif</translation>
+        <translation>Le profil à charger&#xa0;; une fois chargé, il devient le profil actif</translation>
     </message>
     <message>
         <source>&amp;Load</source>
@@ -281,7 +281,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>In use:</source>
-        <translation>Actif :</translation>
+        <translation>Actif&#xa0;:</translation>
     </message>
     <message>
         <source>Save all profiles</source>
@@ -329,7 +329,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Take the selected entries off the list; the folders themselves stay (Delete)</source>
-        <translation>Retirer de la liste les éléments sélectionnés ; les dossiers eux-mêmes restent (Suppr)</translation>
+        <translation>Retirer de la liste les éléments sélectionnés&#xa0;; les dossiers eux-mêmes restent (Suppr)</translation>
     </message>
     <message>
         <source>Where to</source>
@@ -389,7 +389,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Make several files of this size, called volumes, instead of one large one: for discs, or for places that take no large files. All of them are needed to restore</source>
-        <translation>Créer plusieurs fichiers de cette taille, appelés volumes, au lieu d’un seul grand : pour des disques optiques, ou pour des emplacements qui refusent les grands fichiers. Tous sont nécessaires à la restauration</translation>
+        <translation>Créer plusieurs fichiers de cette taille, appelés volumes, au lieu d’un seul grand&#xa0;: pour des disques optiques, ou pour des emplacements qui refusent les grands fichiers. Tous sont nécessaires à la restauration</translation>
     </message>
     <message>
         <source>Largest size of a file</source>
@@ -397,7 +397,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>With its unit, such as 700 MB or 4.7 GB; a number alone means MB</source>
-        <translation>Avec son unité, par exemple 700 MB ou 4,7 GB (mégaoctets, gigaoctets) ; un nombre seul signifie MB</translation>
+        <translation>Avec son unité, par exemple 700&#xa0;MB ou 4,7&#xa0;GB (mégaoctets, gigaoctets)&#xa0;; un nombre seul signifie MB</translation>
     </message>
     <message>
         <source>Largest size of a file, arrows</source>
@@ -413,7 +413,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Makes archives of documents, mail and the like much smaller; the size of an archive then tells a little of what it holds</source>
-        <translation>Rend bien plus petites les archives de documents, de courriels et autres ; la taille d’une archive révèle alors un peu de son contenu</translation>
+        <translation>Rend bien plus petites les archives de documents, de courriels et autres&#xa0;; la taille d’une archive révèle alors un peu de son contenu</translation>
     </message>
     <message>
         <source>Found by packing samples of what is on the list</source>
@@ -449,7 +449,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Only what came back is a backup: bring something back while you still have it</source>
-        <translation>Seul ce qui a pu être restauré est une sauvegarde : restaurez quelque chose tant que vous l’avez encore</translation>
+        <translation>Seul ce qui a pu être restauré est une sauvegarde&#xa0;: restaurez quelque chose tant que vous l’avez encore</translation>
     </message>
     <message>
         <source>Back &amp;up now</source>
@@ -469,7 +469,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Of an archive that was made in several parts, the first one is enough; the others only have to lie beside it</source>
-        <translation>D’une archive en plusieurs parties, la première suffit ; les autres doivent seulement se trouver à côté</translation>
+        <translation>D’une archive en plusieurs parties, la première suffit&#xa0;; les autres doivent seulement se trouver à côté</translation>
     </message>
     <message>
         <source>Archives to be brought back</source>
@@ -477,7 +477,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Add archives from anywhere; of one in several parts the first is enough</source>
-        <translation>Ajouter des archives, où qu’elles soient ; d’une archive en plusieurs parties, la première suffit</translation>
+        <translation>Ajouter des archives, où qu’elles soient&#xa0;; d’une archive en plusieurs parties, la première suffit</translation>
     </message>
     <message>
         <source>Sin&amp;gle files…</source>
@@ -493,7 +493,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Take the selected archives off the list; the files themselves stay (Delete)</source>
-        <translation>Retirer de la liste les archives sélectionnées ; les fichiers eux-mêmes restent (Suppr)</translation>
+        <translation>Retirer de la liste les archives sélectionnées&#xa0;; les fichiers eux-mêmes restent (Suppr)</translation>
     </message>
     <message>
         <source>&amp;Clear</source>
@@ -505,7 +505,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>To look for single files, the whole archive has to be decrypted: that needs the password, and about as long as bringing back all of it.</source>
-        <translation>Pour y chercher des fichiers, il faut déchiffrer l’archive entière : cela demande le mot de passe, et à peu près autant de temps que de tout restaurer.</translation>
+        <translation>Pour y chercher des fichiers, il faut déchiffrer l’archive entière&#xa0;: cela demande le mot de passe, et à peu près autant de temps que de tout restaurer.</translation>
     </message>
     <message>
         <source>&amp;Into folder</source>
@@ -521,11 +521,11 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>A folder of the name &quot;Restored&quot; in your home folder; it is made if it isn&apos;t there yet</source>
-        <translation>Un dossier nommé « Restored » dans votre dossier personnel ; il est créé s’il n’existe pas encore</translation>
+        <translation>Un dossier nommé «&#xa0;Restored&#xa0;» dans votre dossier personnel&#xa0;; il est créé s’il n’existe pas encore</translation>
     </message>
     <message>
         <source>Use the folder &quot;Restored&quot; in your home folder</source>
-        <translation>Utiliser le dossier « Restored » de votre dossier personnel</translation>
+        <translation>Utiliser le dossier «&#xa0;Restored&#xa0;» de votre dossier personnel</translation>
     </message>
     <message>
         <source>Choo&amp;se…</source>
@@ -541,7 +541,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Only where an archive was renamed its name may not tell any more how it was encrypted. AES, Blowfish and Triple DES are ways to do it with a password; S/MIME is the way to do it for a certificate, and takes the private key that belongs to it. Both are chosen where passwords are.</source>
-        <translation>À régler seulement si une archive a été renommée, car son nom peut alors ne plus indiquer comment elle a été chiffrée. AES, Blowfish et Triple DES chiffrent avec un mot de passe ; S/MIME chiffre pour un certificat, et demande la clé privée correspondante. Les deux se choisissent là où se trouvent les mots de passe.</translation>
+        <translation>À régler seulement si une archive a été renommée, car son nom peut alors ne plus indiquer comment elle a été chiffrée. AES, Blowfish et Triple DES chiffrent avec un mot de passe&#xa0;; S/MIME chiffre pour un certificat, et demande la clé privée correspondante. Les deux se choisissent là où se trouvent les mots de passe.</translation>
     </message>
     <message>
         <source>With the password, by AES</source>
@@ -561,7 +561,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Automatic: as the archive&apos;s name tells</source>
-        <translation>Automatique : selon le nom de l’archive</translation>
+        <translation>Automatique&#xa0;: selon le nom de l’archive</translation>
     </message>
     <message>
         <source>How bringing back ended last time</source>
@@ -629,11 +629,11 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>The two differ: one of them is mistyped.</source>
-        <translation>Les deux diffèrent : l’un d’eux est mal saisi.</translation>
+        <translation>Les deux diffèrent&#xa0;: l’un d’eux est mal saisi.</translation>
     </message>
     <message>
         <source>The keychain is where your desktop keeps passwords; your log-in opens it. Fetch takes the password out of it, Store puts it in. It is lost together with your account: write it down all the same.</source>
-        <translation>Le trousseau est l’endroit où votre bureau conserve les mots de passe ; il s’ouvre avec votre session. « Lire » en sort le mot de passe, « Stocker » l’y met. Il disparaît avec votre compte : notez tout de même le mot de passe.</translation>
+        <translation>Le trousseau est l’endroit où votre bureau conserve les mots de passe&#xa0;; il s’ouvre avec votre session. «&#xa0;Lire&#xa0;» en sort le mot de passe, «&#xa0;Stocker&#xa0;» l’y met. Il disparaît avec votre compte&#xa0;: notez tout de même le mot de passe.</translation>
     </message>
     <message>
         <source>Acco&amp;unt</source>
@@ -665,7 +665,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Store the password in the keychain; one that is there already is never replaced</source>
-        <translation>Stocker le mot de passe dans le trousseau ; celui qui s’y trouve déjà n’est jamais remplacé</translation>
+        <translation>Stocker le mot de passe dans le trousseau&#xa0;; celui qui s’y trouve déjà n’est jamais remplacé</translation>
     </message>
     <message>
         <source>Hide this p&amp;assword</source>
@@ -685,7 +685,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Careful: the text that counts is not the one you see here. The switch &quot;Hide the password&quot; of the typed password decides between the hidden and the shown text; set it like the one above, on the page &quot;Typed password&quot;.</source>
-        <translation>Attention : le texte qui compte n’est pas celui que vous voyez ici. L’option « Masquer le mot de passe » du mot de passe saisi décide entre le texte masqué et le texte affiché ; réglez-la comme celle ci-dessus, à la page « Mot de passe saisi ».</translation>
+        <translation>Attention&#xa0;: le texte qui compte n’est pas celui que vous voyez ici. L’option «&#xa0;Masquer le mot de passe&#xa0;» du mot de passe saisi décide entre le texte masqué et le texte affiché&#xa0;; réglez-la comme celle ci-dessus, à la page «&#xa0;Mot de passe saisi&#xa0;».</translation>
     </message>
     <message>
         <source>Certific&amp;ate</source>
@@ -717,7 +717,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Needed to restore only; the file that belongs to the certificate</source>
-        <translation>Nécessaire pour restaurer seulement ; le fichier qui va avec le certificat</translation>
+        <translation>Nécessaire pour restaurer seulement&#xa0;; le fichier qui va avec le certificat</translation>
     </message>
     <message>
         <source>Choose…</source>
@@ -741,7 +741,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Two files instead of a password: the certificate locks, and only the private key that belongs to it opens. Backups need the certificate alone.</source>
-        <translation>Deux fichiers au lieu d’un mot de passe : le certificat ferme, et seule la clé privée correspondante ouvre. Pour sauvegarder, le certificat suffit.</translation>
+        <translation>Deux fichiers au lieu d’un mot de passe&#xa0;: le certificat ferme, et seule la clé privée correspondante ouvre. Pour sauvegarder, le certificat suffit.</translation>
     </message>
     <message>
         <source>Without this password, or the private key that belongs to the certificate, nobody can open the archives, you included.</source>
@@ -761,7 +761,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Take the selected entries off the list; the files themselves stay (Delete)</source>
-        <translation>Retirer de la liste les éléments sélectionnés ; les fichiers eux-mêmes restent (Suppr)</translation>
+        <translation>Retirer de la liste les éléments sélectionnés&#xa0;; les fichiers eux-mêmes restent (Suppr)</translation>
     </message>
     <message>
         <source>Remove entries from synchronisation</source>
@@ -773,11 +773,11 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Kept with the profile; what is copied is the list above</source>
-        <translation>Conservé avec le profil ; c’est la liste ci-dessus qui est copiée</translation>
+        <translation>Conservé avec le profil&#xa0;; c’est la liste ci-dessus qui est copiée</translation>
     </message>
     <message>
         <source>For your notes; what is copied is the list above</source>
-        <translation>Pour mémoire ; c’est la liste ci-dessus qui est copiée</translation>
+        <translation>Pour mémoire&#xa0;; c’est la liste ci-dessus qui est copiée</translation>
     </message>
     <message>
         <source>Choose the source folder</source>
@@ -821,11 +821,11 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>By date; what is newer at the destination stays</source>
-        <translation>Par date ; ce qui est plus récent à la destination reste</translation>
+        <translation>Par date&#xa0;; ce qui est plus récent à la destination reste</translation>
     </message>
     <message>
         <source>By content; every file is read</source>
-        <translation>Par contenu ; chaque fichier est lu</translation>
+        <translation>Par contenu&#xa0;; chaque fichier est lu</translation>
     </message>
     <message>
         <source>Deletion</source>
@@ -861,7 +861,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Show what would be copied and deleted; nothing is changed</source>
-        <translation>Afficher ce qui serait copié et supprimé ; rien n’est modifié</translation>
+        <translation>Afficher ce qui serait copié et supprimé&#xa0;; rien n’est modifié</translation>
     </message>
     <message>
         <source>Synchronise &amp;now</source>
@@ -873,7 +873,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Programs that do the work. Press Choose, or double-click a path to change it.</source>
-        <translation>Les programmes qui font le travail. Cliquez sur « Choisir », ou double-cliquez sur un chemin pour le modifier.</translation>
+        <translation>Les programmes qui font le travail. Cliquez sur «&#xa0;Choisir&#xa0;», ou double-cliquez sur un chemin pour le modifier.</translation>
     </message>
     <message>
         <source>External tools</source>
@@ -921,7 +921,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Remove these files; the folders that they were made from stay</source>
-        <translation>Supprimer ces fichiers ; les dossiers dont ils proviennent restent</translation>
+        <translation>Supprimer ces fichiers&#xa0;; les dossiers dont ils proviennent restent</translation>
     </message>
     <message>
         <source>&amp;Profile</source>
@@ -1074,11 +1074,11 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     <name>Panels</name>
     <message>
         <source>now: the last one of the list</source>
-        <translation>actuel : le dernier de la liste</translation>
+        <translation>actuel&#xa0;: le dernier de la liste</translation>
     </message>
     <message>
         <source>now: %1</source>
-        <translation>actuel : %1</translation>
+        <translation>actuel&#xa0;: %1</translation>
     </message>
     <message>
         <source>Can&apos;t start</source>
@@ -1181,11 +1181,11 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>AES is the right one; the others are there for whoever must open the archives with old programs</source>
-        <translation>AES est le bon choix ; les autres sont là pour qui doit ouvrir les archives avec d’anciens programmes</translation>
+        <translation>AES est le bon choix&#xa0;; les autres sont là pour qui doit ouvrir les archives avec d’anciens programmes</translation>
     </message>
     <message>
         <source>AES, 256 bits (recommended)</source>
-        <translation>AES, 256 bits (recommandé)</translation>
+        <translation>AES, 256&#xa0;bits (recommandé)</translation>
     </message>
     <message>
         <source>Blowfish (old)</source>
@@ -1201,11 +1201,11 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>S/MIME is the standard by which mail is encrypted for a certificate; other programs can open it</source>
-        <translation>S/MIME est la norme selon laquelle les courriels sont chiffrés pour un certificat ; d’autres programmes savent l’ouvrir</translation>
+        <translation>S/MIME est la norme selon laquelle les courriels sont chiffrés pour un certificat&#xa0;; d’autres programmes savent l’ouvrir</translation>
     </message>
     <message>
         <source>AES, 256 bits, as in mail (S/MIME)</source>
-        <translation>AES, 256 bits, comme pour les courriels (S/MIME)</translation>
+        <translation>AES, 256&#xa0;bits, comme pour les courriels (S/MIME)</translation>
     </message>
     <message>
         <source>Compress before encryptin&amp;g</source>
@@ -1213,7 +1213,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Makes archives of documents, mail and the like much smaller; the size of an archive then tells a little of what it holds</source>
-        <translation>Rend bien plus petites les archives de documents, de courriels et autres ; la taille d’une archive révèle alors un peu de son contenu</translation>
+        <translation>Rend bien plus petites les archives de documents, de courriels et autres&#xa0;; la taille d’une archive révèle alors un peu de son contenu</translation>
     </message>
     <message>
         <source>&amp;Don&apos;t ask when the destination is not empty</source>
@@ -1295,11 +1295,11 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Delete this profile?</source>
-        <translation>Supprimer ce profil ?</translation>
+        <translation>Supprimer ce profil&#xa0;?</translation>
     </message>
     <message>
         <source>Folders and archives stay as they are; only the list of folders and the options are gone, for good once the profiles are saved.</source>
-        <translation>Les dossiers et les archives restent tels quels ; seules la liste des dossiers et les options disparaissent, définitivement une fois les profils enregistrés.</translation>
+        <translation>Les dossiers et les archives restent tels quels&#xa0;; seules la liste des dossiers et les options disparaissent, définitivement une fois les profils enregistrés.</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -1314,22 +1314,22 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     <name>Progress</name>
     <message>
         <source>Time: %1</source>
-        <translation>Durée : %1</translation>
+        <translation>Durée&#xa0;: %1</translation>
     </message>
     <message>
         <source>read: %1</source>
-        <translation>lu : %1</translation>
+        <translation>lu&#xa0;: %1</translation>
     </message>
     <message>
         <source>more at the destination: %1</source>
-        <translation>en plus à la destination : %1</translation>
+        <translation>en plus à la destination&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>ProgressFigures</name>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -1360,7 +1360,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Stop the backup; archives that are finished stay</source>
-        <translation>Arrêter la sauvegarde ; les archives terminées restent</translation>
+        <translation>Arrêter la sauvegarde&#xa0;; les archives terminées restent</translation>
     </message>
 </context>
 <context>
@@ -1391,7 +1391,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Stop; what is restored already stays, and is not complete</source>
-        <translation>Arrêter ; ce qui est déjà restauré reste, et n’est pas complet</translation>
+        <translation>Arrêter&#xa0;; ce qui est déjà restauré reste, et n’est pas complet</translation>
     </message>
 </context>
 <context>
@@ -1410,7 +1410,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Stop; what is copied already stays</source>
-        <translation>Arrêter ; ce qui est déjà copié reste</translation>
+        <translation>Arrêter&#xa0;; ce qui est déjà copié reste</translation>
     </message>
 </context>
 <context>
@@ -1425,7 +1425,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Password from the keychain – please look at the Password tab</source>
-        <translation>Mot de passe du trousseau – voir l’onglet « Mot de passe »</translation>
+        <translation>Mot de passe du trousseau – voir l’onglet «&#xa0;Mot de passe&#xa0;»</translation>
     </message>
     <message>
         <source>Password from the keychain – no account chosen yet</source>
@@ -1449,7 +1449,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Certificate: %1</source>
-        <translation>Certificat : %1</translation>
+        <translation>Certificat&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1471,7 +1471,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Stop the synchronisation?</source>
-        <translation>Arrêter la synchronisation ?</translation>
+        <translation>Arrêter la synchronisation&#xa0;?</translation>
     </message>
     <message>
         <source>What is copied already stays, and the next run goes on from there.</source>
@@ -1487,7 +1487,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Stop restoring?</source>
-        <translation>Arrêter la restauration ?</translation>
+        <translation>Arrêter la restauration&#xa0;?</translation>
     </message>
     <message>
         <source>What is restored already stays, and is not complete.</source>
@@ -1503,7 +1503,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Stop the backup?</source>
-        <translation>Arrêter la sauvegarde ?</translation>
+        <translation>Arrêter la sauvegarde&#xa0;?</translation>
     </message>
     <message>
         <source>Archives that are finished stay. Folders that are not finished keep the archive of the backup before this one.</source>
@@ -1561,7 +1561,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>The extraction folder is not empty:</source>
-        <translation>Le dossier d’extraction n’est pas vide :</translation>
+        <translation>Le dossier d’extraction n’est pas vide&#xa0;:</translation>
     </message>
     <message>
         <source>Extraction folder</source>
@@ -1592,7 +1592,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>The destination folder is not empty:</source>
-        <translation>Le dossier de destination n’est pas vide :</translation>
+        <translation>Le dossier de destination n’est pas vide&#xa0;:</translation>
     </message>
     <message>
         <source>Destination folder</source>
@@ -1623,15 +1623,15 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Very hard to guess. Is it written down in a safe place? A mistyped or forgotten password is a lost backup.</source>
-        <translation>Très difficile à deviner. Est-il noté en lieu sûr ? Un mot de passe mal saisi ou oublié, c’est une sauvegarde perdue.</translation>
+        <translation>Très difficile à deviner. Est-il noté en lieu sûr&#xa0;? Un mot de passe mal saisi ou oublié, c’est une sauvegarde perdue.</translation>
     </message>
     <message>
         <source>Use “%1”, which is chosen but not in use yet</source>
-        <translation>Utiliser « %1 », qui est choisi mais pas encore actif</translation>
+        <translation>Utiliser «&#xa0;%1&#xa0;», qui est choisi mais pas encore actif</translation>
     </message>
     <message>
         <source>Use the chosen profile; it is in use already</source>
-        <translation>Utiliser le profil choisi ; il est déjà actif</translation>
+        <translation>Utiliser le profil choisi&#xa0;; il est déjà actif</translation>
     </message>
 </context>
 <context>
@@ -1650,33 +1650,33 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 s</translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 min</translation>
+        <translation>%1&#xa0;min</translation>
     </message>
     <message>
         <source>%1 h %2 min</source>
-        <translation>%1 h %2 min</translation>
+        <translation>%1&#xa0;h %2&#xa0;min</translation>
     </message>
 </context>
 <context>
     <name>Words</name>
     <message>
         <source>The program has been moved. Its own tools are used from where they are now, in “%1”: %2.</source>
-        <translation>Le programme a été déplacé. Ses propres outils sont désormais utilisés depuis leur emplacement actuel, dans « %1 » : %2.</translation>
+        <translation>Le programme a été déplacé. Ses propres outils sont désormais utilisés depuis leur emplacement actuel, dans «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
     <name>app</name>
     <message>
         <source>%1 of %2 programs that do the work are missing or wrong. The Tools tab shows which: choose the right program there, or install it.</source>
-        <translation>Programmes manquants ou inadaptés : %1 sur les %2 qui font le travail. L’onglet « Outils » indique lesquels : choisissez-y le bon programme, ou installez-le.</translation>
+        <translation>Programmes manquants ou inadaptés&#xa0;: %1 sur les %2 qui font le travail. L’onglet «&#xa0;Outils&#xa0;» indique lesquels&#xa0;: choisissez-y le bon programme, ou installez-le.</translation>
     </message>
     <message>
         <source>Still at work: %1.</source>
-        <translation>Encore à l’œuvre : %1.</translation>
+        <translation>Encore à l’œuvre&#xa0;: %1.</translation>
     </message>
     <message>
         <source>… and %1 more.</source>
@@ -1709,7 +1709,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     <message>
         <source>Left by a run that did not end well, and not encrypted:
 %1</source>
-        <translation>Laissé par une opération qui s’est mal terminée, et non chiffré :
+        <translation>Laissé par une opération qui s’est mal terminée, et non chiffré&#xa0;:
 %1</translation>
     </message>
     <message>
@@ -1720,9 +1720,9 @@ quillorent-run fait la même chose sans fenêtre.</translation>
         <source>The %1 can&apos;t be read:
 %2
 Their file stays as it is. Repair it, or move it away: the next start makes a new one.</source>
-        <translation>Impossible de lire les %1 :
+        <translation>Impossible de lire les %1&#xa0;:
 %2
-Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera créé au prochain démarrage.</translation>
+Leur fichier reste tel quel. Réparez-le, ou déplacez-le&#xa0;: un nouveau sera créé au prochain démarrage.</translation>
     </message>
     <message>
         <source>settings</source>
@@ -1737,35 +1737,35 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     <name>backup</name>
     <message>
         <source>&quot;%1&quot; is a folder, and a file of that name is needed for a while: the backup will fail. Rename it.</source>
-        <translation>« %1 » est un dossier, et un fichier de ce nom est nécessaire pour un moment : la sauvegarde échouera. Renommez-le.</translation>
+        <translation>«&#xa0;%1&#xa0;» est un dossier, et un fichier de ce nom est nécessaire pour un moment&#xa0;: la sauvegarde échouera. Renommez-le.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is there, and its name is needed for a while. It may be yours, or left in clear by a run that was interrupted. It will be called &quot;%2&quot;, and stay.</source>
-        <translation>« %1 » existe, et son nom est nécessaire pour un moment. C’est peut-être un fichier à vous, ou un fichier laissé en clair par une opération interrompue. Il s’appellera « %2 », et restera.</translation>
+        <translation>«&#xa0;%1&#xa0;» existe, et son nom est nécessaire pour un moment. C’est peut-être un fichier à vous, ou un fichier laissé en clair par une opération interrompue. Il s’appellera «&#xa0;%2&#xa0;», et restera.</translation>
     </message>
     <message>
         <source>These archives are in &quot;%1&quot; and will be replaced, other files stay: %2.</source>
-        <translation>Ces archives se trouvent dans « %1 » et seront remplacées ; les autres fichiers restent : %2.</translation>
+        <translation>Ces archives se trouvent dans «&#xa0;%1&#xa0;» et seront remplacées&#xa0;; les autres fichiers restent&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The destination &quot;%1&quot; is not empty. Other files stay as they are.</source>
-        <translation>La destination « %1 » n’est pas vide. Les autres fichiers restent tels quels.</translation>
+        <translation>La destination «&#xa0;%1&#xa0;» n’est pas vide. Les autres fichiers restent tels quels.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not open with this password: it is not the password of the archives there, or this one is damaged. If it is mistyped, stop and correct it. If you go on, the new archives open with this password only.</source>
-        <translation>« %1 » ne s’ouvre pas avec ce mot de passe : ce n’est pas celui des archives qui s’y trouvent, ou bien celle-ci est endommagée. S’il est mal saisi, arrêtez et corrigez-le. Si vous continuez, les nouvelles archives ne s’ouvriront qu’avec ce mot de passe.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne s’ouvre pas avec ce mot de passe&#xa0;: ce n’est pas celui des archives qui s’y trouvent, ou bien celle-ci est endommagée. S’il est mal saisi, arrêtez et corrigez-le. Si vous continuez, les nouvelles archives ne s’ouvriront qu’avec ce mot de passe.</translation>
     </message>
     <message>
         <source>The password was typed only once, and nothing tells whether it is mistyped. Type it again, in the second field on the Password tab: nobody can open what a mistyped password encrypts.</source>
-        <translation>Le mot de passe n’a été saisi qu’une fois, et rien n’indique s’il contient une faute de frappe. Saisissez-le à nouveau, dans le second champ de l’onglet « Mot de passe » : personne ne peut ouvrir ce qu’un mot de passe mal saisi a chiffré.</translation>
+        <translation>Le mot de passe n’a été saisi qu’une fois, et rien n’indique s’il contient une faute de frappe. Saisissez-le à nouveau, dans le second champ de l’onglet «&#xa0;Mot de passe&#xa0;»&#xa0;: personne ne peut ouvrir ce qu’un mot de passe mal saisi a chiffré.</translation>
     </message>
     <message>
         <source>The password and its repetition differ: one of them is mistyped. Type both again on the Password tab: nobody can open what a mistyped password encrypts.</source>
-        <translation>Le mot de passe et sa confirmation diffèrent : l’un d’eux est mal saisi. Saisissez-les tous deux à nouveau dans l’onglet « Mot de passe » : personne ne peut ouvrir ce qu’un mot de passe mal saisi a chiffré.</translation>
+        <translation>Le mot de passe et sa confirmation diffèrent&#xa0;: l’un d’eux est mal saisi. Saisissez-les tous deux à nouveau dans l’onglet «&#xa0;Mot de passe&#xa0;»&#xa0;: personne ne peut ouvrir ce qu’un mot de passe mal saisi a chiffré.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is listed more than once, and is backed up as often, one after the other, into one archive.</source>
-        <translation>« %1 » figure plusieurs fois dans la liste, et sera sauvegardé autant de fois, l’une après l’autre, dans une seule archive.</translation>
+        <translation>«&#xa0;%1&#xa0;» figure plusieurs fois dans la liste, et sera sauvegardé autant de fois, l’une après l’autre, dans une seule archive.</translation>
     </message>
     <message>
         <source>it is not there</source>
@@ -1777,7 +1777,7 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     </message>
     <message>
         <source>Failed: %1</source>
-        <translation>Échec : %1</translation>
+        <translation>Échec&#xa0;: %1</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -1785,35 +1785,35 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     </message>
     <message>
         <source>Backed up %1 of %2 (%3).</source>
-        <translation>Sauvegardé : %1 sur %2 (%3).</translation>
+        <translation>Sauvegardé&#xa0;: %1 sur %2 (%3).</translation>
     </message>
     <message>
         <source>Not found: %1.</source>
-        <translation>Introuvable : %1.</translation>
+        <translation>Introuvable&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Left out, as they are neither files nor folders: %1.</source>
-        <translation>Ignoré, car ni fichier ni dossier : %1.</translation>
+        <translation>Ignoré, car ni fichier ni dossier&#xa0;: %1.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be given another name while its successor is made.</source>
-        <translation>« %1 » ne peut pas recevoir un autre nom le temps de créer l’archive qui le remplacera.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas recevoir un autre nom le temps de créer l’archive qui le remplacera.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be given another name while its successor is made: %2.</source>
-        <translation>« %1 » ne peut pas recevoir un autre nom le temps de créer l’archive qui le remplacera : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas recevoir un autre nom le temps de créer l’archive qui le remplacera&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The former archive is called &quot;%1&quot; now: %2.</source>
-        <translation>L’archive précédente s’appelle maintenant « %1 » : %2.</translation>
+        <translation>L’archive précédente s’appelle maintenant «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is left and is not encrypted: run the backup again, or remove it.</source>
-        <translation>« %1 » est resté et n’est pas chiffré : relancez la sauvegarde, ou supprimez-le.</translation>
+        <translation>«&#xa0;%1&#xa0;» est resté et n’est pas chiffré&#xa0;: relancez la sauvegarde, ou supprimez-le.</translation>
     </message>
     <message>
         <source>The settings have no %1, and without it files would be lost. Repair the settings file, or move it away: the next start makes a new one.</source>
-        <translation>Il manque aux réglages : %1. Sans cela, des fichiers seraient perdus. Réparez le fichier de réglages, ou déplacez-le : un nouveau sera créé au prochain démarrage.</translation>
+        <translation>Il manque aux réglages&#xa0;: %1. Sans cela, des fichiers seraient perdus. Réparez le fichier de réglages, ou déplacez-le&#xa0;: un nouveau sera créé au prochain démarrage.</translation>
     </message>
     <message>
         <source>file extension of archives (&quot;extensions&quot;, &quot;RAR&quot;)</source>
@@ -1821,11 +1821,11 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     </message>
     <message>
         <source>file extension of &quot;%1&quot; (&quot;extensions&quot;)</source>
-        <translation>extension de fichier de « %1 » (&quot;extensions&quot;)</translation>
+        <translation>extension de fichier de «&#xa0;%1&#xa0;» (&quot;extensions&quot;)</translation>
     </message>
     <message>
         <source>command for &quot;%1&quot; (&quot;encparam&quot;)</source>
-        <translation>commande pour « %1 » (&quot;encparam&quot;)</translation>
+        <translation>commande pour «&#xa0;%1&#xa0;» (&quot;encparam&quot;)</translation>
     </message>
     <message>
         <source>path of the archiver (&quot;external&quot;, &quot;RAR&quot;)</source>
@@ -1849,43 +1849,43 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     </message>
     <message>
         <source>The destination &quot;%1&quot; does not exist or is no folder. Connect its disk, or choose another one.</source>
-        <translation>La destination « %1 » n’existe pas ou n’est pas un dossier. Connectez son disque, ou choisissez-en une autre.</translation>
+        <translation>La destination «&#xa0;%1&#xa0;» n’existe pas ou n’est pas un dossier. Connectez son disque, ou choisissez-en une autre.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no size of volumes, the files that an archive is split into. Choose a size such as 700 MB, or switch the splitting off.</source>
-        <translation>« %1 » n’est pas une taille de volume (les fichiers en lesquels une archive est découpée). Choisissez une taille comme 700 MB, ou désactivez le découpage.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une taille de volume (les fichiers en lesquels une archive est découpée). Choisissez une taille comme 700&#xa0;MB, ou désactivez le découpage.</translation>
     </message>
     <message>
         <source>The archive of &quot;%1&quot; would have a name that is too long for a file. Rename it, or back up the folder that it lies in.</source>
-        <translation>L’archive de « %1 » aurait un nom trop long pour un fichier. Renommez-le, ou sauvegardez le dossier dans lequel il se trouve.</translation>
+        <translation>L’archive de «&#xa0;%1&#xa0;» aurait un nom trop long pour un fichier. Renommez-le, ou sauvegardez le dossier dans lequel il se trouve.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; and &quot;%2&quot; would both need the file &quot;%3&quot; in the destination, and one archive would replace the other. Rename one of them, or back it up by a profile of its own.</source>
-        <translation>« %1 » et « %2 » auraient tous deux besoin du fichier « %3 » dans la destination, et une archive remplacerait l’autre. Renommez l’un des deux, ou sauvegardez-le avec un profil à part.</translation>
+        <translation>«&#xa0;%1&#xa0;» et «&#xa0;%2&#xa0;» auraient tous deux besoin du fichier «&#xa0;%3&#xa0;» dans la destination, et une archive remplacerait l’autre. Renommez l’un des deux, ou sauvegardez-le avec un profil à part.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is on the list, and its name is needed for the archive of &quot;%2&quot;. Choose another destination, or rename it.</source>
-        <translation>« %1 » est dans la liste, et son nom est nécessaire pour l’archive de « %2 ». Choisissez une autre destination, ou renommez-le.</translation>
+        <translation>«&#xa0;%1&#xa0;» est dans la liste, et son nom est nécessaire pour l’archive de «&#xa0;%2&#xa0;». Choisissez une autre destination, ou renommez-le.</translation>
     </message>
     <message>
         <source>No password was fetched from the keychain. Fetch it: without a password nothing is backed up.</source>
-        <translation>Aucun mot de passe n’a été lu dans le trousseau. Lisez-le : sans mot de passe, rien n’est sauvegardé.</translation>
+        <translation>Aucun mot de passe n’a été lu dans le trousseau. Lisez-le&#xa0;: sans mot de passe, rien n’est sauvegardé.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not there, and is left out. Connect its disk, or remove it from the list.</source>
-        <translation>« %1 » est introuvable, et sera ignoré. Connectez son disque, ou retirez-le de la liste.</translation>
+        <translation>«&#xa0;%1&#xa0;» est introuvable, et sera ignoré. Connectez son disque, ou retirez-le de la liste.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is %2, and is left out.</source>
-        <translation>« %1 » est %2, et sera ignoré.</translation>
+        <translation>«&#xa0;%1&#xa0;» est %2, et sera ignoré.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a link, and only the link itself would be backed up, nothing that it leads to. Put a slash behind it, or add the folder that it leads to.</source>
-        <translation>« %1 » est un lien, et seul le lien lui-même serait sauvegardé, rien de ce à quoi il mène. Ajoutez une barre oblique à la fin, ou ajoutez le dossier auquel il mène.</translation>
+        <translation>«&#xa0;%1&#xa0;» est un lien, et seul le lien lui-même serait sauvegardé, rien de ce à quoi il mène. Ajoutez une barre oblique à la fin, ou ajoutez le dossier auquel il mène.</translation>
     </message>
     <message>
         <source>The destination &quot;%1&quot; lies in &quot;%2&quot;, so each archive would hold the ones before it. Choose another destination.</source>
-        <translation>La destination « %1 » se trouve dans « %2 » : chaque archive contiendrait donc les précédentes. Choisissez une autre destination.</translation>
+        <translation>La destination «&#xa0;%1&#xa0;» se trouve dans «&#xa0;%2&#xa0;»&#xa0;: chaque archive contiendrait donc les précédentes. Choisissez une autre destination.</translation>
     </message>
     <message>
         <source>and %1 more</source>
@@ -1896,143 +1896,143 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     <name>extract</name>
     <message>
         <source>&quot;%1&quot; is no archive</source>
-        <translation>« %1 » n’est pas une archive</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une archive</translation>
     </message>
     <message>
         <source>There is no &quot;%1&quot; in &quot;%2&quot;, so nothing was brought back. The archive&apos;s paths look like &quot;%3&quot;.</source>
-        <translation>Il n’y a pas de « %1 » dans « %2 » : rien n’a donc été restauré. Les chemins de l’archive ressemblent à « %3 ».</translation>
+        <translation>Il n’y a pas de «&#xa0;%1&#xa0;» dans «&#xa0;%2&#xa0;»&#xa0;: rien n’a donc été restauré. Les chemins de l’archive ressemblent à «&#xa0;%3&#xa0;».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not extracted: its path has &quot;part&quot; and, after that, a number as later volumes have it. Move or rename it, and add it again.</source>
-        <translation>« %1 » n’est pas extrait : son chemin contient « part » suivi d’un numéro, comme celui des volumes qui suivent le premier. Déplacez-le ou renommez-le, puis ajoutez-le à nouveau.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas extrait&#xa0;: son chemin contient «&#xa0;part&#xa0;» suivi d’un numéro, comme celui des volumes qui suivent le premier. Déplacez-le ou renommez-le, puis ajoutez-le à nouveau.</translation>
     </message>
     <message>
         <source>The first volume is missing: &quot;%1&quot; is volume %2 of its set. Add the first one, &quot;%3.part1.rar&quot; or &quot;…part01.rar&quot;.</source>
-        <translation>Le premier volume manque : « %1 » est le volume %2 de sa série. Ajoutez le premier, « %3.part1.rar » ou « …part01.rar ».</translation>
+        <translation>Le premier volume manque&#xa0;: «&#xa0;%1&#xa0;» est le volume %2 de sa série. Ajoutez le premier, «&#xa0;%3.part1.rar&#xa0;» ou «&#xa0;…part01.rar&#xa0;».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be the path of anything in an archive. Name a file or a folder as the archive has it, such as &quot;home/anna/letter&quot;.</source>
-        <translation>« %1 » ne peut pas être un chemin dans une archive. Indiquez un fichier ou un dossier comme l’archive le nomme, par exemple « home/anna/letter ».</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être un chemin dans une archive. Indiquez un fichier ou un dossier comme l’archive le nomme, par exemple «&#xa0;home/anna/letter&#xa0;».</translation>
     </message>
     <message>
         <source>%1 Extract again; if it happens again, the machine may be short of memory.</source>
-        <translation>%1 Relancez l’extraction ; si cela se reproduit, la machine manque peut-être de mémoire.</translation>
+        <translation>%1 Relancez l’extraction&#xa0;; si cela se reproduit, la machine manque peut-être de mémoire.</translation>
     </message>
     <message>
         <source>The disk of &quot;%1&quot; is full. Make room, or choose a folder on another disk, and extract again.</source>
-        <translation>Le disque de « %1 » est plein. Libérez de la place, ou choisissez un dossier sur un autre disque, puis relancez l’extraction.</translation>
+        <translation>Le disque de «&#xa0;%1&#xa0;» est plein. Libérez de la place, ou choisissez un dossier sur un autre disque, puis relancez l’extraction.</translation>
     </message>
     <message>
         <source>Nothing may be written into &quot;%1&quot;. Choose another folder, or change its permissions.</source>
-        <translation>Rien ne peut être écrit dans « %1 ». Choisissez un autre dossier, ou modifiez ses droits d’accès.</translation>
+        <translation>Rien ne peut être écrit dans «&#xa0;%1&#xa0;». Choisissez un autre dossier, ou modifiez ses droits d’accès.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a folder, and a file of that name is needed for a while. Rename it, or extract into another folder.</source>
-        <translation>« %1 » est un dossier, et un fichier de ce nom est nécessaire pour un moment. Renommez-le, ou extrayez dans un autre dossier.</translation>
+        <translation>«&#xa0;%1&#xa0;» est un dossier, et un fichier de ce nom est nécessaire pour un moment. Renommez-le, ou extrayez dans un autre dossier.</translation>
     </message>
     <message>
         <source>A volume is missing: %1. Put all volumes of the set into one folder and extract again.</source>
-        <translation>Un volume manque : %1. Placez tous les volumes de la série dans un même dossier, puis relancez l’extraction.</translation>
+        <translation>Un volume manque&#xa0;: %1. Placez tous les volumes de la série dans un même dossier, puis relancez l’extraction.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not the first volume of its set. Add the first one; the others are found by it.</source>
-        <translation>« %1 » n’est pas le premier volume de sa série. Ajoutez le premier ; il permet de trouver les autres.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas le premier volume de sa série. Ajoutez le premier&#xa0;; il permet de trouver les autres.</translation>
     </message>
     <message>
         <source>The volumes of &quot;%1&quot; do not belong together: %2. Put those of one set into one folder.</source>
-        <translation>Les volumes de « %1 » ne vont pas ensemble : %2. Placez ceux d’une même série dans un même dossier.</translation>
+        <translation>Les volumes de «&#xa0;%1&#xa0;» ne vont pas ensemble&#xa0;: %2. Placez ceux d’une même série dans un même dossier.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is cut short: a part of it was lost when it was copied, or the copy is not finished. Copy it again: %2.</source>
-        <translation>« %1 » est tronqué : une partie a été perdue lors de la copie, ou la copie n’est pas terminée. Copiez-le à nouveau : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» est tronqué&#xa0;: une partie a été perdue lors de la copie, ou la copie n’est pas terminée. Copiez-le à nouveau&#xa0;: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is damaged: %2. Fetch another copy of it.</source>
-        <translation>« %1 » est endommagé : %2. Procurez-vous une autre copie.</translation>
+        <translation>«&#xa0;%1&#xa0;» est endommagé&#xa0;: %2. Procurez-vous une autre copie.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no archive, whatever its name: %2.</source>
-        <translation>« %1 » n’est pas une archive, malgré son nom : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une archive, malgré son nom&#xa0;: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be unpacked: %2.</source>
-        <translation>« %1 » ne peut pas être décompressé : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être décompressé&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The private key can&apos;t be read. Choose the one that belongs to the certificate, on the Password tab.</source>
-        <translation>La clé privée est illisible. Choisissez celle qui va avec le certificat, dans l’onglet « Mot de passe ».</translation>
+        <translation>La clé privée est illisible. Choisissez celle qui va avec le certificat, dans l’onglet «&#xa0;Mot de passe&#xa0;».</translation>
     </message>
     <message>
         <source>The certificate can&apos;t be read. Choose the one that the archive was encrypted for, on the Password tab.</source>
-        <translation>Le certificat est illisible. Choisissez celui pour lequel l’archive a été chiffrée, dans l’onglet « Mot de passe ».</translation>
+        <translation>Le certificat est illisible. Choisissez celui pour lequel l’archive a été chiffrée, dans l’onglet «&#xa0;Mot de passe&#xa0;».</translation>
     </message>
     <message>
         <source>What is in &quot;%1&quot; is damaged, or was not encrypted for a certificate: %2. Fetch another copy, or choose another decryption method.</source>
-        <translation>Le contenu de « %1 » est endommagé, ou n’a pas été chiffré pour un certificat : %2. Procurez-vous une autre copie, ou choisissez une autre méthode de déchiffrement.</translation>
+        <translation>Le contenu de «&#xa0;%1&#xa0;» est endommagé, ou n’a pas été chiffré pour un certificat&#xa0;: %2. Procurez-vous une autre copie, ou choisissez une autre méthode de déchiffrement.</translation>
     </message>
     <message>
         <source>The private key or the certificate is not usable: %1. A key with a pass phrase can&apos;t be used.</source>
-        <translation>La clé privée ou le certificat est inutilisable : %1. Une clé protégée par une phrase secrète ne peut pas être utilisée.</translation>
+        <translation>La clé privée ou le certificat est inutilisable&#xa0;: %1. Une clé protégée par une phrase secrète ne peut pas être utilisée.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be decrypted with this private key and certificate: %2. Choose the pair that it was encrypted for, on the Password tab.</source>
-        <translation>« %1 » ne peut pas être déchiffré avec cette clé privée et ce certificat : %2. Choisissez la paire pour laquelle il a été chiffré, dans l’onglet « Mot de passe ».</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être déchiffré avec cette clé privée et ce certificat&#xa0;: %2. Choisissez la paire pour laquelle il a été chiffré, dans l’onglet «&#xa0;Mot de passe&#xa0;».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; holds a link where the encrypted file should be. It was not made by a backup: don&apos;t trust it.</source>
-        <translation>« %1 » contient un lien là où devrait se trouver le fichier chiffré. Cette archive ne vient pas d’une sauvegarde : ne vous y fiez pas.</translation>
+        <translation>«&#xa0;%1&#xa0;» contient un lien là où devrait se trouver le fichier chiffré. Cette archive ne vient pas d’une sauvegarde&#xa0;: ne vous y fiez pas.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not hold the file &quot;%2&quot; that its name promises. Give the archive back the name that it had, or it is none of a backup&apos;s.</source>
-        <translation>« %1 » ne contient pas le fichier « %2 » que son nom annonce. Rendez à l’archive le nom qu’elle portait ; sinon, elle ne vient pas d’une sauvegarde.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne contient pas le fichier «&#xa0;%2&#xa0;» que son nom annonce. Rendez à l’archive le nom qu’elle portait&#xa0;; sinon, elle ne vient pas d’une sauvegarde.</translation>
     </message>
     <message>
         <source>The name of &quot;%1&quot; does not tell how it was encrypted. Choose the decryption method, and extract again.</source>
-        <translation>Le nom de « %1 » n’indique pas comment il a été chiffré. Choisissez la méthode de déchiffrement, puis relancez l’extraction.</translation>
+        <translation>Le nom de «&#xa0;%1&#xa0;» n’indique pas comment il a été chiffré. Choisissez la méthode de déchiffrement, puis relancez l’extraction.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be decrypted with the method that is chosen; its name tells another one. Choose the automatic method.</source>
-        <translation>« %1 » ne peut pas être déchiffré avec la méthode choisie ; son nom en indique une autre. Choisissez la méthode automatique.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être déchiffré avec la méthode choisie&#xa0;; son nom en indique une autre. Choisissez la méthode automatique.</translation>
     </message>
     <message>
         <source>The password is wrong: &quot;%1&quot; can&apos;t be decrypted with it. Type the one that the archive was made with.</source>
-        <translation>Le mot de passe est incorrect : il ne permet pas de déchiffrer « %1 ». Saisissez celui avec lequel l’archive a été créée.</translation>
+        <translation>Le mot de passe est incorrect&#xa0;: il ne permet pas de déchiffrer «&#xa0;%1&#xa0;». Saisissez celui avec lequel l’archive a été créée.</translation>
     </message>
     <message>
         <source>What is in &quot;%1&quot; was not encrypted by a password, or it is damaged. Choose another decryption method, or fetch another copy.</source>
-        <translation>Le contenu de « %1 » n’a pas été chiffré par un mot de passe, ou il est endommagé. Choisissez une autre méthode de déchiffrement, ou procurez-vous une autre copie.</translation>
+        <translation>Le contenu de «&#xa0;%1&#xa0;» n’a pas été chiffré par un mot de passe, ou il est endommagé. Choisissez une autre méthode de déchiffrement, ou procurez-vous une autre copie.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be decrypted: %2.</source>
-        <translation>« %1 » ne peut pas être déchiffré : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être déchiffré&#xa0;: %2.</translation>
     </message>
     <message>
         <source>What &quot;%1&quot; was decrypted to is no archive. The private key is wrong, or the archive is none of a backup&apos;s.</source>
-        <translation>Le résultat du déchiffrement de « %1 » n’est pas une archive. La clé privée n’est pas la bonne, ou l’archive ne vient pas d’une sauvegarde.</translation>
+        <translation>Le résultat du déchiffrement de «&#xa0;%1&#xa0;» n’est pas une archive. La clé privée n’est pas la bonne, ou l’archive ne vient pas d’une sauvegarde.</translation>
     </message>
     <message>
         <source>The password is probably wrong: what &quot;%1&quot; was decrypted to is no archive. Type the one that the archive was made with.</source>
-        <translation>Le mot de passe est probablement incorrect : le résultat du déchiffrement de « %1 » n’est pas une archive. Saisissez celui avec lequel l’archive a été créée.</translation>
+        <translation>Le mot de passe est probablement incorrect&#xa0;: le résultat du déchiffrement de «&#xa0;%1&#xa0;» n’est pas une archive. Saisissez celui avec lequel l’archive a été créée.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; holds names that lead out of &quot;%2&quot;: %3. They were left out; don&apos;t trust the archive.</source>
-        <translation>« %1 » contient des noms qui mènent hors de « %2 » : %3. Ils ont été ignorés ; ne vous fiez pas à cette archive.</translation>
+        <translation>«&#xa0;%1&#xa0;» contient des noms qui mènent hors de «&#xa0;%2&#xa0;»&#xa0;: %3. Ils ont été ignorés&#xa0;; ne vous fiez pas à cette archive.</translation>
     </message>
     <message>
         <source>A name in &quot;%1&quot; is taken by something else in &quot;%2&quot;: %3. Rename that, or extract into an empty folder.</source>
-        <translation>Un nom de « %1 » est déjà pris par autre chose dans « %2 » : %3. Renommez cet élément, ou extrayez dans un dossier vide.</translation>
+        <translation>Un nom de «&#xa0;%1&#xa0;» est déjà pris par autre chose dans «&#xa0;%2&#xa0;»&#xa0;: %3. Renommez cet élément, ou extrayez dans un dossier vide.</translation>
     </message>
     <message>
         <source>The archiver left out a link of &quot;%1&quot;: %2. It makes none that lead to an absolute path or out of the folder. Quillorent&apos;s own archiver does: choose it on the Tools tab, and extract again.</source>
-        <translation>L’outil d’archivage a ignoré un lien de « %1 » : %2. Il n’en crée aucun qui mène à un chemin absolu ou hors du dossier. L’outil d’archivage de Quillorent le fait : choisissez-le dans l’onglet « Outils », puis relancez l’extraction.</translation>
+        <translation>L’outil d’archivage a ignoré un lien de «&#xa0;%1&#xa0;»&#xa0;: %2. Il n’en crée aucun qui mène à un chemin absolu ou hors du dossier. L’outil d’archivage de Quillorent le fait&#xa0;: choisissez-le dans l’onglet «&#xa0;Outils&#xa0;», puis relancez l’extraction.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is one of the archives, and its name is needed for what comes out of &quot;%2&quot;. Extract into another folder.</source>
-        <translation>« %1 » est l’une des archives, et son nom est nécessaire pour ce qui sort de « %2 ». Extrayez dans un autre dossier.</translation>
+        <translation>«&#xa0;%1&#xa0;» est l’une des archives, et son nom est nécessaire pour ce qui sort de «&#xa0;%2&#xa0;». Extrayez dans un autre dossier.</translation>
     </message>
     <message>
         <source>The set of &quot;%1&quot; seems incomplete or mixed: %2. Put all its volumes, and no others, into one folder.</source>
-        <translation>La série de « %1 » semble incomplète ou mélangée : %2. Placez tous ses volumes, et aucun autre, dans un même dossier.</translation>
+        <translation>La série de «&#xa0;%1&#xa0;» semble incomplète ou mélangée&#xa0;: %2. Placez tous ses volumes, et aucun autre, dans un même dossier.</translation>
     </message>
     <message>
         <source>No private key is chosen. Without it nothing that was encrypted for a certificate can be decrypted.</source>
@@ -2040,7 +2040,7 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     </message>
     <message>
         <source>The private key &quot;%1&quot; can&apos;t be read.</source>
-        <translation>La clé privée « %1 » est illisible.</translation>
+        <translation>La clé privée «&#xa0;%1&#xa0;» est illisible.</translation>
     </message>
     <message>
         <source>No certificate is chosen. Choose the one that the archives were encrypted for.</source>
@@ -2048,27 +2048,27 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     </message>
     <message>
         <source>The certificate &quot;%1&quot; can&apos;t be read.</source>
-        <translation>Le certificat « %1 » est illisible.</translation>
+        <translation>Le certificat «&#xa0;%1&#xa0;» est illisible.</translation>
     </message>
     <message>
         <source>The name of &quot;%1&quot; does not tell how it was encrypted. Choose the method, unless the name of what is in it tells.</source>
-        <translation>Le nom de « %1 » n’indique pas comment il a été chiffré. Choisissez la méthode, à moins que le nom de son contenu ne l’indique.</translation>
+        <translation>Le nom de «&#xa0;%1&#xa0;» n’indique pas comment il a été chiffré. Choisissez la méthode, à moins que le nom de son contenu ne l’indique.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was encrypted by a password, and a certificate is chosen. Choose a password on the Password tab.</source>
-        <translation>« %1 » a été chiffré par un mot de passe, et c’est un certificat qui est choisi. Choisissez un mot de passe dans l’onglet « Mot de passe ».</translation>
+        <translation>«&#xa0;%1&#xa0;» a été chiffré par un mot de passe, et c’est un certificat qui est choisi. Choisissez un mot de passe dans l’onglet «&#xa0;Mot de passe&#xa0;».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a folder, and a file of that name is needed for a while. Rename it.</source>
-        <translation>« %1 » est un dossier, et un fichier de ce nom est nécessaire pour un moment. Renommez-le.</translation>
+        <translation>«&#xa0;%1&#xa0;» est un dossier, et un fichier de ce nom est nécessaire pour un moment. Renommez-le.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is there, and its name is needed for a while. It will get another name, which begins with &quot;kept&quot;, and stay.</source>
-        <translation>« %1 » existe, et son nom est nécessaire pour un moment. Il recevra un autre nom, qui commence par « kept », et restera.</translation>
+        <translation>«&#xa0;%1&#xa0;» existe, et son nom est nécessaire pour un moment. Il recevra un autre nom, qui commence par «&#xa0;kept&#xa0;», et restera.</translation>
     </message>
     <message>
         <source>Two archives need the name &quot;%1&quot; for a while. They are extracted one after the other; what the second would replace goes into a folder of its own.</source>
-        <translation>Deux archives ont besoin du nom « %1 » pour un moment. Elles sont extraites l’une après l’autre ; ce que la seconde remplacerait va dans un dossier à part.</translation>
+        <translation>Deux archives ont besoin du nom «&#xa0;%1&#xa0;» pour un moment. Elles sont extraites l’une après l’autre&#xa0;; ce que la seconde remplacerait va dans un dossier à part.</translation>
     </message>
     <message>
         <source>Single files are looked for in one archive at a time. Choose one archive, or of a set its first volume.</source>
@@ -2076,15 +2076,15 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     </message>
     <message>
         <source>The extraction folder &quot;%1&quot; does not exist or is no folder. Connect its disk, or choose another one.</source>
-        <translation>Le dossier d’extraction « %1 » n’existe pas ou n’est pas un dossier. Connectez son disque, ou choisissez-en un autre.</translation>
+        <translation>Le dossier d’extraction «&#xa0;%1&#xa0;» n’existe pas ou n’est pas un dossier. Connectez son disque, ou choisissez-en un autre.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not there any more, or can&apos;t be read.</source>
-        <translation>« %1 » n’existe plus, ou est illisible.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’existe plus, ou est illisible.</translation>
     </message>
     <message>
         <source>The extraction folder &quot;%1&quot; is not empty. Files of the same name are replaced.</source>
-        <translation>Le dossier d’extraction « %1 » n’est pas vide. Les fichiers de même nom seront remplacés.</translation>
+        <translation>Le dossier d’extraction «&#xa0;%1&#xa0;» n’est pas vide. Les fichiers de même nom seront remplacés.</translation>
     </message>
     <message>
         <source>its name is that of a later volume</source>
@@ -2093,24 +2093,24 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     <message numerus="yes">
         <source>Looked into the archive: it holds %n file(s) and folder(s).</source>
         <translation>
-            <numerusform>L’archive a été examinée : elle contient %n fichier ou dossier.</numerusform>
-            <numerusform>L’archive a été examinée : elle contient %n fichiers et dossiers.</numerusform>
+            <numerusform>L’archive a été examinée&#xa0;: elle contient %n fichier ou dossier.</numerusform>
+            <numerusform>L’archive a été examinée&#xa0;: elle contient %n fichiers et dossiers.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Brought back what was chosen, %n file(s) or folder(s), to &quot;%1&quot;.</source>
         <translation>
-            <numerusform>La sélection, %n fichier ou dossier, a été restaurée dans « %1 ».</numerusform>
-            <numerusform>La sélection, %n fichiers et dossiers, a été restaurée dans « %1 ».</numerusform>
+            <numerusform>La sélection, %n fichier ou dossier, a été restaurée dans «&#xa0;%1&#xa0;».</numerusform>
+            <numerusform>La sélection, %n fichiers et dossiers, a été restaurée dans «&#xa0;%1&#xa0;».</numerusform>
         </translation>
     </message>
     <message>
         <source>Extracted %1 of %2 into &quot;%3&quot;.</source>
-        <translation>Archives extraites dans « %3 » : %1 sur %2.</translation>
+        <translation>Archives extraites dans «&#xa0;%3&#xa0;»&#xa0;: %1 sur %2.</translation>
     </message>
     <message>
         <source>Failed: %1</source>
-        <translation>Échec : %1</translation>
+        <translation>Échec&#xa0;: %1</translation>
     </message>
     <message>
         <source>Cancelled. What was chosen may have been brought back in part.</source>
@@ -2122,15 +2122,15 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     </message>
     <message>
         <source>&quot;%1&quot; has what would have replaced files of another archive.</source>
-        <translation>« %1 » contient ce qui aurait remplacé les fichiers d’une autre archive.</translation>
+        <translation>«&#xa0;%1&#xa0;» contient ce qui aurait remplacé les fichiers d’une autre archive.</translation>
     </message>
     <message>
         <source>Not extracted, as they look like later volumes: %1.</source>
-        <translation>Non extrait, car ressemblant à des volumes qui suivent le premier : %1.</translation>
+        <translation>Non extrait, car ressemblant à des volumes qui suivent le premier&#xa0;: %1.</translation>
     </message>
     <message>
         <source>volume %1 is there twice, so some are leftovers of another backup</source>
-        <translation>le volume %1 existe en double : certains sont donc des restes d’une autre sauvegarde</translation>
+        <translation>le volume %1 existe en double&#xa0;: certains sont donc des restes d’une autre sauvegarde</translation>
     </message>
     <message>
         <source>volume %1 is missing</source>
@@ -2146,7 +2146,11 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     </message>
     <message>
         <source>volume %1 is as large as those before it, so it may not be the last</source>
-        <translation>le volume %1 est aussi grand que les précédents : ce n’est donc peut-être pas le dernier</translation>
+        <translation>le volume %1 est aussi grand que les précédents&#xa0;: ce n’est donc peut-être pas le dernier</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a link</source>
+        <translation>« %1 » est un lien</translation>
     </message>
 </context>
 <context>
@@ -2157,7 +2161,7 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     </message>
     <message>
         <source>No password is given. Type one on the Password tab; without a password nothing is extracted.</source>
-        <translation>Aucun mot de passe n’est indiqué. Saisissez-en un dans l’onglet « Mot de passe » ; sans mot de passe, rien n’est extrait.</translation>
+        <translation>Aucun mot de passe n’est indiqué. Saisissez-en un dans l’onglet «&#xa0;Mot de passe&#xa0;»&#xa0;; sans mot de passe, rien n’est extrait.</translation>
     </message>
     <message>
         <source>No extraction folder is chosen. Choose the folder that the contents go to.</source>
@@ -2169,7 +2173,7 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     </message>
     <message>
         <source>No certificate is chosen. Choose one on the Password tab.</source>
-        <translation>Aucun certificat n’est choisi. Choisissez-en un dans l’onglet « Mot de passe ».</translation>
+        <translation>Aucun certificat n’est choisi. Choisissez-en un dans l’onglet «&#xa0;Mot de passe&#xa0;».</translation>
     </message>
     <message>
         <source>No archive is chosen. Add the one that has the file.</source>
@@ -2181,7 +2185,7 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     </message>
     <message>
         <source>There is no archive among them: archives end in &quot;.rar&quot;.</source>
-        <translation>Il n’y a aucune archive parmi ces éléments : les archives se terminent par &quot;.rar&quot;.</translation>
+        <translation>Il n’y a aucune archive parmi ces éléments&#xa0;: les archives se terminent par &quot;.rar&quot;.</translation>
     </message>
     <message>
         <source>Choose where the archives are extracted to</source>
@@ -2189,7 +2193,7 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     </message>
     <message>
         <source>The folder &quot;%1&quot; can&apos;t be made. Choose another one.</source>
-        <translation>Le dossier « %1 » ne peut pas être créé. Choisissez-en un autre.</translation>
+        <translation>Le dossier «&#xa0;%1&#xa0;» ne peut pas être créé. Choisissez-en un autre.</translation>
     </message>
 </context>
 <context>
@@ -2200,7 +2204,7 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     </message>
     <message>
         <source>&quot;%1&quot; is a link or a file in the destination, where a folder is needed</source>
-        <translation>« %1 » est un lien ou un fichier dans la destination, là où il faut un dossier</translation>
+        <translation>«&#xa0;%1&#xa0;» est un lien ou un fichier dans la destination, là où il faut un dossier</translation>
     </message>
     <message>
         <source>cancelled</source>
@@ -2208,11 +2212,11 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     </message>
     <message>
         <source>There may not be enough room: about %1 are needed, and %2 are free in &quot;%3&quot;.</source>
-        <translation>La place pourrait manquer : il faut environ %1, et %2 sont libres dans « %3 ».</translation>
+        <translation>La place pourrait manquer&#xa0;: il faut environ %1, et %2 sont libres dans «&#xa0;%3&#xa0;».</translation>
     </message>
     <message>
         <source>Nothing may be written into &quot;%1&quot;: %2. Choose another folder, or change its permissions.</source>
-        <translation>Rien ne peut être écrit dans « %1 » : %2. Choisissez un autre dossier, ou modifiez ses droits d’accès.</translation>
+        <translation>Rien ne peut être écrit dans «&#xa0;%1&#xa0;»&#xa0;: %2. Choisissez un autre dossier, ou modifiez ses droits d’accès.</translation>
     </message>
     <message>
         <source>a file</source>
@@ -2235,7 +2239,7 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     <name>folders</name>
     <message>
         <source>The password is that of the account &quot;%1&quot;, and the account that is chosen is &quot;%2&quot;. Fetch its password on the Password tab, or choose the other account again.</source>
-        <translation>Le mot de passe est celui du compte « %1 », et le compte choisi est « %2 ». Lisez son mot de passe dans l’onglet « Mot de passe », ou choisissez à nouveau l’autre compte.</translation>
+        <translation>Le mot de passe est celui du compte «&#xa0;%1&#xa0;», et le compte choisi est «&#xa0;%2&#xa0;». Lisez son mot de passe dans l’onglet «&#xa0;Mot de passe&#xa0;», ou choisissez à nouveau l’autre compte.</translation>
     </message>
     <message>
         <source>Add folders and files</source>
@@ -2250,15 +2254,15 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     <name>headless</name>
     <message>
         <source>The profile encrypts for a certificate; a password does not go with it.</source>
-        <translation>Le profil chiffre pour un certificat ; un mot de passe ne va pas avec.</translation>
+        <translation>Le profil chiffre pour un certificat&#xa0;; un mot de passe ne va pas avec.</translation>
     </message>
     <message>
         <source>There is no archive &quot;%1&quot;.</source>
-        <translation>Il n’y a pas d’archive « %1 ».</translation>
+        <translation>Il n’y a pas d’archive «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The extraction folder &quot;%1&quot; is not empty. Files of the same name would be replaced.</source>
-        <translation>Le dossier d’extraction « %1 » n’est pas vide. Les fichiers de même nom seraient remplacés.</translation>
+        <translation>Le dossier d’extraction «&#xa0;%1&#xa0;» n’est pas vide. Les fichiers de même nom seraient remplacés.</translation>
     </message>
     <message>
         <source>There are no profiles.</source>
@@ -2266,7 +2270,7 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     </message>
     <message>
         <source>There is no profile &quot;%1&quot;; there are: %2.</source>
-        <translation>Il n’y a pas de profil « %1 » ; il y a : %2.</translation>
+        <translation>Il n’y a pas de profil «&#xa0;%1&#xa0;»&#xa0;; il y a&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Try &quot;quillorent-run --help&quot;.</source>
@@ -2289,17 +2293,17 @@ Exit status: 0 done, 1 failed or cancelled, 2 could not start, or was not to
 go on (see --yes), 64 wrong usage.</source>
         <translation>Fait ce que fait la fenêtre de Quillorent, sans fenêtre.
 
-Commandes :
+Commandes&#xa0;:
   backup [PROFILE]                  sauvegarder les dossiers d’un profil
-  extract [PROFILE] -- ARCHIVE...   refaire des dossiers à partir d’archives ; d’une série,
+  extract [PROFILE] -- ARCHIVE...   refaire des dossiers à partir d’archives&#xa0;; d’une série,
                                     le premier volume, ou un dossier d’archives
-  list [PROFILE] -- ARCHIVE         lister ce que contient une archive : octets, date, chemin,
-                                    par tabulations ; mot de passe, place, temps comme extract
+  list [PROFILE] -- ARCHIVE         lister ce que contient une archive&#xa0;: octets, date, chemin,
+                                    par tabulations&#xa0;; mot de passe, place, temps comme extract
   sync [PROFILE]                    synchroniser les fichiers et dossiers d’un profil
-  tools                             lister les outils externes : nom, chemin, ok ou non
-  profiles                          lister les profils ; * marque celui ouvert au démarrage
+  tools                             lister les outils externes&#xa0;: nom, chemin, ok ou non
+  profiles                          lister les profils&#xa0;; * marque celui ouvert au démarrage
 
-Code de retour : 0 terminé, 1 échec ou annulation, 2 n’a pas pu démarrer ou
+Code de retour&#xa0;: 0 terminé, 1 échec ou annulation, 2 n’a pas pu démarrer ou
 ne devait pas continuer (voir --yes), 64 mauvaise utilisation.</translation>
     </message>
     <message>
@@ -2312,11 +2316,11 @@ ne devait pas continuer (voir --yes), 64 mauvaise utilisation.</translation>
     </message>
     <message>
         <source>Take the password from the first line of FILE; - is standard input.</source>
-        <translation>Prendre le mot de passe dans la première ligne de FILE ; - désigne l’entrée standard.</translation>
+        <translation>Prendre le mot de passe dans la première ligne de FILE&#xa0;; - désigne l’entrée standard.</translation>
     </message>
     <message>
         <source>Bring back PATH alone, a file or folder of the one archive, as list tells it; may be given several times. Nothing is replaced: what is there gets a name that begins with &quot;kept-&quot;.</source>
-        <translation>Ne restaurer que PATH, un fichier ou dossier de l’unique archive, tel que list l’indique ; peut être donné plusieurs fois. Rien n’est remplacé : ce qui existe reçoit un nom qui commence par « kept- ».</translation>
+        <translation>Ne restaurer que PATH, un fichier ou dossier de l’unique archive, tel que list l’indique&#xa0;; peut être donné plusieurs fois. Rien n’est remplacé&#xa0;: ce qui existe reçoit un nom qui commence par «&#xa0;kept-&#xa0;».</translation>
     </message>
     <message>
         <source>Extract into FOLDER instead of the profile&apos;s extraction folder.</source>
@@ -2324,11 +2328,11 @@ ne devait pas continuer (voir --yes), 64 mauvaise utilisation.</translation>
     </message>
     <message>
         <source>Decrypt by METHOD: aes, bf, 3d, smime, or auto, by the archive&apos;s name.</source>
-        <translation>Déchiffrer par METHOD : aes, bf, 3d, smime, ou auto, selon le nom de l’archive.</translation>
+        <translation>Déchiffrer par METHOD&#xa0;: aes, bf, 3d, smime, ou auto, selon le nom de l’archive.</translation>
     </message>
     <message>
         <source>Go on in spite of what is found before the run: archives that will be replaced, too little room, files that will be deleted, and the like. What would lose files is refused all the same.</source>
-        <translation>Continuer malgré ce qui est constaté avant l’opération : archives qui seront remplacées, manque de place, fichiers qui seront supprimés, et ainsi de suite. Ce qui perdrait des fichiers est refusé malgré tout.</translation>
+        <translation>Continuer malgré ce qui est constaté avant l’opération&#xa0;: archives qui seront remplacées, manque de place, fichiers qui seront supprimés, et ainsi de suite. Ce qui perdrait des fichiers est refusé malgré tout.</translation>
     </message>
     <message>
         <source>Print the run&apos;s record on standard output when it has ended.</source>
@@ -2344,31 +2348,31 @@ ne devait pas continuer (voir --yes), 64 mauvaise utilisation.</translation>
     </message>
     <message>
         <source>The profile; without it the one that the window would open.</source>
-        <translation>Le profil ; à défaut, celui que la fenêtre ouvrirait.</translation>
+        <translation>Le profil&#xa0;; à défaut, celui que la fenêtre ouvrirait.</translation>
     </message>
     <message>
         <source>A command is missing: backup, extract, list, sync, tools or profiles.</source>
-        <translation>Il manque une commande : backup, extract, list, sync, tools ou profiles.</translation>
+        <translation>Il manque une commande&#xa0;: backup, extract, list, sync, tools ou profiles.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no command; there are backup, extract, list, sync, tools and profiles.</source>
-        <translation>« %1 » n’est pas une commande ; il y a backup, extract, list, sync, tools et profiles.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une commande&#xa0;; il y a backup, extract, list, sync, tools et profiles.</translation>
     </message>
     <message>
         <source>Archives are missing: name them behind &quot;--&quot;.</source>
-        <translation>Il manque des archives : indiquez-les après &quot;--&quot;.</translation>
+        <translation>Il manque des archives&#xa0;: indiquez-les après &quot;--&quot;.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is one word too many.</source>
-        <translation>« %1 » est un mot de trop.</translation>
+        <translation>«&#xa0;%1&#xa0;» est un mot de trop.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not go with &quot;%2&quot;.</source>
-        <translation>« %1 » ne va pas avec « %2 ».</translation>
+        <translation>«&#xa0;%1&#xa0;» ne va pas avec «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no method; there are %2.</source>
-        <translation>« %1 » n’est pas une méthode ; il y a %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une méthode&#xa0;; il y a %2.</translation>
     </message>
     <message>
         <source>standard input</source>
@@ -2392,7 +2396,7 @@ ne devait pas continuer (voir --yes), 64 mauvaise utilisation.</translation>
     </message>
     <message>
         <source>Can&apos;t read the password from %1: %2. Give another file.</source>
-        <translation>Impossible de lire le mot de passe dans %1 : %2. Indiquez un autre fichier.</translation>
+        <translation>Impossible de lire le mot de passe dans %1&#xa0;: %2. Indiquez un autre fichier.</translation>
     </message>
     <message>
         <source>The password was not typed the same way twice. Nothing was done.</source>
@@ -2435,7 +2439,7 @@ ne devait pas continuer (voir --yes), 64 mauvaise utilisation.</translation>
     </message>
     <message>
         <source>The keychain holds a password of that name already. It stays as it is: remove it with your desktop&apos;s password program first, or choose another account name.</source>
-        <translation>Le trousseau contient déjà un mot de passe de ce nom. Il reste tel quel : supprimez-le d’abord avec le programme de mots de passe de votre bureau, ou choisissez un autre nom de compte.</translation>
+        <translation>Le trousseau contient déjà un mot de passe de ce nom. Il reste tel quel&#xa0;: supprimez-le d’abord avec le programme de mots de passe de votre bureau, ou choisissez un autre nom de compte.</translation>
     </message>
     <message>
         <source>No keychain service runs in this session. Start one (any Secret Service will do), or type the password.</source>
@@ -2451,7 +2455,7 @@ ne devait pas continuer (voir --yes), 64 mauvaise utilisation.</translation>
     </message>
     <message>
         <source>The keychain is still locked: its password was not given, or it could not be asked for. Try again, or unlock it with your desktop&apos;s password program.</source>
-        <translation>Le trousseau est toujours verrouillé : son mot de passe n’a pas été donné, ou il n’a pas pu être demandé. Réessayez, ou déverrouillez-le avec le programme de mots de passe de votre bureau.</translation>
+        <translation>Le trousseau est toujours verrouillé&#xa0;: son mot de passe n’a pas été donné, ou il n’a pas pu être demandé. Réessayez, ou déverrouillez-le avec le programme de mots de passe de votre bureau.</translation>
     </message>
     <message>
         <source>The keychain service refused. Look at your desktop&apos;s password program for the reason.</source>
@@ -2459,7 +2463,7 @@ ne devait pas continuer (voir --yes), 64 mauvaise utilisation.</translation>
     </message>
     <message>
         <source>The keychain service does not answer. Try again later, or restart it; whether it stored something shows when it answers again.</source>
-        <translation>Le service de trousseau ne répond pas. Réessayez plus tard, ou redémarrez-le ; on verra s’il a stocké quelque chose quand il répondra à nouveau.</translation>
+        <translation>Le service de trousseau ne répond pas. Réessayez plus tard, ou redémarrez-le&#xa0;; on verra s’il a stocké quelque chose quand il répondra à nouveau.</translation>
     </message>
     <message>
         <source>The keychain was not waited for any longer.</source>
@@ -2475,7 +2479,7 @@ ne devait pas continuer (voir --yes), 64 mauvaise utilisation.</translation>
     </message>
     <message>
         <source>The keychain can&apos;t hold that name: it is missing, or is no proper text.</source>
-        <translation>Le trousseau ne peut pas conserver ce nom : il manque, ou n’est pas un texte correct.</translation>
+        <translation>Le trousseau ne peut pas conserver ce nom&#xa0;: il manque, ou n’est pas un texte correct.</translation>
     </message>
 </context>
 <context>
@@ -2494,7 +2498,7 @@ ne devait pas continuer (voir --yes), 64 mauvaise utilisation.</translation>
     </message>
     <message>
         <source>This certificate has expired on %1. What it encrypted still opens with its private key; for new archives choose one that is valid.</source>
-        <translation>Ce certificat a expiré le %1. Ce qu’il a chiffré s’ouvre toujours avec sa clé privée ; pour de nouvelles archives, choisissez un certificat valable.</translation>
+        <translation>Ce certificat a expiré le %1. Ce qu’il a chiffré s’ouvre toujours avec sa clé privée&#xa0;; pour de nouvelles archives, choisissez un certificat valable.</translation>
     </message>
     <message>
         <source>This certificate expires today.</source>
@@ -2525,11 +2529,11 @@ ne devait pas continuer (voir --yes), 64 mauvaise utilisation.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be read: %2.</source>
-        <translation>« %1 » est illisible : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» est illisible&#xa0;: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is empty.</source>
-        <translation>« %1 » est vide.</translation>
+        <translation>«&#xa0;%1&#xa0;» est vide.</translation>
     </message>
     <message>
         <source>
@@ -2537,21 +2541,21 @@ ne devait pas continuer (voir --yes), 64 mauvaise utilisation.</translation>
 OpenSSL says: </source>
         <translation>
 
-OpenSSL dit : </translation>
+OpenSSL dit&#xa0;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; looks like a certificate, but can&apos;t be read as one. It may be damaged.</source>
-        <translation>« %1 » ressemble à un certificat, mais ne peut pas être lu comme tel. Il est peut-être endommagé.</translation>
+        <translation>«&#xa0;%1&#xa0;» ressemble à un certificat, mais ne peut pas être lu comme tel. Il est peut-être endommagé.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; holds a private key, not a certificate. Choose the certificate that belongs to it here, and this file as the private key.</source>
-        <translation>« %1 » contient une clé privée, pas un certificat. Choisissez ici le certificat correspondant, et ce fichier comme clé privée.</translation>
+        <translation>«&#xa0;%1&#xa0;» contient une clé privée, pas un certificat. Choisissez ici le certificat correspondant, et ce fichier comme clé privée.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a PKCS#12 container. Only PEM, the text form, is accepted. Take the certificate out with:
 
 openssl pkcs12 -in FILE -clcerts -nokeys -out certificate.pem</source>
-        <translation>« %1 » est un conteneur PKCS#12. Seul PEM, la forme texte, est accepté. Extrayez-en le certificat avec :
+        <translation>«&#xa0;%1&#xa0;» est un conteneur PKCS#12. Seul PEM, la forme texte, est accepté. Extrayez-en le certificat avec&#xa0;:
 
 openssl pkcs12 -in FILE -clcerts -nokeys -out certificate.pem</translation>
     </message>
@@ -2559,49 +2563,49 @@ openssl pkcs12 -in FILE -clcerts -nokeys -out certificate.pem</translation>
         <source>&quot;%1&quot; is not PEM but binary (DER). Only PEM, the text form, is accepted. Convert it with:
 
 openssl x509 -inform DER -in FILE -out certificate.pem</source>
-        <translation>« %1 » n’est pas au format PEM, mais binaire (DER). Seul PEM, la forme texte, est accepté. Convertissez-le avec :
+        <translation>«&#xa0;%1&#xa0;» n’est pas au format PEM, mais binaire (DER). Seul PEM, la forme texte, est accepté. Convertissez-le avec&#xa0;:
 
 openssl x509 -inform DER -in FILE -out certificate.pem</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no PEM certificate: such a file has a line &quot;-----BEGIN CERTIFICATE-----&quot;.</source>
-        <translation>« %1 » n’est pas un certificat PEM : un tel fichier contient une ligne « -----BEGIN CERTIFICATE----- ».</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un certificat PEM&#xa0;: un tel fichier contient une ligne «&#xa0;-----BEGIN CERTIFICATE-----&#xa0;».</translation>
     </message>
     <message>
         <source>The private key in &quot;%1&quot; is encrypted with a pass phrase, which the program can&apos;t give to OpenSSL. Make a copy without one, and keep it where nobody else can read it:
 
 openssl rsa -in FILE -out key.pem</source>
-        <translation>La clé privée dans « %1 » est chiffrée par une phrase secrète, que le programme ne peut pas transmettre à OpenSSL. Faites-en une copie sans phrase secrète, et gardez-la là où personne d’autre ne peut la lire :
+        <translation>La clé privée dans «&#xa0;%1&#xa0;» est chiffrée par une phrase secrète, que le programme ne peut pas transmettre à OpenSSL. Faites-en une copie sans phrase secrète, et gardez-la là où personne d’autre ne peut la lire&#xa0;:
 
 openssl rsa -in FILE -out key.pem</translation>
     </message>
     <message>
         <source>&quot;%1&quot; holds a certificate, not a private key. Choose the private key that belongs to the certificate.</source>
-        <translation>« %1 » contient un certificat, pas une clé privée. Choisissez la clé privée qui va avec le certificat.</translation>
+        <translation>«&#xa0;%1&#xa0;» contient un certificat, pas une clé privée. Choisissez la clé privée qui va avec le certificat.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a PKCS#12 container. Take the private key out with:
 
 openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</source>
-        <translation>« %1 » est un conteneur PKCS#12. Extrayez-en la clé privée avec :
+        <translation>«&#xa0;%1&#xa0;» est un conteneur PKCS#12. Extrayez-en la clé privée avec&#xa0;:
 
 openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
     </message>
     <message>
         <source>The private key in &quot;%1&quot; is not an RSA key. Only RSA keys, with RSA certificates, can be used.</source>
-        <translation>La clé privée dans « %1 » n’est pas une clé RSA. Seules les clés RSA, avec des certificats RSA, peuvent être utilisées.</translation>
+        <translation>La clé privée dans «&#xa0;%1&#xa0;» n’est pas une clé RSA. Seules les clés RSA, avec des certificats RSA, peuvent être utilisées.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; holds no private key that can be read. It must be an RSA key in PEM, the text form.</source>
-        <translation>« %1 » ne contient aucune clé privée lisible. Il faut une clé RSA au format PEM, la forme texte.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne contient aucune clé privée lisible. Il faut une clé RSA au format PEM, la forme texte.</translation>
     </message>
     <message>
         <source>The private key in &quot;%1&quot; does not belong to the certificate &quot;%2&quot;. Choose the key that the certificate was made with; no other one opens what the certificate encrypts.</source>
-        <translation>La clé privée dans « %1 » ne va pas avec le certificat « %2 ». Choisissez la clé avec laquelle le certificat a été créé ; aucune autre n’ouvre ce que le certificat chiffre.</translation>
+        <translation>La clé privée dans «&#xa0;%1&#xa0;» ne va pas avec le certificat «&#xa0;%2&#xa0;». Choisissez la clé avec laquelle le certificat a été créé&#xa0;; aucune autre n’ouvre ce que le certificat chiffre.</translation>
     </message>
     <message>
         <source>No certificate is chosen yet. Choose it first: a private key is accepted only with the certificate that it belongs to.</source>
-        <translation>Aucun certificat n’est encore choisi. Choisissez-le d’abord : une clé privée n’est acceptée qu’avec le certificat correspondant.</translation>
+        <translation>Aucun certificat n’est encore choisi. Choisissez-le d’abord&#xa0;: une clé privée n’est acceptée qu’avec le certificat correspondant.</translation>
     </message>
     <message>
         <source>The certificate itself can&apos;t be used any more. </source>
@@ -2609,15 +2613,15 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
     </message>
     <message>
         <source>The certificate &quot;%1&quot; %2. Choose another one on the Password tab.</source>
-        <translation>Le certificat « %1 » %2. Choisissez-en un autre dans l’onglet « Mot de passe ».</translation>
+        <translation>Le certificat «&#xa0;%1&#xa0;» %2. Choisissez-en un autre dans l’onglet «&#xa0;Mot de passe&#xa0;».</translation>
     </message>
     <message>
         <source>No password is given. Type one on the Password tab; without a password nothing is backed up.</source>
-        <translation>Aucun mot de passe n’est indiqué. Saisissez-en un dans l’onglet « Mot de passe » ; sans mot de passe, rien n’est sauvegardé.</translation>
+        <translation>Aucun mot de passe n’est indiqué. Saisissez-en un dans l’onglet «&#xa0;Mot de passe&#xa0;»&#xa0;; sans mot de passe, rien n’est sauvegardé.</translation>
     </message>
     <message>
         <source>The password holds a zero byte (is its file perhaps UTF-16?), and all behind it would be lost. Use a password of ordinary characters, in UTF-8.</source>
-        <translation>Le mot de passe contient un octet nul (son fichier serait-il en UTF-16 ?), et tout ce qui suit serait perdu. Utilisez un mot de passe fait de caractères ordinaires, en UTF-8.</translation>
+        <translation>Le mot de passe contient un octet nul (son fichier serait-il en UTF-16&#xa0;?), et tout ce qui suit serait perdu. Utilisez un mot de passe fait de caractères ordinaires, en UTF-8.</translation>
     </message>
     <message>
         <source>The password holds a line break, and all behind it would be lost. Use one of a single line.</source>
@@ -2629,7 +2633,7 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
     </message>
     <message>
         <source>No certificate is chosen. Choose one on the Password tab.</source>
-        <translation>Aucun certificat n’est choisi. Choisissez-en un dans l’onglet « Mot de passe ».</translation>
+        <translation>Aucun certificat n’est choisi. Choisissez-en un dans l’onglet «&#xa0;Mot de passe&#xa0;».</translation>
     </message>
     <message>
         <source>is not there, or can&apos;t be read</source>
@@ -2649,7 +2653,7 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
     </message>
     <message>
         <source>The key of the certificate &quot;%1&quot; has %2 bits; less than %3 can be broken.</source>
-        <translation>La clé du certificat « %1 » a %2 bits ; avec moins de %3, elle peut être cassée.</translation>
+        <translation>La clé du certificat «&#xa0;%1&#xa0;» a %2&#xa0;bits&#xa0;; avec moins de %3, elle peut être cassée.</translation>
     </message>
     <message>
         <source>%1, %2 bits</source>
@@ -2675,7 +2679,7 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
     <name>passwords</name>
     <message>
         <source>Nothing that is encrypted for this certificate can be opened without its private key: make sure that you have it, and a copy in a safe place.</source>
-        <translation>Rien de ce qui est chiffré pour ce certificat ne peut être ouvert sans sa clé privée : assurez-vous de l’avoir, ainsi qu’une copie en lieu sûr.</translation>
+        <translation>Rien de ce qui est chiffré pour ce certificat ne peut être ouvert sans sa clé privée&#xa0;: assurez-vous de l’avoir, ainsi qu’une copie en lieu sûr.</translation>
     </message>
     <message>
         <source>No private key is chosen. </source>
@@ -2695,19 +2699,19 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
     </message>
     <message>
         <source>It is no text, in UTF-8. Another program stored it: choose another account.</source>
-        <translation>Ce n’est pas du texte en UTF-8. Un autre programme l’a stocké : choisissez un autre compte.</translation>
+        <translation>Ce n’est pas du texte en UTF-8. Un autre programme l’a stocké&#xa0;: choisissez un autre compte.</translation>
     </message>
     <message>
         <source>The password of &quot;%1&quot; was fetched from the keychain.</source>
-        <translation>Le mot de passe de « %1 » a été lu dans le trousseau.</translation>
+        <translation>Le mot de passe de «&#xa0;%1&#xa0;» a été lu dans le trousseau.</translation>
     </message>
     <message>
         <source>The keychain holds no password of &quot;%1&quot;. Check the account name; or type the password and store it.</source>
-        <translation>Le trousseau ne contient aucun mot de passe pour « %1 ». Vérifiez le nom du compte ; ou saisissez le mot de passe et stockez-le.</translation>
+        <translation>Le trousseau ne contient aucun mot de passe pour «&#xa0;%1&#xa0;». Vérifiez le nom du compte&#xa0;; ou saisissez le mot de passe et stockez-le.</translation>
     </message>
     <message>
         <source>What the keychain holds of &quot;%1&quot; is of no use. </source>
-        <translation>Ce que le trousseau contient pour « %1 » est inutilisable. </translation>
+        <translation>Ce que le trousseau contient pour «&#xa0;%1&#xa0;» est inutilisable. </translation>
     </message>
     <message>
         <source>Nothing was stored. </source>
@@ -2715,11 +2719,11 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
     </message>
     <message>
         <source>The password was stored in the keychain for &quot;%1&quot;.</source>
-        <translation>Le mot de passe a été stocké dans le trousseau pour « %1 ».</translation>
+        <translation>Le mot de passe a été stocké dans le trousseau pour «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The keychain holds a password of &quot;%1&quot; already, and it stays as it is. Choose another account name, or remove the old one in your desktop&apos;s password program first.</source>
-        <translation>Le trousseau contient déjà un mot de passe pour « %1 », et il reste tel quel. Choisissez un autre nom de compte, ou supprimez d’abord l’ancien dans le programme de mots de passe de votre bureau.</translation>
+        <translation>Le trousseau contient déjà un mot de passe pour «&#xa0;%1&#xa0;», et il reste tel quel. Choisissez un autre nom de compte, ou supprimez d’abord l’ancien dans le programme de mots de passe de votre bureau.</translation>
     </message>
     <message>
         <source>The keychain is unlocked.</source>
@@ -2746,7 +2750,7 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
     </message>
     <message>
         <source>%1: it can&apos;t be written: %2</source>
-        <translation>%1 : écriture impossible : %2</translation>
+        <translation>%1&#xa0;: écriture impossible&#xa0;: %2</translation>
     </message>
     <message>
         <source>its links lead in a circle</source>
@@ -2814,15 +2818,15 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
     </message>
     <message>
         <source>“%1” is not an integer</source>
-        <translation>« %1 » n’est pas un entier</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un entier</translation>
     </message>
     <message>
         <source>the integer %1 does not fit into 64 bits</source>
-        <translation>l’entier %1 ne tient pas sur 64 bits</translation>
+        <translation>l’entier %1 ne tient pas sur 64&#xa0;bits</translation>
     </message>
     <message>
         <source>“%1” is not a real number</source>
-        <translation>« %1 » n’est pas un nombre réel</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre réel</translation>
     </message>
     <message>
         <source>the data is not Base64</source>
@@ -2830,7 +2834,7 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
     </message>
     <message>
         <source>“%1” is not a date like 2001-12-31T23:59:59Z</source>
-        <translation>« %1 » n’est pas une date comme 2001-12-31T23:59:59Z</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une date comme 2001-12-31T23:59:59Z</translation>
     </message>
     <message>
         <source>there is text in &lt;true&gt; or &lt;false&gt;</source>
@@ -2846,7 +2850,7 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
     </message>
     <message>
         <source>it is larger than %1 MiB</source>
-        <translation>il dépasse %1 Mio</translation>
+        <translation>il dépasse %1&#xa0;Mio</translation>
     </message>
     <message>
         <source>it is empty</source>
@@ -2854,15 +2858,15 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
     </message>
     <message>
         <source>it is a binary property list; only XML ones can be read</source>
-        <translation>c’est une liste de propriétés binaire ; seules celles en XML peuvent être lues</translation>
+        <translation>c’est une liste de propriétés binaire&#xa0;; seules celles en XML peuvent être lues</translation>
     </message>
     <message>
         <source>%1: it is not UTF-8</source>
-        <translation>%1 : ce n’est pas de l’UTF-8</translation>
+        <translation>%1&#xa0;: ce n’est pas de l’UTF-8</translation>
     </message>
     <message>
         <source>the value under “%1” %2</source>
-        <translation>la valeur de « %1 » %2</translation>
+        <translation>la valeur de «&#xa0;%1&#xa0;» %2</translation>
     </message>
     <message>
         <source>it can&apos;t be put into XML</source>
@@ -2870,7 +2874,7 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
     </message>
     <message>
         <source>it would be larger than %1 MiB</source>
-        <translation>il dépasserait %1 Mio</translation>
+        <translation>il dépasserait %1&#xa0;Mio</translation>
     </message>
     <message>
         <source>is nested deeper than %1 levels</source>
@@ -2901,20 +2905,20 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
     </message>
     <message>
         <source>There is a profile &quot;%1&quot; already. Choose another name.</source>
-        <translation>Il y a déjà un profil « %1 ». Choisissez un autre nom.</translation>
+        <translation>Il y a déjà un profil «&#xa0;%1&#xa0;». Choisissez un autre nom.</translation>
     </message>
     <message>
         <source>There can be no profiles, for their file can&apos;t be read:
 %1
 Repair it, or move it away, and start the program again.</source>
-        <translation>Il ne peut pas y avoir de profils, car leur fichier est illisible :
+        <translation>Il ne peut pas y avoir de profils, car leur fichier est illisible&#xa0;:
 %1
 Réparez-le, ou déplacez-le, puis redémarrez le programme.</translation>
     </message>
     <message>
         <source>No copy could be saved either:
 %1</source>
-        <translation>Aucune copie n’a pu être enregistrée non plus :
+        <translation>Aucune copie n’a pu être enregistrée non plus&#xa0;:
 %1</translation>
     </message>
     <message>
@@ -2934,21 +2938,21 @@ Quel que soit votre choix, l’autre version est conservée à côté du fichier
 %2
 
 Repair it, or move it away, and start the program again.</source>
-        <translation>Impossible d’enregistrer les %1, car leur fichier n’a pas pu être lu :
+        <translation>Impossible d’enregistrer les %1, car leur fichier n’a pas pu être lu&#xa0;:
 %2
 
 Réparez-le, ou déplacez-le, puis redémarrez le programme.</translation>
     </message>
     <message>
         <source>Another window or program has changed %1: that is taken over.</source>
-        <translation>Une autre fenêtre ou un autre programme a modifié %1 : ces modifications sont reprises.</translation>
+        <translation>Une autre fenêtre ou un autre programme a modifié %1&#xa0;: ces modifications sont reprises.</translation>
     </message>
     <message>
         <source>The %1 could not be saved:
 %2
 
 What you changed is kept only as long as the program runs. Make room, or make the folder writable, and save again.</source>
-        <translation>Impossible d’enregistrer les %1 :
+        <translation>Impossible d’enregistrer les %1&#xa0;:
 %2
 
 Vos modifications ne sont conservées que tant que le programme fonctionne. Libérez de la place, ou rendez le dossier accessible en écriture, puis enregistrez à nouveau.</translation>
@@ -2982,43 +2986,43 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>&quot;%1&quot; is a folder, and a file of that name is needed for a while. Rename it.</source>
-        <translation>« %1 » est un dossier, et un fichier de ce nom est nécessaire pour un moment. Renommez-le.</translation>
+        <translation>«&#xa0;%1&#xa0;» est un dossier, et un fichier de ce nom est nécessaire pour un moment. Renommez-le.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is in the way and can&apos;t be given another name: %2.</source>
-        <translation>« %1 » occupe la place et ne peut pas recevoir un autre nom : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» occupe la place et ne peut pas recevoir un autre nom&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Something puts %1 under the name &quot;%2&quot; again and again. Choose a folder that nobody else writes to.</source>
-        <translation>Quelque chose remet sans cesse %1 sous le nom « %2 ». Choisissez un dossier où personne d’autre n’écrit.</translation>
+        <translation>Quelque chose remet sans cesse %1 sous le nom «&#xa0;%2&#xa0;». Choisissez un dossier où personne d’autre n’écrit.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has been replaced by %2 of somebody else&apos;s. Choose a folder that nobody else writes to.</source>
-        <translation>« %1 » a été remplacé par %2 appartenant à quelqu’un d’autre. Choisissez un dossier où personne d’autre n’écrit.</translation>
+        <translation>«&#xa0;%1&#xa0;» a été remplacé par %2 appartenant à quelqu’un d’autre. Choisissez un dossier où personne d’autre n’écrit.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be made: %2</source>
-        <translation>« %1 » ne peut pas être créé : %2</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être créé&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1: the tool ended with status %2 and did not say why.</source>
-        <translation>%1 : l’outil s’est terminé avec le code %2, sans dire pourquoi.</translation>
+        <translation>%1&#xa0;: l’outil s’est terminé avec le code %2, sans dire pourquoi.</translation>
     </message>
     <message>
         <source>%1: the tool said nothing, and did not make &quot;%2&quot;.</source>
-        <translation>%1 : l’outil n’a rien dit, et n’a pas créé « %2 ».</translation>
+        <translation>%1&#xa0;: l’outil n’a rien dit, et n’a pas créé «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>Another run is writing into &quot;%1&quot;, or its tools still are. Wait until it has ended.</source>
-        <translation>Une autre opération écrit dans « %1 », ou ses outils le font encore. Attendez qu’elle ait pris fin.</translation>
+        <translation>Une autre opération écrit dans «&#xa0;%1&#xa0;», ou ses outils le font encore. Attendez qu’elle ait pris fin.</translation>
     </message>
     <message>
         <source>No record of the run can be kept: %1. What it leaves if it is interrupted could not be told from files of your own.</source>
-        <translation>Impossible de tenir le compte rendu de l’opération : %1. Ce qu’elle laisserait en cas d’interruption ne pourrait pas être distingué de vos propres fichiers.</translation>
+        <translation>Impossible de tenir le compte rendu de l’opération&#xa0;: %1. Ce qu’elle laisserait en cas d’interruption ne pourrait pas être distingué de vos propres fichiers.</translation>
     </message>
     <message>
         <source>The OpenSSL that is registered derives keys from passwords in another way than the archives need. Choose Quillorent&apos;s own on the Tools tab; the password may be right.</source>
-        <translation>L’outil OpenSSL choisi dérive les clés des mots de passe d’une autre façon que celle dont les archives ont besoin. Choisissez celui de Quillorent dans l’onglet « Outils » ; le mot de passe est peut-être bon.</translation>
+        <translation>L’outil OpenSSL choisi dérive les clés des mots de passe d’une autre façon que celle dont les archives ont besoin. Choisissez celui de Quillorent dans l’onglet «&#xa0;Outils&#xa0;»&#xa0;; le mot de passe est peut-être bon.</translation>
     </message>
     <message>
         <source>Collecting</source>
@@ -3078,15 +3082,15 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>About %1 s left</source>
-        <translation>Encore %1 s environ</translation>
+        <translation>Encore %1&#xa0;s environ</translation>
     </message>
     <message>
         <source>About %1 min left</source>
-        <translation>Encore %1 min environ</translation>
+        <translation>Encore %1&#xa0;min environ</translation>
     </message>
     <message>
         <source>About %1 h left</source>
-        <translation>Encore %1 h environ</translation>
+        <translation>Encore %1&#xa0;h environ</translation>
     </message>
     <message>
         <source>Waiting</source>
@@ -3106,41 +3110,41 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>&quot;%1&quot; was in the way and is called &quot;%2&quot; now.</source>
-        <translation>« %1 » occupait la place et s’appelle maintenant « %2 ».</translation>
+        <translation>«&#xa0;%1&#xa0;» occupait la place et s’appelle maintenant «&#xa0;%2&#xa0;».</translation>
     </message>
     <message numerus="yes">
         <source>%n more were in the way, and their names begin with &quot;kept-&quot; now.</source>
         <translation>
-            <numerusform>%n autre occupait la place ; son nom commence maintenant par « kept- ».</numerusform>
-            <numerusform>%n autres occupaient la place ; leurs noms commencent maintenant par « kept- ».</numerusform>
+            <numerusform>%n autre occupait la place&#xa0;; son nom commence maintenant par «&#xa0;kept-&#xa0;».</numerusform>
+            <numerusform>%n autres occupaient la place&#xa0;; leurs noms commencent maintenant par «&#xa0;kept-&#xa0;».</numerusform>
         </translation>
     </message>
     <message>
         <source>the folder &quot;%1&quot; can&apos;t be made</source>
-        <translation>le dossier « %1 » ne peut pas être créé</translation>
+        <translation>le dossier «&#xa0;%1&#xa0;» ne peut pas être créé</translation>
     </message>
 </context>
 <context>
     <name>settings</name>
     <message>
         <source>The folder can&apos;t be made: </source>
-        <translation>Impossible de créer le dossier : </translation>
+        <translation>Impossible de créer le dossier&#xa0;: </translation>
     </message>
     <message>
         <source>“%1” may not be written, nor moved out of the way: what is changed can&apos;t be saved.</source>
-        <translation>« %1 » ne peut être ni écrit, ni déplacé : vos modifications ne peuvent pas être enregistrées.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut être ni écrit, ni déplacé&#xa0;: vos modifications ne peuvent pas être enregistrées.</translation>
     </message>
     <message>
         <source>“%1” may not be written by this user. It is kept as “%2”, and a new one with the program&apos;s own settings has taken its place.</source>
-        <translation>Cet utilisateur n’a pas le droit d’écrire dans « %1 ». Ce fichier est conservé sous le nom « %2 », et un nouveau, avec les réglages du programme, a pris sa place.</translation>
+        <translation>Cet utilisateur n’a pas le droit d’écrire dans «&#xa0;%1&#xa0;». Ce fichier est conservé sous le nom «&#xa0;%2&#xa0;», et un nouveau, avec les réglages du programme, a pris sa place.</translation>
     </message>
     <message>
         <source> can&apos;t be read, nor kept beside a new one: it is not saved over</source>
-        <translation> est illisible, et ne peut pas être conservé à côté d’un nouveau : il n’est pas remplacé</translation>
+        <translation> est illisible, et ne peut pas être conservé à côté d’un nouveau&#xa0;: il n’est pas remplacé</translation>
     </message>
     <message>
         <source>“%1” could not be read when it was saved over. What it held is kept as “%2”.</source>
-        <translation>« %1 » était illisible au moment d’être remplacé. Son contenu est conservé sous le nom « %2 ».</translation>
+        <translation>«&#xa0;%1&#xa0;» était illisible au moment d’être remplacé. Son contenu est conservé sous le nom «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>: what is to be replaced can&apos;t be kept beside it</source>
@@ -3148,18 +3152,18 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>What others had changed in “%1” is kept as “%2”.</source>
-        <translation>Ce que d’autres avaient modifié dans « %1 » est conservé sous le nom « %2 ».</translation>
+        <translation>Ce que d’autres avaient modifié dans «&#xa0;%1&#xa0;» est conservé sous le nom «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>What you had changed in “%1” is kept as “%2”.</source>
-        <translation>Ce que vous aviez modifié dans « %1 » est conservé sous le nom « %2 ».</translation>
+        <translation>Ce que vous aviez modifié dans «&#xa0;%1&#xa0;» est conservé sous le nom «&#xa0;%2&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>sync</name>
     <message>
         <source>The list of what is to be synchronised can&apos;t be written to &quot;%1&quot;: %2.</source>
-        <translation>La liste de ce qui doit être synchronisé ne peut pas être écrite dans « %1 » : %2.</translation>
+        <translation>La liste de ce qui doit être synchronisé ne peut pas être écrite dans «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>deleted at the destination</source>
@@ -3195,51 +3199,51 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>Delete %1 there, remove %2 here?</source>
-        <translation>Supprimer %1 là-bas, et %2 ici ?</translation>
+        <translation>Supprimer %1 là-bas, et %2 ici&#xa0;?</translation>
     </message>
     <message>
         <source>Delete %1 there?</source>
-        <translation>Supprimer %1 là-bas ?</translation>
+        <translation>Supprimer %1 là-bas&#xa0;?</translation>
     </message>
     <message>
         <source>Remove %1 here?</source>
-        <translation>Supprimer %1 ici ?</translation>
+        <translation>Supprimer %1 ici&#xa0;?</translation>
     </message>
     <message>
         <source>The server &quot;%1&quot; shows another key than before; someone may be in its place. Ask who runs it before you connect again.</source>
-        <translation>Le serveur « %1 » présente une autre clé qu’auparavant ; quelqu’un a peut-être pris sa place. Renseignez-vous auprès de la personne qui le gère avant de vous connecter à nouveau.</translation>
+        <translation>Le serveur «&#xa0;%1&#xa0;» présente une autre clé qu’auparavant&#xa0;; quelqu’un a peut-être pris sa place. Renseignez-vous auprès de la personne qui le gère avant de vous connecter à nouveau.</translation>
     </message>
     <message>
         <source>ssh does not know the server &quot;%1&quot; yet. Connect to it once in a terminal (ssh %1), compare the key that it shows, and try again.</source>
-        <translation>ssh ne connaît pas encore le serveur « %1 ». Connectez-vous-y une fois dans un terminal (ssh %1), comparez la clé qu’il présente, puis réessayez.</translation>
+        <translation>ssh ne connaît pas encore le serveur «&#xa0;%1&#xa0;». Connectez-vous-y une fois dans un terminal (ssh %1), comparez la clé qu’il présente, puis réessayez.</translation>
     </message>
     <message>
         <source>There is no server of the name &quot;%1&quot;, or this computer is offline. Check the name.</source>
-        <translation>Il n’y a pas de serveur nommé « %1 », ou cet ordinateur est hors ligne. Vérifiez le nom.</translation>
+        <translation>Il n’y a pas de serveur nommé «&#xa0;%1&#xa0;», ou cet ordinateur est hors ligne. Vérifiez le nom.</translation>
     </message>
     <message>
         <source>The server &quot;%1&quot; refuses the connection. Check that its ssh service runs; a port other than 22 belongs into ~/.ssh/config.</source>
-        <translation>Le serveur « %1 » refuse la connexion. Vérifiez que son service ssh fonctionne ; un port autre que 22 doit être indiqué dans ~/.ssh/config.</translation>
+        <translation>Le serveur «&#xa0;%1&#xa0;» refuse la connexion. Vérifiez que son service ssh fonctionne&#xa0;; un port autre que 22 doit être indiqué dans ~/.ssh/config.</translation>
     </message>
     <message>
         <source>The server &quot;%1&quot; can&apos;t be reached. Check the network, and that the server is on.</source>
-        <translation>Le serveur « %1 » est injoignable. Vérifiez le réseau, et que le serveur est allumé.</translation>
+        <translation>Le serveur «&#xa0;%1&#xa0;» est injoignable. Vérifiez le réseau, et que le serveur est allumé.</translation>
     </message>
     <message>
         <source>The server &quot;%1&quot; did not let you in, since it was sent an empty user name. Fill in the user: then ssh takes the one from ~/.ssh/config, or else your own.</source>
-        <translation>Le serveur « %1 » ne vous a pas laissé entrer, car il a reçu un nom d’utilisateur vide. Remplissez le champ de l’utilisateur : ssh prend alors celui de ~/.ssh/config, ou à défaut le vôtre.</translation>
+        <translation>Le serveur «&#xa0;%1&#xa0;» ne vous a pas laissé entrer, car il a reçu un nom d’utilisateur vide. Remplissez le champ de l’utilisateur&#xa0;: ssh prend alors celui de ~/.ssh/config, ou à défaut le vôtre.</translation>
     </message>
     <message>
         <source>The server &quot;%1&quot; did not let you in. Nobody can type a password here: log in by a key that ssh finds without a question (see ssh-agent, ~/.ssh/config).</source>
-        <translation>Le serveur « %1 » ne vous a pas laissé entrer. Personne ne peut saisir de mot de passe ici : connectez-vous par une clé que ssh trouve sans poser de question (voir ssh-agent, ~/.ssh/config).</translation>
+        <translation>Le serveur «&#xa0;%1&#xa0;» ne vous a pas laissé entrer. Personne ne peut saisir de mot de passe ici&#xa0;: connectez-vous par une clé que ssh trouve sans poser de question (voir ssh-agent, ~/.ssh/config).</translation>
     </message>
     <message>
         <source>The server &quot;%1&quot; has no rsync. Install it there.</source>
-        <translation>Le serveur « %1 » n’a pas rsync. Installez-le là-bas.</translation>
+        <translation>Le serveur «&#xa0;%1&#xa0;» n’a pas rsync. Installez-le là-bas.</translation>
     </message>
     <message>
         <source>rsync does not understand its arguments. Check &quot;rsyncparams&quot; and &quot;rsyncexcludes&quot; in the settings file: both must be there, and each be one option.</source>
-        <translation>rsync ne comprend pas ses arguments. Vérifiez &quot;rsyncparams&quot; et &quot;rsyncexcludes&quot; dans le fichier de réglages : les deux doivent y figurer, et chacun ne former qu’une seule option.</translation>
+        <translation>rsync ne comprend pas ses arguments. Vérifiez &quot;rsyncparams&quot; et &quot;rsyncexcludes&quot; dans le fichier de réglages&#xa0;: les deux doivent y figurer, et chacun ne former qu’une seule option.</translation>
     </message>
     <message>
         <source>The server took the port for the beginning of the folder&apos;s path. Leave the port empty, and put it into ~/.ssh/config.</source>
@@ -3247,11 +3251,11 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>The folder in which &quot;%2&quot; is to be made does not exist. Connect its disk, or choose another destination.</source>
-        <translation>Le dossier dans lequel « %2 » doit être créé n’existe pas. Connectez son disque, ou choisissez une autre destination.</translation>
+        <translation>Le dossier dans lequel «&#xa0;%2&#xa0;» doit être créé n’existe pas. Connectez son disque, ou choisissez une autre destination.</translation>
     </message>
     <message>
         <source>The destination is full. Make room there and run it again: what is there is not copied twice.</source>
-        <translation>La destination est pleine. Libérez-y de la place et recommencez : ce qui s’y trouve déjà n’est pas recopié.</translation>
+        <translation>La destination est pleine. Libérez-y de la place et recommencez&#xa0;: ce qui s’y trouve déjà n’est pas recopié.</translation>
     </message>
     <message>
         <source>A file is larger than the destination can take. Choose another disk, or leave the file out.</source>
@@ -3259,27 +3263,27 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>The destination &quot;%2&quot; can only be read. Choose another one.</source>
-        <translation>La destination « %2 » est en lecture seule. Choisissez-en une autre.</translation>
+        <translation>La destination «&#xa0;%2&#xa0;» est en lecture seule. Choisissez-en une autre.</translation>
     </message>
     <message>
         <source>You may not read some of the files; they are not copied.</source>
-        <translation>Vous n’avez pas le droit de lire certains fichiers ; ils ne sont pas copiés.</translation>
+        <translation>Vous n’avez pas le droit de lire certains fichiers&#xa0;; ils ne sont pas copiés.</translation>
     </message>
     <message>
         <source>You may not write to the destination &quot;%2&quot;. Choose another one, or have its permissions changed.</source>
-        <translation>Vous n’avez pas le droit d’écrire dans la destination « %2 ». Choisissez-en une autre, ou faites modifier ses droits d’accès.</translation>
+        <translation>Vous n’avez pas le droit d’écrire dans la destination «&#xa0;%2&#xa0;». Choisissez-en une autre, ou faites modifier ses droits d’accès.</translation>
     </message>
     <message>
         <source>An entry of the list is not where it was; it is not copied. Remove it from the list, or bring it back.</source>
-        <translation>Un élément de la liste n’est plus là où il était ; il n’est pas copié. Retirez-le de la liste, ou remettez-le en place.</translation>
+        <translation>Un élément de la liste n’est plus là où il était&#xa0;; il n’est pas copié. Retirez-le de la liste, ou remettez-le en place.</translation>
     </message>
     <message>
         <source>Files disappeared while they were to be copied. All others are copied; run it again where that matters.</source>
-        <translation>Des fichiers ont disparu alors qu’ils devaient être copiés. Tous les autres sont copiés ; recommencez si cela importe.</translation>
+        <translation>Des fichiers ont disparu alors qu’ils devaient être copiés. Tous les autres sont copiés&#xa0;; recommencez si cela importe.</translation>
     </message>
     <message>
         <source>A folder that is gone here could not be deleted at the destination: it holds files that rsync leaves alone.</source>
-        <translation>Un dossier disparu d’ici n’a pas pu être supprimé à la destination : il contient des fichiers auxquels rsync ne touche pas.</translation>
+        <translation>Un dossier disparu d’ici n’a pas pu être supprimé à la destination&#xa0;: il contient des fichiers auxquels rsync ne touche pas.</translation>
     </message>
     <message>
         <source>The destination can&apos;t keep all owners, dates or permissions of the files.</source>
@@ -3287,7 +3291,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>The connection to &quot;%1&quot; ended early. Run it again: what is there is not copied twice.</source>
-        <translation>La connexion à « %1 » s’est terminée trop tôt. Recommencez : ce qui s’y trouve déjà n’est pas recopié.</translation>
+        <translation>La connexion à «&#xa0;%1&#xa0;» s’est terminée trop tôt. Recommencez&#xa0;: ce qui s’y trouve déjà n’est pas recopié.</translation>
     </message>
     <message>
         <source>ssh has noted the server&apos;s key, and what it said counts as a failure. Run it once more.</source>
@@ -3295,7 +3299,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>rsync was not content; what it said follows.</source>
-        <translation>rsync n’est pas satisfait ; voici son message.</translation>
+        <translation>rsync n’est pas satisfait&#xa0;; voici son message.</translation>
     </message>
     <message>
         <source> Nothing was deleted at the destination.</source>
@@ -3303,15 +3307,15 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>&quot;%1&quot; is empty, and everything in its copy would be deleted. Is its disk connected?</source>
-        <translation>« %1 » est vide, et tout ce que contient sa copie serait supprimé. Son disque est-il connecté ?</translation>
+        <translation>«&#xa0;%1&#xa0;» est vide, et tout ce que contient sa copie serait supprimé. Son disque est-il connecté&#xa0;?</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not lie under the common folder &quot;%2&quot; as the list is written, and will not be found. Synchronise it from a profile of its own.</source>
-        <translation>« %1 » ne se trouve pas sous le dossier commun « %2 » tel que la liste est écrite, et ne sera pas trouvé. Synchronisez-le avec un profil à part.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne se trouve pas sous le dossier commun «&#xa0;%2&#xa0;» tel que la liste est écrite, et ne sera pas trouvé. Synchronisez-le avec un profil à part.</translation>
     </message>
     <message>
         <source>The destination lies inside &quot;%1&quot;, so that each run copies the copies of the last one. Choose another destination.</source>
-        <translation>La destination se trouve dans « %1 » : chaque opération copierait donc les copies de la précédente. Choisissez une autre destination.</translation>
+        <translation>La destination se trouve dans «&#xa0;%1&#xa0;»&#xa0;: chaque opération copierait donc les copies de la précédente. Choisissez une autre destination.</translation>
     </message>
     <message>
         <source>Copies what is new or was changed here. Files that are newer at the destination stay as they are.</source>
@@ -3323,7 +3327,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>MOVES the files: they are removed here once they are at the destination. And deletes at the destination, inside the listed folders, what is not here: a second run deletes there what the first one moved there, and then it is nowhere.</source>
-        <translation>DÉPLACE les fichiers : ils sont supprimés ici une fois qu’ils sont à la destination. Et supprime à la destination, à l’intérieur des dossiers de la liste, ce qui n’est pas ici : une seconde opération supprime là-bas ce que la première y a déplacé, et il n’est alors plus nulle part.</translation>
+        <translation>DÉPLACE les fichiers&#xa0;: ils sont supprimés ici une fois qu’ils sont à la destination. Et supprime à la destination, à l’intérieur des dossiers de la liste, ce qui n’est pas ici&#xa0;: une seconde opération supprime là-bas ce que la première y a déplacé, et il n’est alors plus nulle part.</translation>
     </message>
     <message>
         <source>Deletes at the destination, inside the listed folders, everything that is not here any more.</source>
@@ -3331,7 +3335,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>MOVES the files: they are removed here once they are at the destination. Folders stay, empty.</source>
-        <translation>DÉPLACE les fichiers : ils sont supprimés ici une fois qu’ils sont à la destination. Les dossiers restent, vides.</translation>
+        <translation>DÉPLACE les fichiers&#xa0;: ils sont supprimés ici une fois qu’ils sont à la destination. Les dossiers restent, vides.</translation>
     </message>
     <message>
         <source>Deletes nothing, neither here nor there.</source>
@@ -3339,7 +3343,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>Without a user the server is sent an empty name, which it refuses: fill one in. Which name is used is for ~/.ssh/config to say; otherwise it is your own.</source>
-        <translation>Sans utilisateur, le serveur reçoit un nom vide, qu’il refuse : indiquez-en un. C’est ~/.ssh/config qui décide du nom utilisé ; à défaut, c’est le vôtre.</translation>
+        <translation>Sans utilisateur, le serveur reçoit un nom vide, qu’il refuse&#xa0;: indiquez-en un. C’est ~/.ssh/config qui décide du nom utilisé&#xa0;; à défaut, c’est le vôtre.</translation>
     </message>
     <message>
         <source>The port becomes the beginning of the folder&apos;s path on the server. Leave it empty, and put it into ~/.ssh/config.</source>
@@ -3347,23 +3351,23 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>The folder must exist on the server: a single file would be stored under its name instead.</source>
-        <translation>Le dossier doit exister sur le serveur : sinon, un fichier seul serait enregistré sous le nom de ce dossier.</translation>
+        <translation>Le dossier doit exister sur le serveur&#xa0;: sinon, un fichier seul serait enregistré sous le nom de ce dossier.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; will not be found: its path holds that of the common folder &quot;%2&quot; in the wrong place. Synchronise it from a profile of its own.</source>
-        <translation>« %1 » ne sera pas trouvé : son chemin contient celui du dossier commun « %2 » au mauvais endroit. Synchronisez-le avec un profil à part.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne sera pas trouvé&#xa0;: son chemin contient celui du dossier commun «&#xa0;%2&#xa0;» au mauvais endroit. Synchronisez-le avec un profil à part.</translation>
     </message>
     <message>
         <source>The destination lies inside &quot;%1&quot;, so that each run copies the copies of the last one.</source>
-        <translation>La destination se trouve dans « %1 » : chaque opération copie donc les copies de la précédente.</translation>
+        <translation>La destination se trouve dans «&#xa0;%1&#xa0;»&#xa0;: chaque opération copie donc les copies de la précédente.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no absolute path. Remove it from the list and add it again.</source>
-        <translation>« %1 » n’est pas un chemin absolu. Retirez-le de la liste, puis ajoutez-le à nouveau.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un chemin absolu. Retirez-le de la liste, puis ajoutez-le à nouveau.</translation>
     </message>
     <message>
         <source>The path &quot;%1&quot; holds a line break, which rsync&apos;s list can&apos;t. Put the folder above it on the list instead.</source>
-        <translation>Le chemin « %1 » contient un saut de ligne, ce que la liste de rsync ne permet pas. Mettez plutôt dans la liste le dossier qui le contient.</translation>
+        <translation>Le chemin «&#xa0;%1&#xa0;» contient un saut de ligne, ce que la liste de rsync ne permet pas. Mettez plutôt dans la liste le dossier qui le contient.</translation>
     </message>
     <message>
         <source>No server is given. Type its name, or switch the remote destination off.</source>
@@ -3371,7 +3375,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>&quot;%1&quot; is no server&apos;s name.</source>
-        <translation>« %1 » n’est pas un nom de serveur.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nom de serveur.</translation>
     </message>
     <message>
         <source>The list is empty. Add the files and folders that are to be synchronised.</source>
@@ -3383,19 +3387,19 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>The destination &quot;%1&quot; is no absolute path. Choose the folder again.</source>
-        <translation>La destination « %1 » n’est pas un chemin absolu. Choisissez à nouveau le dossier.</translation>
+        <translation>La destination «&#xa0;%1&#xa0;» n’est pas un chemin absolu. Choisissez à nouveau le dossier.</translation>
     </message>
     <message>
         <source>The destination &quot;%1&quot; is a file. Choose a folder.</source>
-        <translation>La destination « %1 » est un fichier. Choisissez un dossier.</translation>
+        <translation>La destination «&#xa0;%1&#xa0;» est un fichier. Choisissez un dossier.</translation>
     </message>
     <message>
         <source>The destination &quot;%1&quot; is the folder that the files lie in already. Choose another one.</source>
-        <translation>La destination « %1 » est le dossier où les fichiers se trouvent déjà. Choisissez-en une autre.</translation>
+        <translation>La destination «&#xa0;%1&#xa0;» est le dossier où les fichiers se trouvent déjà. Choisissez-en une autre.</translation>
     </message>
     <message>
         <source>The destination folder &quot;%1&quot; can&apos;t be made. Choose one that you may write to.</source>
-        <translation>Le dossier de destination « %1 » ne peut pas être créé. Choisissez-en un où vous avez le droit d’écrire.</translation>
+        <translation>Le dossier de destination «&#xa0;%1&#xa0;» ne peut pas être créé. Choisissez-en un où vous avez le droit d’écrire.</translation>
     </message>
     <message>
         <source>Cancelled before it began.
@@ -3413,7 +3417,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>It ended with status %1 and did not say why; not everything is copied. Run it again.</source>
-        <translation>L’outil s’est terminé avec le code %1, sans dire pourquoi ; tout n’est pas copié. Recommencez.</translation>
+        <translation>L’outil s’est terminé avec le code %1, sans dire pourquoi&#xa0;; tout n’est pas copié. Recommencez.</translation>
     </message>
     <message>
         <source>Preview cancelled.</source>
@@ -3421,7 +3425,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>Cancelled. What was copied stays; the next run goes on from there.</source>
-        <translation>Annulé. Ce qui a été copié reste ; la prochaine opération reprend à partir de là.</translation>
+        <translation>Annulé. Ce qui a été copié reste&#xa0;; la prochaine opération reprend à partir de là.</translation>
     </message>
     <message>
         <source>Failed. %1</source>
@@ -3429,7 +3433,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>Synchronised %1 in %2.</source>
-        <translation>Synchronisé : %1 en %2.</translation>
+        <translation>Synchronisé&#xa0;: %1 en %2.</translation>
     </message>
     <message>
         <source>replaced</source>
@@ -3490,14 +3494,14 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>Time: %1</source>
-        <translation>Durée : %1</translation>
+        <translation>Durée&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>tools</name>
     <message>
         <source>This OpenSSL can&apos;t be used by itself: it derives keys from passwords in another way than archives of this program need, and complains of it. Choose Quillorent&apos;s own &quot;openssl&quot;, which uses it.</source>
-        <translation>Cet OpenSSL ne peut pas être utilisé seul : il dérive les clés des mots de passe d’une autre façon que celle dont les archives de ce programme ont besoin, et s’en plaint. Choisissez l’outil &quot;openssl&quot; de Quillorent, qui l’utilise.</translation>
+        <translation>Cet OpenSSL ne peut pas être utilisé seul&#xa0;: il dérive les clés des mots de passe d’une autre façon que celle dont les archives de ce programme ont besoin, et s’en plaint. Choisissez l’outil &quot;openssl&quot; de Quillorent, qui l’utilise.</translation>
     </message>
     <message>
         <source>Choose a tool</source>
@@ -3506,18 +3510,22 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     <message>
         <source>Can&apos;t start &quot;%1&quot;: a name or a password for it holds a zero byte.
 </source>
-        <translation>Impossible de démarrer « %1 » : un nom ou un mot de passe qui lui est destiné contient un octet nul.
+        <translation>Impossible de démarrer «&#xa0;%1&#xa0;»&#xa0;: un nom ou un mot de passe qui lui est destiné contient un octet nul.
 </translation>
     </message>
     <message>
         <source>&quot;%1&quot; was ended by signal %2 (%3).
 </source>
-        <translation>« %1 » a été arrêté par le signal %2 (%3).
+        <translation>«&#xa0;%1&#xa0;» a été arrêté par le signal %2 (%3).
 </translation>
     </message>
     <message>
         <source>Can&apos;t start &quot;%1&quot;: %2. Choose the tool&apos;s path on the Tools tab.</source>
-        <translation>Impossible de démarrer « %1 » : %2. Choisissez le chemin de l’outil dans l’onglet « Outils ».</translation>
+        <translation>Impossible de démarrer «&#xa0;%1&#xa0;»&#xa0;: %2. Choisissez le chemin de l’outil dans l’onglet «&#xa0;Outils&#xa0;».</translation>
+    </message>
+    <message>
+        <source>the tool&apos;s message is not readable text</source>
+        <translation>le message de l’outil n’est pas un texte lisible</translation>
     </message>
 </context>
 <context>
@@ -3532,7 +3540,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>not extracted: its path has &quot;part&quot; and a number, as later volumes have it</source>
-        <translation>non extrait : son chemin contient « part » et un numéro, comme celui des volumes qui suivent le premier</translation>
+        <translation>non extrait&#xa0;: son chemin contient «&#xa0;part&#xa0;» et un numéro, comme celui des volumes qui suivent le premier</translation>
     </message>
     <message>
         <source>Archive</source>
@@ -3543,7 +3551,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     <name>ui::ArchiveListView</name>
     <message>
         <source>Drop archives, or a folder of them, here, or press Add</source>
-        <translation>Déposez ici des archives, ou un dossier qui en contient, ou cliquez sur « Ajouter »</translation>
+        <translation>Déposez ici des archives, ou un dossier qui en contient, ou cliquez sur «&#xa0;Ajouter&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -3558,7 +3566,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>Incomplete or mixed: %1.</source>
-        <translation>Incomplète ou mélangée : %1.</translation>
+        <translation>Incomplète ou mélangée&#xa0;: %1.</translation>
     </message>
     <message>
         <source>What was backed up</source>
@@ -3581,7 +3589,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     <name>ui::BackupOffer</name>
     <message>
         <source>Bac&amp;kups in &quot;%1&quot;: tick what you want back</source>
-        <translation>Sauvegardes dans « %1 » : coche&amp;z ce que vous voulez restaurer</translation>
+        <translation>Sauvegardes dans «&#xa0;%1&#xa0;»&#xa0;: coche&amp;z ce que vous voulez restaurer</translation>
     </message>
 </context>
 <context>
@@ -3617,7 +3625,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>backed up by then: %1</source>
-        <translation>sauvegardé jusque-là : %1</translation>
+        <translation>sauvegardé jusque-là&#xa0;: %1</translation>
     </message>
     <message>
         <source>The backup that began %1 was interrupted</source>
@@ -3633,39 +3641,39 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>backed up: %1</source>
-        <translation>sauvegardé : %1</translation>
+        <translation>sauvegardé&#xa0;: %1</translation>
     </message>
     <message>
         <source>What failed: “%1” – %2</source>
-        <translation>Ce qui a échoué : « %1 » – %2</translation>
+        <translation>Ce qui a échoué&#xa0;: «&#xa0;%1&#xa0;» – %2</translation>
     </message>
     <message>
         <source>What to do: %1</source>
-        <translation>Que faire : %1</translation>
+        <translation>Que faire&#xa0;: %1</translation>
     </message>
     <message>
         <source>What to do: back up again. The next backup first puts in order what this one left.</source>
-        <translation>Que faire : relancer la sauvegarde. La prochaine sauvegarde remet d’abord en ordre ce que celle-ci a laissé.</translation>
+        <translation>Que faire&#xa0;: relancer la sauvegarde. La prochaine sauvegarde remet d’abord en ordre ce que celle-ci a laissé.</translation>
     </message>
     <message>
         <source>Left out: “%1” – %2. Connect its disk, or take it off the list.</source>
-        <translation>Ignoré : « %1 » – %2. Connectez son disque, ou retirez-le de la liste.</translation>
+        <translation>Ignoré&#xa0;: «&#xa0;%1&#xa0;» – %2. Connectez son disque, ou retirez-le de la liste.</translation>
     </message>
     <message>
         <source>What was left: &quot;%1&quot;, which is not encrypted</source>
-        <translation>Ce qui est resté : « %1 », qui n’est pas chiffré</translation>
+        <translation>Ce qui est resté&#xa0;: «&#xa0;%1&#xa0;», qui n’est pas chiffré</translation>
     </message>
     <message>
         <source>What was left: &quot;%1&quot;</source>
-        <translation>Ce qui est resté : « %1 »</translation>
+        <translation>Ce qui est resté&#xa0;: «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>“%1” was in the way and is called “%2” now.</source>
-        <translation>« %1 » occupait la place et s’appelle maintenant « %2 ».</translation>
+        <translation>«&#xa0;%1&#xa0;» occupait la place et s’appelle maintenant «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>What was left: nothing. Archives from earlier backups are as they were.</source>
-        <translation>Ce qui est resté : rien. Les archives des sauvegardes précédentes sont inchangées.</translation>
+        <translation>Ce qui est resté&#xa0;: rien. Les archives des sauvegardes précédentes sont inchangées.</translation>
     </message>
     <message>
         <source>What failed, what to do and what was left</source>
@@ -3676,7 +3684,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     <name>ui::CompressionHint</name>
     <message>
         <source>archives about %1 % smaller</source>
-        <translation>archives plus petites d’environ %1 %</translation>
+        <translation>archives plus petites d’environ %1&#xa0;%</translation>
     </message>
     <message>
         <source>gains next to nothing here</source>
@@ -3716,15 +3724,15 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>What &quot;%1&quot; holds</source>
-        <translation>Contenu de « %1 »</translation>
+        <translation>Contenu de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Nothing is chosen yet: tick files or folders.</source>
-        <translation>Rien n’est encore choisi : cochez des fichiers ou des dossiers.</translation>
+        <translation>Rien n’est encore choisi&#xa0;: cochez des fichiers ou des dossiers.</translation>
     </message>
     <message>
         <source>Chosen: %1, %2. It takes about %3, as looking into the archive did: all of it has to be decrypted for that. Nothing of yours is replaced: a file that is there and differs gets a name that begins with &quot;kept-&quot;.</source>
-        <translation>Sélection : %1, %2. Il faut environ %3, comme pour examiner l’archive : elle doit être déchiffrée en entier pour cela. Rien de ce qui est à vous n’est remplacé : un fichier qui existe et qui diffère reçoit un nom qui commence par « kept- ».</translation>
+        <translation>Sélection&#xa0;: %1, %2. Il faut environ %3, comme pour examiner l’archive&#xa0;: elle doit être déchiffrée en entier pour cela. Rien de ce qui est à vous n’est remplacé&#xa0;: un fichier qui existe et qui diffère reçoit un nom qui commence par «&#xa0;kept-&#xa0;».</translation>
     </message>
     <message numerus="yes">
         <source>%n file(s)</source>
@@ -3742,7 +3750,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>What is to be kept safe?</source>
-        <translation>Que faut-il protéger ?</translation>
+        <translation>Que faut-il protéger&#xa0;?</translation>
     </message>
     <message>
         <source>Choose the folders that you can&apos;t do without, or drop them here.</source>
@@ -3754,11 +3762,11 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>Where to?</source>
-        <translation>À quel endroit ?</translation>
+        <translation>À quel endroit&#xa0;?</translation>
     </message>
     <message>
         <source>Choose a folder on another disk: one that breaks or is stolen takes all with it.</source>
-        <translation>Choisissez un dossier sur un autre disque : un disque qui tombe en panne ou qui est volé emporte tout.</translation>
+        <translation>Choisissez un dossier sur un autre disque&#xa0;: un disque qui tombe en panne ou qui est volé emporte tout.</translation>
     </message>
     <message>
         <source>Choose a place…</source>
@@ -3766,11 +3774,11 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>What locks it?</source>
-        <translation>Comment la verrouiller ?</translation>
+        <translation>Comment la verrouiller&#xa0;?</translation>
     </message>
     <message>
         <source>Think of a password. Without it nobody can open the backup, you neither: write it down in a safe place.</source>
-        <translation>Trouvez un mot de passe. Sans lui, personne ne peut ouvrir la sauvegarde, pas même vous : notez-le en lieu sûr.</translation>
+        <translation>Trouvez un mot de passe. Sans lui, personne ne peut ouvrir la sauvegarde, pas même vous&#xa0;: notez-le en lieu sûr.</translation>
     </message>
     <message>
         <source>Set a password…</source>
@@ -3782,7 +3790,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>Skip: %1</source>
-        <translation>Passer : %1</translation>
+        <translation>Passer&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -3829,11 +3837,11 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>A link to another place: only the link itself would be backed up. Add the folder that it leads to.</source>
-        <translation>Un lien vers un autre endroit : seul le lien lui-même serait sauvegardé. Ajoutez le dossier auquel il mène.</translation>
+        <translation>Un lien vers un autre endroit&#xa0;: seul le lien lui-même serait sauvegardé. Ajoutez le dossier auquel il mène.</translation>
     </message>
     <message>
         <source>The archives go into this folder, so each would hold the ones before it. Choose another destination.</source>
-        <translation>Les archives vont dans ce dossier : chacune contiendrait donc les précédentes. Choisissez une autre destination.</translation>
+        <translation>Les archives vont dans ce dossier&#xa0;: chacune contiendrait donc les précédentes. Choisissez une autre destination.</translation>
     </message>
     <message>
         <source>…</source>
@@ -3849,7 +3857,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     <name>ui::FolderListView</name>
     <message>
         <source>Drop folders here, or press Add</source>
-        <translation>Déposez des dossiers ici, ou cliquez sur « Ajouter »</translation>
+        <translation>Déposez des dossiers ici, ou cliquez sur «&#xa0;Ajouter&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -3860,15 +3868,15 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>700 MB – a CD</source>
-        <translation>700 Mo – un CD</translation>
+        <translation>700&#xa0;Mo – un CD</translation>
     </message>
     <message>
         <source>4.7 GB – a DVD</source>
-        <translation>4,7 Go – un DVD</translation>
+        <translation>4,7&#xa0;Go – un DVD</translation>
     </message>
     <message>
         <source>25 GB – a Blu-ray disc</source>
-        <translation>25 Go – un disque Blu-ray</translation>
+        <translation>25&#xa0;Go – un disque Blu-ray</translation>
     </message>
     <message>
         <source>None – one file an archive</source>
@@ -3884,7 +3892,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>%1 free; a backup needs about %2 while it works</source>
-        <translation>%1 libres ; une sauvegarde a besoin d’environ %2 pour travailler</translation>
+        <translation>%1 libres&#xa0;; une sauvegarde a besoin d’environ %2 pour travailler</translation>
     </message>
     <message>
         <source>%1 – it opens the archives that are there</source>
@@ -3944,14 +3952,14 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>Still missing for a backup:</source>
-        <translation>Il manque encore pour une sauvegarde :</translation>
+        <translation>Il manque encore pour une sauvegarde&#xa0;:</translation>
     </message>
 </context>
 <context>
     <name>ui::LevelBar</name>
     <message>
         <source>%1 of %2 tools are in order</source>
-        <translation>Outils en ordre : %1 sur %2</translation>
+        <translation>Outils en ordre&#xa0;: %1 sur %2</translation>
     </message>
     <message>
         <source>No tools checked</source>
@@ -3996,7 +4004,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>Time: %1</source>
-        <translation>Durée : %1</translation>
+        <translation>Durée&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -4007,7 +4015,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>“%1” is off the list.</source>
-        <translation>« %1 » est retiré de la liste.</translation>
+        <translation>«&#xa0;%1&#xa0;» est retiré de la liste.</translation>
     </message>
     <message numerus="yes">
         <source>%n entries are off the list.</source>
@@ -4090,7 +4098,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>checking…</source>
@@ -4144,7 +4152,7 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     </message>
     <message>
         <source>Save changes?</source>
-        <translation>Enregistrer les modifications ?</translation>
+        <translation>Enregistrer les modifications&#xa0;?</translation>
     </message>
     <message>
         <source>There are changes that are not saved.</source>

@@ -2146,6 +2146,10 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
         <source>volume %1 is as large as those before it, so it may not be the last</source>
         <translation>%1番目の分割ファイルがそれまでのものと同じ大きさのため、最後ではない可能性があります</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is a link</source>
+        <translation>「%1」はリンクです</translation>
+    </message>
 </context>
 <context>
     <name>extraction</name>
@@ -3512,6 +3516,10 @@ What you changed is kept only as long as the program runs. Make room, or make th
     <message>
         <source>Can&apos;t start &quot;%1&quot;: %2. Choose the tool&apos;s path on the Tools tab.</source>
         <translation>「%1」を起動できません: %2。「ツール」タブでツールのパスを選択してください。</translation>
+    </message>
+    <message>
+        <source>the tool&apos;s message is not readable text</source>
+        <translation>ツールのメッセージは読み取れるテキストではありません</translation>
     </message>
 </context>
 <context>

@@ -2146,6 +2146,10 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
         <source>volume %1 is as large as those before it, so it may not be the last</source>
         <translation>第 %1 卷与前面各卷一样大，因此可能不是最后一卷</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is a link</source>
+        <translation>“%1”是链接</translation>
+    </message>
 </context>
 <context>
     <name>extraction</name>
@@ -3512,6 +3516,10 @@ What you changed is kept only as long as the program runs. Make room, or make th
     <message>
         <source>Can&apos;t start &quot;%1&quot;: %2. Choose the tool&apos;s path on the Tools tab.</source>
         <translation>无法启动“%1”：%2。请在“工具”标签页选择该工具的路径。</translation>
+    </message>
+    <message>
+        <source>the tool&apos;s message is not readable text</source>
+        <translation>工具的消息不是可读的文本</translation>
     </message>
 </context>
 <context>

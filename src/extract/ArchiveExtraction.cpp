@@ -10,7 +10,6 @@
 #include "files/Room.h"
 #include "files/Sizes.h"
 #include "runs/ItemPipeline.h"
-#include "runs/Pauses.h"
 #include "runs/Run.h"
 
 #include <QCoreApplication>
@@ -18,7 +17,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
-#include <thread>
 
 namespace {
 
@@ -44,8 +42,6 @@ public:
 private:
     [[nodiscard]] bool begin();
     void unpackOuter();
-    [[nodiscard]] bool hold(const QStringList &paths);
-    void letGo();
     [[nodiscard]] ToolResult makeWayForEntries(const QStringList &entries);
     void takeRenamedEntry();
     void decrypt();
@@ -66,7 +62,7 @@ private:
     const ExtractOrder &m_order;
     ExtractShared &m_shared;
     const ExtractItem &m_paths;
-    QStringList m_held;     ///< paths that no other archive writes to as long as this one is on its way
+    HeldPaths m_held;
     const QString m_folder; ///< where the stages work
     QString m_entryName;    ///< of the encrypted file in the archive, where it is another than expected
     QString m_command;
@@ -120,6 +116,7 @@ ArchiveExtraction::ArchiveExtraction(Run &run, const ExtractOrder &order, qsizet
     , m_order(order)
     , m_shared(shared)
     , m_paths(order.items[index])
+    , m_held(shared.underWay)
     , m_folder(order.privateFolder.isEmpty() ? order.folder : order.privateFolder)
     , m_command(m_paths.command)
 {
@@ -158,7 +155,7 @@ void ArchiveExtraction::run()
         fail(u'\n' + explanation, explanation);
     }
     closePrivateFolder();
-    letGo();
+    m_held.letGo();
     end(m_isExtracted, {});
 }
 
@@ -194,27 +191,6 @@ ArchiveExtraction::Contents ArchiveExtraction::contentsOf(const QString &archive
     return contents;
 }
 
-/// Waits until no other archive writes to one of the paths. False where the run was cancelled by then.
-bool ArchiveExtraction::hold(const QStringList &paths)
-{
-    const auto isTaken = [this](const QString &path) { return m_shared.underWay.contains(path); };
-    for (; !isCancelled(); std::this_thread::sleep_for(pauses().poll)) {
-        const std::lock_guard lock(m_shared.mutex);
-        if (std::any_of(paths.begin(), paths.end(), isTaken)) continue;
-        m_held = paths;
-        m_shared.underWay.unite({paths.begin(), paths.end()});
-        return true;
-    }
-    return false;
-}
-
-void ArchiveExtraction::letGo()
-{
-    const std::lock_guard lock(m_shared.mutex);
-    for (const QString &path : m_held)
-        m_shared.underWay.remove(path);
-}
-
 /// Nothing that is in the folder may be written over by a file that the archive holds under another name than
 /// its own. Where the archiver knows no listing, its words are no file's name.
 ToolResult ArchiveExtraction::makeWayForEntries(const QStringList &entries)
@@ -237,7 +213,9 @@ void ArchiveExtraction::unpackOuter()
     for (const QString &entry : entriesOf(m_item))
         entries.append(joined(m_folder, lastPathComponent(entry)));
     const ExtractPaths &paths = m_paths.paths;
-    if (!hold(QStringList{paths.encrypted, paths.inner, paths.leftover} + entries)) return;
+    if (!m_held.hold(QStringList{paths.encrypted, paths.inner, paths.leftover} + entries,
+                     [this] { return isCancelled(); }))
+        return;
     ToolResult result = makeWayForEntries(entries);
     if (result.isSilent())
         result = runStage(m_order.archiver, extractArguments::unpackOuter(m_item, m_folder));
@@ -275,7 +253,7 @@ ToolResult ArchiveExtraction::runDecoder()
     // What an archive holds may be a trap: a link that leads the decoder out of the folder, to read or to
     // write.
     const ExtractPaths &paths = m_paths.paths;
-    if (whatIsAt(paths.encrypted) == Place::Link) return {u"\"%1\" is a link"_qs.arg(paths.encrypted)};
+    if (whatIsAt(paths.encrypted) == Place::Link) return {Words::tr("\"%1\" is a link").arg(paths.encrypted)};
     if (ToolResult result = checkInput(paths.encrypted); !result.isSilent()) return result;
     if (ToolResult result = makeWay(paths.inner); !result.isSilent()) return result;
 

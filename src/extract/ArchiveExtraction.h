@@ -2,17 +2,16 @@
 
 #include "extract/BroughtBack.h"
 #include "extract/ExtractOrder.h"
-
-#include <QSet>
+#include "extract/HeldPaths.h"
 
 class Run;
 
 /// What the items of one extraction share.
 struct ExtractShared {
     BroughtBack names;
+    PathsUnderWay underWay;
     std::mutex mutex;
     QStringList ownFolders; ///< of archives whose entries have the names of another's; guarded by `mutex`
-    QSet<QString> underWay; ///< paths that the archives on their way write to for a while; guarded by `mutex`
 };
 
 /// Turns one archive of the order back into what it was made of: takes the encrypted file out of it, decrypts

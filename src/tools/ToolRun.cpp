@@ -266,6 +266,12 @@ QString describeEnd(const QString &tool, int status)
 
 } // namespace
 
+QString ToolResult::firstLine() const
+{
+    if (!output) return Words::tr("the tool's message is not readable text");
+    return text().trimmed().section(u'\n', 0, 0);
+}
+
 bool tellsThatNotStarted(const QString &text)
 {
     // In the user's language, where the path may come first or last.

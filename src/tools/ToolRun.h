@@ -22,11 +22,7 @@ struct ToolResult {
     [[nodiscard]] QString text() const { return output.value_or(QString()); }
 
     /// The first line of it, for people.
-    [[nodiscard]] QString firstLine() const
-    {
-        if (!output) return u"the tool's message is not readable text"_qs;
-        return text().trimmed().section(u'\n', 0, 0);
-    }
+    [[nodiscard]] QString firstLine() const;
 };
 
 /// Runs `tool` (an absolute path) to its end and blocks the calling thread. No shell takes part: each
