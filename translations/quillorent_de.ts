@@ -90,6 +90,22 @@ quillorent-run tut dasselbe ohne Fenster.</translation>
         <source>[archive...]</source>
         <translation>[archive...]</translation>
     </message>
+    <message>
+        <source>Open this page: %1.</source>
+        <translation>Diese Seite öffnen: %1.</translation>
+    </message>
+    <message>
+        <source>page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>There is no option &quot;%1&quot;.</source>
+        <translation>Es gibt keine Option „%1“.</translation>
+    </message>
+    <message>
+        <source>There is no page &quot;%1&quot;.</source>
+        <translation>Es gibt keine Seite „%1“.</translation>
+    </message>
 </context>
 <context>
     <name>ConcernsPanel01</name>

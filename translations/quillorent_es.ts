@@ -90,6 +90,22 @@ quillorent-run hace lo mismo sin ella.</translation>
         <source>[archive...]</source>
         <translation>[paquete...]</translation>
     </message>
+    <message>
+        <source>Open this page: %1.</source>
+        <translation>Abrir esta página: %1.</translation>
+    </message>
+    <message>
+        <source>page</source>
+        <translation>página</translation>
+    </message>
+    <message>
+        <source>There is no option &quot;%1&quot;.</source>
+        <translation>No existe la opción “%1”.</translation>
+    </message>
+    <message>
+        <source>There is no page &quot;%1&quot;.</source>
+        <translation>No existe la página “%1”.</translation>
+    </message>
 </context>
 <context>
     <name>ConcernsPanel01</name>

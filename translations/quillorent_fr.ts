@@ -90,6 +90,22 @@ quillorent-run fait la même chose sans fenêtre.</translation>
         <source>[archive...]</source>
         <translation>[archive...]</translation>
     </message>
+    <message>
+        <source>Open this page: %1.</source>
+        <translation>Ouvrir cette page : %1.</translation>
+    </message>
+    <message>
+        <source>page</source>
+        <translation>page</translation>
+    </message>
+    <message>
+        <source>There is no option &quot;%1&quot;.</source>
+        <translation>Il n’y a pas d’option « %1 ».</translation>
+    </message>
+    <message>
+        <source>There is no page &quot;%1&quot;.</source>
+        <translation>Il n’y a pas de page « %1 ».</translation>
+    </message>
 </context>
 <context>
     <name>ConcernsPanel01</name>

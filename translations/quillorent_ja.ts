@@ -90,6 +90,22 @@ quillorent-run を使うと、ウィンドウなしで同じことができま�
         <source>[archive...]</source>
         <translation>[アーカイブ...]</translation>
     </message>
+    <message>
+        <source>Open this page: %1.</source>
+        <translation>このページを開きます: %1。</translation>
+    </message>
+    <message>
+        <source>page</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>There is no option &quot;%1&quot;.</source>
+        <translation>オプション「%1」はありません。</translation>
+    </message>
+    <message>
+        <source>There is no page &quot;%1&quot;.</source>
+        <translation>ページ「%1」はありません。</translation>
+    </message>
 </context>
 <context>
     <name>ConcernsPanel01</name>

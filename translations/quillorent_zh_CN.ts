@@ -90,6 +90,22 @@ quillorent-run 无需窗口即可完成同样的工作。</translation>
         <source>[archive...]</source>
         <translation>[归档...]</translation>
     </message>
+    <message>
+        <source>Open this page: %1.</source>
+        <translation>打开此页面：%1。</translation>
+    </message>
+    <message>
+        <source>page</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>There is no option &quot;%1&quot;.</source>
+        <translation>没有选项“%1”。</translation>
+    </message>
+    <message>
+        <source>There is no page &quot;%1&quot;.</source>
+        <translation>没有页面“%1”。</translation>
+    </message>
 </context>
 <context>
     <name>ConcernsPanel01</name>

@@ -23,8 +23,11 @@ CommandLine::CommandLine(int argc, char **argv)
     m_parser.setApplicationDescription(
         Words::tr("Backs up folders into encrypted archives, and brings them back. Opens a window;\n"
                   "quillorent-run does the same without one."));
-    m_parser.addOptions({{{QStringLiteral("h"), QStringLiteral("help")}, Words::tr("Show this text.")},
-                         {{QStringLiteral("v"), QStringLiteral("version")}, Words::tr("Show the version.")}});
+    m_parser.addOptions(
+        {{{QStringLiteral("h"), QStringLiteral("help")}, Words::tr("Show this text.")},
+         {{QStringLiteral("v"), QStringLiteral("version")}, Words::tr("Show the version.")},
+         {QStringLiteral("page"), Words::tr("Open this page: %1.").arg(Opening::pages().join(u", "_qs)),
+          Words::tr("page")}});
     m_parser.addPositionalArgument(QStringLiteral("archive"), Words::tr("Archives to bring back."),
                                    Words::tr("[archive...]"));
     m_parser.parse(QCoreApplication::arguments()); // what else there is may be for the toolkit
@@ -42,16 +45,27 @@ bool CommandLine::printsText(const char *version) const
     return asksForHelp || asksForVersion;
 }
 
-QStringList CommandLine::archives()
+std::optional<Opening> CommandLine::opening()
 {
-    QStringList paths;
     m_parser.parse(QCoreApplication::arguments());
+    Opening opening{.page = m_parser.value(QStringLiteral("page")), .archives = {}};
+    if (const QStringList unknown = m_parser.unknownOptionNames(); !unknown.isEmpty())
+        return refuse(Words::tr("There is no option \"%1\".").arg(unknown.first()));
+    if (m_parser.isSet(QStringLiteral("page")) && !Opening::pages().contains(opening.page))
+        return refuse(Words::tr("There is no page \"%1\".").arg(opening.page));
     for (const QString &each : m_parser.positionalArguments()) {
         if (each.isEmpty()) continue;
         const QUrl address(each);
-        paths.append(QFileInfo(address.isLocalFile() ? address.toLocalFile() : each).absoluteFilePath());
+        opening.archives.append(
+            QFileInfo(address.isLocalFile() ? address.toLocalFile() : each).absoluteFilePath());
     }
-    return paths;
+    return opening;
+}
+
+std::nullopt_t CommandLine::refuse(const QString &reason) const
+{
+    std::fprintf(stderr, "quillorent: %s\n\n%s", qUtf8Printable(reason), qUtf8Printable(m_help));
+    return std::nullopt;
 }
 
 } // namespace ui

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "ui/Opening.h"
+
 #include <QCommandLineParser>
+#include <optional>
 
 namespace ui {
 
@@ -12,11 +15,13 @@ public:
 
     /// Whether its help or its version is asked for, which is printed then, and not its window.
     [[nodiscard]] bool printsText(const char *version) const;
-    /// The archives that the window is to offer for restoring, as absolute paths. Empty: none. Asked once
-    /// there is an application, which has taken the toolkit's own options.
-    [[nodiscard]] QStringList archives();
+    /// What the window is asked for; none where that can't be understood, which is said. Asked once there is
+    /// an application, which has taken the toolkit's own options.
+    [[nodiscard]] std::optional<Opening> opening();
 
 private:
+    [[nodiscard]] std::nullopt_t refuse(const QString &reason) const;
+
     QCommandLineParser m_parser;
     QString m_help;
 };

@@ -23,15 +23,15 @@ QString socketFor(const QString &folder)
         .filePath(u"quillorent-"_qs + QString::fromLatin1(hash.left(16)));
 }
 
-/// Whether a window answers that it comes to the front; it gets the archives then.
-bool raisesOther(const QString &path, const QStringList &archives)
+/// Whether a window answers that it comes to the front; it is told then what was asked for.
+bool raisesOther(const QString &path, const Opening &opening)
 {
     QLocalSocket socket;
     socket.connectToServer(path);
     if (!socket.waitForConnected(1000) || (socket.bytesAvailable() == 0 && !socket.waitForReadyRead(5000)))
         return false;
     QDataStream stream(&socket);
-    stream << archives;
+    stream << opening;
     socket.waitForBytesWritten(5000);
     return true;
 }
@@ -44,14 +44,14 @@ SingleWindow::SingleWindow(const QString &folder) : m_path(socketFor(folder))
     connect(&m_server, &QLocalServer::newConnection, this, &SingleWindow::answer);
 }
 
-bool SingleWindow::take(const QStringList &archives)
+bool SingleWindow::take(const Opening &opening)
 {
     // Of two that start at once, the second looks when the first listens.
     QLockFile turn(m_path + u".lock"_qs);
     turn.setStaleLockTime(0);
     turn.tryLock(10'000);
 
-    if (raisesOther(m_path, archives)) return false;
+    if (raisesOther(m_path, opening)) return false;
     QLocalServer::removeServer(m_path);
     if (!m_server.listen(m_path))
         qWarning("%s: %s", qUtf8Printable(m_path), qUtf8Printable(m_server.errorString()));
@@ -72,10 +72,10 @@ void SingleWindow::answer()
 void SingleWindow::listenTo(QLocalSocket &socket)
 {
     QDataStream stream(&socket);
-    QStringList archives;
+    Opening opening;
     stream.startTransaction(); // the rest may be on its way
-    stream >> archives;
-    if (stream.commitTransaction() && !archives.isEmpty()) Q_EMIT archivesGiven(archives);
+    stream >> opening;
+    if (stream.commitTransaction() && !opening.isEmpty()) Q_EMIT openingRequested(opening);
 }
 
 } // namespace ui

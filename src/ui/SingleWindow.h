@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/Opening.h"
+
 #include <QLocalServer>
 #include <QLocalSocket>
 
@@ -16,8 +18,8 @@ public:
     explicit SingleWindow(const QString &folder);
 
     /// Whether this program may open the window. If not, another has one, brings it to the front, and is told
-    /// of these archives. One that has died, or gives no answer for some seconds, keeps nobody out.
-    [[nodiscard]] bool take(const QStringList &archives = {});
+    /// what was asked for. One that has died, or gives no answer for some seconds, keeps nobody out.
+    [[nodiscard]] bool take(const Opening &opening = {});
 
     /// The next program that starts may open one. Called when the window closes, as what comes after may take
     /// its time.
@@ -25,8 +27,8 @@ public:
 
 Q_SIGNALS:
     void raiseRequested();
-    /// Another program was started with these archives, named by absolute paths; there is at least one.
-    void archivesGiven(const QStringList &archives);
+    /// Another program was started, and asks for this.
+    void openingRequested(const ui::Opening &opening);
 
 private:
     void answer();

@@ -69,11 +69,13 @@ void Window::comeToFront()
     activateWindow();
 }
 
-void Window::offer(const QStringList &archives)
+void Window::open(const Opening &opening)
 {
-    if (archives.isEmpty()) return;
+    if (const qsizetype page = Opening::pages().indexOf(opening.page); page >= 0)
+        m_form->mainTabs->setCurrentIndex(static_cast<int>(page));
+    if (opening.archives.isEmpty()) return;
     m_form->mainTabs->setCurrentWidget(m_form->extractPage);
-    m_controller.addArchives(archives);
+    m_controller.addArchives(opening.archives);
 }
 
 // What a form can't say.

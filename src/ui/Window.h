@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/Motion.h"
+#include "ui/Opening.h"
 
 #include <QMainWindow>
 #include <QMessageBox>
@@ -33,8 +34,8 @@ public:
     [[nodiscard]] QList<QWidget *> roots();
 
     void comeToFront(); ///< also where it was minimised
-    /// Offers archives, by absolute paths, to be restored.
-    void offer(const QStringList &archives);
+    /// Shows what a start of the program asks for.
+    void open(const Opening &opening);
 
 Q_SIGNALS:
     void closed();

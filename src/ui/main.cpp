@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <cstdio>
+#include <sysexits.h>
 
 int main(int argc, char *argv[])
 {
@@ -18,6 +19,8 @@ int main(int argc, char *argv[])
     if (commandLine.printsText(QUILLORENT_VERSION)) return 0;
     prepareProcess();
     QApplication application(argc, argv);
+    const std::optional<ui::Opening> opening = commandLine.opening();
+    if (!opening) return EX_USAGE;
     // Closing the window ends the program, and only that: a panel may close while the window is hidden.
     QApplication::setQuitOnLastWindowClosed(false);
     installTranslations();
@@ -25,7 +28,7 @@ int main(int argc, char *argv[])
 
     static_cast<void>(quillorentLibrary::makePrivateFolder(quillorentLibrary::preferencesFolder()));
     ui::SingleWindow single(quillorentLibrary::preferencesFolder());
-    if (!single.take(commandLine.archives())) {
+    if (!single.take(*opening)) {
         std::fputs("Quillorent is open already; its window comes to the front.\n", stderr);
         return 0;
     }
@@ -39,10 +42,10 @@ int main(int argc, char *argv[])
         ui::Window window(controller);
         QObject::connect(&window, &ui::Window::closed, &application, quit);
         QObject::connect(&single, &ui::SingleWindow::raiseRequested, &window, &ui::Window::comeToFront);
-        QObject::connect(&single, &ui::SingleWindow::archivesGiven, &window, &ui::Window::offer);
+        QObject::connect(&single, &ui::SingleWindow::openingRequested, &window, &ui::Window::open);
         window.show();
         controller.applicationDidFinishLaunching();
-        window.offer(commandLine.archives());
+        window.open(*opening);
         QCoreApplication::exec();
         single.giveUp();
     }

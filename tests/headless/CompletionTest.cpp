@@ -52,16 +52,19 @@ TEST(Completion, OffersWhatFitsThePlaceInBash)
 
 TEST(Completion, KnowsEveryOptionInEveryShell)
 {
-    const std::string help = ProgramHome(QUILLORENT_RUN).run({"--help"}).output;
-    const std::regex option("--([a-z][a-z-]*)");
-    std::set<std::string> names;
-    for (std::sregex_iterator next(help.begin(), help.end(), option), end; next != end; ++next)
-        names.insert((*next)[1]);
-    EXPECT_TRUE(names.contains("json"));
-    for (const char *script : {"quillorent-run.bash", "_quillorent-run", "quillorent-run.fish"}) {
-        const std::string text = readFile(completions + "/" + script);
-        for (const std::string &name : names)
-            EXPECT_TRUE(contains(text, "--" + name) || contains(text, "-l " + name))
-                << script << ": " << name;
+    for (const std::string program : {QUILLORENT, QUILLORENT_RUN}) {
+        const std::string name = std::filesystem::path(program).filename();
+        const std::string help = ProgramHome(program).run({"--help"}).output;
+        const std::regex option("--([a-z][a-z-]*)");
+        std::set<std::string> options;
+        for (std::sregex_iterator next(help.begin(), help.end(), option), end; next != end; ++next)
+            options.insert((*next)[1]);
+        EXPECT_TRUE(options.contains("version"));
+        for (const std::string &script : {name + ".bash", "_" + name, name + ".fish"}) {
+            const std::string text = readFile(completions + "/" + script);
+            for (const std::string &each : options)
+                EXPECT_TRUE(contains(text, "--" + each) || contains(text, "-l " + each))
+                    << script << ": " << each;
+        }
     }
 }

@@ -241,10 +241,12 @@ TEST_F(ProfilesTest, ASecondStartRaisesTheFirstWindow)
     std::filesystem::permissions(runtime.path(), std::filesystem::perms{0700});
     qputenv("XDG_RUNTIME_DIR", runtime.path().c_str());
     const std::string config = quillorentLibrary::preferencesFolder().toStdString();
-    const auto start = [&](const std::string &folder, const std::string &archive = {}) {
+    const auto start = [&](const std::string &folder, const std::vector<std::string> &arguments = {}) {
+        std::vector<std::string> command{QUILLORENT};
+        command.insert(command.end(), arguments.begin(), arguments.end());
         return std::make_unique<BackgroundProgram>(
-            std::vector<std::string>{QUILLORENT, archive},
-            CommandOptions{.environment = {{"XDG_CONFIG_HOME", folder}}}, (runtime / "log").string());
+            command, CommandOptions{.environment = {{"XDG_CONFIG_HOME", folder}}},
+            (runtime / "log").string());
     };
     const auto sockets = [&] {
         return std::ranges::count_if(std::filesystem::directory_iterator(runtime.path()),
@@ -258,15 +260,24 @@ TEST_F(ProfilesTest, ASecondStartRaisesTheFirstWindow)
     ui::SingleWindow single(quillorentLibrary::preferencesFolder());
     ASSERT_TRUE(single.take());
     QObject::connect(&single, &ui::SingleWindow::raiseRequested, &window, &ui::Window::comeToFront);
-    QObject::connect(&single, &ui::SingleWindow::archivesGiven, &window, &ui::Window::offer);
+    QObject::connect(&single, &ui::SingleWindow::openingRequested, &window, &ui::Window::open);
     window.showMinimized();
 
     const std::string archive = (runtime / "a b.rar.aes.rar").string();
-    const auto second = start(config, archive);
+    const auto second = start(config, {archive});
     EXPECT_TRUE(waitUntil([&] { return second->hasEnded(); }));
     EXPECT_FALSE(window.isMinimized());
     EXPECT_TRUE(waitUntil([&] { return !program.delegate().extractFullList.strings().isEmpty(); }));
     EXPECT_EQ(program.delegate().extractFullList.strings(), QStringList(QString::fromStdString(archive)));
+    const auto third = start(config, {"--page", "password"});
+    auto *tabs = window.findChild<QTabWidget *>(u"mainTabs"_qs);
+    EXPECT_TRUE(waitUntil([&] { return tabs->currentWidget()->objectName() == u"passwordsPage"; }));
+    for (const std::vector<std::string> &wrong :
+         {std::vector<std::string>{"--page", "nowhere"}, {"--nonsense"}})
+        EXPECT_EQ(runCommand({QUILLORENT, wrong.front(), wrong.back()},
+                             {.environment = {{"XDG_CONFIG_HOME", config}}})
+                      .status,
+                  64);
     const auto other = start(program.path("other").toStdString());
     EXPECT_TRUE(waitUntil([&] { return sockets() == 2; })) << "settings of its own, a window of its own";
     EXPECT_FALSE(other->hasEnded());
