@@ -3844,10 +3844,6 @@ Was Sie geändert haben, bleibt nur, solange das Programm läuft. Schaffen Sie P
         <translation>enthält das Ziel</translation>
     </message>
     <message>
-        <source>Not found, and left out by a backup. Connect its disk, or remove it.</source>
-        <translation>Nicht gefunden, und beim Sichern ausgelassen. Schließen Sie den Datenträger an, oder entfernen Sie es.</translation>
-    </message>
-    <message>
         <source>Neither a file nor a folder, and left out by a backup. Remove it.</source>
         <translation>Weder Datei noch Ordner, und beim Sichern ausgelassen. Entfernen Sie es.</translation>
     </message>
@@ -3867,6 +3863,10 @@ Was Sie geändert haben, bleibt nur, solange das Programm läuft. Schaffen Sie P
     <message>
         <source>never</source>
         <translation>nie</translation>
+    </message>
+    <message>
+        <source>Not found, and left out. Connect its disk, or remove it.</source>
+        <translation>Nicht gefunden, und ausgelassen. Schließen Sie den Datenträger an, oder entfernen Sie es.</translation>
     </message>
 </context>
 <context>

@@ -3844,10 +3844,6 @@ Lo que ha cambiado se conserva solo mientras el programa esté abierto. Libere e
         <translation>contiene el destino</translation>
     </message>
     <message>
-        <source>Not found, and left out by a backup. Connect its disk, or remove it.</source>
-        <translation>No se encuentra, y la copia lo omite. Conecte su disco o quítelo.</translation>
-    </message>
-    <message>
         <source>Neither a file nor a folder, and left out by a backup. Remove it.</source>
         <translation>No es ni un archivo ni una carpeta, y la copia lo omite. Quítelo.</translation>
     </message>
@@ -3867,6 +3863,10 @@ Lo que ha cambiado se conserva solo mientras el programa esté abierto. Libere e
     <message>
         <source>never</source>
         <translation>nunca</translation>
+    </message>
+    <message>
+        <source>Not found, and left out. Connect its disk, or remove it.</source>
+        <translation>No se encuentra, y se omite. Conecte su disco o quítelo.</translation>
     </message>
 </context>
 <context>

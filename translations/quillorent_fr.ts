@@ -92,7 +92,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Open this page: %1.</source>
-        <translation>Ouvrir cette page : %1.</translation>
+        <translation>Ouvrir cette page&#xa0;: %1.</translation>
     </message>
     <message>
         <source>page</source>
@@ -100,11 +100,11 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>There is no option &quot;%1&quot;.</source>
-        <translation>Il n’y a pas d’option « %1 ».</translation>
+        <translation>Il n’y a pas d’option «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>There is no page &quot;%1&quot;.</source>
-        <translation>Il n’y a pas de page « %1 ».</translation>
+        <translation>Il n’y a pas de page «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -3844,10 +3844,6 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
         <translation>contient la destination</translation>
     </message>
     <message>
-        <source>Not found, and left out by a backup. Connect its disk, or remove it.</source>
-        <translation>Introuvable, et ignoré par une sauvegarde. Connectez son disque, ou retirez-le.</translation>
-    </message>
-    <message>
         <source>Neither a file nor a folder, and left out by a backup. Remove it.</source>
         <translation>Ni fichier ni dossier, et ignoré par une sauvegarde. Retirez-le.</translation>
     </message>
@@ -3867,6 +3863,10 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     <message>
         <source>never</source>
         <translation>jamais</translation>
+    </message>
+    <message>
+        <source>Not found, and left out. Connect its disk, or remove it.</source>
+        <translation>Introuvable, et ignoré. Connectez son disque, ou retirez-le.</translation>
     </message>
 </context>
 <context>

@@ -3834,10 +3834,6 @@ What you changed is kept only as long as the program runs. Make room, or make th
         <translation>保存先を含む</translation>
     </message>
     <message>
-        <source>Not found, and left out by a backup. Connect its disk, or remove it.</source>
-        <translation>見つからないため、バックアップの対象外になります。ディスクを接続するか、リストから外してください。</translation>
-    </message>
-    <message>
         <source>Neither a file nor a folder, and left out by a backup. Remove it.</source>
         <translation>ファイルでもフォルダーでもないため、バックアップの対象外になります。リストから外してください。</translation>
     </message>
@@ -3857,6 +3853,10 @@ What you changed is kept only as long as the program runs. Make room, or make th
     <message>
         <source>never</source>
         <translation>なし</translation>
+    </message>
+    <message>
+        <source>Not found, and left out. Connect its disk, or remove it.</source>
+        <translation>見つからないため、対象外になります。ディスクを接続するか、リストから外してください。</translation>
     </message>
 </context>
 <context>

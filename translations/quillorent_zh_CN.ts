@@ -3834,10 +3834,6 @@ What you changed is kept only as long as the program runs. Make room, or make th
         <translation>包含目标位置</translation>
     </message>
     <message>
-        <source>Not found, and left out by a backup. Connect its disk, or remove it.</source>
-        <translation>未找到，备份时会跳过。请连接其磁盘，或将它移除。</translation>
-    </message>
-    <message>
         <source>Neither a file nor a folder, and left out by a backup. Remove it.</source>
         <translation>既不是文件也不是文件夹，备份时会跳过。请将它移除。</translation>
     </message>
@@ -3857,6 +3853,10 @@ What you changed is kept only as long as the program runs. Make room, or make th
     <message>
         <source>never</source>
         <translation>从未</translation>
+    </message>
+    <message>
+        <source>Not found, and left out. Connect its disk, or remove it.</source>
+        <translation>未找到，会跳过。请连接其磁盘，或将它移除。</translation>
     </message>
 </context>
 <context>

@@ -30,7 +30,10 @@ QDateTime readDate(const QString &text)
     return date;
 }
 
-QString day(const QDateTime &date) { return date.toLocalTime().date().toString(Qt::ISODate); }
+QString day(const QDateTime &date)
+{
+    return QLocale().toString(date.toLocalTime().date(), QLocale::ShortFormat);
+}
 
 } // namespace
 

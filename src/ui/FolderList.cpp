@@ -2,7 +2,6 @@
 
 #include "files/Names.h"
 #include "ui/Appearance.h"
-#include "ui/SourceFacts.h"
 #include "ui/Wording.h"
 
 #include <QFileInfo>
@@ -47,7 +46,7 @@ QString atLength(SourceState state)
     case SourceState::Fine:
         break;
     case SourceState::Missing:
-        return FolderListModel::tr("Not found, and left out by a backup. Connect its disk, or remove it.");
+        return FolderListModel::tr("Not found, and left out. Connect its disk, or remove it.");
     case SourceState::Unsuitable:
         return FolderListModel::tr("Neither a file nor a folder, and left out by a backup. Remove it.");
     case SourceState::Link:
@@ -64,9 +63,10 @@ QString atLength(SourceState state)
 
 FolderListModel::FolderListModel(QObject *parent) : OutletTableModel(columns(), parent) {}
 
-void FolderListModel::setFacts(const SourceFacts &facts)
+void FolderListModel::setFacts(const SourceFacts &facts, ListPurpose purpose)
 {
     m_facts = &facts;
+    m_purpose = purpose;
     connect(&facts, &SourceFacts::changed, this, [this] {
         if (rowCount() > 0) Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
     });
@@ -74,7 +74,7 @@ void FolderListModel::setFacts(const SourceFacts &facts)
 
 QString FolderListModel::text(const QString &path, int column) const
 {
-    const SourceFacts::Fact fact = m_facts ? m_facts->of(path) : SourceFacts::Fact();
+    const SourceFacts::Fact fact = this->fact(path);
     switch (column) {
     case Name: {
         const QString name = quillorentLibrary::lastPathComponent(path);
@@ -93,15 +93,19 @@ QString FolderListModel::text(const QString &path, int column) const
     }
 }
 
-QString FolderListModel::explanation(const QString &path) const
+SourceFacts::Fact FolderListModel::fact(const QString &path) const
 {
-    return m_facts ? atLength(m_facts->of(path).state) : QString();
+    SourceFacts::Fact fact = m_facts ? m_facts->of(path) : SourceFacts::Fact();
+    // What else is odd for a backup is copied as it is.
+    if (m_purpose == ListPurpose::Synchronisation && fact.state != SourceState::Missing)
+        fact.state = SourceState::Fine;
+    return fact;
 }
 
 QVariant FolderListModel::data(const QModelIndex &index, int role) const
 {
     const QString path = cell(index.row(), pathColumn).toString();
-    const auto fact = m_facts ? m_facts->of(path) : SourceFacts::Fact();
+    const SourceFacts::Fact fact = this->fact(path);
     const bool isWrong = fact.state != SourceState::Fine;
     switch (role) {
     case Qt::DisplayRole:
@@ -119,9 +123,9 @@ QVariant FolderListModel::data(const QModelIndex &index, int role) const
     case Qt::TextAlignmentRole:
         return index.column() == Size && !isWrong ? int(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
     case Qt::ToolTipRole:
-        return plainToolTip(isWrong ? path + u'\n' + explanation(path) : path);
+        return plainToolTip(isWrong ? path + u'\n' + atLength(fact.state) : path);
     case Qt::AccessibleDescriptionRole:
-        return isWrong ? explanation(path) : path;
+        return isWrong ? atLength(fact.state) : path;
     default:
         return OutletTableModel::data(index, role);
     }
@@ -139,6 +143,12 @@ FolderListView::FolderListView(QWidget *parent)
     header.setSectionResizeMode(BackedUp, QHeaderView::ResizeToContents);
     header.setSectionsClickable(false);
     header.show();
+}
+
+void FolderListView::setFacts(const SourceFacts &facts, ListPurpose purpose)
+{
+    m_list->setFacts(facts, purpose);
+    setColumnHidden(BackedUp, purpose != ListPurpose::Backup);
 }
 
 QSize FolderListView::sizeHint() const

@@ -1,28 +1,31 @@
 #pragma once
 
 #include "ui/PathList.h"
+#include "ui/SourceFacts.h"
 
 namespace ui {
 
-class SourceFacts;
+/// What is done with the entries of a list.
+enum class ListPurpose { Backup, Synchronisation };
 
-/// The folder list: of each entry its name, its place, and what is known of it. What would keep it from being
-/// backed up stands in the place of its size.
+/// A folder list: of each entry its name, its place, and what is known of it. What would keep it from being
+/// backed up, or synchronised, stands in the place of its size.
 class FolderListModel : public OutletTableModel {
     Q_OBJECT
 
 public:
     explicit FolderListModel(QObject *parent = nullptr);
 
-    void setFacts(const SourceFacts &facts); ///< must live as long
+    void setFacts(const SourceFacts &facts, ListPurpose purpose); ///< they must live as long
 
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
 
 private:
     [[nodiscard]] QString text(const QString &path, int column) const;
-    [[nodiscard]] QString explanation(const QString &path) const;
+    [[nodiscard]] SourceFacts::Fact fact(const QString &path) const;
 
     const SourceFacts *m_facts = nullptr;
+    ListPurpose m_purpose = ListPurpose::Backup;
 };
 
 /// Shows the folder list.
@@ -32,7 +35,7 @@ class FolderListView : public PathListView {
 public:
     explicit FolderListView(QWidget *parent = nullptr);
 
-    void setFacts(const SourceFacts &facts) { m_list->setFacts(facts); }
+    void setFacts(const SourceFacts &facts, ListPurpose purpose);
 
     [[nodiscard]] QSize sizeHint() const override; ///< a few rows; more where there is room
 

@@ -39,7 +39,8 @@ FoldersPage::FoldersPage(QuillorentAppDelegate &controller, Ui::MainWindow &form
     // A page looks like the others, though it scrolls where the window is low.
     form.foldersScroll->viewport()->setAutoFillBackground(false);
     form.foldersContent->setAutoFillBackground(false);
-    form.listTableView->setFacts(m_facts);
+    form.listTableView->setFacts(m_facts, ListPurpose::Backup);
+    form.syncTableView->setFacts(m_facts, ListPurpose::Synchronisation);
     new CompressionHint(controller, queue, *form.compressionGain);
     offerVolumeSizes();
     form.hindranceList->setTabPredecessor(*form.checkBox03);

@@ -24,8 +24,8 @@ SourceFacts::SourceFacts(QuillorentAppDelegate &controller, RefreshQueue &queue,
     , m_look(u"folder-facts"_qs, [this](Look found) { take(std::move(found)); })
     , m_measure(u"folder-sizes"_qs, [this](const Size &size) { takeSize(size); })
 {
-    queue.watch({&controller.listTableView, &controller.fileText01, &controller.outputText01,
-                 &controller.progressPanel01},
+    queue.watch({&controller.listTableView, &controller.syncTableView, &controller.fileText01,
+                 &controller.outputText01, &controller.progressPanel01},
                 [this] { m_timer.lookSoon(); });
     queue.watch(controller.currentProfileTextView, [this] {
         if (m_profile == m_controller.currentProfile()) return;
@@ -37,7 +37,17 @@ SourceFacts::SourceFacts(QuillorentAppDelegate &controller, RefreshQueue &queue,
     });
 }
 
-QStringList SourceFacts::paths() const { return m_controller.currentRecord().array(u"folders"_qs).strings(); }
+QStringList SourceFacts::backedUpPaths() const
+{
+    return m_controller.currentRecord().array(u"folders"_qs).strings();
+}
+
+QStringList SourceFacts::paths() const
+{
+    QStringList all = backedUpPaths() + m_controller.currentRecord().array(u"sync"_qs).strings();
+    all.removeDuplicates();
+    return all;
+}
 
 void SourceFacts::look()
 {
@@ -118,7 +128,7 @@ SourceFacts::Fact SourceFacts::of(const QString &path) const
 std::optional<quint64> SourceFacts::bytesOfAll() const
 {
     quint64 bytes = 0;
-    for (const QString &path : paths()) {
+    for (const QString &path : backedUpPaths()) {
         const Fact fact = of(path);
         const bool isLeftOut =
             fact.isKnown && (fact.state == SourceState::Missing || fact.state == SourceState::Unsuitable);

@@ -15,9 +15,9 @@ namespace ui {
 
 class RefreshQueue;
 
-/// What is known of the folders of the list, of their place and of the backups before: found on threads of
-/// its own, kept, and looked at again when the list changes, a run has ended, or the program comes to the
-/// front. While a run is at work the disk is left to it.
+/// What is known of the entries of the lists to back up and to synchronise, of their place and of the backups
+/// before: found on threads of its own, kept, and looked at again when the list changes, a run has ended, or
+/// the program comes to the front. While a run is at work the disk is left to it.
 class SourceFacts : public QObject {
     Q_OBJECT
 
@@ -33,7 +33,7 @@ public:
     };
     [[nodiscard]] Fact of(const QString &path) const;
 
-    /// Of all entries together; none while one of them is not known.
+    /// Of all that is backed up, together; none while one of them is not known.
     [[nodiscard]] std::optional<quint64> bytesOfAll() const;
     [[nodiscard]] std::optional<qint64> roomAtDestination() const { return m_room; } ///< none: not known
     /// The last backup of this profile; none where no record tells of one, or before they were read.
@@ -67,7 +67,8 @@ private:
     void take(Look found);
     void measureNext();
     void takeSize(const Size &size);
-    [[nodiscard]] QStringList paths() const;
+    [[nodiscard]] QStringList backedUpPaths() const;
+    [[nodiscard]] QStringList paths() const; ///< of both lists, each once
 
     QuillorentAppDelegate &m_controller;
     LookTimer m_timer;

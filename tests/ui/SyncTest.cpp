@@ -4,6 +4,7 @@
 #include "SecretService.h"
 #include "Stub.h"
 
+#include "ui/FolderList.h"
 #include "ui/Motion.h"
 #include "ui/PreviewTableView.h"
 #include "ui/RunBar.h"
@@ -35,6 +36,12 @@ protected:
 
 TEST_F(SyncTest, ControlsSayWhatTheyDo)
 {
+    delegate.addSyncEntries({program.path("gone")});
+    const auto size = [&](int row) {
+        return widget<ui::FolderListView>(u"syncTableView"_qs).model()->index(row, 2).data().toString();
+    };
+    EXPECT_TRUE(waitUntil([&] { return size(0).startsWith(u"1"); })) << qPrintable(size(0));
+    EXPECT_TRUE(waitUntil([&] { return size(1) == u"not found"; })) << qPrintable(size(1));
     const auto &meaning = widget<QLabel>(u"syncMeaning"_qs);
     click(u"checkBoxSync1"_qs);
     EXPECT_FALSE(meaning.font().bold());
