@@ -163,13 +163,13 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     installTranslations();
+    QApplication::setStyle(QStyleFactory::create(u"Fusion"_qs));
     ui::setUpAppearance();
     const QStringList words = QApplication::arguments().mid(1);
     if (words.isEmpty() || !QDir().mkpath(words.first())) {
         std::fputs("usage: quillorent-pictures OUTPUT-FOLDER [dark] [rtl] [POINTS]\n", stderr);
         return 64;
     }
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_qs));
     if (words.contains(u"dark"_qs)) QApplication::setPalette(darkPalette());
     if (words.contains(u"rtl"_qs)) QApplication::setLayoutDirection(Qt::RightToLeft);
     for (const QString &word : words.mid(1))

@@ -2,8 +2,10 @@
 
 #include "ui/InkIcon.h"
 #include "ui/Placeholders.h"
+#include "ui/TextSizedStyle.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QFile>
 #include <QGuiApplication>
 #include <QStyle>
@@ -46,6 +48,7 @@ void setUpAppearance()
     loadIcons();
     letFormsFindIcons();
     keepPlaceholdersReadable();
+    QApplication::setStyle(new TextSizedStyle(QApplication::style()->name()));
     QGuiApplication::setApplicationName(u"quillorent"_qs);
     QGuiApplication::setApplicationDisplayName(u"Quillorent"_qs);
     QGuiApplication::setDesktopFileName(applicationId);
@@ -62,12 +65,8 @@ QIcon themeIcon(const QString &name)
 
 void dressButtons(QWidget &root)
 {
-    const int usual = root.style()->pixelMetric(QStyle::PM_SmallIconSize);
-    const int size = std::max(usual, root.fontMetrics().height());
-    for (auto *button : root.findChildren<QAbstractButton *>()) {
-        button->setIconSize(QSize(size, size));
+    for (auto *button : root.findChildren<QAbstractButton *>())
         if (const QString name = button->icon().name(); !name.isEmpty()) button->setIcon(themeIcon(name));
-    }
 }
 
 QIcon stateSign(Sign sign) { return QIcon(drawingOf(fileOf(sign))); }

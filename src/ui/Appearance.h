@@ -9,14 +9,14 @@ namespace ui {
 
 inline const QString applicationId = QStringLiteral("com.brolvanek.Quillorent");
 
-/// Name and icons of the program. Called once, after the application object was made.
+/// Name, style and icons of the program. Called once, after the application object was made.
 void setUpAppearance();
 
 /// The program's own icon of that name, or the session's theme's where there is none. Its lines have the
 /// colour of text.
 [[nodiscard]] QIcon themeIcon(const QString &name);
 
-/// Gives the buttons below `root` that have an icon the program's own of that name; it grows with the font.
+/// Gives the buttons below `root` that have an icon the program's own of that name.
 void dressButtons(QWidget &root);
 
 enum class Sign { Good, Bad, Pending };

@@ -24,6 +24,7 @@
 
 #include <QCoreApplication>
 #include <QFontDatabase>
+#include <QScreen>
 
 namespace ui {
 namespace {
@@ -32,11 +33,21 @@ struct Words {
     Q_DECLARE_TR_FUNCTIONS(Panels)
 };
 
+/// The forms are drawn for usual letters.
+void growWithText(QWidget &panel)
+{
+    constexpr int usualLine = 16;
+    const int line = panel.fontMetrics().height();
+    if (line > usualLine)
+        panel.resize((panel.size() * line / usualLine).boundedTo(panel.screen()->availableSize()));
+}
+
 template <class Form>
 PanelDialog *makePanel(Form &form, QWidget &window)
 {
     auto *panel = new PanelDialog(&window);
     form.setupUi(panel);
+    growWithText(*panel);
     return panel;
 }
 
