@@ -18,8 +18,9 @@ QString file() { return QDir::cleanPath(recordsFolder() + u"/../window.ini"_qs);
 
 QSize usualSize(const QWidget &window)
 {
-    const QFontMetrics font = window.fontMetrics();
-    const QSize wanted(font.averageCharWidth() * 150, font.height() * 40);
+    // The height of a line tells the size of text in every script; letters are as wide as that in some.
+    const int line = window.fontMetrics().height();
+    const QSize wanted(line * 64, line * 40);
     return wanted.boundedTo(window.screen()->availableSize() * 0.9);
 }
 
