@@ -1,6 +1,5 @@
 #include "FileDescriptor.h"
 
-#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <limits>
@@ -23,13 +22,6 @@ bool FileDescriptor::close()
 {
     const int descriptor = release();
     return descriptor < 0 || ::close(descriptor) == 0;
-}
-
-Pipe Pipe::open()
-{
-    std::array<int, 2> ends{-1, -1};
-    if (pipe2(ends.data(), O_CLOEXEC) != 0) return {};
-    return {FileDescriptor(ends[0]), FileDescriptor(ends[1])};
 }
 
 namespace {

@@ -31,15 +31,6 @@ private:
     int m_descriptor = -1;
 };
 
-/// A pipe that programs started later do not inherit. Both ends closed, with errno set: there is none to be
-/// had.
-struct Pipe {
-    FileDescriptor read;
-    FileDescriptor write;
-
-    [[nodiscard]] static Pipe open();
-};
-
 /// Reads until `into` is full or the file ends; the number of bytes, or -1 with errno set.
 [[nodiscard]] ssize_t readFully(int file, std::span<std::uint8_t> into);
 /// The same from an offset of its own.

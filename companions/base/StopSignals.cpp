@@ -60,15 +60,7 @@ StopSignals::StopSignals(BrokenPipe brokenPipe)
     if (brokenPipe == BrokenPipe::IsAnError) std::signal(SIGPIPE, SIG_IGN);
 }
 
-StopSignals::~StopSignals()
-{
-    for (const int signal : stopSignals)
-        setHandler(signal, SIG_DFL);
-    sigaction(SIGPIPE, &m_formerPipe, nullptr);
-    sigprocmask(SIG_SETMASK, &m_formerMask, nullptr);
-}
-
-void StopSignals::restoreInChild() const
+void StopSignals::restore() const
 {
     for (const int signal : stopSignals)
         setHandler(signal, SIG_DFL);

@@ -1,13 +1,12 @@
-#include "CommandLine.h"
 #include "CommandPlan.h"
 #include "PassPhrase.h"
-#include "Secret.h"
-#include "WipedBytes.h"
+#include "PasswordFile.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstring>
+#include <memory>
 
 namespace {
 
@@ -21,8 +20,6 @@ constexpr auto optionsWithValue = std::to_array<std::string_view>(
 constexpr std::string_view bufferSize = "262144";
 
 constexpr std::string_view inlinePassword = "pass:";
-
-CommandLine readCommandLine(std::span<char *const> arguments) { return {arguments, optionsWithValue}; }
 
 /// The cipher of the command line; empty where it names none.
 std::string_view cipherOf(const CommandLine &line)
@@ -43,11 +40,6 @@ char *spelledPassword(const Option &option)
     if (option.name == "k") return option.value;
     const bool isInline = option.name == "pass" && std::string_view(option.value).starts_with(inlinePassword);
     return isInline ? option.value + inlinePassword.size() : nullptr;
-}
-
-bool isPasswordOption(const Option &option)
-{
-    return option.name == "k" || option.name == "kfile" || option.name == "pass";
 }
 
 enum class PasswordState { NotSpelled, Taken, TooLong, HoldsLineBreak };
@@ -84,13 +76,6 @@ void addProviders(const CommandLine &line, std::string_view cipher, std::vector<
     append(arguments, {"-provider", "legacy", "-provider", "default"});
 }
 
-/// Where `-pass` says that the password is; nothing where it is spelled out, or no such place.
-std::optional<std::string> passPhraseSource(const CommandLine &line)
-{
-    const char *const source = line.value("pass");
-    return source && isPassPhraseSource(source) ? std::optional<std::string>(source) : std::nullopt;
-}
-
 /// Whether it is what the program runs that these tools belong to: `CIPHER [-d] -a [-salt] -in … -out … -pass
 /// pass:…`.
 bool isOurs(const CommandLine &line)
@@ -109,15 +94,15 @@ ToolRun planToolRun(const CommandLine &line, bool hasPassword)
         append(run.arguments, derivationOptions(currentKeyDerivation, !line.has({"md"})));
     addProviders(line, cipherOf(line), run.arguments);
     if (!line.has({"bufsize"})) append(run.arguments, {"-bufsize", std::string(bufferSize)});
-    run.isOurs = isOurs(line);
+    run.files.isOurs = isOurs(line);
     run.hasPassword = hasPassword;
-    run.output = line.file("out");
-    if (run.isOurs) run.input = line.file("in");
+    run.files.output = line.file("out");
+    if (run.files.isOurs) run.files.input = line.file("in");
     run.mayPrint = line.has({"p", "P", "v", "debug", "help", "list", "ciphers"});
-    append(run.arguments, line.without([&run](const Option &each) {
-        return each.name == "out" || spelledPassword(each) || (run.input && each.name == "in") ||
-               (run.hasPassword && isPasswordOption(each));
-    }));
+    line.appendTo(run.arguments, [&](const Option &each) {
+        return each.name == "out" || spelledPassword(each) || (run.files.input && each.name == "in") ||
+               (hasPassword && (each.name == "k" || each.name == "kfile" || each.name == "pass"));
+    });
     return run;
 }
 
@@ -156,7 +141,14 @@ std::optional<std::vector<KeyDerivation>> derivationsOf(const CommandLine &line,
     return all;
 }
 
-/// Without the password. Nothing: it is a matter for the tool.
+/// What the front does itself with the password.
+struct CipherRun {
+    FilePair files;
+    bool isDecryption;
+    PasswordFile file;
+};
+
+/// Nothing: it is a matter for the tool.
 std::optional<CipherRun> planOwnRun(const CommandLine &line)
 {
     const Option *const direction = line.last({"e", "d"});
@@ -176,10 +168,11 @@ enum class Finding { Found, NotFound, OfTool };
 /// Gets a password that the arguments don't spell out from wherever it is.
 Finding findPassword(const CommandLine &line, bool isDecryption, Secret &password, std::string &problem)
 {
-    if (const auto source = passPhraseSource(line)) {
-        if (fetchPassPhrase(*source, password, problem)) return Finding::Found;
+    const char *const source = line.value("pass");
+    if (source && isPassPhraseSource(source)) {
+        if (fetchPassPhrase(source, password, problem)) return Finding::Found;
         // Some that the tool takes are too long for a pipe to it.
-        return isRepeatable(*source) ? Finding::OfTool : Finding::NotFound;
+        return isRepeatable(source) ? Finding::OfTool : Finding::NotFound;
     }
     // Without a terminal the tool takes the password from its standard input, in a way of its own. With one
     // it asks twice before it encrypts.
@@ -192,7 +185,7 @@ Finding findPassword(const CommandLine &line, bool isDecryption, Secret &passwor
 
 std::optional<CommandPlan> planCipherCommand(std::span<char *const> arguments, Secret &password)
 {
-    const CommandLine line = readCommandLine(arguments);
+    const CommandLine line(arguments, optionsWithValue);
     if (cipherOf(line).empty()) return std::nullopt;
     const PasswordState passwordState = takePassword(line, password);
     if (passwordState == PasswordState::HoldsLineBreak)
@@ -210,5 +203,8 @@ std::optional<CommandPlan> planCipherCommand(std::span<char *const> arguments, S
         isTaken ? Finding::Found : findPassword(line, run->isDecryption, password, problem);
     if (finding == Finding::NotFound) return Refusal{problem};
     if (finding == Finding::OfTool) return planToolRun(line, false);
-    return std::move(*run);
+    return OwnRun([run = std::make_shared<CipherRun>(std::move(*run)), &password] {
+        const auto make = run->isDecryption ? decryption : encryption;
+        return convert(run->files, make(run->file, password.text()));
+    });
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <openssl/err.h>
+#include <strings.h>
 
 namespace {
 
@@ -20,11 +21,6 @@ constexpr std::array families{
     CipherFamily{"idea", true},      CipherFamily{"rc2", true},      CipherFamily{"rc4", true},
     CipherFamily{"rc5", true},       CipherFamily{"seed", true}};
 
-char toLower(char letter)
-{
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
 /// Whether what follows the family's name is a key size or a mode, as in `aes256`, `cast5-cbc` and `rc4-40`.
 bool isVariant(std::string_view rest)
 {
@@ -33,10 +29,10 @@ bool isVariant(std::string_view rest)
 
 const CipherFamily *familyOf(std::string_view cipher)
 {
-    std::string name(cipher);
-    std::ranges::transform(name, name.begin(), toLower);
-    const auto belongs = [&name](const CipherFamily &family) {
-        return name.starts_with(family.name) && isVariant(std::string_view(name).substr(family.name.size()));
+    const auto belongs = [cipher](const CipherFamily &family) {
+        const std::size_t size = family.name.size();
+        return cipher.size() >= size && strncasecmp(cipher.data(), family.name.data(), size) == 0 &&
+               isVariant(cipher.substr(size));
     };
     const auto found = std::ranges::find_if(families, belongs);
     return found == families.end() ? nullptr : &*found;

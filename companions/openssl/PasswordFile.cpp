@@ -1,10 +1,7 @@
 #include "PasswordFile.h"
 
-#include "BackgroundSink.h"
-#include "smime/Base64Sink.h"
-#include "smime/Base64Source.h"
+#include "smime/Base64.h"
 #include "smime/CipherSink.h"
-#include "smime/Fault.h"
 
 #include <algorithm>
 #include <openssl/rand.h>
@@ -28,12 +25,32 @@ bool startsWith(Bytes bytes, std::string_view text)
                               [](char letter) { return static_cast<std::uint8_t>(letter); });
 }
 
-bool start(EVP_CIPHER_CTX *context, const EVP_CIPHER *cipher, const KeyMaterial &material, bool isEncryption,
+/// The key with the initialisation vector behind it, as both derivations make them. Empty: the library won't.
+base::WipedBytes deriveKey(const EVP_CIPHER *cipher, const KeyDerivation &derivation,
+                           std::string_view password, Bytes salt)
+{
+    const CryptoHandle<EVP_MD> digest = fetchDigest(derivation.digest);
+    if (!digest) return {};
+    const int size = static_cast<int>(password.size());
+    const int keySize = EVP_CIPHER_get_key_length(cipher);
+    const int wholeSize = keySize + EVP_CIPHER_get_iv_length(cipher);
+    base::WipedBytes key(static_cast<std::size_t>(wholeSize));
+    const auto *const text = reinterpret_cast<const unsigned char *>(password.data());
+    const int isMade =
+        derivation.iterations == 0
+            ? EVP_BytesToKey(cipher, digest.get(), salt.data(), text, size, 1, key.data(),
+                             key.data() + keySize)
+            : PKCS5_PBKDF2_HMAC(password.data(), size, salt.data(), static_cast<int>(salt.size()),
+                                static_cast<int>(derivation.iterations), digest.get(), wholeSize, key.data());
+    return isMade > 0 ? std::move(key) : base::WipedBytes();
+}
+
+bool start(EVP_CIPHER_CTX *context, const EVP_CIPHER *cipher, const base::WipedBytes &key, bool isEncryption,
            bool isPadded)
 {
-    return context &&
-           EVP_CipherInit_ex(context, cipher, nullptr, material.key(), material.vector(),
-                             isEncryption ? 1 : 0) > 0 &&
+    return context && key.size() > 0 &&
+           EVP_CipherInit_ex(context, cipher, nullptr, key.data(),
+                             key.data() + EVP_CIPHER_get_key_length(cipher), isEncryption ? 1 : 0) > 0 &&
            EVP_CIPHER_CTX_set_padding(context, isPadded ? 1 : 0) > 0;
 }
 
@@ -43,13 +60,12 @@ bool encrypt(const PasswordFile &file, std::string_view password, ByteSource &in
     const EVP_CIPHER *const cipher = file.cipher.get();
     Header header{};
     std::ranges::copy(mark, header.begin());
-    KeyMaterial material;
     Base64Sink text(output);
     base::BackgroundSink rear(file.isBase64 ? static_cast<ByteSink &>(text) : output);
     CipherSink front(rear);
     if (RAND_bytes(header.data() + mark.size(), saltSize) <= 0 ||
-        !material.derive(cipher, file.derivations.back(), password, saltOf(header)) ||
-        !start(front.context(), cipher, material, true, file.isPadded))
+        !start(front.context(), cipher, deriveKey(cipher, file.derivations.back(), password, saltOf(header)),
+               true, file.isPadded))
         return fault.report("cannot be encrypted: libcrypto has no such key");
 
     bool isWritten = rear.write(header);
@@ -108,11 +124,12 @@ private:
     bool findKey()
     {
         for (const KeyDerivation &each : m_file.derivations) {
-            if (!m_material.derive(m_cipher, each, m_password, saltOf(m_header))) return false;
+            m_key = deriveKey(m_cipher, each, m_password, saltOf(m_header));
+            if (m_key.size() == 0) return false;
             m_isArchive = opensArchive();
             if (m_isArchive) break;
         }
-        return start(m_front.context(), m_cipher, m_material, false, m_file.isPadded);
+        return start(m_front.context(), m_cipher, m_key, false, m_file.isPadded);
     }
 
     [[nodiscard]] bool opensArchive() const
@@ -120,7 +137,7 @@ private:
         const CryptoHandle<EVP_CIPHER_CTX> context(EVP_CIPHER_CTX_new());
         base::WipedBytes plain(2 * tellingSize);
         int size = 0;
-        if (m_start.size() < tellingSize || !start(context.get(), m_cipher, m_material, false, false) ||
+        if (m_start.size() < tellingSize || !start(context.get(), m_cipher, m_key, false, false) ||
             EVP_DecryptUpdate(context.get(), plain.data(), &size, m_start.data(), tellingSize) <= 0)
             return false;
         const Bytes content{plain.data(), static_cast<std::size_t>(size)};
@@ -156,11 +173,24 @@ private:
     CipherSink m_front;
     Header m_header{};
     std::vector<std::uint8_t> m_start;
-    KeyMaterial m_material;
+    base::WipedBytes m_key;
     bool m_isArchive = false;
 };
 
 } // namespace
+
+std::vector<std::string> derivationOptions(const KeyDerivation &derivation, bool withDigest)
+{
+    std::vector<std::string> options;
+    if (derivation.iterations > 0) options = {"-pbkdf2", "-iter", std::to_string(derivation.iterations)};
+    if (withDigest) options.insert(options.end(), {"-md", std::string(derivation.digest)});
+    return options;
+}
+
+CryptoHandle<EVP_MD> fetchDigest(std::string_view name)
+{
+    return CryptoHandle<EVP_MD>(EVP_MD_fetch(nullptr, std::string(name).c_str(), nullptr));
+}
 
 Conversion encryption(const PasswordFile &file, std::string_view password)
 {

@@ -1,7 +1,5 @@
 #include "BerReader.h"
 
-#include "Fault.h"
-
 #include <algorithm>
 #include <limits>
 #include <string>

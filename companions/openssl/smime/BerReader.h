@@ -5,8 +5,6 @@
 #include <functional>
 #include <vector>
 
-class Fault;
-
 /// Identifier octets (X.690, section 8.1.2). Tags above 30 take more than one and do not occur here.
 namespace ber {
 inline constexpr std::uint8_t constructed = 0x20;

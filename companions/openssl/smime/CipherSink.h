@@ -1,8 +1,7 @@
 #pragma once
 
-#include "ByteStreams.h"
+#include "ByteReader.h"
 #include "CryptoHandles.h"
-#include "WipedBytes.h"
 
 /// Encrypts or decrypts what is written to it, and hands it on.
 class CipherSink final : public ByteSink {

@@ -11,7 +11,6 @@
 /// Frees what libcrypto gave away.
 struct CryptoDeleter {
     void operator()(BIO *bio) const { BIO_free(bio); }
-    void operator()(BIO_METHOD *method) const { BIO_meth_free(method); }
     void operator()(EVP_CIPHER *cipher) const { EVP_CIPHER_free(cipher); }
     void operator()(EVP_CIPHER_CTX *context) const { EVP_CIPHER_CTX_free(context); }
     void operator()(EVP_MD *digest) const { EVP_MD_free(digest); }

@@ -1,17 +1,96 @@
 #include "EncryptedMessage.h"
 
-#include "Base64Source.h"
+#include "Base64.h"
 #include "BerReader.h"
-#include "ContentCipher.h"
-#include "Fault.h"
+#include "CipherSink.h"
 #include "KeyOpener.h"
-#include "MimeHeader.h"
-#include "Recipient.h"
 
 #include <algorithm>
 #include <array>
+#include <cctype>
+#include <openssl/err.h>
+#include <openssl/objects.h>
 
 namespace {
+
+// In bytes. Mail servers take no longer headers either.
+constexpr std::size_t maximumHeader = 65536;
+
+bool isBlank(char letter) { return letter == ' ' || letter == '\t'; }
+
+/// Without blanks around it, in lower case (US-ASCII).
+std::string plain(std::string_view text)
+{
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    std::string result(text);
+    std::ranges::transform(result, result.begin(), [](unsigned char letter) { return std::tolower(letter); });
+    return result;
+}
+
+/// The value of a field without its parameters.
+std::string mainValue(std::string_view value) { return plain(value.substr(0, value.find(';'))); }
+
+/// Reads the header of an S/MIME message (RFC 8551, section 3.2) and the empty line after it. What returns
+/// false has reported that it is none, or that what follows is no base64 text.
+class HeaderReader {
+public:
+    HeaderReader(ByteReader &text, Fault &fault) : m_text(text), m_fault(fault) {}
+
+    bool read()
+    {
+        std::string field;
+        std::string line;
+        while (readLine(line)) {
+            // A line that begins with a blank goes on with the field before it.
+            if (!line.empty() && isBlank(line.front()) && !field.empty()) {
+                field += line;
+                continue;
+            }
+            if (!field.empty() && !take(field)) return false;
+            if (line.empty()) return m_isEnveloped || isNoMessage();
+            field.swap(line);
+        }
+        return false;
+    }
+
+private:
+    /// The next line without its end.
+    bool readLine(std::string &line)
+    {
+        line.clear();
+        while (const auto byte = m_text.get()) {
+            if (m_text.position() > maximumHeader) return isNoMessage();
+            if (*byte == '\n') {
+                if (line.ends_with('\r')) line.pop_back();
+                return true;
+            }
+            line += static_cast<char>(*byte);
+        }
+        return m_text.position() == 0 ? m_fault.report("is empty") : m_fault.reportCutShort();
+    }
+
+    bool take(std::string_view field)
+    {
+        const std::size_t colon = field.find(':');
+        if (colon == std::string_view::npos) return isNoMessage();
+        const std::string name = plain(field.substr(0, colon));
+        const std::string value = mainValue(field.substr(colon + 1));
+        if (name == "content-type")
+            m_isEnveloped = value == "application/x-pkcs7-mime" || value == "application/pkcs7-mime";
+        if (name == "content-transfer-encoding" && value != "base64")
+            return m_fault.report("is encoded as \"" + value + "\", not as base64");
+        return true;
+    }
+
+    bool isNoMessage() { return m_fault.report("is no S/MIME message"); }
+
+    ByteReader &m_text;
+    Fault &m_fault;
+    bool m_isEnveloped = false;
+};
 
 constexpr std::size_t maximumIdentifier = 64;   // in bytes, for an object identifier
 constexpr std::size_t maximumAlgorithm = 16384; // in bytes, with its parameters
@@ -28,7 +107,7 @@ constexpr std::array<std::uint8_t, 13> authenticatedData{0x06, 0x0b, 0x2a, 0x86,
 class EnvelopeReader {
 public:
     EnvelopeReader(ByteReader &bytes, KeyOpener &keys, ByteSink &output, Fault &fault)
-        : m_ber(bytes, fault), m_keys(keys), m_cipher(output, fault), m_fault(fault)
+        : m_ber(bytes, fault), m_keys(keys), m_sink(output), m_fault(fault)
     {
     }
 
@@ -84,19 +163,52 @@ private:
     bool readContent()
     {
         std::vector<std::uint8_t> algorithm;
-        if (!m_ber.enter(ber::sequence) || !m_ber.skip() || !m_ber.collect(algorithm, maximumAlgorithm) ||
-            !m_cipher.setAlgorithm(algorithm))
-            return false;
-        const ContentKey *const key = m_keys.contentKey(m_cipher.keySize());
-        if (!key) return m_fault.report(m_keys.refusal());
-        return m_cipher.start(*key) &&
-               m_ber.readOctets(ber::context(0), [this](Bytes piece) { return m_cipher.decrypt(piece); }) &&
-               m_ber.leave() && m_cipher.finish();
+        return m_ber.enter(ber::sequence) && m_ber.skip() && m_ber.collect(algorithm, maximumAlgorithm) &&
+               setAlgorithm(algorithm) && setKey() &&
+               m_ber.readOctets(ber::context(0), [this](Bytes piece) { return decrypt(piece); }) &&
+               m_ber.leave() &&
+               (m_sink.finish() ||
+                m_fault.report("is damaged: what it holds cannot be decrypted to its end"));
     }
+
+    /// From an encoded AlgorithmIdentifier with the initialisation vector.
+    bool setAlgorithm(Bytes encoding)
+    {
+        const unsigned char *next = encoding.data();
+        const CryptoHandle<X509_ALGOR> algorithm(
+            d2i_X509_ALGOR(nullptr, &next, static_cast<long>(encoding.size())));
+        if (!algorithm) return m_fault.report("is damaged: it names no cipher");
+
+        const char *const name = OBJ_nid2ln(OBJ_obj2nid(algorithm->algorithm));
+        m_cipher.reset(EVP_CIPHER_fetch(nullptr, name, nullptr));
+        // Ciphers with a tag of authenticity have no place for it in such a message.
+        const bool isUsable = m_cipher && !(EVP_CIPHER_get_flags(m_cipher.get()) & EVP_CIPH_FLAG_AEAD_CIPHER);
+        if (!isUsable)
+            return m_fault.report(std::string("is encrypted with a cipher that can't be used here: ") + name);
+
+        const bool isReady =
+            m_sink.context() &&
+            EVP_DecryptInit_ex(m_sink.context(), m_cipher.get(), nullptr, nullptr, nullptr) > 0 &&
+            EVP_CIPHER_asn1_to_param(m_sink.context(), algorithm->parameter) > 0;
+        ERR_clear_error();
+        return isReady || m_fault.report("is damaged: the settings of its cipher make no sense");
+    }
+
+    bool setKey()
+    {
+        const int size = EVP_CIPHER_CTX_get_key_length(m_sink.context());
+        const base::WipedBytes *const key = m_keys.contentKey(static_cast<std::size_t>(size));
+        if (!key) return m_fault.report(m_keys.refusal());
+        return EVP_DecryptInit_ex(m_sink.context(), nullptr, nullptr, key->data(), nullptr) > 0 ||
+               m_fault.report("is encrypted with a key that its cipher does not take");
+    }
+
+    bool decrypt(Bytes piece) { return m_sink.write(piece) || m_fault.report("cannot be decrypted"); }
 
     BerReader m_ber;
     KeyOpener &m_keys;
-    ContentCipher m_cipher;
+    CryptoHandle<EVP_CIPHER> m_cipher;
+    CipherSink m_sink;
     Fault &m_fault;
 };
 
@@ -113,7 +225,7 @@ bool decryptMessage(ByteSource &input, MessageForm form, KeyOpener &keys, ByteSi
     if (form == MessageForm::Der)
         return EnvelopeReader(outer, keys, output, fault).read() && isOver(outer, fault);
 
-    if (!readMimeHeader(outer, fault)) return false;
+    if (!HeaderReader(outer, fault).read()) return false;
     Base64Source base64(outer, fault);
     ByteReader inner(base64);
     if (!EnvelopeReader(inner, keys, output, fault).read()) return false;

@@ -1,30 +1,31 @@
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
+#include "CryptoHandles.h"
+#include "Streams.h"
+
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
+class BerReader;
 struct Certificate;
 struct PrivateKey;
-struct Recipient;
 
-/// The key of a message's content, wiped at the end.
-class ContentKey {
-public:
-    explicit ContentKey(std::vector<std::uint8_t> bytes) : m_bytes(std::move(bytes)) {}
-    ~ContentKey();
-    ContentKey(ContentKey &&) noexcept = default;
-    ContentKey(const ContentKey &) = delete;
-    ContentKey &operator=(const ContentKey &) = delete;
+/// One of those whom a message is for: KeyTransRecipientInfo of RFC 5652, section 6.2.1.
+struct Recipient {
+    /// What tells the recipient's certificate from others; null: it goes by its key's identifier.
+    CryptoHandle<PKCS7_ISSUER_AND_SERIAL> name;
+    std::vector<std::uint8_t> keyIdentifier;
+    /// What encrypted the key; it is there in every one that was read.
+    CryptoHandle<X509_ALGOR> algorithm;
+    std::vector<std::uint8_t> encryptedKey;
 
-    [[nodiscard]] const std::vector<std::uint8_t> &bytes() const { return m_bytes; }
-
-private:
-    std::vector<std::uint8_t> m_bytes;
+    [[nodiscard]] bool isNamedBy(X509 &certificate) const;
 };
+
+/// Reads the next element, a recipient of the kind that goes by a certificate. False, and reported: it is
+/// damaged.
+[[nodiscard]] bool readRecipient(BerReader &ber, Recipient &recipient);
 
 /// Opens, with a private key, what a message holds for its recipients.
 ///
@@ -49,7 +50,7 @@ public:
     void passOver(OtherRecipient recipient) { m_other = m_other.value_or(recipient); }
 
     /// The key of this size, in bytes, that a recipient's entry held; null: the private key opens none.
-    [[nodiscard]] const ContentKey *contentKey(std::size_t size) const;
+    [[nodiscard]] const base::WipedBytes *contentKey(std::size_t size) const;
     /// Why it opens none, said of the message.
     [[nodiscard]] std::string refusal() const;
 
@@ -62,5 +63,5 @@ private:
     bool m_hasMetCertificate = false;
     bool m_hasMetRsa = false;
     std::optional<OtherRecipient> m_other;
-    std::vector<ContentKey> m_opened;
+    std::vector<base::WipedBytes> m_opened;
 };

@@ -1,8 +1,6 @@
-#include "MessageEncryption.h"
+#include "EncryptedMessage.h"
 
-#include "BackgroundSink.h"
-#include "Base64Sink.h"
-#include "Fault.h"
+#include "Base64.h"
 #include "KeyFile.h"
 
 #include <openssl/err.h>
@@ -23,33 +21,13 @@ bool writeText(ByteSink &output, std::string_view text)
     return output.write({reinterpret_cast<const std::uint8_t *>(text.data()), text.size()});
 }
 
-int writeToSink(BIO *bio, const char *data, int size)
+/// Hands on what the library has written.
+bool handOn(BIO &written, ByteSink &output)
 {
-    auto &sink = *static_cast<ByteSink *>(BIO_get_data(bio));
-    return size >= 0 && writeText(sink, {data, static_cast<std::size_t>(size)}) ? size : -1;
-}
-
-long control(BIO *, int command, long, void *) { return command == BIO_CTRL_FLUSH ? 1 : 0; }
-
-CryptoHandle<BIO_METHOD> makeSinkMethod()
-{
-    CryptoHandle<BIO_METHOD> method(BIO_meth_new(BIO_get_new_index() | BIO_TYPE_SOURCE_SINK, "sink"));
-    if (method) {
-        BIO_meth_set_write(method.get(), writeToSink);
-        BIO_meth_set_ctrl(method.get(), control);
-    }
-    return method;
-}
-
-/// The library's end of a sink; null: there is no memory for it.
-CryptoHandle<BIO> openSink(ByteSink &sink)
-{
-    static const CryptoHandle<BIO_METHOD> method = makeSinkMethod();
-    CryptoHandle<BIO> bio(method ? BIO_new(method.get()) : nullptr);
-    if (!bio) return bio;
-    BIO_set_data(bio.get(), &sink);
-    BIO_set_init(bio.get(), 1);
-    return bio;
+    char *text = nullptr;
+    const long size = BIO_get_mem_data(&written, &text);
+    const bool isTaken = writeText(output, {text, static_cast<std::size_t>(size)});
+    return BIO_reset(&written) > 0 && isTaken;
 }
 
 CryptoHandle<PKCS7> makeEnvelope(const std::vector<Certificate> &recipients, const EVP_CIPHER *cipher)
@@ -61,17 +39,18 @@ CryptoHandle<PKCS7> makeEnvelope(const std::vector<Certificate> &recipients, con
 }
 
 /// Writes the binary form. False: the input or the output failed.
-bool writeEnvelope(PKCS7 &envelope, ByteSource &input, BIO &output)
+bool writeEnvelope(PKCS7 &envelope, ByteSource &input, ByteSink &output)
 {
-    BIO *chain = BIO_new_PKCS7(&output, &envelope);
+    const CryptoHandle<BIO> written(BIO_new(BIO_s_mem()));
+    BIO *chain = written ? BIO_new_PKCS7(written.get(), &envelope) : nullptr;
     if (!chain) return false;
     bool isWritten = true;
     for (Bytes piece; isWritten && !(piece = input.read()).empty();) {
         const int size = static_cast<int>(piece.size());
-        isWritten = BIO_write(chain, piece.data(), size) == size;
+        isWritten = BIO_write(chain, piece.data(), size) == size && handOn(*written, output);
     }
-    isWritten = isWritten && BIO_flush(chain) > 0;
-    while (chain != &output) {
+    isWritten = isWritten && BIO_flush(chain) > 0 && handOn(*written, output);
+    while (chain != written.get()) {
         BIO *const next = BIO_pop(chain);
         BIO_free(chain);
         chain = next;
@@ -93,10 +72,9 @@ bool encryptMessage(ByteSource &input, MessageForm form, const std::vector<Certi
     const bool isText = form == MessageForm::Smime;
     Base64Sink text(output);
     base::BackgroundSink rear(isText ? static_cast<ByteSink &>(text) : output);
-    const CryptoHandle<BIO> sink = openSink(rear);
     const CryptoHandle<PKCS7> envelope = makeEnvelope(recipients, cipher);
-    const bool isWritten = sink && envelope && (!isText || writeText(output, header)) &&
-                           writeEnvelope(*envelope, input, *sink) && !fault.isSet() && rear.finish() &&
+    const bool isWritten = envelope && (!isText || writeText(output, header)) &&
+                           writeEnvelope(*envelope, input, rear) && !fault.isSet() && rear.finish() &&
                            (!isText || (text.finish() && writeText(output, "\n")));
     ERR_clear_error();
     return isWritten || fault.report("cannot be encrypted: libcrypto refuses it");

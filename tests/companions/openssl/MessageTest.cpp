@@ -2,7 +2,6 @@
 #include "PasswordFile.h"
 #include "smime/BerReader.h"
 #include "smime/EncryptedMessage.h"
-#include "smime/Fault.h"
 #include "smime/KeyFile.h"
 #include "smime/KeyOpener.h"
 

@@ -1,4 +1,4 @@
-#include "BackgroundSink.h"
+#include "Streams.h"
 
 #include <algorithm>
 
