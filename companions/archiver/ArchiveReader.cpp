@@ -40,9 +40,9 @@ bool ArchiveReader::cannotRead(const std::string &what)
 
 bool ArchiveReader::open()
 {
-    std::unique_ptr<ByteSource> source = m_volumes.open(0);
+    std::optional<FileSource> source = m_volumes.open(0);
     if (!source) return cannotOpen(0);
-    m_window = SourceWindow(std::move(source));
+    m_window = SourceWindow(std::move(*source));
     if (beginsWith(m_window.peek(signature.size()), oldSignature)) m_format = &olderFormat;
     return readSignature() && readMainHeader(0);
 }
@@ -182,12 +182,12 @@ bool ArchiveReader::findEndOfVolume()
 
 bool ArchiveReader::openVolume(std::size_t index)
 {
-    std::unique_ptr<ByteSource> source = m_volumes.open(index);
+    std::optional<FileSource> source = m_volumes.open(index);
     if (!source) {
         if (errno == ENOENT) return fail("Cannot find volume " + printable(m_volumes.name(index)));
         return cannotOpen(index);
     }
-    m_window = SourceWindow(std::move(source));
+    m_window = SourceWindow(std::move(*source));
     m_volume = index;
     return readSignature() && readMainHeader(index);
 }

@@ -1,6 +1,5 @@
 #include "ArchiveWriter.h"
 
-#include "Interrupt.h"
 #include "Packer.h"
 #include "Probe.h"
 

@@ -51,22 +51,10 @@ std::uint64_t ByteReader::vint()
 void putBytes(ByteBuffer &into, Bytes bytes) { into.insert(into.end(), bytes.begin(), bytes.end()); }
 void putText(ByteBuffer &into, std::string_view text) { into.insert(into.end(), text.begin(), text.end()); }
 
-void putU16(ByteBuffer &into, std::uint16_t value)
+void putNumber(ByteBuffer &into, std::uint64_t value, std::size_t width)
 {
-    into.push_back(static_cast<std::uint8_t>(value));
-    into.push_back(static_cast<std::uint8_t>(value >> 8));
-}
-
-void putU32(ByteBuffer &into, std::uint32_t value)
-{
-    for (unsigned shift = 0; shift < 32; shift += 8)
-        into.push_back(static_cast<std::uint8_t>(value >> shift));
-}
-
-void putU64(ByteBuffer &into, std::uint64_t value)
-{
-    for (unsigned shift = 0; shift < 64; shift += 8)
-        into.push_back(static_cast<std::uint8_t>(value >> shift));
+    for (; width > 0; --width, value >>= 8)
+        into.push_back(static_cast<std::uint8_t>(value));
 }
 
 void putVint(ByteBuffer &into, std::uint64_t value, std::size_t width)

@@ -37,9 +37,8 @@ using ByteBuffer = std::vector<std::uint8_t>;
 
 void putBytes(ByteBuffer &into, Bytes bytes);
 void putText(ByteBuffer &into, std::string_view text);
-void putU16(ByteBuffer &into, std::uint16_t value);
-void putU32(ByteBuffer &into, std::uint32_t value);
-void putU64(ByteBuffer &into, std::uint64_t value);
+/// The lowest `width` bytes, the lowest one first.
+void putNumber(ByteBuffer &into, std::uint64_t value, std::size_t width);
 /// Padded to `width` bytes where the value needs fewer, so that it can be replaced later by another of that
 /// width.
 void putVint(ByteBuffer &into, std::uint64_t value, std::size_t width = 1);

@@ -1,5 +1,7 @@
 #include "Destination.h"
 
+#include "EntryName.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
@@ -39,17 +41,10 @@ bool Destination::open(const std::string &path)
 
 std::optional<std::vector<std::string>> Destination::components(const std::string &name)
 {
-    if (name.find('\0') != std::string::npos) return std::nullopt;
-    std::vector<std::string> parts;
-    for (std::size_t start = 0; start <= name.size();) {
-        const std::size_t end = std::min(name.find('/', start), name.size());
-        std::string part = name.substr(start, end - start);
-        if (part == "..") return std::nullopt;
-        if (!part.empty() && part != ".") parts.push_back(std::move(part));
-        start = end + 1;
-    }
-    if (parts.empty()) return std::nullopt;
-    return parts;
+    std::vector<std::string> parts = componentsOf(name);
+    const bool isUsable =
+        !parts.empty() && name.find('\0') == std::string::npos && std::ranges::count(parts, "..") == 0;
+    return isUsable ? std::optional(std::move(parts)) : std::nullopt;
 }
 
 int Destination::parentOf(const std::vector<std::string> &components)
@@ -82,6 +77,73 @@ bool Destination::descend(const std::string &name)
     if (!folder || !m_chain.push(std::move(folder))) return false;
     m_names.push_back(name);
     return true;
+}
+
+/// A folder on apply()'s way down, and the child that comes next.
+struct FolderAttributes::Level {
+    std::string name;
+    const Folder *folder;
+    std::map<std::string, std::size_t>::const_iterator next;
+};
+
+std::size_t FolderAttributes::child(std::size_t parent, const std::string &name)
+{
+    const auto [place, isNew] = m_folders[parent].children.try_emplace(name, m_folders.size());
+    const std::size_t index = place->second;
+    if (isNew) m_folders.emplace_back();
+    return index;
+}
+
+void FolderAttributes::set(std::span<const std::string> path, const State &state)
+{
+    std::size_t folder = 0;
+    for (const std::string &name : path)
+        folder = child(folder, name);
+    m_folders[folder].state = state;
+}
+
+void FolderAttributes::setMissing(std::span<const std::string> path, std::size_t above, const State &state)
+{
+    std::size_t folder = 0;
+    for (std::size_t depth = 0; depth < path.size(); ++depth) {
+        folder = child(folder, path[depth]);
+        if (depth >= above && !m_folders[folder].state) m_folders[folder].state = state;
+    }
+}
+
+void FolderAttributes::apply(int root, Diagnostics &diagnostics) const
+{
+    std::vector<Level> way;
+    FolderChain open;
+    const auto complain = [&](const std::string &name) {
+        std::string path;
+        for (std::size_t depth = 1; depth < way.size(); ++depth)
+            path += way[depth].name + '/';
+        diagnostics.reportSystem("Cannot set the attributes of folder " + printable(path + name));
+    };
+    const auto enter = [&](int parent, const std::string &name, const Folder &folder) {
+        base::FileDescriptor opened(openat(parent, name.c_str(), folderFlags | O_NOFOLLOW));
+        if (!opened || !open.push(std::move(opened))) return complain(name);
+        way.push_back({name, &folder, folder.children.begin()});
+    };
+    enter(root, ".", m_folders.front());
+    while (!way.empty()) {
+        Level &level = way.back();
+        if (level.next != level.folder->children.end()) {
+            const auto &[name, index] = *level.next++;
+            enter(open.last(), name, m_folders[index]);
+            continue;
+        }
+        // The one above comes first: there may be no way back once this one has its mode.
+        const std::optional<State> &state = level.folder->state;
+        const bool isDone =
+            open.openParent() && (!state || (futimens(open.last(), fileTimes(state->modified).data()) == 0 &&
+                                             fchmod(open.last(), state->mode) == 0));
+        const std::string name = level.name;
+        way.pop_back();
+        if (!isDone) complain(name);
+        if (!open.shorten(way.size()) && !way.empty()) return complain(name);
+    }
 }
 
 } // namespace archiver

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "StopSignals.h"
+
 #include <string>
 #include <string_view>
 
@@ -30,5 +32,8 @@ private:
 /// A file name for a message: control characters and bytes that are not UTF-8 as "\xHH", and cut
 /// where it is longer than anyone reads.
 [[nodiscard]] std::string printable(std::string_view name);
+
+/// Whether a signal asked to stop: the work in hand stops then, and removes what it has not finished.
+[[nodiscard]] inline bool interrupted() { return base::StopSignals::received() != 0; }
 
 } // namespace archiver

@@ -37,6 +37,20 @@ char mappedByte(std::string_view sequence)
 
 } // namespace
 
+std::string nameIn(const std::string &path) { return path.substr(path.rfind('/') + 1); }
+
+std::vector<std::string> componentsOf(const std::string &path)
+{
+    std::vector<std::string> components;
+    for (std::size_t start = 0; start <= path.size();) {
+        const std::size_t end = std::min(path.find('/', start), path.size());
+        std::string part = path.substr(start, end - start);
+        if (!part.empty() && part != ".") components.push_back(std::move(part));
+        start = end + 1;
+    }
+    return components;
+}
+
 std::size_t utf8Length(std::string_view text)
 {
     if (text.empty()) return 0;

@@ -2,8 +2,14 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace archiver {
+
+/// The last component of a path.
+[[nodiscard]] std::string nameIn(const std::string &path);
+/// The components of a path or a name, without empty ones and ".".
+[[nodiscard]] std::vector<std::string> componentsOf(const std::string &path);
 
 /// Bytes of the well-formed sequence (Unicode, table 3-7) at the start of `text`; 0 where there is none.
 [[nodiscard]] std::size_t utf8Length(std::string_view text);

@@ -22,9 +22,7 @@ EntryWriter::EntryWriter(OutputVolumes &output, Diagnostics &diagnostics)
 bool EntryWriter::write(const FileHeader &header)
 {
     m_header = header;
-    m_headerBytes.clear();
-    putFileHeader(m_headerBytes, header);
-    return makeRoom(0) && m_output.append(m_headerBytes);
+    return putHeader(0);
 }
 
 bool EntryWriter::begin(FileHeader header)
@@ -82,15 +80,19 @@ bool EntryWriter::end(std::uint32_t crc, std::uint64_t size)
     return endPart();
 }
 
-bool EntryWriter::makeRoom(std::uint64_t dataSize)
+/// `dataSize`: bytes that are to come behind it.
+bool EntryWriter::putHeader(std::uint64_t dataSize)
 {
+    m_headerBytes.clear();
+    presentFormat.putFile(m_headerBytes, m_header);
     if (m_headerBytes.size() > largestHeader)
         return m_diagnostics.report(printable(m_header.name) + " has a longer name than an archive can hold");
     const std::uint64_t needed = m_headerBytes.size() + std::min(dataSize, smallestPart);
-    if (m_output.room() >= needed) return true;
-    if (!m_output.atStart() && !m_output.nextVolume()) return false;
-    if (m_output.room() >= needed) return true;
-    return m_diagnostics.report("The volumes are too small for " + printable(m_header.name));
+    if (m_output.room() < needed && !m_output.atStart() && !m_output.nextVolume()) return false;
+    if (m_output.room() < needed)
+        return m_diagnostics.report("The volumes are too small for " + printable(m_header.name));
+    m_headerOffset = m_output.position();
+    return m_output.append(m_headerBytes);
 }
 
 bool EntryWriter::beginPart()
@@ -99,11 +101,7 @@ bool EntryWriter::beginPart()
     m_header.continuesAfter = false;
     m_header.crc = 0;
     m_partCrc = 0;
-    m_headerBytes.clear();
-    putFileHeader(m_headerBytes, m_header);
-    if (!makeRoom(m_header.unpackedSize)) return false;
-    m_headerOffset = m_output.position();
-    return m_output.append(m_headerBytes);
+    return putHeader(m_header.unpackedSize);
 }
 
 bool EntryWriter::endPart()
@@ -111,7 +109,7 @@ bool EntryWriter::endPart()
     m_header.packedSize = m_output.position() - m_headerOffset - m_headerBytes.size();
     const std::size_t length = m_headerBytes.size();
     m_headerBytes.clear();
-    putFileHeader(m_headerBytes, m_header);
+    presentFormat.putFile(m_headerBytes, m_header);
     if (m_headerBytes.size() != length)
         return m_diagnostics.report(printable(m_header.name) + " grew beyond what can be stored");
     return m_output.patch(m_headerOffset, m_headerBytes);

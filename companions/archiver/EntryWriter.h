@@ -27,7 +27,7 @@ public:
     [[nodiscard]] bool end(std::uint32_t crc, std::uint64_t size);
 
 private:
-    [[nodiscard]] bool makeRoom(std::uint64_t dataSize);
+    [[nodiscard]] bool putHeader(std::uint64_t dataSize);
     [[nodiscard]] bool beginPart();
     [[nodiscard]] bool endPart();
     [[nodiscard]] bool continueInNextVolume();

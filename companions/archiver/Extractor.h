@@ -2,7 +2,6 @@
 
 #include "ContentSink.h"
 #include "Destination.h"
-#include "FolderAttributes.h"
 
 #include <mutex>
 

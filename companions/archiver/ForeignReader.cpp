@@ -1,7 +1,6 @@
 #include "ForeignReader.h"
 
 #include "ContentCheck.h"
-#include "Interrupt.h"
 
 #include <archive.h>
 #include <archive_entry.h>

@@ -258,10 +258,10 @@ std::optional<FileHeader> oldFileHeader(const HeaderFrame &frame)
 void putOld(ByteBuffer &into, std::uint8_t type, std::uint64_t flags, const ByteBuffer &fields)
 {
     ByteBuffer checked{type};
-    putU16(checked, static_cast<std::uint16_t>(flags));
-    putU16(checked, static_cast<std::uint16_t>(commonSize + fields.size()));
+    putNumber(checked, flags, 2);
+    putNumber(checked, commonSize + fields.size(), 2);
     putBytes(checked, fields);
-    putU16(into, shortCrc(checked));
+    putNumber(into, shortCrc(checked), 2);
     putBytes(into, checked);
 }
 
@@ -276,21 +276,18 @@ void putOldMainHeader(ByteBuffer &into, const MainHeader &header)
 
 void putOldFileHeader(ByteBuffer &into, const FileHeader &header)
 {
-    const auto putHalf = [](ByteBuffer &fields, std::uint64_t value) {
-        putU32(fields, static_cast<std::uint32_t>(value));
-    };
     ByteBuffer fields;
-    putHalf(fields, header.packedSize);
-    putHalf(fields, header.unpackedSize);
+    putNumber(fields, header.packedSize, 4);
+    putNumber(fields, header.unpackedSize, 4);
     fields.push_back(header.unixHost ? unixHost : std::uint8_t{2});
-    putU32(fields, header.crc.value_or(0));
-    putU32(fields, 0);
-    fields.push_back(static_cast<std::uint8_t>(header.version));
-    fields.push_back(static_cast<std::uint8_t>(storing + header.method));
-    putU16(fields, static_cast<std::uint16_t>(header.name.size()));
-    putU32(fields, header.mode);
-    putHalf(fields, header.packedSize >> 32);
-    putHalf(fields, header.unpackedSize >> 32);
+    putNumber(fields, header.crc.value_or(0), 4);
+    putNumber(fields, 0, 4); // no time
+    putNumber(fields, header.version, 1);
+    putNumber(fields, storing + header.method, 1);
+    putNumber(fields, header.name.size(), 2);
+    putNumber(fields, header.mode, 4);
+    putNumber(fields, header.packedSize >> 32, 4);
+    putNumber(fields, header.unpackedSize >> 32, 4);
     putText(fields, header.name);
     putOld(into, oldtype::file,
            oldflag::hasData | oldflag::largeSizes | (header.continuesBefore ? oldflag::continuesBefore : 0) |

@@ -1,6 +1,6 @@
 #include "OutputVolumes.h"
 
-#include "Interrupt.h"
+#include "EntryName.h"
 #include "SetReplacement.h"
 #include "VolumeNames.h"
 
@@ -29,18 +29,17 @@ public:
         : m_files(files), m_archive(std::move(archive))
     {
     }
-    std::unique_ptr<ByteSource> open(std::size_t index) override
+    std::optional<FileSource> open(std::size_t index) override
     {
         // Those with names were too many to be open together.
         if (index > 0 && !m_files[index - 1].passingName().empty() && !m_files[index - 1].park())
-            return nullptr;
+            return std::nullopt;
         errno = ENOENT;
         struct stat status {};
         if (index >= m_files.size() || !m_files[index].unpark() ||
             fstat(m_files[index].descriptor(), &status) != 0)
-            return nullptr;
-        return std::make_unique<FileSource>(m_files[index].descriptor(),
-                                            static_cast<std::uint64_t>(status.st_size));
+            return std::nullopt;
+        return FileSource{m_files[index].descriptor(), static_cast<std::uint64_t>(status.st_size)};
     }
     [[nodiscard]] std::string name(std::size_t) const override { return m_archive; }
 
@@ -57,9 +56,61 @@ std::size_t mostOpenVolumes()
     return static_cast<std::size_t>(std::max<rlim_t>(limit.rlim_cur / 2, 1));
 }
 
-std::string nameIn(const std::string &path) { return path.substr(path.rfind('/') + 1); }
-
 } // namespace
+
+void BackgroundWriter::start()
+{
+    if (m_thread) return;
+    m_thread.emplace(1u, 1, [this](Filled &next) {
+        next.error = writeNow(next.file, Bytes(next.buffer).first(next.size)) ? 0 : errno;
+    });
+}
+
+void BackgroundWriter::stop()
+{
+    // What is being written is written to its end; the next finish() tells how that went.
+    if (m_thread && !finish()) m_error = errno;
+    m_thread.reset();
+}
+
+bool BackgroundWriter::writeNow(int file, Bytes bytes)
+{
+    // Not often, as each time costs a walk through what is in memory; often enough that little is left at the
+    // end.
+    constexpr std::size_t interval = 8 << 20;
+    if (!base::writeFully(file, bytes)) return false;
+    m_unsynced += bytes.size();
+    if (m_unsynced >= interval) {
+        base::startWriteBack(file);
+        m_unsynced = 0;
+    }
+    return true;
+}
+
+bool BackgroundWriter::write(int file, ByteBuffer &buffer, std::size_t size)
+{
+    if (size == 0) return true;
+    if (!finish()) return false;
+    if (!m_thread) return writeNow(file, Bytes(buffer).first(size));
+    Filled &next = *m_thread->free();
+    next.file = file;
+    next.size = size;
+    next.buffer.resize(buffer.size());
+    std::swap(next.buffer, buffer);
+    m_thread->give();
+    return true;
+}
+
+bool BackgroundWriter::finish()
+{
+    if (const Filled *const written = m_thread ? m_thread->take() : nullptr) {
+        m_error = written->error;
+        m_thread->release();
+    }
+    const int error = std::exchange(m_error, 0);
+    if (error != 0) errno = error;
+    return error == 0;
+}
 
 OutputVolumes::OutputVolumes(const std::string &archivePath, std::optional<std::uint64_t> volumeSize,
                              Diagnostics &diagnostics)
@@ -73,6 +124,11 @@ OutputVolumes::OutputVolumes(const std::string &archivePath, std::optional<std::
 {
 }
 
+bool OutputVolumes::cannotCreate(const std::string &name)
+{
+    return m_diagnostics.reportSystem("Cannot create " + printable(name));
+}
+
 bool OutputVolumes::cannotWrite() { return m_diagnostics.reportSystem("Cannot write " + printable(m_path)); }
 
 bool OutputVolumes::openFolder()
@@ -81,13 +137,12 @@ bool OutputVolumes::openFolder()
     m_folder =
         base::FileDescriptor(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     struct stat status {};
-    if (!m_folder || fstat(m_folder.get(), &m_folderStatus) != 0)
-        return m_diagnostics.reportSystem("Cannot create " + printable(m_path));
+    if (!m_folder || fstat(m_folder.get(), &m_folderStatus) != 0) return cannotCreate(m_path);
     // Found out now rather than after all the work.
     if (m_name.empty() || (fstatat(m_folder.get(), m_name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0 &&
                            S_ISDIR(status.st_mode))) {
         errno = EISDIR;
-        return m_diagnostics.reportSystem("Cannot create " + printable(m_path));
+        return cannotCreate(m_path);
     }
     return true;
 }
@@ -103,11 +158,11 @@ bool OutputVolumes::beginVolume()
 {
     base::StagedFile file =
         base::StagedFile::create(m_folder.get(), m_passingNames, static_cast<unsigned>(m_files.size()));
-    if (!file) return m_diagnostics.reportSystem("Cannot create " + printable(m_path));
+    if (!file) return cannotCreate(m_path);
     m_files.push_back(std::move(file));
     m_position = 0;
     ByteBuffer start(signature.begin(), signature.end());
-    putMainHeader(start, {limited(), m_files.size() - 1, m_solid});
+    presentFormat.putMain(start, {limited(), m_files.size() - 1, m_solid});
     if (!append(start)) return false;
     m_dataStart = m_position;
     return true;
@@ -174,7 +229,7 @@ bool OutputVolumes::patch(std::uint64_t offset, Bytes bytes)
 bool OutputVolumes::endVolume(bool more)
 {
     ByteBuffer end;
-    putEndHeader(end, more);
+    presentFormat.putEnd(end, more);
     const std::uint64_t size = m_position + end.size();
     if (!more && m_files.size() > 1 && size < smallestLastVolume) end.resize(end.size() + smallestLastVolume);
     if (!append(end) || !flushAndWait()) return false;
@@ -196,7 +251,7 @@ bool OutputVolumes::finish()
     if (limited() && m_files.size() == 1) {
         // All fits into the first volume: an ordinary archive, then. The header's length is the same.
         ByteBuffer header;
-        putMainHeader(header, {.solid = m_solid});
+        presentFormat.putMain(header, {.solid = m_solid});
         if (!patch(signature.size(), header)) return false;
     }
     return endVolume(false);
@@ -228,7 +283,7 @@ bool OutputVolumes::publish(const std::optional<Timestamp> &time)
             !S_ISDIR(status.st_mode))
             continue;
         errno = EISDIR;
-        return m_diagnostics.reportSystem("Cannot create " + printable(name));
+        return cannotCreate(name);
     }
     // Before the names, or a power cut would leave an empty archive where the one before is gone.
     for (base::StagedFile &file : m_files)
@@ -236,8 +291,7 @@ bool OutputVolumes::publish(const std::optional<Timestamp> &time)
     const bool areSeveral =
         names.size() > 1 || (limited() && !filesOfArchive(m_folder.get(), m_name, names).empty());
     if (areSeveral) return replaceSet(m_folder.get(), m_name, m_files, m_diagnostics);
-    if (!m_files.front().publish(m_name, m_passingNames))
-        return m_diagnostics.reportSystem("Cannot create " + printable(m_name));
+    if (!m_files.front().publish(m_name, m_passingNames)) return cannotCreate(m_name);
     return base::syncToDisk(m_folder.get()) || cannotWrite();
 }
 

@@ -1,17 +1,47 @@
 #pragma once
 
-#include "BackgroundWriter.h"
 #include "Diagnostics.h"
 #include "Headers.h"
+#include "OrderedWork.h"
 #include "StagedFile.h"
 #include "VolumeSource.h"
 
 #include <memory>
-#include <optional>
-#include <string>
-#include <vector>
 
 namespace archiver {
+
+/// Writes buffers to files, in a thread of its own on demand, one at a time, so that the next one can be
+/// filled meanwhile.
+class BackgroundWriter {
+public:
+    /// The thread exists from start() to stop() only: as long as there is one, each of the system's calls
+    /// that deals with a file costs more, which is felt with many small files. Without it write() does the
+    /// work itself.
+    void start();
+    void stop();
+
+    /// Takes the first `size` bytes of `buffer`, to be written where `file` stands, and gives back a buffer
+    /// as long, whose content doesn't matter. False with errno set where the write before has failed.
+    [[nodiscard]] bool write(int file, ByteBuffer &buffer, std::size_t size);
+    /// Writes, behind all before, bytes that stay the caller's.
+    [[nodiscard]] bool writeAtOnce(int file, Bytes bytes) { return finish() && writeNow(file, bytes); }
+    /// Waits until all is written. False with errno set where that failed, once.
+    [[nodiscard]] bool finish();
+
+private:
+    struct Filled {
+        int file = -1;
+        ByteBuffer buffer;
+        std::size_t size = 0;
+        int error = 0; ///< errno of the writing
+    };
+
+    [[nodiscard]] bool writeNow(int file, Bytes bytes);
+
+    std::size_t m_unsynced = 0;
+    int m_error = 0; ///< of what was written last
+    std::optional<base::OrderedWork<Filled>> m_thread;
+};
 
 /// The files of an archive that is being written: one, or volumes of a limited size. They have no names of
 /// their own until publish(), and are gone again where that doesn't come. Functions that give false have
@@ -68,6 +98,7 @@ private:
     [[nodiscard]] bool keepFewOpen();
     [[nodiscard]] bool complete(base::StagedFile &file, const std::optional<Timestamp> &time);
     bool cannotWrite();
+    bool cannotCreate(const std::string &name);
 
     std::string m_path;
     std::string m_name; ///< the archive's, in its folder

@@ -1,6 +1,5 @@
 #include "SetReplacement.h"
 
-#include "Interrupt.h"
 #include "VolumeNames.h"
 
 #include <algorithm>

@@ -1,15 +1,14 @@
 #include "TreeWalker.h"
 
-#include "Interrupt.h"
+#include "EntryName.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <dirent.h>
 #include <fcntl.h>
 #include <memory>
-#include <optional>
 #include <unistd.h>
-#include <vector>
 
 namespace archiver {
 
@@ -19,16 +18,10 @@ namespace {
 std::string storedPath(const std::string &path)
 {
     std::string stored;
-    for (std::size_t start = 0; start <= path.size();) {
-        const std::size_t end = std::min(path.find('/', start), path.size());
-        const std::string part = path.substr(start, end - start);
-        if (!part.empty() && part != "." && part != "..") stored += (stored.empty() ? "" : "/") + part;
-        start = end + 1;
-    }
+    for (const std::string &part : componentsOf(path))
+        if (part != "..") stored += (stored.empty() ? "" : "/") + part;
     return stored;
 }
-
-std::string lastComponent(const std::string &path) { return path.substr(path.rfind('/') + 1); }
 
 unsigned char listingType(mode_t mode) { return static_cast<unsigned char>(IFTODT(mode)); }
 
@@ -70,25 +63,17 @@ public:
     }
 
 private:
-    struct Closer {
-        void operator()(DIR *entries) const { closedir(entries); }
-    };
-    std::unique_ptr<DIR, Closer> m_entries;
+    std::unique_ptr<DIR, int (*)(DIR *)> m_entries{nullptr, closedir};
     int m_error = 0;
 };
 
 std::optional<std::string> readTarget(int folder, const std::string &entry)
 {
-    std::string target(4096, '\0');
-    for (;;) {
-        const ssize_t length = readlinkat(folder, entry.c_str(), target.data(), target.size());
-        if (length < 0) return std::nullopt;
-        if (static_cast<std::size_t>(length) < target.size()) {
-            target.resize(static_cast<std::size_t>(length));
-            return target;
-        }
-        target.resize(target.size() * 2);
-    }
+    std::array<char, 65536> target; // what the largest page holds, which no link fills
+    const ssize_t length = readlinkat(folder, entry.c_str(), target.data(), target.size());
+    return length < 0
+               ? std::nullopt
+               : std::optional<std::string>(std::in_place, target.data(), static_cast<std::size_t>(length));
 }
 
 } // namespace
@@ -103,8 +88,9 @@ struct TreeWalker::Level {
     std::size_t next = 0;
 };
 
-TreeWalker::TreeWalker(TreeVisitor &visitor, Links links, Names names, Diagnostics &diagnostics)
-    : m_visitor(visitor), m_links(links), m_names(names), m_diagnostics(diagnostics)
+TreeWalker::TreeWalker(ArchiveWriter &writer, const OutputVolumes &output, const Arguments &arguments,
+                       Diagnostics &diagnostics)
+    : m_writer(writer), m_output(output), m_arguments(arguments), m_diagnostics(diagnostics)
 {
 }
 
@@ -118,7 +104,7 @@ void TreeWalker::refuse(mode_t mode)
                          ", and archives hold files, folders and links only");
 }
 
-std::string TreeWalker::storedName() const { return m_names == Names::Bare ? lastComponent(m_name) : m_name; }
+std::string TreeWalker::storedName() const { return m_arguments.bareNames ? nameIn(m_name) : m_name; }
 
 bool TreeWalker::walk(const std::string &source)
 {
@@ -149,7 +135,7 @@ bool TreeWalker::goOn()
         if (level.batch.empty()) return leaveFolder();
     }
     const auto &[entry, type] = level.batch[level.next++];
-    if (m_visitor.excluded(level.status, entry)) return true;
+    if (m_output.owns(level.status, entry)) return true;
     if (m_path != "/") m_path += '/';
     m_path += entry;
     if (!m_name.empty()) m_name += '/';
@@ -163,7 +149,7 @@ bool TreeWalker::leaveFolder()
     m_levels.pop_back();
     if (!m_folders.shorten(m_levels.size())) return cannotOpen(), false;
     const std::string name = storedName();
-    return name.empty() || m_visitor.folder(status, name); // "/" itself has no name
+    return name.empty() || m_writer.addFolder(status, name); // "/" itself has no name
 }
 
 bool TreeWalker::visit(const Place &place)
@@ -201,7 +187,7 @@ bool TreeWalker::visitFile(const Place &place)
         m_diagnostics.report("Cannot open " + printable(m_path) + ": it was replaced meanwhile");
         return true;
     }
-    return m_visitor.file(file.get(), status, storedName(), m_path);
+    return m_writer.addFile(file.get(), status, storedName(), m_path);
 }
 
 void TreeWalker::enterFolder(const Place &place)
@@ -217,7 +203,7 @@ void TreeWalker::enterFolder(const Place &place)
 bool TreeWalker::visitLink(const Place &place)
 {
     struct stat status {};
-    if (m_links == Links::Follow) {
+    if (!m_arguments.keepLinks) {
         if (fstatat(place.folder, place.entry.c_str(), &status, 0) != 0) return cannotOpen(), true;
         // Below the source a link to a folder stays a link: following it might never end.
         const bool follow = !S_ISDIR(status.st_mode) || place.folder == AT_FDCWD;
@@ -226,7 +212,7 @@ bool TreeWalker::visitLink(const Place &place)
     const std::optional<std::string> target = readTarget(place.folder, place.entry);
     if (!target || fstatat(place.folder, place.entry.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0)
         return cannotOpen(), true;
-    return m_visitor.link(status, storedName(), *target);
+    return m_writer.addLink(status, storedName(), *target);
 }
 
 } // namespace archiver

@@ -1,12 +1,53 @@
-#include "EntryName.h"
-#include "HeaderFlags.h"
 #include "Headers.h"
+
+#include "EntryName.h"
 
 #include <algorithm>
 
 namespace archiver {
 
 namespace {
+
+// The bits and numbers of the headers' fields.
+
+namespace headerflag {
+constexpr std::uint64_t extra = 0x01;
+constexpr std::uint64_t data = 0x02;
+constexpr std::uint64_t continuesBefore = 0x08;
+constexpr std::uint64_t continuesAfter = 0x10;
+} // namespace headerflag
+
+namespace mainflag {
+constexpr std::uint64_t volume = 0x01;
+constexpr std::uint64_t number = 0x02;
+constexpr std::uint64_t solid = 0x04;
+} // namespace mainflag
+
+namespace fileflag {
+constexpr std::uint64_t folder = 0x01;
+constexpr std::uint64_t time = 0x02;
+constexpr std::uint64_t crc = 0x04;
+constexpr std::uint64_t sizeUnknown = 0x08;
+} // namespace fileflag
+
+namespace extrarecord {
+constexpr std::uint64_t encryption = 1;
+constexpr std::uint64_t hash = 2;
+constexpr std::uint64_t times = 3;
+constexpr std::uint64_t link = 5;
+} // namespace extrarecord
+
+namespace timeflag {
+constexpr std::uint64_t unixFormat = 0x01;
+constexpr std::uint64_t modified = 0x02;
+constexpr std::uint64_t changed = 0x04;
+constexpr std::uint64_t accessed = 0x08;
+constexpr std::uint64_t nanoseconds = 0x10;
+} // namespace timeflag
+
+/// Seconds from 1601, where Windows times start (in steps of 100 ns), to 1970.
+constexpr std::int64_t windowsEpoch = 11'644'473'600;
+constexpr std::int64_t windowsTicks = 10'000'000; ///< a second
 
 constexpr std::size_t longestName = 65535; // longer ones can't be created anywhere
 
@@ -83,8 +124,6 @@ bool parseExtra(Bytes extra, FileHeader &header)
     return true;
 }
 
-} // namespace
-
 std::optional<std::size_t> headerLength(Bytes start)
 {
     ByteReader reader(start);
@@ -157,5 +196,118 @@ std::optional<FileHeader> parseFileHeader(const HeaderFrame &frame)
     if (!reader.ok() || !parseExtra(frame.extra, header)) return std::nullopt;
     return header;
 }
+
+constexpr std::size_t sizeWidth = 6;
+static_assert(largestSize >> 7 * sizeWidth == 0);
+
+void putRecord(ByteBuffer &into, const ByteBuffer &record)
+{
+    putVint(into, record.size());
+    putBytes(into, record);
+}
+
+ByteBuffer timeRecord(const Timestamp &time)
+{
+    ByteBuffer record;
+    putVint(record, extrarecord::times);
+    if (time.seconds >= 0 && time.seconds <= 0xFFFFFFFF) {
+        putVint(record, timeflag::unixFormat | timeflag::modified | timeflag::nanoseconds);
+        putNumber(record, static_cast<std::uint64_t>(time.seconds), 4);
+        putNumber(record, time.nanoseconds, 4);
+        return record;
+    }
+    // The Unix form has 32 bits without a sign. The other one reaches from 1601 on, in steps of 100 ns.
+    putVint(record, timeflag::modified);
+    const std::int64_t seconds = std::max<std::int64_t>(time.seconds + windowsEpoch, 0);
+    putNumber(record, static_cast<std::uint64_t>(seconds * windowsTicks + time.nanoseconds / 100), 8);
+    return record;
+}
+
+ByteBuffer linkRecord(const LinkTarget &link)
+{
+    const std::string target = encodeName(link.path);
+    ByteBuffer record;
+    putVint(record, extrarecord::link);
+    putVint(record, static_cast<std::uint64_t>(link.kind));
+    putVint(record, link.toFolder ? 1 : 0);
+    putVint(record, target.size());
+    putText(record, target);
+    return record;
+}
+
+ByteBuffer extraArea(const FileHeader &header)
+{
+    ByteBuffer extra;
+    if (header.modified) putRecord(extra, timeRecord(*header.modified));
+    if (header.link) putRecord(extra, linkRecord(*header.link));
+    return extra;
+}
+
+void putFileFields(ByteBuffer &body, const FileHeader &header)
+{
+    const bool hasData = !header.folder && !header.link;
+    putVint(body, (header.folder ? fileflag::folder : 0) | (hasData ? fileflag::crc : 0));
+    putVint(body, header.unpackedSize, hasData ? sizeWidth : 1);
+    putVint(body, header.mode);
+    if (hasData) putNumber(body, header.crc.value_or(0), 4);
+    putVint(body, header.version | (header.solid ? 0x40u : 0u) | header.method << 7 | header.dictionary << 10,
+            2);
+    putVint(body, header.unixHost ? 1 : 0);
+    const std::string name = encodeName(header.name);
+    putVint(body, name.size());
+    putText(body, name);
+}
+
+void putMainHeader(ByteBuffer &into, const MainHeader &header)
+{
+    ByteBuffer body;
+    putVint(body, static_cast<std::uint64_t>(HeaderType::Main));
+    putVint(body, 0);
+    const std::uint64_t index = header.volumeIndex.value_or(0);
+    putVint(body, (header.volume ? mainflag::volume : 0) | (index > 0 ? mainflag::number : 0) |
+                      (header.solid ? mainflag::solid : 0));
+    if (index > 0) putVint(body, index);
+    putFramed(into, body);
+}
+
+void putFileHeader(ByteBuffer &into, const FileHeader &header)
+{
+    const ByteBuffer extra = extraArea(header);
+    ByteBuffer body;
+    putVint(body, static_cast<std::uint64_t>(HeaderType::File));
+    // Data of no size is declared as well for folders and links: some readers reject a file header without.
+    putVint(body, (extra.empty() ? 0 : headerflag::extra) | headerflag::data |
+                      (header.continuesBefore ? headerflag::continuesBefore : 0) |
+                      (header.continuesAfter ? headerflag::continuesAfter : 0));
+    if (!extra.empty()) putVint(body, extra.size());
+    putVint(body, header.packedSize, header.folder || header.link ? 1 : sizeWidth);
+    putFileFields(body, header);
+    putBytes(body, extra);
+    putFramed(into, body);
+}
+
+void putEndHeader(ByteBuffer &into, bool moreVolumes)
+{
+    ByteBuffer body;
+    putVint(body, static_cast<std::uint64_t>(HeaderType::End));
+    putVint(body, 0);
+    putVint(body, moreVolumes ? 1 : 0);
+    putFramed(into, body);
+}
+
+} // namespace
+
+void putFramed(ByteBuffer &into, const ByteBuffer &body)
+{
+    ByteBuffer checked;
+    putVint(checked, body.size());
+    putBytes(checked, body);
+    putNumber(into, crc32(checked), 4);
+    putBytes(into, checked);
+}
+
+constinit const HeaderFormat presentFormat{signature,       headerLength,    parseFrame,
+                                           parseMainHeader, parseFileHeader, parseEndHeader,
+                                           putMainHeader,   putFileHeader,   putEndHeader};
 
 } // namespace archiver
