@@ -5,9 +5,7 @@
 #include "SetReplacement.h"
 #include "UnpackWork.h"
 
-#include <sys/stat.h>
 #include <unordered_set>
-#include <utility>
 
 namespace archiver {
 

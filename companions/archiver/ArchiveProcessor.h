@@ -3,8 +3,6 @@
 #include "ContentSink.h"
 #include "VolumeSource.h"
 
-#include <string>
-
 namespace archiver {
 
 /// Hands every entry of an archive of any kind to receivers, on as many threads as there are processors,

@@ -5,34 +5,6 @@
 
 namespace archiver {
 
-Bytes ByteReader::take(std::uint64_t count)
-{
-    if (!m_ok || count > m_left.size()) {
-        m_ok = false;
-        m_left = {};
-        return {};
-    }
-    const Bytes taken = m_left.first(static_cast<std::size_t>(count));
-    m_left = m_left.subspan(taken.size());
-    return taken;
-}
-
-std::uint64_t ByteReader::littleEndian(std::size_t width)
-{
-    std::uint64_t value = 0;
-    unsigned shift = 0;
-    for (const std::uint8_t byte : take(width)) {
-        value |= std::uint64_t{byte} << shift;
-        shift += 8;
-    }
-    return value;
-}
-
-std::uint8_t ByteReader::u8() { return static_cast<std::uint8_t>(littleEndian(1)); }
-std::uint16_t ByteReader::u16() { return static_cast<std::uint16_t>(littleEndian(2)); }
-std::uint32_t ByteReader::u32() { return static_cast<std::uint32_t>(littleEndian(4)); }
-std::uint64_t ByteReader::u64() { return littleEndian(8); }
-
 std::uint64_t ByteReader::vint()
 {
     std::uint64_t value = 0;

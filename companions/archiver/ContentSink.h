@@ -3,7 +3,6 @@
 #include "Diagnostics.h"
 #include "Headers.h"
 
-#include <functional>
 #include <memory>
 
 namespace archiver {

@@ -2,9 +2,8 @@
 
 #include "EntryName.h"
 
-#include <array>
 #include <cerrno>
-#include <cstring>
+#include <system_error>
 #include <unistd.h>
 
 namespace archiver {
@@ -33,9 +32,7 @@ void Diagnostics::repeat(std::string_view messages)
 
 bool Diagnostics::reportSystem(std::string_view message)
 {
-    const int reason = errno;
-    std::array<char, 256> buffer{};
-    return report(std::string(message) + ": " + strerror_r(reason, buffer.data(), buffer.size()));
+    return report(std::string(message) + ": " + std::generic_category().message(errno));
 }
 
 std::string printable(std::string_view name)

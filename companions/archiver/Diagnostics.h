@@ -2,7 +2,6 @@
 
 #include "StopSignals.h"
 
-#include <string>
 #include <string_view>
 
 namespace archiver {

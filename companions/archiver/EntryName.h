@@ -6,8 +6,6 @@
 
 namespace archiver {
 
-/// The last component of a path.
-[[nodiscard]] std::string nameIn(const std::string &path);
 /// The components of a path or a name, without empty ones and ".".
 [[nodiscard]] std::vector<std::string> componentsOf(const std::string &path);
 

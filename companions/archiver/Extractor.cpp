@@ -1,18 +1,42 @@
 #include "Extractor.h"
 
+#include "ArchiveProcessor.h"
+#include "EntryName.h"
+#include "FolderAttributes.h"
 #include "StagedFile.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <mutex>
 
 namespace archiver {
 
 namespace {
 
 constexpr unsigned windowsReadOnly = 1;
+constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+
+bool makeFolders(const std::string &path)
+{
+    for (std::size_t slash = path.find('/', 1);; slash = path.find('/', slash + 1)) {
+        const std::string part = path.substr(0, slash);
+        if (mkdir(part.c_str(), 0777) != 0 && errno != EEXIST) {
+            struct stat status {};
+            if (stat(part.c_str(), &status) != 0)
+                return false; // a folder that is there may be on a read-only system
+        }
+        if (slash == std::string::npos) return true;
+    }
+}
+
+/// A folder, made with all folders above it where it is missing; closed, with errno set, where that fails.
+base::FileDescriptor openDestination(const std::string &path)
+{
+    base::FileDescriptor folder(open(path.c_str(), folderFlags));
+    if (folder || errno != ENOENT || !makeFolders(path)) return folder;
+    return base::FileDescriptor(open(path.c_str(), folderFlags));
+}
 
 unsigned readUmask()
 {
@@ -21,40 +45,102 @@ unsigned readUmask()
     return present;
 }
 
-} // namespace
+/// The components of an entry's name; none where it has "..", a zero byte, or no component at all.
+std::optional<std::vector<std::string>> usableComponents(const std::string &name)
+{
+    std::vector<std::string> components = componentsOf(name);
+    const bool isUsable = !components.empty() && name.find('\0') == std::string::npos &&
+                          std::ranges::count(components, "..") == 0;
+    return isUsable ? std::optional(std::move(components)) : std::nullopt;
+}
+
+/// The way from a folder, open as `root`, down to where entries are made, whatever their names say: every
+/// component is opened from the folder before it, and a symbolic link is never followed.
+class FolderWay {
+public:
+    explicit FolderWay(int root) : m_root(root) {}
+
+    struct End {
+        int folder;        ///< valid until the next call; -1, with errno set: it can't be opened or made
+        std::size_t depth; ///< how many folders deep it is, or as far as it got
+        std::size_t made;  ///< how many of them, the last ones, are new
+    };
+    /// The folder that holds the last of `components`, made where it is missing. Folders made here can be
+    /// used by their owner only, until their entry comes.
+    End parentOf(const std::vector<std::string> &components)
+    {
+        const std::size_t depth = components.size() - 1;
+        std::size_t common = 0;
+        while (common < std::min(depth, m_names.size()) && m_names[common] == components[common])
+            ++common;
+        // Where a folder was moved away meanwhile, the way begins at the root again.
+        if (!m_chain.shorten(common)) common = 0;
+        m_names.resize(common);
+        std::size_t made = 0;
+        while (m_names.size() < depth)
+            if (!descend(components[m_names.size()], made)) return {-1, m_names.size(), made};
+        return {last(), depth, made};
+    }
+
+private:
+    bool descend(const std::string &name, std::size_t &made)
+    {
+        const int from = last();
+        base::FileDescriptor folder(openat(from, name.c_str(), folderFlags | O_NOFOLLOW));
+        if (!folder && errno == ENOENT) {
+            // Another archive that is extracted here at the same time may have the same folder.
+            const bool isMade = mkdirat(from, name.c_str(), 0700) == 0;
+            if (!isMade && errno != EEXIST) return false;
+            folder = base::FileDescriptor(openat(from, name.c_str(), folderFlags | O_NOFOLLOW));
+            if (folder && isMade) ++made;
+        }
+        if (!folder || !m_chain.push(std::move(folder))) return false;
+        m_names.push_back(name);
+        return true;
+    }
+
+    [[nodiscard]] int last() const { return m_names.empty() ? m_root : m_chain.last(); }
+
+    int m_root;
+    std::vector<std::string> m_names; ///< of the folders in the chain
+    FolderChain m_chain;
+};
+
+/// What the threads share.
+struct Extraction {
+    base::FileDescriptor root;
+    Paths paths;
+    unsigned umask = readUmask();
+    std::mutex mutex{};
+    FolderAttributes folders{};
+};
 
 /// What one thread makes.
-class Extractor::Thread final : public EntryReceiver {
+class Extractor final : public EntryReceiver {
 public:
-    Thread(Extractor &all, Diagnostics &diagnostics)
-        : m_all(all), m_destination(all.m_destination), m_diagnostics(diagnostics)
+    Extractor(Extraction &all, Diagnostics &diagnostics)
+        : m_all(all), m_way(all.root.get()), m_diagnostics(diagnostics)
     {
     }
 
     void folder(const FileHeader &header) override
     {
-        if (m_all.m_paths == Paths::Drop) return;
+        if (m_all.paths == Paths::Drop) return;
         std::optional<std::vector<std::string>> components = way(header.name);
         if (!components) return;
         // One component more than there is, so that the folder itself is made where it is missing.
         components->emplace_back();
         if (enter(*components, header.name) < 0) return;
         components->pop_back();
-        const std::lock_guard lock(m_all.m_mutex);
-        m_all.m_folders.set(*components, {permissions(header), header.modified});
+        const std::lock_guard lock(m_all.mutex);
+        m_all.folders.set(*components, {permissions(header), header.modified});
     }
 
     void link(const FileHeader &header) override
     {
-        switch (header.link->kind) {
-        case LinkTarget::Kind::Symbolic:
-        case LinkTarget::Kind::WindowsSymbolic:
-        case LinkTarget::Kind::Junction:
-            return symbolicLink(header);
-        case LinkTarget::Kind::Hard:
-        case LinkTarget::Kind::Copy:
-            return copyOfEntry(header);
-        }
+        const LinkTarget::Kind kind = header.link->kind;
+        const bool isCopy = kind == LinkTarget::Kind::Hard || kind == LinkTarget::Kind::Copy;
+        isCopy ? copyOfEntry(header) : symbolicLink(header);
     }
 
     bool beginFile(const FileHeader &header) override
@@ -90,9 +176,9 @@ public:
 
     [[nodiscard]] std::string place(const FileHeader &header) const override
     {
-        const std::optional<std::vector<std::string>> components = Destination::components(header.name);
+        const std::optional<std::vector<std::string>> components = usableComponents(header.name);
         if (!components) return {};
-        if (m_all.m_paths == Paths::Drop) return components->back();
+        if (m_all.paths == Paths::Drop) return components->back();
         std::string path;
         for (const std::string &component : *components)
             path += (path.empty() ? "" : "/") + component;
@@ -114,25 +200,24 @@ private:
 
     std::optional<std::vector<std::string>> way(const std::string &name)
     {
-        std::optional<std::vector<std::string>> components = Destination::components(name);
+        std::optional<std::vector<std::string>> components = usableComponents(name);
         if (!components) {
             m_diagnostics.report("Cannot create " + printable(name) +
                                  ": the name leads out of the destination");
             return std::nullopt;
         }
-        if (m_all.m_paths == Paths::Drop) components->erase(components->begin(), components->end() - 1);
+        if (m_all.paths == Paths::Drop) components->erase(components->begin(), components->end() - 1);
         return components;
     }
 
     int enter(const std::vector<std::string> &components, const std::string &name)
     {
-        const int folder = m_destination.parentOf(components);
+        const auto [folder, depth, made] = m_way.parentOf(components);
         if (folder < 0) cannotCreate(name);
-        const std::size_t depth = m_destination.depth();
-        if (m_destination.made() > 0) {
-            const std::lock_guard lock(m_all.m_mutex);
-            m_all.m_folders.setMissing(std::span(components).first(depth), depth - m_destination.made(),
-                                       {0777u & ~m_all.m_umask, std::nullopt});
+        if (made > 0) {
+            const std::lock_guard lock(m_all.mutex);
+            m_all.folders.setMissing(std::span(components).first(depth), depth - made,
+                                     {0777u & ~m_all.umask, std::nullopt});
         }
         return folder;
     }
@@ -201,7 +286,7 @@ private:
         constexpr unsigned withoutIdentities = 01777;
         if (header.unixHost) return header.mode & withoutIdentities;
         const unsigned most = header.folder ? 0777 : header.mode & windowsReadOnly ? 0444 : 0666;
-        return most & ~m_all.m_umask;
+        return most & ~m_all.umask;
     }
 
     bool cannotCreate(const std::string &name)
@@ -212,24 +297,27 @@ private:
         return m_diagnostics.reportSystem("Cannot create " + printable(name));
     }
 
-    Extractor &m_all;
-    Destination m_destination;
+    Extraction &m_all;
+    FolderWay m_way;
     Diagnostics &m_diagnostics;
     base::StagedFile m_file;
     std::string m_fileName; // its final one, in its folder
     std::string m_entryName;
 };
 
-Extractor::Extractor(const Destination &destination, Paths paths)
-    : m_destination(destination), m_paths(paths), m_umask(readUmask())
-{
-}
+} // namespace
 
-EntryReceivers Extractor::receivers()
+void extractArchive(const std::string &archive, const std::string &folder, Paths paths,
+                    Diagnostics &diagnostics)
 {
-    return {[this](Diagnostics &diagnostics) { return std::make_unique<Thread>(*this, diagnostics); }};
+    Extraction all{openDestination(folder), paths};
+    if (!all.root) {
+        diagnostics.reportSystem("Cannot open the destination " + printable(folder));
+        return;
+    }
+    const auto make = [&all](Diagnostics &each) { return std::make_unique<Extractor>(all, each); };
+    processArchive(archive, {make}, diagnostics);
+    all.folders.apply(all.root.get(), diagnostics);
 }
-
-void Extractor::finish(Diagnostics &diagnostics) { m_folders.apply(m_destination.root(), diagnostics); }
 
 } // namespace archiver

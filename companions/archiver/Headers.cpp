@@ -8,42 +8,32 @@ namespace archiver {
 
 namespace {
 
-// The bits and numbers of the headers' fields.
-
-namespace headerflag {
-constexpr std::uint64_t extra = 0x01;
-constexpr std::uint64_t data = 0x02;
+// The bits and numbers of the headers' fields: flags of all headers, of the main and of a file's one, kinds
+// of extra records, and flags of the one with times.
+constexpr std::uint64_t hasExtra = 0x01;
+constexpr std::uint64_t hasData = 0x02;
 constexpr std::uint64_t continuesBefore = 0x08;
 constexpr std::uint64_t continuesAfter = 0x10;
-} // namespace headerflag
 
-namespace mainflag {
-constexpr std::uint64_t volume = 0x01;
-constexpr std::uint64_t number = 0x02;
-constexpr std::uint64_t solid = 0x04;
-} // namespace mainflag
+constexpr std::uint64_t mainVolume = 0x01;
+constexpr std::uint64_t mainNumber = 0x02;
+constexpr std::uint64_t mainSolid = 0x04;
 
-namespace fileflag {
-constexpr std::uint64_t folder = 0x01;
-constexpr std::uint64_t time = 0x02;
-constexpr std::uint64_t crc = 0x04;
-constexpr std::uint64_t sizeUnknown = 0x08;
-} // namespace fileflag
+constexpr std::uint64_t fileFolder = 0x01;
+constexpr std::uint64_t fileTime = 0x02;
+constexpr std::uint64_t fileCrc = 0x04;
+constexpr std::uint64_t fileSizeUnknown = 0x08;
 
-namespace extrarecord {
-constexpr std::uint64_t encryption = 1;
-constexpr std::uint64_t hash = 2;
-constexpr std::uint64_t times = 3;
-constexpr std::uint64_t link = 5;
-} // namespace extrarecord
+constexpr std::uint64_t encryptionRecord = 1;
+constexpr std::uint64_t hashRecord = 2;
+constexpr std::uint64_t timesRecord = 3;
+constexpr std::uint64_t linkRecord = 5;
 
-namespace timeflag {
-constexpr std::uint64_t unixFormat = 0x01;
-constexpr std::uint64_t modified = 0x02;
-constexpr std::uint64_t changed = 0x04;
-constexpr std::uint64_t accessed = 0x08;
+constexpr std::uint64_t unixTimes = 0x01;
+constexpr std::uint64_t modifiedTime = 0x02;
+constexpr std::uint64_t changedTime = 0x04;
+constexpr std::uint64_t accessedTime = 0x08;
 constexpr std::uint64_t nanoseconds = 0x10;
-} // namespace timeflag
 
 /// Seconds from 1601, where Windows times start (in steps of 100 ns), to 1970.
 constexpr std::int64_t windowsEpoch = 11'644'473'600;
@@ -72,15 +62,15 @@ Timestamp fromWindowsTime(std::uint64_t ticks)
 void parseTimes(ByteReader reader, FileHeader &header)
 {
     const std::uint64_t flags = reader.vint();
-    if (!(flags & timeflag::modified)) return;
+    if (!(flags & modifiedTime)) return;
     Timestamp time;
-    if (!(flags & timeflag::unixFormat)) {
+    if (!(flags & unixTimes)) {
         time = fromWindowsTime(reader.u64());
     } else {
         time.seconds = reader.u32();
-        if (flags & timeflag::changed) reader.u32();
-        if (flags & timeflag::accessed) reader.u32();
-        if (flags & timeflag::nanoseconds) time.nanoseconds = reader.u32() & 0x3FFFFFFF;
+        if (flags & changedTime) reader.u32();
+        if (flags & accessedTime) reader.u32();
+        if (flags & nanoseconds) time.nanoseconds = reader.u32() & 0x3FFFFFFF;
     }
     if (reader.ok() && time.nanoseconds < 1'000'000'000) header.modified = time;
 }
@@ -116,10 +106,10 @@ bool parseExtra(Bytes extra, FileHeader &header)
         ByteReader record(reader.take(size));
         const std::uint64_t kind = record.vint();
         if (!reader.ok() || !record.ok()) return false;
-        if (kind == extrarecord::encryption) header.encrypted = true;
-        if (kind == extrarecord::hash) parseHash(record, header);
-        if (kind == extrarecord::times) parseTimes(record, header);
-        if (kind == extrarecord::link && !parseLink(record, header)) return false;
+        if (kind == encryptionRecord) header.encrypted = true;
+        if (kind == hashRecord) parseHash(record, header);
+        if (kind == timesRecord) parseTimes(record, header);
+        if (kind == linkRecord && !parseLink(record, header)) return false;
     }
     return true;
 }
@@ -143,8 +133,8 @@ std::optional<HeaderFrame> parseFrame(Bytes header)
     HeaderFrame frame;
     frame.type = HeaderType{reader.vint()};
     frame.flags = reader.vint();
-    const std::uint64_t extraSize = frame.flags & headerflag::extra ? reader.vint() : 0;
-    if (frame.flags & headerflag::data) frame.dataSize = reader.vint();
+    const std::uint64_t extraSize = frame.flags & hasExtra ? reader.vint() : 0;
+    if (frame.flags & hasData) frame.dataSize = reader.vint();
     if (!reader.ok() || extraSize > reader.remaining()) return std::nullopt;
     frame.fields = reader.take(reader.remaining() - extraSize);
     frame.extra = reader.take(extraSize);
@@ -156,9 +146,9 @@ std::optional<MainHeader> parseMainHeader(const HeaderFrame &frame)
     ByteReader reader(frame.fields);
     const std::uint64_t flags = reader.vint();
     MainHeader header;
-    header.volume = flags & mainflag::volume;
-    header.volumeIndex = flags & mainflag::number ? reader.vint() : 0;
-    header.solid = flags & mainflag::solid;
+    header.volume = flags & mainVolume;
+    header.volumeIndex = flags & mainNumber ? reader.vint() : 0;
+    header.solid = flags & mainSolid;
     if (frame.type != HeaderType::Main || !reader.ok()) return std::nullopt;
     return header;
 }
@@ -175,17 +165,17 @@ std::optional<FileHeader> parseFileHeader(const HeaderFrame &frame)
 {
     ByteReader reader(frame.fields);
     FileHeader header;
-    header.continuesBefore = frame.flags & headerflag::continuesBefore;
-    header.continuesAfter = frame.flags & headerflag::continuesAfter;
+    header.continuesBefore = frame.flags & continuesBefore;
+    header.continuesAfter = frame.flags & continuesAfter;
     header.packedSize = frame.dataSize;
 
     const std::uint64_t flags = reader.vint();
-    header.folder = flags & fileflag::folder;
-    header.sizeUnknown = flags & fileflag::sizeUnknown;
+    header.folder = flags & fileFolder;
+    header.sizeUnknown = flags & fileSizeUnknown;
     header.unpackedSize = reader.vint();
     header.mode = static_cast<std::uint32_t>(reader.vint());
-    if (flags & fileflag::time) header.modified = Timestamp{reader.u32(), 0};
-    if (flags & fileflag::crc) header.crc = reader.u32();
+    if (flags & fileTime) header.modified = Timestamp{reader.u32(), 0};
+    if (flags & fileCrc) header.crc = reader.u32();
     const std::uint64_t compression = reader.vint();
     header.version = compression & 0x3F;
     header.solid = compression & 0x40;
@@ -200,62 +190,57 @@ std::optional<FileHeader> parseFileHeader(const HeaderFrame &frame)
 constexpr std::size_t sizeWidth = 6;
 static_assert(largestSize >> 7 * sizeWidth == 0);
 
-void putRecord(ByteBuffer &into, const ByteBuffer &record)
+void putSized(ByteBuffer &into, const ByteBuffer &bytes)
 {
-    putVint(into, record.size());
-    putBytes(into, record);
+    putVint(into, bytes.size());
+    putBytes(into, bytes);
 }
 
-ByteBuffer timeRecord(const Timestamp &time)
+void putName(ByteBuffer &into, const std::string &name)
+{
+    const std::string stored = encodeName(name);
+    putVint(into, stored.size());
+    putText(into, stored);
+}
+
+ByteBuffer makeTimeRecord(const Timestamp &time)
 {
     ByteBuffer record;
-    putVint(record, extrarecord::times);
+    putVint(record, timesRecord);
     if (time.seconds >= 0 && time.seconds <= 0xFFFFFFFF) {
-        putVint(record, timeflag::unixFormat | timeflag::modified | timeflag::nanoseconds);
+        putVint(record, unixTimes | modifiedTime | nanoseconds);
         putNumber(record, static_cast<std::uint64_t>(time.seconds), 4);
         putNumber(record, time.nanoseconds, 4);
         return record;
     }
     // The Unix form has 32 bits without a sign. The other one reaches from 1601 on, in steps of 100 ns.
-    putVint(record, timeflag::modified);
+    putVint(record, modifiedTime);
     const std::int64_t seconds = std::max<std::int64_t>(time.seconds + windowsEpoch, 0);
     putNumber(record, static_cast<std::uint64_t>(seconds * windowsTicks + time.nanoseconds / 100), 8);
     return record;
 }
 
-ByteBuffer linkRecord(const LinkTarget &link)
+ByteBuffer makeLinkRecord(const LinkTarget &link)
 {
-    const std::string target = encodeName(link.path);
     ByteBuffer record;
-    putVint(record, extrarecord::link);
+    putVint(record, linkRecord);
     putVint(record, static_cast<std::uint64_t>(link.kind));
     putVint(record, link.toFolder ? 1 : 0);
-    putVint(record, target.size());
-    putText(record, target);
+    putName(record, link.path);
     return record;
-}
-
-ByteBuffer extraArea(const FileHeader &header)
-{
-    ByteBuffer extra;
-    if (header.modified) putRecord(extra, timeRecord(*header.modified));
-    if (header.link) putRecord(extra, linkRecord(*header.link));
-    return extra;
 }
 
 void putFileFields(ByteBuffer &body, const FileHeader &header)
 {
-    const bool hasData = !header.folder && !header.link;
-    putVint(body, (header.folder ? fileflag::folder : 0) | (hasData ? fileflag::crc : 0));
-    putVint(body, header.unpackedSize, hasData ? sizeWidth : 1);
+    const bool isFile = !header.folder && !header.link;
+    putVint(body, (header.folder ? fileFolder : 0) | (isFile ? fileCrc : 0));
+    putVint(body, header.unpackedSize, isFile ? sizeWidth : 1);
     putVint(body, header.mode);
-    if (hasData) putNumber(body, header.crc.value_or(0), 4);
+    if (isFile) putNumber(body, header.crc.value_or(0), 4);
     putVint(body, header.version | (header.solid ? 0x40u : 0u) | header.method << 7 | header.dictionary << 10,
             2);
     putVint(body, header.unixHost ? 1 : 0);
-    const std::string name = encodeName(header.name);
-    putVint(body, name.size());
-    putText(body, name);
+    putName(body, header.name);
 }
 
 void putMainHeader(ByteBuffer &into, const MainHeader &header)
@@ -264,21 +249,22 @@ void putMainHeader(ByteBuffer &into, const MainHeader &header)
     putVint(body, static_cast<std::uint64_t>(HeaderType::Main));
     putVint(body, 0);
     const std::uint64_t index = header.volumeIndex.value_or(0);
-    putVint(body, (header.volume ? mainflag::volume : 0) | (index > 0 ? mainflag::number : 0) |
-                      (header.solid ? mainflag::solid : 0));
+    putVint(body,
+            (header.volume ? mainVolume : 0) | (index > 0 ? mainNumber : 0) | (header.solid ? mainSolid : 0));
     if (index > 0) putVint(body, index);
     putFramed(into, body);
 }
 
 void putFileHeader(ByteBuffer &into, const FileHeader &header)
 {
-    const ByteBuffer extra = extraArea(header);
+    ByteBuffer extra;
+    if (header.modified) putSized(extra, makeTimeRecord(*header.modified));
+    if (header.link) putSized(extra, makeLinkRecord(*header.link));
     ByteBuffer body;
     putVint(body, static_cast<std::uint64_t>(HeaderType::File));
     // Data of no size is declared as well for folders and links: some readers reject a file header without.
-    putVint(body, (extra.empty() ? 0 : headerflag::extra) | headerflag::data |
-                      (header.continuesBefore ? headerflag::continuesBefore : 0) |
-                      (header.continuesAfter ? headerflag::continuesAfter : 0));
+    putVint(body, (extra.empty() ? 0 : hasExtra) | hasData | (header.continuesBefore ? continuesBefore : 0) |
+                      (header.continuesAfter ? continuesAfter : 0));
     if (!extra.empty()) putVint(body, extra.size());
     putVint(body, header.packedSize, header.folder || header.link ? 1 : sizeWidth);
     putFileFields(body, header);
@@ -300,8 +286,7 @@ void putEndHeader(ByteBuffer &into, bool moreVolumes)
 void putFramed(ByteBuffer &into, const ByteBuffer &body)
 {
     ByteBuffer checked;
-    putVint(checked, body.size());
-    putBytes(checked, body);
+    putSized(checked, body);
     putNumber(into, crc32(checked), 4);
     putBytes(into, checked);
 }

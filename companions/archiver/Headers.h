@@ -5,7 +5,6 @@
 #include <array>
 #include <compare>
 #include <optional>
-#include <string>
 
 // The headers of the RAR 5 container, as its maker describes them publicly ("RAR 5.0 archive format"). A
 // header is CRC32, size, type, flags, fields, extra area; packed data follows a file's or a service header.

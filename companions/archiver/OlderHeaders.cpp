@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <ctime>
-#include <sys/stat.h>
 
 // The headers of the older format: 16 bits of a CRC32, type, flags and size, then the type's fields, and in
 // all that have data behind them its size.
@@ -58,16 +57,9 @@ std::optional<std::size_t> oldLength(Bytes start)
 
 HeaderType typeOf(std::uint8_t type)
 {
-    switch (type) {
-    case oldtype::main:
-        return HeaderType::Main;
-    case oldtype::file:
-        return HeaderType::File;
-    case oldtype::end:
-        return HeaderType::End;
-    default:
-        return HeaderType::Service;
-    }
+    if (type == oldtype::main) return HeaderType::Main;
+    if (type == oldtype::end) return HeaderType::End;
+    return type == oldtype::file ? HeaderType::File : HeaderType::Service;
 }
 
 std::optional<HeaderFrame> oldFrame(Bytes bytes)
@@ -111,20 +103,14 @@ std::optional<bool> oldEndHeader(const HeaderFrame &frame)
 
 void putUtf8(std::string &text, std::uint32_t point)
 {
-    const auto put = [&text](std::uint32_t byte) { text += static_cast<char>(byte); };
-    if (point < 0x80) return put(point);
-    if (point < 0x800) {
-        put(0xC0 | point >> 6);
-    } else {
-        if (point < 0x10000) {
-            put(0xE0 | point >> 12);
-        } else {
-            put(0xF0 | point >> 18);
-            put(0x80 | (point >> 12 & 0x3F));
-        }
-        put(0x80 | (point >> 6 & 0x3F));
-    }
-    put(0x80 | (point & 0x3F));
+    const unsigned more = point < 0x80      ? 0
+                          : point < 0x800   ? 1
+                          : point < 0x10000 ? 2
+                                            : 3; // bytes behind the first
+    const std::uint32_t length = more == 0 ? 0 : 0xFF00u >> (more + 1) & 0xFF;
+    text += static_cast<char>(length | point >> 6 * more);
+    for (unsigned left = more; left-- > 0;)
+        text += static_cast<char>(0x80 | (point >> 6 * left & 0x3F));
 }
 
 std::string utf8Of(const std::vector<std::uint16_t> &units)

@@ -1,17 +1,13 @@
 #include "OutputVolumes.h"
 
-#include "EntryName.h"
 #include "SetReplacement.h"
-#include "VolumeNames.h"
+#include "VolumeSource.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <limits>
 #include <sys/resource.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#include <utility>
 
 namespace archiver {
 
@@ -58,64 +54,10 @@ std::size_t mostOpenVolumes()
 
 } // namespace
 
-void BackgroundWriter::start()
-{
-    if (m_thread) return;
-    m_thread.emplace(1u, 1, [this](Filled &next) {
-        next.error = writeNow(next.file, Bytes(next.buffer).first(next.size)) ? 0 : errno;
-    });
-}
-
-void BackgroundWriter::stop()
-{
-    // What is being written is written to its end; the next finish() tells how that went.
-    if (m_thread && !finish()) m_error = errno;
-    m_thread.reset();
-}
-
-bool BackgroundWriter::writeNow(int file, Bytes bytes)
-{
-    // Not often, as each time costs a walk through what is in memory; often enough that little is left at the
-    // end.
-    constexpr std::size_t interval = 8 << 20;
-    if (!base::writeFully(file, bytes)) return false;
-    m_unsynced += bytes.size();
-    if (m_unsynced >= interval) {
-        base::startWriteBack(file);
-        m_unsynced = 0;
-    }
-    return true;
-}
-
-bool BackgroundWriter::write(int file, ByteBuffer &buffer, std::size_t size)
-{
-    if (size == 0) return true;
-    if (!finish()) return false;
-    if (!m_thread) return writeNow(file, Bytes(buffer).first(size));
-    Filled &next = *m_thread->free();
-    next.file = file;
-    next.size = size;
-    next.buffer.resize(buffer.size());
-    std::swap(next.buffer, buffer);
-    m_thread->give();
-    return true;
-}
-
-bool BackgroundWriter::finish()
-{
-    if (const Filled *const written = m_thread ? m_thread->take() : nullptr) {
-        m_error = written->error;
-        m_thread->release();
-    }
-    const int error = std::exchange(m_error, 0);
-    if (error != 0) errno = error;
-    return error == 0;
-}
-
 OutputVolumes::OutputVolumes(const std::string &archivePath, std::optional<std::uint64_t> volumeSize,
                              Diagnostics &diagnostics)
     : m_path(archivePath)
-    , m_name(nameIn(archivePath))
+    , m_name(base::nameIn(archivePath))
     , m_volumeSize(volumeSize)
     , m_diagnostics(diagnostics)
     , m_passingNames(passingNamesOf(withoutExtension(m_name)))
@@ -124,34 +66,22 @@ OutputVolumes::OutputVolumes(const std::string &archivePath, std::optional<std::
 {
 }
 
-bool OutputVolumes::cannotCreate(const std::string &name)
-{
-    return m_diagnostics.reportSystem("Cannot create " + printable(name));
-}
-
-bool OutputVolumes::cannotWrite() { return m_diagnostics.reportSystem("Cannot write " + printable(m_path)); }
-
-bool OutputVolumes::openFolder()
-{
-    const std::string folder = m_path.substr(0, m_path.size() - m_name.size());
-    m_folder =
-        base::FileDescriptor(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    struct stat status {};
-    if (!m_folder || fstat(m_folder.get(), &m_folderStatus) != 0) return cannotCreate(m_path);
-    // Found out now rather than after all the work.
-    if (m_name.empty() || (fstatat(m_folder.get(), m_name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0 &&
-                           S_ISDIR(status.st_mode))) {
-        errno = EISDIR;
-        return cannotCreate(m_path);
-    }
-    return true;
-}
-
 bool OutputVolumes::begin()
 {
-    if (!openFolder() || !finishReplacement(m_path, m_diagnostics)) return false;
+    m_folder = base::openFolderOf(m_path);
+    if (!m_folder || fstat(m_folder.get(), &m_folderStatus) != 0) return cannotCreate(m_path);
+    // Found out now rather than after all the work.
+    if (m_name.empty() || isFolder(m_name)) return errno = EISDIR, cannotCreate(m_path);
+    if (!finishReplacement(m_path, m_diagnostics)) return false;
     base::removeLeftovers(m_folder.get(), m_passingNames);
     return beginVolume();
+}
+
+bool OutputVolumes::isFolder(const std::string &name) const
+{
+    struct stat status {};
+    return fstatat(m_folder.get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0 &&
+           S_ISDIR(status.st_mode);
 }
 
 bool OutputVolumes::beginVolume()
@@ -166,35 +96,6 @@ bool OutputVolumes::beginVolume()
     if (!append(start)) return false;
     m_dataStart = m_position;
     return true;
-}
-
-std::uint64_t OutputVolumes::room() const
-{
-    if (!m_volumeSize) return std::numeric_limits<std::uint64_t>::max();
-    const std::uint64_t needed = m_position + endHeaderSize;
-    return *m_volumeSize > needed ? *m_volumeSize - needed : 0;
-}
-
-std::span<std::uint8_t> OutputVolumes::buffer() { return std::span(m_buffer).subspan(m_used); }
-
-void OutputVolumes::commit(std::size_t count)
-{
-    m_used += count;
-    m_position += count;
-}
-
-bool OutputVolumes::flush()
-{
-    if (interrupted()) return false;
-    return m_writer.write(m_files.back().descriptor(), m_buffer, std::exchange(m_used, 0)) || cannotWrite();
-}
-
-bool OutputVolumes::flushAndWait() { return flush() && (m_writer.finish() || cannotWrite()); }
-
-bool OutputVolumes::flushWhenFull()
-{
-    constexpr std::size_t tooLittle = 64 << 10; // a small read would cost as much as a large one
-    return m_buffer.size() - m_used >= tooLittle || flush();
 }
 
 bool OutputVolumes::append(Bytes bytes)
@@ -237,15 +138,6 @@ bool OutputVolumes::endVolume(bool more)
     return keepFewOpen() || cannotWrite();
 }
 
-bool OutputVolumes::keepFewOpen()
-{
-    base::StagedFile &file = m_files.back();
-    return m_files.size() < m_mostOpen ||
-           (file.giveName(m_passingNames, static_cast<unsigned>(m_files.size() - 1)) && file.park());
-}
-
-bool OutputVolumes::nextVolume() { return endVolume(true) && beginVolume(); }
-
 bool OutputVolumes::finish()
 {
     if (limited() && m_files.size() == 1) {
@@ -274,17 +166,17 @@ bool OutputVolumes::complete(base::StagedFile &file, const std::optional<Timesta
     return (base::syncToDisk(file.descriptor()) && (!isParked || file.park())) || cannotWrite();
 }
 
+bool OutputVolumes::owns(const struct stat &folder, const std::string &name) const
+{
+    if (!base::isSame(folder, m_folderStatus)) return false;
+    return name == m_name || m_passingNames.include(name) || (limited() && isFileOfArchive(name, m_name));
+}
+
 bool OutputVolumes::publish(const std::optional<Timestamp> &time)
 {
     const std::vector<std::string> names = finalNames(m_name, m_files.size());
-    for (const std::string &name : names) {
-        struct stat status {};
-        if (fstatat(m_folder.get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0 ||
-            !S_ISDIR(status.st_mode))
-            continue;
-        errno = EISDIR;
-        return cannotCreate(name);
-    }
+    for (const std::string &name : names)
+        if (isFolder(name)) return errno = EISDIR, cannotCreate(name);
     // Before the names, or a power cut would leave an empty archive where the one before is gone.
     for (base::StagedFile &file : m_files)
         if (!complete(file, time)) return false;
@@ -293,12 +185,6 @@ bool OutputVolumes::publish(const std::optional<Timestamp> &time)
     if (areSeveral) return replaceSet(m_folder.get(), m_name, m_files, m_diagnostics);
     if (!m_files.front().publish(m_name, m_passingNames)) return cannotCreate(m_name);
     return base::syncToDisk(m_folder.get()) || cannotWrite();
-}
-
-bool OutputVolumes::owns(const struct stat &folder, const std::string &name) const
-{
-    if (!base::isSame(folder, m_folderStatus)) return false;
-    return name == m_name || m_passingNames.include(name) || (limited() && isFileOfArchive(name, m_name));
 }
 
 } // namespace archiver

@@ -1,75 +1,86 @@
 #include "VolumeSource.h"
 
-#include "VolumeNames.h"
-
 #include <algorithm>
 #include <cerrno>
+#include <charconv>
 #include <fcntl.h>
+#include <strings.h>
 
 namespace archiver {
 
 namespace {
 
-constexpr std::size_t windowSize = 256 << 10; // fits the processor's cache, where the bytes are used at once
+constexpr std::size_t extensionLength = 4; // ".rar"
+constexpr std::size_t mostDigits = 9;
+
+bool isDigit(char character) { return character >= '0' && character <= '9'; }
+
+bool endsWith(std::string_view text, std::string_view end)
+{
+    return text.size() >= end.size() &&
+           strncasecmp(text.data() + text.size() - end.size(), end.data(), end.size()) == 0;
+}
+
+std::string padded(std::uint64_t number, std::size_t digits)
+{
+    const std::string text = std::to_string(number);
+    return std::string(digits - std::min(digits, text.size()), '0') + text;
+}
 
 } // namespace
 
-Bytes SourceWindow::peek(std::size_t wanted)
+std::optional<VolumeName> parseVolumeName(std::string_view path)
 {
-    if (m_end - m_begin < wanted && m_error == 0) {
-        const std::uint64_t there = left();
-        const auto useful =
-            static_cast<std::size_t>(std::min<std::uint64_t>(std::max(wanted, windowSize), there));
-        // What is left over moves to the front, even when it must first be made longer.
-        std::copy(m_buffer.begin() + static_cast<std::ptrdiff_t>(m_begin),
-                  m_buffer.begin() + static_cast<std::ptrdiff_t>(m_end), m_buffer.begin());
-        m_end -= m_begin;
-        m_begin = 0;
-        if (useful > m_buffer.size()) m_buffer.resize(useful);
-        if (useful > m_end) {
-            const ssize_t count = base::readFullyAt(
-                m_source.descriptor, std::span(m_buffer).subspan(m_end, useful - m_end), m_position + m_end);
-            if (count < 0)
-                m_error = errno;
-            else
-                m_end += static_cast<std::size_t>(count);
-        }
+    if (!endsWith(path, ".rar")) return std::nullopt;
+    VolumeName name;
+    name.extension = path.substr(path.size() - extensionLength);
+    std::string_view rest = path.substr(0, path.size() - extensionLength);
+    while (name.digits < rest.size() && isDigit(rest[rest.size() - 1 - name.digits]))
+        ++name.digits;
+    if (name.digits == 0 || name.digits > mostDigits) return std::nullopt;
+    const std::string_view digits = rest.substr(rest.size() - name.digits);
+    std::from_chars(digits.data(), digits.data() + digits.size(), name.number);
+    rest.remove_suffix(name.digits);
+    constexpr std::string_view part = ".part";
+    if (!endsWith(rest, part)) return std::nullopt;
+    name.base = rest.substr(0, rest.size() - part.size());
+    return name;
+}
+
+std::string volumePath(std::string_view base, std::uint64_t number, std::size_t digits)
+{
+    return std::string(base) + ".part" + padded(number, digits) + ".rar";
+}
+
+std::string nextVolumePath(std::string_view path)
+{
+    if (const std::optional<VolumeName> name = parseVolumeName(path)) {
+        // The case of ".part" is kept by cutting it out of the path itself.
+        const std::string_view start = path.substr(0, path.size() - extensionLength - name->digits);
+        return std::string(start) + padded(name->number + 1, name->digits) + name->extension;
     }
-    return Bytes(m_buffer).subspan(m_begin, m_end - m_begin);
-}
-
-void SourceWindow::skip(std::uint64_t count)
-{
-    m_position += count;
-    if (count <= m_end - m_begin) {
-        m_begin += static_cast<std::size_t>(count);
-        return;
+    std::string next(path);
+    if (next.size() < extensionLength || next[next.size() - extensionLength] != '.') return next + ".r00";
+    char &letter = next[next.size() - 3];
+    char &tens = next[next.size() - 2];
+    char &ones = next[next.size() - 1];
+    if (!isDigit(tens) || !isDigit(ones)) {
+        tens = '0';
+        ones = '0';
+        return next;
     }
-    m_begin = 0;
-    m_end = 0;
+    if (ones++ != '9') return next;
+    ones = '0';
+    if (tens++ != '9') return next;
+    tens = '0';
+    ++letter;
+    return next;
 }
 
-std::size_t SourceWindow::read(std::span<std::uint8_t> into)
+std::string withoutExtension(std::string_view path)
 {
-    // What is long goes past the buffer.
-    const std::size_t wanted = into.size() < windowSize / 2 ? into.size() : 0;
-    const Bytes buffered = peek(wanted);
-    const Bytes first = buffered.first(std::min(buffered.size(), into.size()));
-    std::ranges::copy(first, into.begin());
-    skip(first.size());
-    const std::span<std::uint8_t> rest = into.subspan(first.size());
-    if (rest.empty() || m_error != 0) return first.size();
-    const ssize_t count = base::readFullyAt(m_source.descriptor, rest, m_position);
-    if (count < 0)
-        m_error = errno;
-    else
-        skip(static_cast<std::size_t>(count));
-    return first.size() + static_cast<std::size_t>(std::max<ssize_t>(count, 0));
-}
-
-std::uint64_t SourceWindow::left() const
-{
-    return m_source.size > m_position ? m_source.size - m_position : 0;
+    if (endsWith(path, ".rar")) path.remove_suffix(extensionLength);
+    return std::string(path);
 }
 
 std::optional<FileSource> VolumeFiles::open(std::size_t index)

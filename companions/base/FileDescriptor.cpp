@@ -1,28 +1,12 @@
 #include "FileDescriptor.h"
 
 #include <cerrno>
+#include <dirent.h>
 #include <fcntl.h>
 #include <limits>
-#include <unistd.h>
-#include <utility>
+#include <memory>
 
 namespace base {
-
-FileDescriptor &FileDescriptor::operator=(FileDescriptor &&other) noexcept
-{
-    if (this == &other) return *this;
-    close();
-    m_descriptor = other.release();
-    return *this;
-}
-
-int FileDescriptor::release() { return std::exchange(m_descriptor, -1); }
-
-bool FileDescriptor::close()
-{
-    const int descriptor = release();
-    return descriptor < 0 || ::close(descriptor) == 0;
-}
 
 namespace {
 
@@ -85,6 +69,26 @@ bool syncToDisk(int file) { return fsync(file) == 0 || errno == EINVAL; }
 
 std::string descriptorPath(int descriptor) { return "/proc/self/fd/" + std::to_string(descriptor); }
 
+std::string nameIn(const std::string &path) { return path.substr(path.rfind('/') + 1); }
+
+FileDescriptor openFolderOf(const std::string &path)
+{
+    const std::string folder = path.substr(0, path.rfind('/') + 1);
+    return FileDescriptor(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+}
+
+std::vector<std::string> namesIn(int folder, const std::function<bool(const std::string &)> &isWanted)
+{
+    std::vector<std::string> names;
+    FileDescriptor own(openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const std::unique_ptr<DIR, int (*)(DIR *)> entries(own ? fdopendir(own.get()) : nullptr, closedir);
+    if (!entries) return names;
+    own.release(); // closed with the entries
+    while (const dirent *entry = readdir(entries.get()))
+        if (isWanted(entry->d_name)) names.emplace_back(entry->d_name);
+    return names;
+}
+
 bool isSame(const struct stat &one, const struct stat &other)
 {
     return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
@@ -92,20 +96,11 @@ bool isSame(const struct stat &one, const struct stat &other)
 
 const char *kindOf(mode_t mode)
 {
-    switch (mode & S_IFMT) {
-    case S_IFREG:
-        return "a file";
-    case S_IFDIR:
-        return "a folder";
-    case S_IFLNK:
-        return "a symbolic link";
-    case S_IFIFO:
-        return "a named pipe";
-    case S_IFSOCK:
-        return "a socket";
-    default:
-        return "a device";
-    }
+    if (S_ISREG(mode)) return "a file";
+    if (S_ISDIR(mode)) return "a folder";
+    if (S_ISLNK(mode)) return "a symbolic link";
+    if (S_ISFIFO(mode)) return "a named pipe";
+    return S_ISSOCK(mode) ? "a socket" : "a device";
 }
 
 } // namespace base

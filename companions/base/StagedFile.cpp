@@ -3,12 +3,8 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
-#include <unistd.h>
-#include <utility>
-#include <vector>
 
 namespace base {
 
@@ -62,17 +58,8 @@ PassingNames::PassingNames(const std::string &program, const std::string &target
 
 void removeLeftovers(int folder, const PassingNames &names)
 {
-    const int again = openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    DIR *const entries = again < 0 ? nullptr : fdopendir(again);
-    if (!entries) {
-        FileDescriptor{again}.close();
-        return;
-    }
-    std::vector<std::string> found;
-    while (const dirent *entry = readdir(entries))
-        if (names.include(entry->d_name)) found.emplace_back(entry->d_name);
-    closedir(entries);
-    for (const std::string &name : found)
+    for (const std::string &name :
+         namesIn(folder, [&](const std::string &each) { return names.include(each); }))
         removeLeftover(folder, name);
 }
 

@@ -3,6 +3,7 @@
 #include "FileDescriptor.h"
 #include "OrderedWork.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cstring>
 #include <memory>
@@ -59,22 +60,66 @@ public:
 class BackgroundSink final : public ByteSink {
 public:
     /// `next` belongs to the thread until finish() or the end of this.
-    explicit BackgroundSink(ByteSink &next);
+    explicit BackgroundSink(ByteSink &next)
+        : m_next(next), m_work(1, mostPieces, [this](Piece &piece) { handOn(piece); })
+    {
+    }
 
     /// False: the other sink has failed, now or before.
-    [[nodiscard]] bool write(Bytes bytes) override;
+    [[nodiscard]] bool write(Bytes bytes) override
+    {
+        while (!bytes.empty() && !m_hasFailed) {
+            Piece &piece = begunPiece();
+            const std::size_t count = std::min(bytes.size(), pieceSize - piece.size);
+            std::copy_n(bytes.begin(), count, piece.bytes.data() + piece.size);
+            piece.size += count;
+            bytes = bytes.subspan(count);
+            if (piece.size == pieceSize) give();
+        }
+        return !m_hasFailed;
+    }
+
     /// Waits until the other sink has got everything. False: it has failed.
-    [[nodiscard]] bool finish();
+    [[nodiscard]] bool finish()
+    {
+        if (m_begun) give();
+        while (m_work.take())
+            m_work.release();
+        return !m_hasFailed;
+    }
 
 private:
+    static constexpr std::size_t pieceSize = 262'144; // in bytes: what two threads' caches hold
+    static constexpr std::size_t mostPieces = 4;
+
     struct Piece {
         WipedBytes bytes;
         std::size_t size = 0;
     };
 
-    Piece &begunPiece();
-    void give();
-    void handOn(Piece &piece);
+    Piece &begunPiece()
+    {
+        if (!m_begun) m_begun = m_work.free();
+        if (!m_begun) {
+            (void)m_work.take();
+            m_work.release();
+            m_begun = m_work.free();
+        }
+        if (m_begun->bytes.size() == 0) m_begun->bytes = WipedBytes(pieceSize);
+        return *m_begun;
+    }
+
+    void give()
+    {
+        m_begun = nullptr;
+        m_work.give();
+    }
+
+    void handOn(Piece &piece)
+    {
+        if (!m_hasFailed && !m_next.write({piece.bytes.data(), piece.size})) m_hasFailed = true;
+        piece.size = 0;
+    }
 
     ByteSink &m_next;
     std::atomic<bool> m_hasFailed = false;

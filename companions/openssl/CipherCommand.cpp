@@ -3,10 +3,8 @@
 #include "PasswordFile.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cstring>
-#include <memory>
 
 namespace {
 
@@ -42,22 +40,26 @@ char *spelledPassword(const Option &option)
     return isInline ? option.value + inlinePassword.size() : nullptr;
 }
 
-enum class PasswordState { NotSpelled, Taken, TooLong, HoldsLineBreak };
-
-/// Moves the password out of the arguments, where one that counts is spelled out; wipes all that are.
-PasswordState takePassword(const CommandLine &line, Secret &password)
+/// Moves the password out of the arguments, where one that counts is spelled out; wipes all that are. False:
+/// `problem` is a sentence that says why it can't be used; without one there was none.
+bool takePassword(const CommandLine &line, Secret &password, std::string &problem)
 {
-    PasswordState state = PasswordState::NotSpelled;
+    bool isTaken = false;
     // For the tool, `-k` and `-kfile` go before `-pass`, wherever they stand.
     const Option *effective = line.last({"k", "kfile"});
     if (!effective) effective = line.last({"pass"});
     if (const char *const text = effective ? spelledPassword(*effective) : nullptr) {
-        state = password.assign(text) ? PasswordState::Taken : PasswordState::TooLong;
-        if (std::strchr(text, '\n')) state = PasswordState::HoldsLineBreak;
+        isTaken = password.assign(text) && !std::strchr(text, '\n');
+        if (std::strchr(text, '\n'))
+            problem = "the password holds a line break, and the system's tool reads one line only: "
+                      "use a password without line breaks";
+        else if (!isTaken)
+            problem = "the password is longer than " + std::to_string(Secret::maximumSize) +
+                      " bytes, the most that the system's tool reads: use a shorter one";
     }
     for (const Option &option : line.options())
         if (char *const text = spelledPassword(option)) base::wipe(text, std::strlen(text));
-    return state;
+    return isTaken;
 }
 
 /// Whether the caller leaves it open how the key is made. Nothing is added to his choice: another count would
@@ -67,13 +69,6 @@ bool leavesDerivationOpen(const CommandLine &line) { return !line.has({"pbkdf2",
 void append(std::vector<std::string> &arguments, const std::vector<std::string> &more)
 {
     arguments.insert(arguments.end(), more.begin(), more.end());
-}
-
-void addProviders(const CommandLine &line, std::string_view cipher, std::vector<std::string> &arguments)
-{
-    if (!needsLegacyProvider(cipher) || line.has({"provider", "provider-path"})) return;
-    // Naming one provider keeps the tool from loading the default one, which has the digests.
-    append(arguments, {"-provider", "legacy", "-provider", "default"});
 }
 
 /// Whether it is what the program runs that these tools belong to: `CIPHER [-d] -a [-salt] -in … -out … -pass
@@ -88,11 +83,13 @@ bool isOurs(const CommandLine &line)
 /// All of it for the tool, with what the caller left open.
 ToolRun planToolRun(const CommandLine &line, bool hasPassword)
 {
-    ToolRun run;
-    run.arguments.emplace_back(line.command());
-    if (leavesDerivationOpen(line))
-        append(run.arguments, derivationOptions(currentKeyDerivation, !line.has({"md"})));
-    addProviders(line, cipherOf(line), run.arguments);
+    const auto &[iterations, digest] = currentKeyDerivation;
+    ToolRun run{{std::string(line.command())}};
+    if (leavesDerivationOpen(line)) append(run.arguments, {"-pbkdf2", "-iter", std::to_string(iterations)});
+    if (leavesDerivationOpen(line) && !line.has({"md"})) append(run.arguments, {"-md", std::string(digest)});
+    // Naming one provider keeps the tool from loading the default one, which has the digests.
+    if (needsLegacyProvider(cipherOf(line)) && !line.has({"provider", "provider-path"}))
+        append(run.arguments, {"-provider", "legacy", "-provider", "default"});
     if (!line.has({"bufsize"})) append(run.arguments, {"-bufsize", std::string(bufferSize)});
     run.files.isOurs = isOurs(line);
     run.hasPassword = hasPassword;
@@ -187,24 +184,19 @@ std::optional<CommandPlan> planCipherCommand(std::span<char *const> arguments, S
 {
     const CommandLine line(arguments, optionsWithValue);
     if (cipherOf(line).empty()) return std::nullopt;
-    const PasswordState passwordState = takePassword(line, password);
-    if (passwordState == PasswordState::HoldsLineBreak)
-        return Refusal{"the password holds a line break, and the system's tool reads one line only: "
-                       "use a password without line breaks"};
-    if (passwordState == PasswordState::TooLong)
-        return Refusal{"the password is longer than " + std::to_string(Secret::maximumSize) +
-                       " bytes, the most that the system's tool reads: use a shorter one"};
-
-    const bool isTaken = passwordState == PasswordState::Taken;
+    std::string problem;
+    const bool isTaken = takePassword(line, password, problem);
+    if (!problem.empty()) return Refusal{problem};
     std::optional<CipherRun> run = planOwnRun(line);
     if (!run) return planToolRun(line, isTaken);
-    std::string problem;
     const Finding finding =
         isTaken ? Finding::Found : findPassword(line, run->isDecryption, password, problem);
     if (finding == Finding::NotFound) return Refusal{problem};
     if (finding == Finding::OfTool) return planToolRun(line, false);
     return OwnRun([run = std::make_shared<CipherRun>(std::move(*run)), &password] {
-        const auto make = run->isDecryption ? decryption : encryption;
-        return convert(run->files, make(run->file, password.text()));
+        const auto conversion = run->isDecryption ? decryptFile : encryptFile;
+        return convert(run->files, [&](ByteSource &input, ByteSink &output, Fault &fault) {
+            return conversion(run->file, password.text(), input, output, fault);
+        });
     });
 }

@@ -4,12 +4,8 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <fcntl.h>
-#include <memory>
-#include <system_error>
-#include <unistd.h>
-#include <utility>
+#include <filesystem>
 
 namespace {
 
@@ -17,8 +13,9 @@ constexpr std::size_t bufferSize = 262144; // in bytes
 
 std::string resolved(const std::string &path)
 {
-    const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr), &std::free);
-    return real ? std::string(real.get()) : path;
+    std::error_code error;
+    const std::filesystem::path real = std::filesystem::canonical(path, error);
+    return error ? path : real.string();
 }
 
 /// False for what is open and has no name any more, to which only the kernel's links lead: a link in place of
@@ -149,10 +146,8 @@ bool ResultFile::mayReplace()
 bool ResultFile::stage()
 {
     const std::string path = m_isOurs ? *m_path : resolved(*m_path);
-    const std::size_t start = path.rfind('/') + 1;
-    const std::string folder = start == 0 ? "." : path.substr(0, start);
-    m_name = path.substr(start);
-    m_folder = base::FileDescriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    m_name = base::nameIn(path);
+    m_folder = base::openFolderOf(path);
     if (!m_folder) return false;
     base::removeLeftovers(m_folder.get(), passingNames(m_name));
     m_staged = base::StagedFile::create(m_folder.get(), passingNames(m_name));

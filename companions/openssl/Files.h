@@ -3,8 +3,6 @@
 #include "StagedFile.h"
 #include "smime/ByteReader.h"
 
-#include <functional>
-
 /// Prints one line of the front's own to standard error. Always false.
 bool complain(const std::string &message);
 /// What the system says of an errno.

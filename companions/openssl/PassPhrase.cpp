@@ -7,7 +7,6 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <openssl/evp.h>
-#include <unistd.h>
 
 namespace {
 

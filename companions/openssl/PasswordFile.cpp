@@ -11,12 +11,11 @@ namespace {
 constexpr std::string_view mark = "Salted__";
 constexpr std::size_t saltSize = 8;
 constexpr std::size_t tellingSize = 16; // whole blocks of every cipher
-using Header = std::array<std::uint8_t, mark.size() + saltSize>;
 
 constexpr std::array<std::string_view, 2> archiveSignatures{std::string_view("Rar!\x1a\x07\x01\x00", 8),
                                                             std::string_view("Rar!\x1a\x07\x00", 7)};
 
-Bytes saltOf(const Header &header) { return Bytes(header).subspan(mark.size()); }
+Bytes saltOf(Bytes header) { return header.subspan(mark.size()); }
 
 bool startsWith(Bytes bytes, std::string_view text)
 {
@@ -54,27 +53,6 @@ bool start(EVP_CIPHER_CTX *context, const EVP_CIPHER *cipher, const base::WipedB
            EVP_CIPHER_CTX_set_padding(context, isPadded ? 1 : 0) > 0;
 }
 
-bool encrypt(const PasswordFile &file, std::string_view password, ByteSource &input, ByteSink &output,
-             Fault &fault)
-{
-    const EVP_CIPHER *const cipher = file.cipher.get();
-    Header header{};
-    std::ranges::copy(mark, header.begin());
-    Base64Sink text(output);
-    base::BackgroundSink rear(file.isBase64 ? static_cast<ByteSink &>(text) : output);
-    CipherSink front(rear);
-    if (RAND_bytes(header.data() + mark.size(), saltSize) <= 0 ||
-        !start(front.context(), cipher, deriveKey(cipher, file.derivations.back(), password, saltOf(header)),
-               true, file.isPadded))
-        return fault.report("cannot be encrypted: libcrypto has no such key");
-
-    bool isWritten = rear.write(header);
-    for (Bytes piece; isWritten && !(piece = input.read()).empty();)
-        isWritten = front.write(piece);
-    return isWritten && !fault.isSet() && front.finish() && rear.finish() &&
-           (!file.isBase64 || text.finish());
-}
-
 class Decryption {
 public:
     Decryption(const PasswordFile &file, std::string_view password, ByteSource &input, ByteSink &output,
@@ -93,7 +71,7 @@ public:
     bool run()
     {
         if (!readHeader()) return false;
-        readStart();
+        m_start = m_bytes.take(tellingSize);
         if (!findKey()) return m_fault.report("cannot be decrypted: libcrypto has no such key");
         return decryptAll() || reportEnd();
     }
@@ -101,23 +79,11 @@ public:
 private:
     bool readHeader()
     {
-        std::size_t size = 0;
-        while (size < m_header.size()) {
-            const auto byte = m_bytes.get();
-            if (!byte) return size == 0 ? m_fault.report("is empty") : m_fault.reportCutShort();
-            m_header[size++] = *byte;
-        }
+        m_header = m_bytes.take(mark.size() + saltSize);
+        if (m_header.empty()) return m_fault.report("is empty");
+        if (m_header.size() < mark.size() + saltSize) return m_fault.reportCutShort();
         return startsWith(m_header, mark) ||
                m_fault.report("was not encrypted by a password: it begins with a bad magic number");
-    }
-
-    void readStart()
-    {
-        while (m_start.size() < tellingSize) {
-            const auto byte = m_bytes.get();
-            if (!byte) break;
-            m_start.push_back(*byte);
-        }
     }
 
     /// Leaves the key of the last derivation, where none makes an archive of what the file begins with.
@@ -171,7 +137,7 @@ private:
     Base64Source m_text;
     ByteReader m_bytes;
     CipherSink m_front;
-    Header m_header{};
+    std::vector<std::uint8_t> m_header;
     std::vector<std::uint8_t> m_start;
     base::WipedBytes m_key;
     bool m_isArchive = false;
@@ -179,29 +145,34 @@ private:
 
 } // namespace
 
-std::vector<std::string> derivationOptions(const KeyDerivation &derivation, bool withDigest)
-{
-    std::vector<std::string> options;
-    if (derivation.iterations > 0) options = {"-pbkdf2", "-iter", std::to_string(derivation.iterations)};
-    if (withDigest) options.insert(options.end(), {"-md", std::string(derivation.digest)});
-    return options;
-}
-
 CryptoHandle<EVP_MD> fetchDigest(std::string_view name)
 {
     return CryptoHandle<EVP_MD>(EVP_MD_fetch(nullptr, std::string(name).c_str(), nullptr));
 }
 
-Conversion encryption(const PasswordFile &file, std::string_view password)
+bool encryptFile(const PasswordFile &file, std::string_view password, ByteSource &input, ByteSink &output,
+                 Fault &fault)
 {
-    return [&file, password](ByteSource &input, ByteSink &output, Fault &fault) {
-        return encrypt(file, password, input, output, fault);
-    };
+    const EVP_CIPHER *const cipher = file.cipher.get();
+    std::array<std::uint8_t, mark.size() + saltSize> header{};
+    std::ranges::copy(mark, header.begin());
+    Base64Sink text(output);
+    base::BackgroundSink rear(file.isBase64 ? static_cast<ByteSink &>(text) : output);
+    CipherSink front(rear);
+    if (RAND_bytes(header.data() + mark.size(), saltSize) <= 0 ||
+        !start(front.context(), cipher, deriveKey(cipher, file.derivations.back(), password, saltOf(header)),
+               true, file.isPadded))
+        return fault.report("cannot be encrypted: libcrypto has no such key");
+
+    bool isWritten = rear.write(header);
+    for (Bytes piece; isWritten && !(piece = input.read()).empty();)
+        isWritten = front.write(piece);
+    return isWritten && !fault.isSet() && front.finish() && rear.finish() &&
+           (!file.isBase64 || text.finish());
 }
 
-Conversion decryption(const PasswordFile &file, std::string_view password)
+bool decryptFile(const PasswordFile &file, std::string_view password, ByteSource &input, ByteSink &output,
+                 Fault &fault)
 {
-    return [&file, password](ByteSource &input, ByteSink &output, Fault &fault) {
-        return Decryption(file, password, input, output, fault).run();
-    };
+    return Decryption(file, password, input, output, fault).run();
 }

@@ -4,7 +4,6 @@
 #include "Files.h"
 
 #include <array>
-#include <vector>
 
 /// How the tool makes a key from a password: with PBKDF2 (RFC 8018, section 5.2) and HMAC over a digest or,
 /// where nothing is said of it, with the digest itself, taken once over password and salt:
@@ -24,9 +23,6 @@ inline constexpr KeyDerivation currentKeyDerivation{600'000, "sha256"};
 inline constexpr std::array olderKeyDerivations{KeyDerivation{0, "sha256"}, KeyDerivation{0, "md5"},
                                                 KeyDerivation{10'000, "sha256"}};
 
-/// The tool's options that ask for it; without the digest where the caller names that himself.
-[[nodiscard]] std::vector<std::string> derivationOptions(const KeyDerivation &derivation, bool withDigest);
-
 [[nodiscard]] CryptoHandle<EVP_MD> fetchDigest(std::string_view name);
 
 /// How a file is encrypted with a password, as the tool's `enc` does it: a mark and a salt, and behind them
@@ -38,9 +34,11 @@ struct PasswordFile {
     std::vector<KeyDerivation> derivations{}; ///< cheapest first; encrypting goes by the last
 };
 
-/// Both leave the file and the password with the caller, who keeps them until the conversion is over.
-[[nodiscard]] Conversion encryption(const PasswordFile &file, std::string_view password);
+/// Both are conversions.
+[[nodiscard]] bool encryptFile(const PasswordFile &file, std::string_view password, ByteSource &input,
+                               ByteSink &output, Fault &fault);
 
 /// An archive tells which derivation it is: of a RAR 4 or RAR 5 archive the first seven or eight bytes are
 /// known, and no wrong key hits them. Whatever else there is goes by the last derivation.
-[[nodiscard]] Conversion decryption(const PasswordFile &file, std::string_view password);
+[[nodiscard]] bool decryptFile(const PasswordFile &file, std::string_view password, ByteSource &input,
+                               ByteSink &output, Fault &fault);

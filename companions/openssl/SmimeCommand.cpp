@@ -2,15 +2,12 @@
 #include "CommandPlan.h"
 #include "PassPhrase.h"
 #include "smime/EncryptedMessage.h"
-#include "smime/KeyFile.h"
 #include "smime/KeyOpener.h"
 
 #include <algorithm>
 #include <array>
 #include <cstring>
-#include <memory>
 #include <strings.h>
-#include <sys/stat.h>
 
 namespace {
 

@@ -13,8 +13,6 @@
 #include <poll.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
-#include <unistd.h>
-#include <utility>
 
 namespace {
 

@@ -2,8 +2,6 @@
 
 #include "Files.h"
 
-#include <vector>
-
 class Secret;
 
 /// What tells a file from every other one, whatever it is called: device and inode.

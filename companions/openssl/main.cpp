@@ -82,6 +82,16 @@ std::optional<std::vector<char *>> takeArguments(int argc, char **argv)
     return arguments;
 }
 
+/// What to do for this command line (without the program's name). A password in it moves to `password` and is
+/// overwritten in the memory of the arguments, so that the system's list of processes shows it no longer.
+CommandPlan planCommand(std::span<char *const> arguments, Secret &password)
+{
+    if (arguments.empty()) return PassThrough{};
+    if (auto plan = planCipherCommand(arguments, password)) return std::move(*plan);
+    if (auto plan = planSmimeCommand(arguments, password)) return std::move(*plan);
+    return PassThrough{};
+}
+
 int carryOut(const CommandPlan &plan, char **argv, Secret &password)
 {
     if (const Refusal *const refusal = std::get_if<Refusal>(&plan)) {

@@ -2,8 +2,6 @@
 
 #include "ByteReader.h"
 
-#include <vector>
-
 // Base64 (RFC 4648, section 4) by the line and by the group, as fast as memory allows.
 
 /// Hands on the base64 text of what is written to it.

@@ -3,7 +3,6 @@
 #include "Streams.h"
 
 #include <optional>
-#include <string>
 #include <string_view>
 
 using base::Bytes;
@@ -54,6 +53,17 @@ public:
         const std::uint8_t byte = m_piece.front();
         skip(1);
         return byte;
+    }
+    /// So many bytes more, which are then past; fewer only at the end.
+    [[nodiscard]] std::vector<std::uint8_t> take(std::size_t count)
+    {
+        std::vector<std::uint8_t> taken;
+        while (taken.size() < count && !available().empty()) {
+            const Bytes part = m_piece.first(std::min(m_piece.size(), count - taken.size()));
+            taken.insert(taken.end(), part.begin(), part.end());
+            skip(part.size());
+        }
+        return taken;
     }
     /// How many bytes are past.
     [[nodiscard]] std::uint64_t position() const { return m_position; }

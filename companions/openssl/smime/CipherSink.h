@@ -3,22 +3,52 @@
 #include "ByteReader.h"
 #include "CryptoHandles.h"
 
+#include <algorithm>
+#include <openssl/err.h>
+
 /// Encrypts or decrypts what is written to it, and hands it on.
 class CipherSink final : public ByteSink {
 public:
-    explicit CipherSink(ByteSink &next);
+    explicit CipherSink(ByteSink &next)
+        : m_next(next), m_context(EVP_CIPHER_CTX_new()), m_bytes(pieceSize + EVP_MAX_BLOCK_LENGTH)
+    {
+    }
 
     /// To be set up before anything is written; null: there is no memory for it.
     [[nodiscard]] EVP_CIPHER_CTX *context() const { return m_context.get(); }
 
     /// False: the cipher refuses it, or the other sink failed.
-    [[nodiscard]] bool write(Bytes bytes) override;
+    [[nodiscard]] bool write(Bytes bytes) override
+    {
+        while (!bytes.empty()) {
+            const Bytes piece = bytes.first(std::min(bytes.size(), pieceSize));
+            int size = 0;
+            if (EVP_CipherUpdate(m_context.get(), m_bytes.data(), &size, piece.data(),
+                                 static_cast<int>(piece.size())) <= 0 ||
+                !handOn(size))
+                return false;
+            bytes = bytes.subspan(piece.size());
+        }
+        return true;
+    }
+
     /// Hands on the last block. False too where it can't be decrypted: its padding is wrong, or it isn't
     /// whole.
-    [[nodiscard]] bool finish();
+    [[nodiscard]] bool finish()
+    {
+        int size = 0;
+        const bool isWhole = EVP_CipherFinal_ex(m_context.get(), m_bytes.data(), &size) > 0;
+        ERR_clear_error();
+        return isWhole && handOn(size);
+    }
 
 private:
-    bool handOn(int size);
+    static constexpr std::size_t pieceSize = 262'144; // in bytes
+
+    bool handOn(int size)
+    {
+        return size == 0 || m_next.write({m_bytes.data(), static_cast<std::size_t>(size)});
+    }
 
     ByteSink &m_next;
     CryptoHandle<EVP_CIPHER_CTX> m_context;

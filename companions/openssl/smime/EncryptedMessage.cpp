@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
-#include <openssl/err.h>
 #include <openssl/objects.h>
 
 namespace {
@@ -29,9 +28,6 @@ std::string plain(std::string_view text)
     std::ranges::transform(result, result.begin(), [](unsigned char letter) { return std::tolower(letter); });
     return result;
 }
-
-/// The value of a field without its parameters.
-std::string mainValue(std::string_view value) { return plain(value.substr(0, value.find(';'))); }
 
 /// Reads the header of an S/MIME message (RFC 8551, section 3.2) and the empty line after it. What returns
 /// false has reported that it is none, or that what follows is no base64 text.
@@ -77,7 +73,8 @@ private:
         const std::size_t colon = field.find(':');
         if (colon == std::string_view::npos) return isNoMessage();
         const std::string name = plain(field.substr(0, colon));
-        const std::string value = mainValue(field.substr(colon + 1));
+        const std::string_view rest = field.substr(colon + 1);
+        const std::string value = plain(rest.substr(0, rest.find(';'))); // without parameters
         if (name == "content-type")
             m_isEnveloped = value == "application/x-pkcs7-mime" || value == "application/pkcs7-mime";
         if (name == "content-transfer-encoding" && value != "base64")
@@ -217,6 +214,56 @@ bool isOver(ByteReader &bytes, Fault &fault)
     return bytes.available().empty() ? !fault.isSet() : fault.reportRubbish();
 }
 
+// As the system's tool writes it.
+constexpr std::string_view header =
+    "MIME-Version: 1.0\n"
+    "Content-Disposition: attachment; filename=\"smime.p7m\"\n"
+    "Content-Type: application/x-pkcs7-mime; smime-type=enveloped-data; name=\"smime.p7m\"\n"
+    "Content-Transfer-Encoding: base64\n"
+    "\n";
+
+bool writeText(ByteSink &output, std::string_view text)
+{
+    return output.write({reinterpret_cast<const std::uint8_t *>(text.data()), text.size()});
+}
+
+/// Hands on what the library has written.
+bool handOn(BIO &written, ByteSink &output)
+{
+    char *text = nullptr;
+    const long size = BIO_get_mem_data(&written, &text);
+    const bool isTaken = writeText(output, {text, static_cast<std::size_t>(size)});
+    return BIO_reset(&written) > 0 && isTaken;
+}
+
+CryptoHandle<PKCS7> makeEnvelope(const std::vector<Certificate> &recipients, const EVP_CIPHER *cipher)
+{
+    const CryptoHandle<STACK_OF(X509)> stack(sk_X509_new_null());
+    for (const Certificate &each : recipients)
+        if (!stack || sk_X509_push(stack.get(), each.handle.get()) <= 0) return nullptr;
+    return CryptoHandle<PKCS7>(PKCS7_encrypt(stack.get(), nullptr, cipher, PKCS7_BINARY | PKCS7_STREAM));
+}
+
+/// Writes the binary form. False: the input or the output failed.
+bool writeEnvelope(PKCS7 &envelope, ByteSource &input, ByteSink &output)
+{
+    const CryptoHandle<BIO> written(BIO_new(BIO_s_mem()));
+    BIO *chain = written ? BIO_new_PKCS7(written.get(), &envelope) : nullptr;
+    if (!chain) return false;
+    bool isWritten = true;
+    for (Bytes piece; isWritten && !(piece = input.read()).empty();) {
+        const int size = static_cast<int>(piece.size());
+        isWritten = BIO_write(chain, piece.data(), size) == size && handOn(*written, output);
+    }
+    isWritten = isWritten && BIO_flush(chain) > 0 && handOn(*written, output);
+    while (chain != written.get()) {
+        BIO *const next = BIO_pop(chain);
+        BIO_free(chain);
+        chain = next;
+    }
+    return isWritten;
+}
+
 } // namespace
 
 bool decryptMessage(ByteSource &input, MessageForm form, KeyOpener &keys, ByteSink &output, Fault &fault)
@@ -231,4 +278,24 @@ bool decryptMessage(ByteSource &input, MessageForm form, KeyOpener &keys, ByteSi
     if (!EnvelopeReader(inner, keys, output, fault).read()) return false;
     base64.expectEnd();
     return isOver(inner, fault);
+}
+
+bool canReceive(const Certificate &certificate)
+{
+    const EVP_PKEY *const key = certificate.handle ? X509_get0_pubkey(certificate.handle.get()) : nullptr;
+    return key && EVP_PKEY_get_base_id(key) == EVP_PKEY_RSA;
+}
+
+bool encryptMessage(ByteSource &input, MessageForm form, const std::vector<Certificate> &recipients,
+                    const EVP_CIPHER *cipher, ByteSink &output, Fault &fault)
+{
+    const bool isText = form == MessageForm::Smime;
+    Base64Sink text(output);
+    base::BackgroundSink rear(isText ? static_cast<ByteSink &>(text) : output);
+    const CryptoHandle<PKCS7> envelope = makeEnvelope(recipients, cipher);
+    const bool isWritten = envelope && (!isText || writeText(output, header)) &&
+                           writeEnvelope(*envelope, input, rear) && !fault.isSet() && rear.finish() &&
+                           (!isText || (text.finish() && writeText(output, "\n")));
+    ERR_clear_error();
+    return isWritten || fault.report("cannot be encrypted: libcrypto refuses it");
 }

@@ -3,8 +3,6 @@
 #include "ByteReader.h"
 #include "CryptoHandles.h"
 
-#include <vector>
-
 class KeyOpener;
 struct Certificate;
 

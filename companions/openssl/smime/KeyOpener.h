@@ -4,12 +4,27 @@
 #include "Streams.h"
 
 #include <optional>
-#include <string>
-#include <vector>
+#include <string_view>
 
 class BerReader;
-struct Certificate;
-struct PrivateKey;
+
+struct PrivateKey {
+    CryptoHandle<EVP_PKEY> handle; ///< null: it could not be read
+    std::string file;
+};
+
+struct Certificate {
+    CryptoHandle<X509> handle; ///< null: it could not be read
+    std::string file;
+};
+
+/// Reads a private key in PEM or DER. `passPhrase` opens one that is protected; nobody is ever asked for it.
+/// Where the key can't be read, `problem` is a whole sentence that says why.
+[[nodiscard]] PrivateKey readPrivateKey(const std::string &file, std::optional<std::string_view> passPhrase,
+                                        std::string &problem);
+
+/// Reads a certificate in PEM or DER; otherwise as readPrivateKey().
+[[nodiscard]] Certificate readCertificate(const std::string &file, std::string &problem);
 
 /// One of those whom a message is for: KeyTransRecipientInfo of RFC 5652, section 6.2.1.
 struct Recipient {
@@ -50,12 +65,17 @@ public:
     void passOver(OtherRecipient recipient) { m_other = m_other.value_or(recipient); }
 
     /// The key of this size, in bytes, that a recipient's entry held; null: the private key opens none.
-    [[nodiscard]] const base::WipedBytes *contentKey(std::size_t size) const;
+    [[nodiscard]] const base::WipedBytes *contentKey(std::size_t size) const
+    {
+        const auto found = std::ranges::find(m_opened, size, &base::WipedBytes::size);
+        return found == m_opened.end() ? nullptr : &*found;
+    }
+
     /// Why it opens none, said of the message.
     [[nodiscard]] std::string refusal() const;
 
 private:
-    [[nodiscard]] bool isRsa() const;
+    [[nodiscard]] bool isRsa() const { return EVP_PKEY_is_a(m_privateKey.handle.get(), "RSA") == 1; }
 
     const PrivateKey &m_privateKey;
     const Certificate *m_certificate;

@@ -1,6 +1,6 @@
 #include "EntryName.h"
 #include "Headers.h"
-#include "VolumeNames.h"
+#include "VolumeSource.h"
 
 #include <gtest/gtest.h>
 
