@@ -24,18 +24,15 @@ class TextSink final : public ContentSink {
 public:
     bool write(Bytes bytes) override
     {
+        constexpr std::size_t longestLink = 65535;
         text.append(bytes.begin(), bytes.end());
         return text.size() <= longestLink;
     }
     std::string text;
-
-private:
-    static constexpr std::size_t longestLink = 65535;
 };
 
 class EntryTester final : public EntryReceiver {
 public:
-    bool beginFile(const FileHeader &) override { return true; }
     bool write(Bytes) override { return true; }
 };
 
@@ -139,16 +136,12 @@ private:
         return !readCodeLengths(bits, lengths) || !areLiteralsOnly(lengths);
     }
 
-    bool isGroupFull() const
-    {
-        return m_group->size >= smallPacked || m_groupUnpacked >= smallUnpacked ||
-               m_group->entries.size() >= mostEntries;
-    }
-
     void gather(const std::string &place)
     {
         const FileHeader &entry = m_reader.entry();
-        if (m_group && !isMember(entry) && isGroupFull()) closeGroup(UnpackJob::Kind::Entries);
+        const bool isFull = m_group && (m_group->size >= smallPacked || m_groupUnpacked >= smallUnpacked ||
+                                        m_group->entries.size() >= mostEntries);
+        if (isFull && !isMember(entry)) closeGroup(UnpackJob::Kind::Entries);
         if (!m_group) {
             m_group = &m_work.next();
             m_groupUnpacked = 0;
@@ -184,11 +177,7 @@ private:
         if (!place.empty()) m_underWay.insert(place);
         m_begins = entry;
         m_isUnwanted = false;
-        bool isWhole = true;
-        if (entry.hasBlocks())
-            isWhole = streamBlocks();
-        else
-            streamStored();
+        const bool isWhole = entry.hasBlocks() ? streamBlocks() : streamStored();
         if (interrupted()) return;
         UnpackJob &last = m_work.next();
         last.ends = m_reader.entry();
@@ -197,7 +186,8 @@ private:
         give(Kind::End);
     }
 
-    void streamStored()
+    /// Always true.
+    bool streamStored()
     {
         for (bool isLast = false; !isLast && goesOn();) {
             UnpackJob &piece = m_work.next();
@@ -207,6 +197,7 @@ private:
             isLast = size < storedPiece;
             if (size > 0) give(UnpackJob::Kind::Stored);
         }
+        return true;
     }
 
     /// False where the row of blocks is damaged.
@@ -256,21 +247,14 @@ private:
     {
         m_diagnostics.repeat(job.before);
         m_diagnostics.repeat(job.messages);
-        switch (job.kind) {
-        case UnpackJob::Kind::EntriesLeft:
-            for (const UnpackJob::Entry &entry : job.entries)
-                if (!interrupted())
-                    m_unpacker.unpack(entry.header, Bytes(job.packed).subspan(entry.begin, entry.size));
-            break;
-        case UnpackJob::Kind::Entries:
-            for (const UnpackJob::Entry &entry : job.entries)
-                if (entry.header.hasBlocks()) m_unpacker.breakChain();
-            break;
-        default:
-            return finishPiece(job);
-        }
-        for (const UnpackJob::Entry &entry : job.entries)
+        const bool isLeft = job.kind == UnpackJob::Kind::EntriesLeft;
+        if (!isLeft && job.kind != UnpackJob::Kind::Entries) return finishPiece(job);
+        for (const UnpackJob::Entry &entry : job.entries) {
+            if (isLeft && !interrupted())
+                m_unpacker.unpack(entry.header, Bytes(job.packed).subspan(entry.begin, entry.size));
+            if (!isLeft && entry.header.hasBlocks()) m_unpacker.breakChain();
             m_underWay.erase(entry.place);
+        }
     }
 
     void finishPiece(UnpackJob &job)

@@ -202,15 +202,11 @@ private:
         return true;
     }
 
-    bool finishPart()
-    {
-        if (m_partSkipped || !m_entry.crc || *m_entry.crc == m_partCrc) return true;
-        return fail(printable(m_entry.name) + ": packed data checksum error in volume " + volumeName());
-    }
-
     bool continueInNextVolume()
     {
-        return finishPart() && findEndOfVolume() && openVolume(m_volume + 1) && findContinuation();
+        if (!m_partSkipped && m_entry.crc && *m_entry.crc != m_partCrc)
+            return fail(printable(m_entry.name) + ": packed data checksum error in volume " + volumeName());
+        return findEndOfVolume() && openVolume(m_volume + 1) && findContinuation();
     }
 
     bool findEndOfVolume()

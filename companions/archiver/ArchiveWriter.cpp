@@ -103,17 +103,11 @@ bool ArchiveWriter::addFile(int file, const struct stat &status, const std::stri
     Source source{file, describe(status, name), std::numeric_limits<std::uint64_t>::max(), sizeKnown, path};
     source.header.unpackedSize = static_cast<std::uint64_t>(status.st_size);
     if (sizeKnown) source.left = source.header.unpackedSize;
-    return addContent(source);
-}
-
-bool ArchiveWriter::addContent(Source &source)
-{
-    if (!packs()) return addStored(source);
     std::array<std::uint8_t, 1> byte{};
-    if (!source.sizeKnown && base::readFullyAt(source.file, byte, 0) != 0) return addStored(source);
-    if (!source.sizeKnown) source.left = 0;
+    if (!packs() || (!sizeKnown && base::readFullyAt(file, byte, 0) != 0)) return addStored(source);
+    if (!sizeKnown) source.left = 0;
     if (source.left <= mostWhole) return addWhole(source);
-    const Coding coding = probe(source.file, source.left);
+    const Coding coding = probe(file, source.left);
     if (coding == Coding::Store) return addStored(source);
     return addLarge(source, m_packing.solid ? Coding::Matches : coding);
 }
@@ -292,7 +286,8 @@ bool ArchiveWriter::endGroup()
 /// Sees to it that there is a piece with room for a part of that size.
 bool ArchiveWriter::openPiece(std::size_t size)
 {
-    if (m_piece && (m_piece->room() < size || m_piece->parts.size() >= mostParts)) givePiece(usualHistory());
+    if (m_piece && (m_piece->room() < size || m_piece->parts.size() >= mostParts))
+        givePiece(m_packing.solid ? History::Keep : History::Drop);
     if (m_piece) return true;
     if (!m_work) {
         // One is filled and one is written while the others are packed.

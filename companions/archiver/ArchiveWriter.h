@@ -55,7 +55,6 @@ private:
 
     [[nodiscard]] bool packs() const { return m_packing.method > 0; }
     [[nodiscard]] bool addWithoutData(const FileHeader &header);
-    [[nodiscard]] bool addContent(Source &source);
     [[nodiscard]] bool addStored(Source &source);
     [[nodiscard]] bool storeContent(Source &source);
     [[nodiscard]] bool addWhole(Source &source);
@@ -72,7 +71,6 @@ private:
     [[nodiscard]] bool openPiece(std::size_t size);
     enum class History { Keep, Drop };
     void givePiece(History history);
-    [[nodiscard]] History usualHistory() const { return m_packing.solid ? History::Keep : History::Drop; }
     [[nodiscard]] bool writePieces();
     [[nodiscard]] bool writeOldestPiece();
     [[nodiscard]] bool writePart(const Piece &piece, Part &part);

@@ -108,4 +108,24 @@ std::string decodeName(std::string_view stored)
     return name;
 }
 
+std::string printable(std::string_view name)
+{
+    constexpr std::string_view digits = "0123456789abcdef";
+    constexpr std::size_t longest = 4096; // no path that the system takes is longer
+    std::string text;
+    if (name.size() > longest) return printable(name.substr(0, longest)) + "…";
+    while (!name.empty()) {
+        const std::size_t length = utf8Length(name);
+        const auto byte = static_cast<unsigned char>(name.front());
+        if (length == 0 || byte < 0x20 || byte == 0x7f) {
+            text += {'\\', 'x', digits[byte >> 4], digits[byte & 15]};
+            name.remove_prefix(1);
+            continue;
+        }
+        text += name.substr(0, length);
+        name.remove_prefix(length);
+    }
+    return text;
+}
+
 } // namespace archiver

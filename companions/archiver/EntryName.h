@@ -22,4 +22,8 @@ namespace archiver {
 /// The name on disk of a name in an archive.
 [[nodiscard]] std::string decodeName(std::string_view stored);
 
+/// A file name for a message: control characters and bytes that are not UTF-8 as "\xHH", and cut
+/// where it is longer than anyone reads.
+[[nodiscard]] std::string printable(std::string_view name);
+
 } // namespace archiver

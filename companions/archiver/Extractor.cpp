@@ -2,12 +2,10 @@
 
 #include "ArchiveProcessor.h"
 #include "EntryName.h"
-#include "FolderAttributes.h"
+#include "Folders.h"
 #include "StagedFile.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <fcntl.h>
 #include <mutex>
 
 namespace archiver {

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "ArchiveReader.h"
-#include "ContentCheck.h"
-#include "ContentSink.h"
+#include "Content.h"
 
 #include <archive.h>
 #include <archive_entry.h>
@@ -25,7 +24,10 @@ public:
     [[nodiscard]] bool unpack(std::size_t index, ArchiveReader &reader, ContentSink &sink)
     {
         const std::string name = printable(reader.entry().name);
-        const std::optional<std::uint64_t> size = packedSize(index);
+        if (!std::exchange(m_isOpen, true) && !m_scout.open()) return false;
+        for (; m_next <= index; ++m_next)
+            if (m_scout.next() != ArchiveReader::Step::Entry) return false;
+        const std::optional<std::uint64_t> size = m_scout.skipEntry();
         if (!size) return false;
         JoinedEntry joined{reader, {}};
         const Archive archive = openJoined(joined, *size, m_scout.entry());
@@ -97,14 +99,6 @@ private:
         if (archive_read_open(object.get(), &joined, nullptr, JoinedEntry::read, nullptr) == ARCHIVE_OK)
             archive_read_next_header(object.get(), &entry); // what fails shows when the data is read
         return object;
-    }
-
-    [[nodiscard]] std::optional<std::uint64_t> packedSize(std::size_t index)
-    {
-        if (!std::exchange(m_isOpen, true) && !m_scout.open()) return std::nullopt;
-        for (; m_next <= index; ++m_next)
-            if (m_scout.next() != ArchiveReader::Step::Entry) return std::nullopt;
-        return m_scout.skipEntry();
     }
 
     Diagnostics &m_diagnostics;

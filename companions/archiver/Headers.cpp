@@ -52,20 +52,16 @@ std::string readName(ByteReader &reader)
     return decodeName({reinterpret_cast<const char *>(bytes.data()), bytes.size()});
 }
 
-Timestamp fromWindowsTime(std::uint64_t ticks)
-{
-    const auto perSecond = static_cast<std::uint64_t>(windowsTicks);
-    return {static_cast<std::int64_t>(ticks / perSecond) - windowsEpoch,
-            static_cast<std::uint32_t>(ticks % perSecond) * 100};
-}
-
 void parseTimes(ByteReader reader, FileHeader &header)
 {
     const std::uint64_t flags = reader.vint();
     if (!(flags & modifiedTime)) return;
     Timestamp time;
     if (!(flags & unixTimes)) {
-        time = fromWindowsTime(reader.u64());
+        const std::uint64_t ticks = reader.u64();
+        const auto perSecond = static_cast<std::uint64_t>(windowsTicks);
+        time.seconds = static_cast<std::int64_t>(ticks / perSecond) - windowsEpoch;
+        time.nanoseconds = static_cast<std::uint32_t>(ticks % perSecond) * 100;
     } else {
         time.seconds = reader.u32();
         if (flags & changedTime) reader.u32();
@@ -230,19 +226,6 @@ ByteBuffer makeLinkRecord(const LinkTarget &link)
     return record;
 }
 
-void putFileFields(ByteBuffer &body, const FileHeader &header)
-{
-    const bool isFile = !header.folder && !header.link;
-    putVint(body, (header.folder ? fileFolder : 0) | (isFile ? fileCrc : 0));
-    putVint(body, header.unpackedSize, isFile ? sizeWidth : 1);
-    putVint(body, header.mode);
-    if (isFile) putNumber(body, header.crc.value_or(0), 4);
-    putVint(body, header.version | (header.solid ? 0x40u : 0u) | header.method << 7 | header.dictionary << 10,
-            2);
-    putVint(body, header.unixHost ? 1 : 0);
-    putName(body, header.name);
-}
-
 void putMainHeader(ByteBuffer &into, const MainHeader &header)
 {
     ByteBuffer body;
@@ -267,7 +250,15 @@ void putFileHeader(ByteBuffer &into, const FileHeader &header)
                       (header.continuesAfter ? continuesAfter : 0));
     if (!extra.empty()) putVint(body, extra.size());
     putVint(body, header.packedSize, header.folder || header.link ? 1 : sizeWidth);
-    putFileFields(body, header);
+    const bool isFile = !header.folder && !header.link;
+    putVint(body, (header.folder ? fileFolder : 0) | (isFile ? fileCrc : 0));
+    putVint(body, header.unpackedSize, isFile ? sizeWidth : 1);
+    putVint(body, header.mode);
+    if (isFile) putNumber(body, header.crc.value_or(0), 4);
+    putVint(body, header.version | (header.solid ? 0x40u : 0u) | header.method << 7 | header.dictionary << 10,
+            2);
+    putVint(body, header.unixHost ? 1 : 0);
+    putName(body, header.name);
     putBytes(body, extra);
     putFramed(into, body);
 }

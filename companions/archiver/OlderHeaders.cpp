@@ -13,12 +13,10 @@ namespace {
 
 constexpr std::size_t commonSize = 7; ///< of what all headers begin with
 
-namespace oldtype {
-constexpr std::uint8_t main = 0x73;
-constexpr std::uint8_t file = 0x74;
-constexpr std::uint8_t service = 0x7A;
-constexpr std::uint8_t end = 0x7B;
-} // namespace oldtype
+constexpr std::uint8_t mainType = 0x73;
+constexpr std::uint8_t fileType = 0x74;
+constexpr std::uint8_t serviceType = 0x7A;
+constexpr std::uint8_t endType = 0x7B;
 
 namespace oldflag {
 constexpr std::uint64_t hasData = 0x8000;
@@ -57,9 +55,9 @@ std::optional<std::size_t> oldLength(Bytes start)
 
 HeaderType typeOf(std::uint8_t type)
 {
-    if (type == oldtype::main) return HeaderType::Main;
-    if (type == oldtype::end) return HeaderType::End;
-    return type == oldtype::file ? HeaderType::File : HeaderType::Service;
+    if (type == mainType) return HeaderType::Main;
+    if (type == endType) return HeaderType::End;
+    return type == fileType ? HeaderType::File : HeaderType::Service;
 }
 
 std::optional<HeaderFrame> oldFrame(Bytes bytes)
@@ -75,7 +73,7 @@ std::optional<HeaderFrame> oldFrame(Bytes bytes)
     frame.fields = reader.take(reader.remaining());
 
     ByteReader fields(frame.fields);
-    const bool isFile = type == oldtype::file || type == oldtype::service;
+    const bool isFile = type == fileType || type == serviceType;
     if (isFile || frame.flags & oldflag::hasData) frame.dataSize = fields.u32();
     if (isFile && frame.flags & oldflag::largeSizes) {
         fields.take(21);
@@ -254,7 +252,7 @@ void putOld(ByteBuffer &into, std::uint8_t type, std::uint64_t flags, const Byte
 void putOldMainHeader(ByteBuffer &into, const MainHeader &header)
 {
     const bool isFirst = header.volume && header.volumeIndex == 0u;
-    putOld(into, oldtype::main,
+    putOld(into, mainType,
            (header.volume ? oldflag::volume : 0) | (header.solid ? oldflag::mainSolid : 0) |
                (header.encrypted ? oldflag::headersEncrypted : 0) | (isFirst ? oldflag::firstVolume : 0),
            ByteBuffer(6));
@@ -275,7 +273,7 @@ void putOldFileHeader(ByteBuffer &into, const FileHeader &header)
     putNumber(fields, header.packedSize >> 32, 4);
     putNumber(fields, header.unpackedSize >> 32, 4);
     putText(fields, header.name);
-    putOld(into, oldtype::file,
+    putOld(into, fileType,
            oldflag::hasData | oldflag::largeSizes | (header.continuesBefore ? oldflag::continuesBefore : 0) |
                (header.continuesAfter ? oldflag::continuesAfter : 0) |
                (header.encrypted ? oldflag::encrypted : 0) | (header.solid ? oldflag::solid : 0) |
@@ -286,7 +284,7 @@ void putOldFileHeader(ByteBuffer &into, const FileHeader &header)
 
 void putOldEndHeader(ByteBuffer &into, bool moreVolumes)
 {
-    putOld(into, oldtype::end, 0x4000 | (moreVolumes ? oldflag::moreVolumes : 0), {});
+    putOld(into, endType, 0x4000 | (moreVolumes ? oldflag::moreVolumes : 0), {});
 }
 
 } // namespace

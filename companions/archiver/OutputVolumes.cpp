@@ -3,8 +3,6 @@
 #include "SetReplacement.h"
 #include "VolumeSource.h"
 
-#include <algorithm>
-#include <cerrno>
 #include <fcntl.h>
 #include <limits>
 #include <sys/resource.h>
@@ -15,7 +13,6 @@ namespace {
 
 constexpr std::size_t bufferSize = 512 << 10;
 constexpr std::size_t worthNoCopy = 128 << 10;
-constexpr std::uint64_t smallestLastVolume = 512; // readers look for the signature of shorter files in vain
 
 /// The written volumes, read through the descriptors that they were written through; messages name the
 /// archive.
@@ -116,54 +113,9 @@ bool OutputVolumes::append(Bytes bytes)
     return true;
 }
 
-bool OutputVolumes::patch(std::uint64_t offset, Bytes bytes)
-{
-    const std::uint64_t flushed = m_position - m_used;
-    if (offset >= flushed) {
-        std::ranges::copy(bytes, m_buffer.begin() + static_cast<std::ptrdiff_t>(offset - flushed));
-        return true;
-    }
-    if (!flushAndWait()) return false;
-    return base::writeFullyAt(m_files.back().descriptor(), bytes, offset) || cannotWrite();
-}
-
-bool OutputVolumes::endVolume(bool more)
-{
-    ByteBuffer end;
-    presentFormat.putEnd(end, more);
-    const std::uint64_t size = m_position + end.size();
-    if (!more && m_files.size() > 1 && size < smallestLastVolume) end.resize(end.size() + smallestLastVolume);
-    if (!append(end) || !flushAndWait()) return false;
-    base::startWriteBack(m_files.back().descriptor());
-    return keepFewOpen() || cannotWrite();
-}
-
-bool OutputVolumes::finish()
-{
-    if (limited() && m_files.size() == 1) {
-        // All fits into the first volume: an ordinary archive, then. The header's length is the same.
-        ByteBuffer header;
-        presentFormat.putMain(header, {.solid = m_solid});
-        if (!patch(signature.size(), header)) return false;
-    }
-    return endVolume(false);
-}
-
 std::unique_ptr<VolumeSource> OutputVolumes::written()
 {
     return std::make_unique<WrittenVolumes>(m_files, m_path);
-}
-
-bool OutputVolumes::complete(base::StagedFile &file, const std::optional<Timestamp> &time)
-{
-    const bool isParked = !file;
-    if (!file.unpark()) return cannotWrite();
-    if (time) {
-        const timespec times[2] = {{0, UTIME_OMIT}, {time->seconds, time->nanoseconds}};
-        if (futimens(file.descriptor(), times) != 0)
-            return m_diagnostics.reportSystem("Cannot set the time of " + printable(m_path));
-    }
-    return (base::syncToDisk(file.descriptor()) && (!isParked || file.park())) || cannotWrite();
 }
 
 bool OutputVolumes::owns(const struct stat &folder, const std::string &name) const

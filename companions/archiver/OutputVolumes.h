@@ -6,7 +6,6 @@
 #include "StagedFile.h"
 #include "VolumeSource.h"
 
-#include <cerrno>
 #include <memory>
 
 namespace archiver {
@@ -129,7 +128,17 @@ public:
 
     [[nodiscard]] bool append(Bytes bytes);
     /// Replaces bytes of the present volume.
-    [[nodiscard]] bool patch(std::uint64_t offset, Bytes bytes);
+    [[nodiscard]] bool patch(std::uint64_t offset, Bytes bytes)
+    {
+        const std::uint64_t flushed = m_position - m_used;
+        if (offset >= flushed) {
+            std::ranges::copy(bytes, m_buffer.begin() + static_cast<std::ptrdiff_t>(offset - flushed));
+            return true;
+        }
+        if (!flushAndWait()) return false;
+        return base::writeFullyAt(m_files.back().descriptor(), bytes, offset) || cannotWrite();
+    }
+
     /// Makes sure that buffer() has space.
     [[nodiscard]] bool flushWhenFull()
     {
@@ -141,7 +150,17 @@ public:
     void writeInBackground(bool on) { on ? m_writer.start() : m_writer.stop(); }
 
     [[nodiscard]] bool nextVolume() { return endVolume(true) && beginVolume(); }
-    [[nodiscard]] bool finish();
+
+    [[nodiscard]] bool finish()
+    {
+        if (limited() && m_files.size() == 1) {
+            // All fits into the first volume: an ordinary archive, then. The header's length is the same.
+            ByteBuffer header;
+            presentFormat.putMain(header, {.solid = m_solid});
+            if (!patch(signature.size(), header)) return false;
+        }
+        return endVolume(false);
+    }
 
     /// All that was written, to be read back; after finish().
     [[nodiscard]] std::unique_ptr<VolumeSource> written();
@@ -164,16 +183,37 @@ private:
     }
 
     [[nodiscard]] bool flushAndWait() { return flush() && (m_writer.finish() || cannotWrite()); }
-    [[nodiscard]] bool endVolume(bool more);
 
-    [[nodiscard]] bool keepFewOpen()
+    [[nodiscard]] bool endVolume(bool more)
     {
+        constexpr std::uint64_t smallestLastVolume =
+            512; // readers look for a signature in shorter ones in vain
+        ByteBuffer end;
+        presentFormat.putEnd(end, more);
+        const std::uint64_t size = m_position + end.size();
+        if (!more && m_files.size() > 1 && size < smallestLastVolume)
+            end.resize(end.size() + smallestLastVolume);
+        if (!append(end) || !flushAndWait()) return false;
         base::StagedFile &file = m_files.back();
-        return m_files.size() < m_mostOpen ||
-               (file.giveName(m_passingNames, static_cast<unsigned>(m_files.size() - 1)) && file.park());
+        base::startWriteBack(file.descriptor());
+        const bool isParked =
+            m_files.size() < m_mostOpen ||
+            (file.giveName(m_passingNames, static_cast<unsigned>(m_files.size() - 1)) && file.park());
+        return isParked || cannotWrite();
     }
 
-    [[nodiscard]] bool complete(base::StagedFile &file, const std::optional<Timestamp> &time);
+    [[nodiscard]] bool complete(base::StagedFile &file, const std::optional<Timestamp> &time)
+    {
+        const bool isParked = !file;
+        if (!file.unpark()) return cannotWrite();
+        if (time) {
+            const timespec times[2] = {{0, UTIME_OMIT}, {time->seconds, time->nanoseconds}};
+            if (futimens(file.descriptor(), times) != 0)
+                return m_diagnostics.reportSystem("Cannot set the time of " + printable(m_path));
+        }
+        return (base::syncToDisk(file.descriptor()) && (!isParked || file.park())) || cannotWrite();
+    }
+
     bool cannotWrite() { return m_diagnostics.reportSystem("Cannot write " + printable(m_path)); }
 
     bool cannotCreate(const std::string &name)

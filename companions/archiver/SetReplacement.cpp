@@ -2,8 +2,6 @@
 
 #include "VolumeSource.h"
 
-#include <algorithm>
-#include <cerrno>
 #include <fcntl.h>
 #include <set>
 #include <sstream>
@@ -50,17 +48,6 @@ bool isAt(int folder, const std::string &name, const NewFile &file)
            status.st_uid == geteuid() && status.st_ino == file.inode;
 }
 
-bool removeFormer(int folder, const std::string &name, const std::vector<std::string> &current,
-                  Diagnostics &diagnostics)
-{
-    const std::vector<std::string> files = filesOfArchive(folder, name, current);
-    for (const std::string &former : files)
-        if (unlinkat(folder, former.c_str(), 0) != 0 && errno != EISDIR && errno != ENOENT)
-            diagnostics.reportSystem("Cannot remove the older volume " + printable(former));
-    // Had the mark gone before, what is left of the former set would stay for ever.
-    return files.empty() || base::syncToDisk(folder);
-}
-
 /// Does what the mark says, and removes it. False with errno set. Where a new file is gone the mark is
 /// outdated: somebody has come in between, and put the former files back, say.
 bool carryOut(int folder, const std::string &name, const std::vector<NewFile> &files,
@@ -78,7 +65,13 @@ bool carryOut(int folder, const std::string &name, const std::vector<NewFile> &f
         for (const std::size_t index : passing)
             if (renameat(folder, files[index].passingName.c_str(), folder, names[index].c_str()) != 0)
                 return false;
-        if (!base::syncToDisk(folder) || !removeFormer(folder, name, names, diagnostics)) return false;
+        if (!base::syncToDisk(folder)) return false;
+        const std::vector<std::string> former = filesOfArchive(folder, name, names);
+        for (const std::string &each : former)
+            if (unlinkat(folder, each.c_str(), 0) != 0 && errno != EISDIR && errno != ENOENT)
+                diagnostics.reportSystem("Cannot remove the older volume " + printable(each));
+        // Had the mark gone before, what is left of the former set would stay for ever.
+        if (!former.empty() && !base::syncToDisk(folder)) return false;
     }
     const std::string mark = passingNamesOf(withoutExtension(name)).special("set");
     return unlinkat(folder, mark.c_str(), 0) == 0 && base::syncToDisk(folder);

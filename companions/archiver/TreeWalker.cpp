@@ -1,12 +1,10 @@
 #include "TreeWalker.h"
 
 #include "EntryName.h"
-#include "FolderChain.h"
+#include "Folders.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <dirent.h>
-#include <fcntl.h>
 
 namespace archiver {
 

@@ -1,7 +1,5 @@
 #include "VolumeSource.h"
 
-#include <algorithm>
-#include <cerrno>
 #include <charconv>
 #include <fcntl.h>
 #include <strings.h>
@@ -95,13 +93,6 @@ std::optional<FileSource> VolumeFiles::open(std::size_t index)
     posix_fadvise(file.get(), 0, 0, POSIX_FADV_SEQUENTIAL);
     const int descriptor = file.get();
     return FileSource{descriptor, static_cast<std::uint64_t>(status.st_size), std::move(file)};
-}
-
-std::string VolumeFiles::name(std::size_t index) const
-{
-    while (m_paths.size() <= index)
-        m_paths.push_back(nextVolumePath(m_paths.back()));
-    return m_paths[index];
 }
 
 } // namespace archiver

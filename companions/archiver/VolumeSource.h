@@ -130,7 +130,13 @@ public:
     explicit VolumeFiles(std::string firstPath) : m_paths{std::move(firstPath)} {}
     /// ENXIO where it is a pipe, a socket or a device, which nobody waits for.
     std::optional<FileSource> open(std::size_t index) override;
-    [[nodiscard]] std::string name(std::size_t index) const override;
+
+    [[nodiscard]] std::string name(std::size_t index) const override
+    {
+        while (m_paths.size() <= index)
+            m_paths.push_back(nextVolumePath(m_paths.back()));
+        return m_paths[index];
+    }
 
 private:
     mutable std::vector<std::string> m_paths;

@@ -146,7 +146,6 @@ class EntryPrinter final : public EntryReceiver {
 public:
     explicit EntryPrinter(Diagnostics &diagnostics) : m_diagnostics(diagnostics) {}
 
-    bool beginFile(const FileHeader &) override { return true; }
     bool write(Bytes bytes) override
     {
         if (base::writeFully(STDOUT_FILENO, bytes)) return true;
@@ -179,9 +178,8 @@ void list(const std::string &archive, Diagnostics &diagnostics)
     ByteBuffer lines;
     bool isDone = true; // one message is enough
     const auto print = [&] {
-        const bool wasDone = isDone;
-        isDone = isDone && base::writeFully(STDOUT_FILENO, lines);
-        if (wasDone && !isDone) diagnostics.reportSystem("Cannot write the list");
+        if (isDone && !base::writeFully(STDOUT_FILENO, lines))
+            isDone = diagnostics.reportSystem("Cannot write the list");
         lines.clear();
     };
     const auto add = [&](const FileHeader &header) {
@@ -194,17 +192,12 @@ void list(const std::string &archive, Diagnostics &diagnostics)
     print();
 }
 
-void print(const std::string &archive, Diagnostics &diagnostics)
-{
-    const auto make = [](Diagnostics &each) { return std::make_unique<EntryPrinter>(each); };
-    processArchive(archive, {make, true}, diagnostics);
-}
-
 /// All that goes wrong is reported; silence is success.
 void runCommand(const Arguments &arguments, Diagnostics &diagnostics)
 {
     using Command = Arguments::Command;
     const std::string folder = arguments.names.empty() ? "." : arguments.names.front();
+    const auto print = [](Diagnostics &each) { return std::make_unique<EntryPrinter>(each); };
     switch (*arguments.command) {
     case Command::Add:
         return add(arguments, diagnostics);
@@ -217,7 +210,7 @@ void runCommand(const Arguments &arguments, Diagnostics &diagnostics)
     case Command::ListNames:
         return list(arguments.archive, diagnostics);
     case Command::Print:
-        return print(arguments.archive, diagnostics);
+        return processArchive(arguments.archive, {print, true}, diagnostics);
     }
 }
 

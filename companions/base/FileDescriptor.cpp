@@ -25,12 +25,13 @@ ssize_t repeat(std::size_t total, Call call)
     return static_cast<ssize_t>(done);
 }
 
-bool wroteAll(ssize_t written, Bytes bytes)
+template <typename Call>
+bool writeAll(Bytes bytes, Call call)
 {
-    if (written < 0) return false;
-    if (static_cast<std::size_t>(written) == bytes.size()) return true;
-    errno = EIO;
-    return false;
+    const ssize_t written = repeat(bytes.size(), call);
+    const bool isWhole = written == static_cast<ssize_t>(bytes.size());
+    if (!isWhole && written >= 0) errno = EIO;
+    return isWhole;
 }
 
 } // namespace
@@ -51,16 +52,15 @@ ssize_t readFullyAt(int file, std::span<std::uint8_t> into, std::uint64_t offset
 
 bool writeFully(int file, Bytes bytes)
 {
-    const auto call = [=](std::size_t done) { return write(file, bytes.data() + done, bytes.size() - done); };
-    return wroteAll(repeat(bytes.size(), call), bytes);
+    return writeAll(bytes,
+                    [=](std::size_t done) { return write(file, bytes.data() + done, bytes.size() - done); });
 }
 
 bool writeFullyAt(int file, Bytes bytes, std::uint64_t offset)
 {
-    const auto call = [=](std::size_t done) {
+    return writeAll(bytes, [=](std::size_t done) {
         return pwrite(file, bytes.data() + done, bytes.size() - done, static_cast<off_t>(offset + done));
-    };
-    return wroteAll(repeat(bytes.size(), call), bytes);
+    });
 }
 
 void startWriteBack(int file) { sync_file_range(file, 0, 0, SYNC_FILE_RANGE_WRITE); }

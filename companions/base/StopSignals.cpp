@@ -28,15 +28,6 @@ extern "C" void passOn(int signal)
     errno = savedErrno;
 }
 
-sigset_t stopSet()
-{
-    sigset_t set;
-    sigemptyset(&set);
-    for (const int signal : stopSignals)
-        sigaddset(&set, signal);
-    return set;
-}
-
 void setHandler(int signal, void (*handler)(int))
 {
     struct sigaction former {};
@@ -51,7 +42,10 @@ void setHandler(int signal, void (*handler)(int))
 
 StopSignals::StopSignals(BrokenPipe brokenPipe)
 {
-    const sigset_t set = stopSet();
+    sigset_t set;
+    sigemptyset(&set);
+    for (const int signal : stopSignals)
+        sigaddset(&set, signal);
     sigprocmask(SIG_BLOCK, &set, &m_formerMask);
     receivedSignal = 0;
     for (const int signal : stopSignals)
@@ -97,9 +91,7 @@ std::string signalName(int signal)
 
 void endBySignal(int signal)
 {
-    struct sigaction standard {};
-    standard.sa_handler = SIG_DFL;
-    sigaction(signal, &standard, nullptr);
+    std::signal(signal, SIG_DFL);
     sigset_t set;
     sigemptyset(&set);
     sigaddset(&set, signal);

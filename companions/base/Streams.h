@@ -61,7 +61,10 @@ class BackgroundSink final : public ByteSink {
 public:
     /// `next` belongs to the thread until finish() or the end of this.
     explicit BackgroundSink(ByteSink &next)
-        : m_next(next), m_work(1, mostPieces, [this](Piece &piece) { handOn(piece); })
+        : m_next(next), m_work(1, mostPieces, [this](Piece &piece) {
+            if (!m_hasFailed && !m_next.write({piece.bytes.data(), piece.size})) m_hasFailed = true;
+            piece.size = 0;
+        })
     {
     }
 
@@ -113,12 +116,6 @@ private:
     {
         m_begun = nullptr;
         m_work.give();
-    }
-
-    void handOn(Piece &piece)
-    {
-        if (!m_hasFailed && !m_next.write({piece.bytes.data(), piece.size})) m_hasFailed = true;
-        piece.size = 0;
     }
 
     ByteSink &m_next;

@@ -2,9 +2,7 @@
 #include "PassPhrase.h"
 #include "PasswordFile.h"
 
-#include <algorithm>
 #include <charconv>
-#include <cstring>
 
 namespace {
 

@@ -2,7 +2,6 @@
 
 #include "Streams.h"
 
-#include <algorithm>
 #include <string_view>
 
 /// A password, held in one place only and wiped from there at the end.

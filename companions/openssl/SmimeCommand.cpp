@@ -1,12 +1,9 @@
-#include "CipherName.h"
 #include "CommandPlan.h"
 #include "PassPhrase.h"
+#include "PasswordFile.h"
 #include "smime/EncryptedMessage.h"
 #include "smime/KeyOpener.h"
 
-#include <algorithm>
-#include <array>
-#include <cstring>
 #include <strings.h>
 
 namespace {
@@ -55,13 +52,6 @@ struct SmimeEncryption {
     MessageForm form;
     LibraryCipher cipher;
     std::vector<Certificate> recipients{};
-
-    [[nodiscard]] int run() const
-    {
-        return convert(files, [this](ByteSource &input, ByteSink &output, Fault &fault) {
-            return encryptMessage(input, form, recipients, cipher.get(), output, fault);
-        });
-    }
 };
 
 /// Whether the front can do itself what the option of an encryption asks for. It writes in pieces always.
@@ -90,7 +80,12 @@ std::optional<OwnRun> planOwnEncryption(const CommandLine &line)
         own->recipients.push_back(readCertificate(operand, ignored));
     const bool isPossible =
         own->cipher.get() && !own->recipients.empty() && std::ranges::all_of(own->recipients, canReceive);
-    return isPossible ? std::optional<OwnRun>([own] { return own->run(); }) : std::nullopt;
+    if (!isPossible) return std::nullopt;
+    return [own] {
+        return convert(own->files, [&own](ByteSource &input, ByteSink &output, Fault &fault) {
+            return encryptMessage(input, own->form, own->recipients, own->cipher.get(), output, fault);
+        });
+    };
 }
 
 ToolRun planToolRun(const CommandLine &line, bool isEncryption)
@@ -182,21 +177,6 @@ bool isOwnAffair(const Option &option)
     return name == "in" || name == "out" || name == "inkey" || name == "recip";
 }
 
-/// Moves a pass phrase that is spelled out to `passPhrase`. False: it is too long for that.
-bool takePassPhrase(const CommandLine &line, SmimeDecryption &decryption, Secret &passPhrase)
-{
-    const Option *const option = line.last({"passin"});
-    if (!option) return true;
-    if (!isInlinePassPhrase(option->value)) {
-        decryption.passPhraseSource = option->value;
-        return true;
-    }
-    char *const text = option->value + inlinePassPhrase.size();
-    decryption.hasPassPhrase = passPhrase.assign(text);
-    base::wipe(text, std::strlen(text));
-    return decryption.hasPassPhrase;
-}
-
 CommandPlan planDecryption(const CommandLine &line, Secret &passPhrase)
 {
     if (!line.has({"inkey", "recip"}) || !std::ranges::all_of(line.options(), isOwnAffair))
@@ -206,9 +186,18 @@ CommandPlan planDecryption(const CommandLine &line, Secret &passPhrase)
     SmimeDecryption decryption{filesOf(line), formOf(line, "inform"), recipient,
                                valueOf(line, "inkey").value_or(recipient.value_or(""))};
     if (!line.operands().empty()) decryption.mentionedCertificate = line.operands().front();
-    if (!takePassPhrase(line, decryption, passPhrase))
-        return Refusal{"the pass phrase of the private key is longer than " +
-                       std::to_string(Secret::maximumSize) + " bytes: use a copy of the key that has none"};
+    const Option *const source = line.last({"passin"});
+    if (source && isInlinePassPhrase(source->value)) {
+        char *const text = source->value + inlinePassPhrase.size();
+        decryption.hasPassPhrase = passPhrase.assign(text);
+        base::wipe(text, std::strlen(text));
+        if (!decryption.hasPassPhrase)
+            return Refusal{"the pass phrase of the private key is longer than " +
+                           std::to_string(Secret::maximumSize) +
+                           " bytes: use a copy of the key that has none"};
+    } else if (source) {
+        decryption.passPhraseSource = source->value;
+    }
     return OwnRun([decryption, &passPhrase] { return decryption.run(passPhrase); });
 }
 

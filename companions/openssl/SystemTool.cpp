@@ -3,7 +3,6 @@
 #include "PassPhrase.h"
 #include "StopSignals.h"
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
@@ -29,25 +28,24 @@ std::optional<FileIdentity> identityOf(const char *path)
     return FileIdentity{status.st_dev, status.st_ino};
 }
 
-/// A pipe that programs started later do not inherit. Both ends closed, with errno set: there is none to be
-/// had.
 struct Pipe {
     base::FileDescriptor read;
     base::FileDescriptor write;
-
-    static Pipe open()
-    {
-        std::array<int, 2> ends{-1, -1};
-        if (pipe2(ends.data(), O_CLOEXEC) != 0) return {};
-        return {base::FileDescriptor(ends[0]), base::FileDescriptor(ends[1])};
-    }
 };
+
+/// One that programs started later do not inherit. Both ends closed, with errno set: there is none to be had.
+Pipe openPipe()
+{
+    std::array<int, 2> ends{-1, -1};
+    if (pipe2(ends.data(), O_CLOEXEC) != 0) return {};
+    return {base::FileDescriptor(ends[0]), base::FileDescriptor(ends[1])};
+}
 
 /// A pipe with the password in it, as the one line that the tool reads. Closed, with errno set: it couldn't
 /// be made.
 base::FileDescriptor passwordPipe(Secret &password)
 {
-    Pipe pipe = Pipe::open();
+    Pipe pipe = openPipe();
     if (!pipe.read) return {};
     const std::size_t size = password.text().size() + 1;
     const base::WipedBytes line(size);
@@ -57,14 +55,6 @@ base::FileDescriptor passwordPipe(Secret &password)
     const ssize_t written = write(pipe.write.get(), line.data(), size);
     password.wipe();
     return written == static_cast<ssize_t>(size) ? std::move(pipe.read) : base::FileDescriptor();
-}
-
-/// The tool must not go on writing when nobody is left to judge its result.
-void endWithParent(pid_t parent)
-{
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
-    // The parent may have ended before the line above.
-    if (getppid() != parent) _exit(127);
 }
 
 /// Starts `tool` with these arguments (without a program name) as a child process that ends with this program
@@ -84,7 +74,9 @@ pid_t startTool(const std::string &tool, std::vector<std::string> arguments,
     const pid_t child = fork();
     if (child != 0) return child;
 
-    endWithParent(parent);
+    // The tool must not go on writing when nobody is left to judge its result.
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (getppid() != parent) _exit(127); // it may have ended before the line above
     for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream)
         if (const int own = streams[static_cast<std::size_t>(stream)]; own >= 0) dup2(own, stream);
     if (inherited >= 0) fcntl(inherited, F_SETFD, 0);
@@ -136,8 +128,8 @@ private:
     {
         base::FileDescriptor passwordEnd;
         if (m_run.hasPassword && !(passwordEnd = passwordPipe(password))) return false;
-        Pipe output = m_run.files.output ? Pipe::open() : Pipe();
-        Pipe errors = Pipe::open();
+        Pipe output = m_run.files.output ? openPipe() : Pipe();
+        Pipe errors = openPipe();
         if (!errors.read || (m_run.files.output && !output.read)) return false;
 
         const pid_t child =

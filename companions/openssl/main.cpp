@@ -5,11 +5,9 @@
 #include "CommandPlan.h"
 #include "PassPhrase.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <cstdlib>
-#include <cstring>
 #include <fstream>
 #include <sys/mman.h>
 #include <sys/prctl.h>
@@ -40,42 +38,30 @@ void closeMemory()
     setrlimit(RLIMIT_CORE, &limit);
 }
 
-/// The number of the file that holds them; none: they are where they always are.
-std::optional<int> handedFile(int argc, char **argv)
-{
-    const std::string_view first = argc > 1 ? argv[1] : "";
-    if (!first.starts_with(option)) return std::nullopt;
-    int file = -1;
-    std::from_chars(first.data() + option.size(), first.data() + first.size(), file);
-    return file;
-}
-
-/// The file itself, and no copy: what is written over here is gone.
-std::optional<std::span<char>> map(const base::FileDescriptor &file)
-{
-    struct stat status {};
-    if (fstat(file.get(), &status) != 0) return std::nullopt;
-    const auto size = static_cast<std::size_t>(status.st_size);
-    if (size == 0) return std::span<char>();
-    void *const memory = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_SHARED, file.get(), 0);
-    if (memory == MAP_FAILED) return std::nullopt;
-    return std::span(static_cast<char *>(memory), size);
-}
-
 /// The program's arguments, its name first and a null at the end, as for execv(). The program that starts
 /// this one hides them from the list of processes: then the first in `argv` is "--arguments=N", and the open
 /// file N holds the true ones, each with a NUL at its end. It is closed. They stay for as long as the program
 /// runs, can be written over, and are in memory nowhere else. None, with errno set: they can't be read.
 std::optional<std::vector<char *>> takeArguments(int argc, char **argv)
 {
-    const std::optional<int> file = handedFile(argc, argv);
-    std::vector<char *> arguments(argv, argv + (file ? 1 : argc));
-    if (file) {
-        const auto bytes = map(base::FileDescriptor(*file));
-        if (!bytes) return std::nullopt;
+    const std::string_view first = argc > 1 ? argv[1] : "";
+    const bool areHanded = first.starts_with(option);
+    std::vector<char *> arguments(argv, argv + (areHanded ? 1 : argc));
+    if (areHanded) {
+        int number = -1;
+        std::from_chars(first.data() + option.size(), first.data() + first.size(), number);
+        const base::FileDescriptor file(number);
+        struct stat status {};
+        if (fstat(file.get(), &status) != 0) return std::nullopt;
+        const auto size = static_cast<std::size_t>(status.st_size);
+        // The file itself, and no copy: what is written over here is gone.
+        void *const memory =
+            size > 0 ? mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_SHARED, number, 0) : nullptr;
+        if (memory == MAP_FAILED) return std::nullopt;
+        const std::span<char> bytes(static_cast<char *>(memory), size);
         errno = EINVAL;
-        if (!bytes->empty() && bytes->back() != '\0') return std::nullopt;
-        for (char *next = bytes->data(); next != bytes->data() + bytes->size(); next += std::strlen(next) + 1)
+        if (!bytes.empty() && bytes.back() != '\0') return std::nullopt;
+        for (char *next = bytes.data(); next != bytes.data() + size; next += std::strlen(next) + 1)
             arguments.push_back(next);
     }
     arguments.resize(std::max<std::size_t>(arguments.size(), 1) + 1);

@@ -166,7 +166,7 @@ Base64Source::Base64Source(ByteReader &text, Fault &fault, Rules rules)
 Bytes Base64Source::read()
 {
     m_size = 0;
-    while (!isFull()) {
+    while (m_size + 3 <= m_decoded.size()) {
         const Bytes text = m_text.available();
         if (text.empty()) {
             if (m_size == 0) finish();
@@ -181,8 +181,6 @@ Bytes Base64Source::read()
     }
     return {m_decoded.data(), m_size};
 }
-
-bool Base64Source::isFull() const { return m_size + 3 > m_decoded.size(); }
 
 /// Decodes whole groups as long as nothing else comes, which is nearly always. Returns the size of their
 /// text.

@@ -38,7 +38,6 @@ public:
     void expectEnd() { m_expectsEnd = true; }
 
 private:
-    [[nodiscard]] bool isFull() const;
     std::size_t decodeWhole(Bytes text);
     bool decodeOne(std::uint8_t character);
     bool takePadding();

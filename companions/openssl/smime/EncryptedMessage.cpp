@@ -2,10 +2,9 @@
 
 #include "Base64.h"
 #include "BerReader.h"
-#include "CipherSink.h"
+#include "Crypto.h"
 #include "KeyOpener.h"
 
-#include <algorithm>
 #include <array>
 #include <cctype>
 #include <openssl/objects.h>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ByteReader.h"
-#include "CryptoHandles.h"
+#include "Crypto.h"
 
 class KeyOpener;
 struct Certificate;

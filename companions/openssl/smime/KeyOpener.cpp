@@ -2,7 +2,6 @@
 
 #include "BerReader.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <openssl/err.h>
 #include <openssl/objects.h>
@@ -50,24 +49,24 @@ CryptoHandle<EVP_PKEY> decode(BIO *bio, PassPhraseRequest &request)
 // In bytes, far more than any of these is: an RSA key of 16384 bits makes 2048.
 constexpr std::size_t maximumField = 16384;
 
+/// The next element; null, and reported, where it is none of that kind.
+template <typename Type>
+Type *decodeNext(BerReader &ber, Type *(*decode)(Type **, const unsigned char **, long))
+{
+    std::vector<std::uint8_t> encoding;
+    if (!ber.collect(encoding, maximumField)) return nullptr;
+    const unsigned char *next = encoding.data();
+    Type *const decoded = decode(nullptr, &next, static_cast<long>(encoding.size()));
+    if (!decoded) ber.reportDamage();
+    return decoded;
+}
+
 bool readIdentifier(BerReader &ber, Recipient &recipient)
 {
     if (ber.peek() == ber::context(0))
         return ber.readOctets(ber::context(0), recipient.keyIdentifier, maximumField);
-    std::vector<std::uint8_t> encoding;
-    if (!ber.collect(encoding, maximumField)) return false;
-    const unsigned char *next = encoding.data();
-    recipient.name.reset(d2i_PKCS7_ISSUER_AND_SERIAL(nullptr, &next, static_cast<long>(encoding.size())));
-    return recipient.name || ber.reportDamage();
-}
-
-bool readAlgorithm(BerReader &ber, Recipient &recipient)
-{
-    std::vector<std::uint8_t> encoding;
-    if (!ber.collect(encoding, maximumField)) return false;
-    const unsigned char *next = encoding.data();
-    recipient.algorithm.reset(d2i_X509_ALGOR(nullptr, &next, static_cast<long>(encoding.size())));
-    return recipient.algorithm || ber.reportDamage();
+    recipient.name.reset(decodeNext<PKCS7_ISSUER_AND_SERIAL>(ber, d2i_PKCS7_ISSUER_AND_SERIAL));
+    return recipient.name != nullptr;
 }
 
 int nidOf(const X509_ALGOR &algorithm) { return OBJ_obj2nid(algorithm.algorithm); }
@@ -195,9 +194,10 @@ bool Recipient::isNamedBy(X509 &certificate) const
 
 bool readRecipient(BerReader &ber, Recipient &recipient)
 {
-    return ber.enter(ber::sequence) && ber.skipNumber() && readIdentifier(ber, recipient) &&
-           readAlgorithm(ber, recipient) &&
-           ber.readOctets(ber::octetString, recipient.encryptedKey, maximumField) && ber.leave();
+    if (!ber.enter(ber::sequence) || !ber.skipNumber() || !readIdentifier(ber, recipient)) return false;
+    recipient.algorithm.reset(decodeNext<X509_ALGOR>(ber, d2i_X509_ALGOR));
+    return recipient.algorithm && ber.readOctets(ber::octetString, recipient.encryptedKey, maximumField) &&
+           ber.leave();
 }
 
 void KeyOpener::offer(const Recipient &recipient)

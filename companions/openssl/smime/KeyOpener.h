@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CryptoHandles.h"
+#include "Crypto.h"
 #include "Streams.h"
 
 #include <optional>
