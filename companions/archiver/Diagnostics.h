@@ -20,7 +20,10 @@ public:
     /// Always false, for `return diagnostics.report(…)`.
     bool report(std::string_view message)
     {
-        repeat("\n" + std::string(message) + "\n");
+        std::string line = "\n";
+        line += message;
+        line += '\n';
+        repeat(line);
         return false;
     }
     /// Adds what errno says: "MESSAGE: No such file or directory". Always false.
