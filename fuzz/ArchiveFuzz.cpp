@@ -7,7 +7,6 @@
 #include "LiteralBlock.h"
 #include "TemporaryFolder.h"
 #include "Unpacker.h"
-#include "VolumeNames.h"
 
 #include <algorithm>
 #include <atomic>
@@ -138,12 +137,8 @@ void processOnDisk(const ArchiveInput &input)
     const fs::path parent = folder / "parent";
     fs::create_directories(parent / "out");
     const Guard guard(parent);
-    Destination destination;
-    require(destination.open(parent / "out"), "no destination");
     const bool flat = input.flags & ArchiveInput::flat;
-    Extractor extractor(destination, flat ? Extractor::Paths::Drop : Extractor::Paths::Keep);
-    processArchive(first, extractor.receivers(), diagnostics);
-    extractor.finish(diagnostics);
+    extractArchive(first, parent / "out", flat ? Paths::Drop : Paths::Keep, diagnostics);
     guard.check();
 }
 

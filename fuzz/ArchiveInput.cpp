@@ -12,26 +12,19 @@ using namespace archiver;
 
 namespace {
 
-class MemorySource final : public ByteSource {
-public:
-    explicit MemorySource(Bytes bytes) : m_bytes(bytes) {}
-    ssize_t read(std::uint64_t offset, std::span<std::uint8_t> into) override
-    {
-        const Bytes rest = m_bytes.subspan(std::min<std::uint64_t>(offset, m_bytes.size()));
-        const Bytes part = rest.first(std::min(rest.size(), into.size()));
-        std::ranges::copy(part, into.begin());
-        return static_cast<ssize_t>(part.size());
-    }
-    [[nodiscard]] std::uint64_t size() const override { return m_bytes.size(); }
-
-private:
-    Bytes m_bytes;
-};
-
-ByteBuffer readWhole(ByteSource &source)
+/// A file in memory, with that content.
+FileSource memoryFile(Bytes content)
 {
-    ByteBuffer bytes(source.size());
-    const ssize_t count = source.read(0, bytes);
+    base::FileDescriptor file(memfd_create("content", MFD_CLOEXEC));
+    if (!base::writeFullyAt(file.get(), content, 0)) std::abort();
+    const int descriptor = file.get();
+    return {descriptor, content.size(), std::move(file)};
+}
+
+ByteBuffer readWhole(const FileSource &source)
+{
+    ByteBuffer bytes(source.size);
+    const ssize_t count = base::readFullyAt(source.descriptor, bytes, 0);
     bytes.resize(count < 0 ? 0 : static_cast<std::size_t>(count));
     return bytes;
 }
@@ -68,28 +61,28 @@ ByteBuffer ArchiveInput::serialize(InputKind kind) const
     return bytes;
 }
 
-std::unique_ptr<ByteSource> MemoryVolumes::open(std::size_t index)
+std::optional<FileSource> MemoryVolumes::open(std::size_t index)
 {
-    if (index < m_volumes.size()) return std::make_unique<MemorySource>(m_volumes[index]);
+    if (index < m_volumes.size()) return memoryFile(m_volumes[index]);
     errno = ENOENT;
-    return nullptr;
+    return std::nullopt;
 }
 
 std::vector<ByteBuffer> writeVolumes(Bytes content, ArchiveWriter::Packing packing,
                                      std::optional<std::uint64_t> volumeSize, Diagnostics &diagnostics)
 {
     static const TemporaryFolder folder;
-    const base::FileDescriptor file(memfd_create("content", MFD_CLOEXEC));
+    const FileSource file = memoryFile(content);
     struct stat status {};
-    if (!base::writeFullyAt(file.get(), content, 0) || fstat(file.get(), &status) != 0) std::abort();
+    if (fstat(file.descriptor, &status) != 0) std::abort();
     OutputVolumes output(folder / "a.rar", volumeSize, diagnostics);
     ArchiveWriter writer(output, packing, diagnostics);
-    if (!output.begin() || !writer.addFile(file.get(), status, "file", "file") || !writer.finish() ||
+    if (!output.begin() || !writer.addFile(file.descriptor, status, "file", "file") || !writer.finish() ||
         !output.finish())
         return {};
     std::vector<ByteBuffer> volumes;
     const std::unique_ptr<VolumeSource> written = output.written();
-    while (const std::unique_ptr<ByteSource> volume = written->open(volumes.size()))
+    while (const std::optional<FileSource> volume = written->open(volumes.size()))
         volumes.push_back(readWhole(*volume));
     return volumes;
 }

@@ -32,7 +32,7 @@ struct ArchiveInput {
 class MemoryVolumes final : public archiver::VolumeSource {
 public:
     explicit MemoryVolumes(const std::vector<archiver::ByteBuffer> &volumes) : m_volumes(volumes) {}
-    std::unique_ptr<archiver::ByteSource> open(std::size_t index) override;
+    std::optional<archiver::FileSource> open(std::size_t index) override;
     [[nodiscard]] std::string name(std::size_t index) const override
     {
         return "volume " + std::to_string(index);

@@ -2,9 +2,7 @@
 // libcrypto's own. The first byte of an input chooses the rules of the reader.
 
 #include "Pieces.h"
-#include "smime/Base64Sink.h"
-#include "smime/Base64Source.h"
-#include "smime/Fault.h"
+#include "smime/Base64.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "smime/ByteStreams.h"
+#include "smime/ByteReader.h"
 
 #include <algorithm>
 #include <vector>

@@ -3,8 +3,6 @@
 
 #include "Pieces.h"
 #include "smime/EncryptedMessage.h"
-#include "smime/Fault.h"
-#include "smime/KeyFile.h"
 #include "smime/KeyOpener.h"
 
 #include <algorithm>

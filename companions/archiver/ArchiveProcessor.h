@@ -1,9 +1,7 @@
 #pragma once
 
-#include "ContentSink.h"
+#include "Content.h"
 #include "VolumeSource.h"
-
-#include <string>
 
 namespace archiver {
 

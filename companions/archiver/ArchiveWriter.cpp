@@ -1,17 +1,13 @@
 #include "ArchiveWriter.h"
 
-#include "Interrupt.h"
 #include "Packer.h"
 #include "Probe.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <limits>
 #include <new>
-#include <thread>
-#include <utility>
 
 namespace archiver {
 
@@ -58,17 +54,14 @@ FileHeader describe(const struct stat &status, const std::string &name)
     return header;
 }
 
+ByteBuffer copyOf(Bytes bytes) { return {bytes.begin(), bytes.end()}; }
+
 void keepNewest(std::optional<Timestamp> &newest, const struct stat &status)
 {
     newest = std::max(newest, std::optional(modifiedTime(status)));
 }
 
 } // namespace
-
-ArchiveWriter::ArchiveWriter(OutputVolumes &output, Packing packing, Diagnostics &diagnostics)
-    : m_output(output), m_entries(output, diagnostics), m_packing(packing), m_diagnostics(diagnostics)
-{
-}
 
 bool ArchiveWriter::addFolder(const struct stat &status, const std::string &name)
 {
@@ -110,17 +103,11 @@ bool ArchiveWriter::addFile(int file, const struct stat &status, const std::stri
     Source source{file, describe(status, name), std::numeric_limits<std::uint64_t>::max(), sizeKnown, path};
     source.header.unpackedSize = static_cast<std::uint64_t>(status.st_size);
     if (sizeKnown) source.left = source.header.unpackedSize;
-    return addContent(source);
-}
-
-bool ArchiveWriter::addContent(Source &source)
-{
-    if (!packs()) return addStored(source);
     std::array<std::uint8_t, 1> byte{};
-    if (!source.sizeKnown && base::readFullyAt(source.file, byte, 0) != 0) return addStored(source);
-    if (!source.sizeKnown) source.left = 0;
+    if (!packs() || (!sizeKnown && base::readFullyAt(file, byte, 0) != 0)) return addStored(source);
+    if (!sizeKnown) source.left = 0;
     if (source.left <= mostWhole) return addWhole(source);
-    const Coding coding = probe(source.file, source.left);
+    const Coding coding = probe(file, source.left);
     if (coding == Coding::Store) return addStored(source);
     return addLarge(source, m_packing.solid ? Coding::Matches : coding);
 }
@@ -140,17 +127,6 @@ std::size_t ArchiveWriter::read(Source &source, std::span<std::uint8_t> into)
         m_diagnostics.report(printable(source.path) + " became shorter while it was read");
     source.left = got < wanted ? 0 : source.left - got;
     return got;
-}
-
-/// What is as it was needs no thread but one that writes while the next bytes are read.
-bool ArchiveWriter::addStored(Source &source)
-{
-    if (!writePieces()) return false;
-    const bool large = source.header.unpackedSize >= largeFile;
-    if (large) m_output.writeInBackground(true);
-    const bool added = m_entries.begin(source.header) && storeContent(source);
-    if (large) m_output.writeInBackground(false);
-    return added;
 }
 
 bool ArchiveWriter::storeContent(Source &source)
@@ -190,29 +166,31 @@ bool ArchiveWriter::joinGroupIfWorthIt()
         const auto [twin, isFirst] = m_twins.try_emplace(key, m_aside.size());
         if (!isFirst) return joinGroupWithTwin(twin->second);
     }
-    Part aside = std::move(part);
-    m_piece->parts.pop_back();
-    m_piece->used -= aside.size;
+    Part aside = takeLastPart();
     aside.coding = Coding::Store;
     return putAside(std::move(aside), content);
+}
+
+/// Its content stays where it is until the next one comes.
+Part ArchiveWriter::takeLastPart()
+{
+    Part part = std::move(m_piece->parts.back());
+    m_piece->parts.pop_back();
+    m_piece->used -= part.size;
+    return part;
 }
 
 /// The piece's last part has, most likely, the content of one that was put aside: that one joins the group
 /// before it, where it hasn't yet, so that there is something to lean on.
 bool ArchiveWriter::joinGroupWithTwin(std::size_t place)
 {
-    const Part part = std::move(m_piece->parts.back());
-    const Bytes bytes = m_piece->contentOf(part);
-    const ByteBuffer content(bytes.begin(), bytes.end());
-    m_piece->parts.pop_back();
-    m_piece->used -= part.size;
-
+    const Part part = takeLastPart();
+    const ByteBuffer content = copyOf(m_piece->contentOf(part));
     const auto twin = std::ranges::find_if(
         m_asideParts, [&](const Part &each) { return each.begin == place && each.size == part.size; });
     if (twin != m_asideParts.end()) {
         const Part before = std::move(*twin);
-        const Bytes there = Bytes(m_aside).subspan(before.begin, before.size);
-        const ByteBuffer copy(there.begin(), there.end());
+        const ByteBuffer copy = copyOf(Bytes(m_aside).subspan(before.begin, before.size));
         m_asideParts.erase(twin);
         if (!addToGroup(before.header, copy)) return false;
     }
@@ -244,6 +222,17 @@ bool ArchiveWriter::addLarge(Source &source, Coding coding)
         m_piece->parts.back().first = first;
     }
     return true;
+}
+
+/// What is as it was needs no thread but one that writes while the next bytes are read.
+bool ArchiveWriter::addStored(Source &source)
+{
+    if (!writePieces()) return false;
+    const bool large = source.header.unpackedSize >= largeFile;
+    if (large) m_output.writeInBackground(true);
+    const bool added = m_entries.begin(source.header) && storeContent(source);
+    if (large) m_output.writeInBackground(false);
+    return added;
 }
 
 /// Reads the next bytes of a file into the piece; of one that became shorter, what is there.
@@ -283,35 +272,30 @@ bool ArchiveWriter::endGroup()
     m_history.clear();
     m_groupSize = 0;
     m_twins.clear();
-    if (m_asideParts.empty()) {
-        m_aside.clear();
-        return true;
+    if (!m_asideParts.empty()) {
+        if (!openPiece(m_aside.size())) return false;
+        std::ranges::copy(m_aside, m_piece->content.begin());
+        std::swap(m_piece->parts, m_asideParts);
+        givePiece(History::Drop);
+        m_asideParts.clear();
     }
-    if (!openPiece(m_aside.size())) return false;
-    std::ranges::copy(m_aside, m_piece->content.begin());
-    std::swap(m_piece->parts, m_asideParts);
-    givePiece(History::Drop);
     m_aside.clear();
-    m_asideParts.clear();
     return true;
-}
-
-void ArchiveWriter::startWork()
-{
-    // One is filled and one is written while the others are packed.
-    const unsigned threads = packingThreads();
-    const std::size_t pieces = threads == 0 ? 1 : threads + 2;
-    const auto packers = std::make_shared<Packers>(finderLevels.at(m_packing.method), m_packing.solid);
-    m_work = std::make_unique<base::OrderedWork<Piece>>(threads, pieces,
-                                                        [packers](Piece &piece) { packers->pack(piece); });
 }
 
 /// Sees to it that there is a piece with room for a part of that size.
 bool ArchiveWriter::openPiece(std::size_t size)
 {
-    if (m_piece && (m_piece->room() < size || m_piece->parts.size() >= mostParts)) givePiece(usualHistory());
+    if (m_piece && (m_piece->room() < size || m_piece->parts.size() >= mostParts))
+        givePiece(m_packing.solid ? History::Keep : History::Drop);
     if (m_piece) return true;
-    if (!m_work) startWork();
+    if (!m_work) {
+        // One is filled and one is written while the others are packed.
+        const unsigned threads = packingThreads();
+        const auto packers = std::make_shared<Packers>(finderLevels.at(m_packing.method), m_packing.solid);
+        m_work = std::make_unique<base::OrderedWork<Piece>>(
+            threads, threads == 0 ? 1 : threads + 2, [packers](Piece &piece) { packers->pack(piece); });
+    }
     while (!(m_piece = m_work->free()))
         if (!writeOldestPiece()) return false;
     m_piece->open(m_history, std::max(size, m_packing.solid ? matchesTogether : literalsTogether));
@@ -365,9 +349,11 @@ bool ArchiveWriter::writePart(const Piece &piece, Part &part)
     }
     m_size += part.size;
     m_crc = part.first ? part.crc : joinedCrc32(m_crc, part.crc, part.size);
-    const bool written = part.coding == Coding::Store ? m_entries.putStored(piece.contentOf(part))
-                                                      : putBlocks(piece.packed, part);
-    return written && (!part.last || m_entries.end(m_crc, m_size));
+    if (part.coding == Coding::Store && !m_entries.putStored(piece.contentOf(part))) return false;
+    for (std::size_t index = part.firstBlock; index < part.endBlock; ++index)
+        if (!m_entries.putBlock(piece.packed.at(index), part.last && index + 1 == part.endBlock))
+            return false;
+    return !part.last || m_entries.end(m_crc, m_size);
 }
 
 void ArchiveWriter::describePacking(Part &part)
@@ -381,13 +367,6 @@ void ArchiveWriter::describePacking(Part &part)
     const bool isSmall =
         part.coding == Coding::Literals || (!m_packing.solid && part.last && part.size <= smallDictionary);
     part.header.dictionary = isSmall ? HuffmanEncoder::dictionary : MatchEncoder::dictionary;
-}
-
-bool ArchiveWriter::putBlocks(const PackedBlocks &packed, const Part &part)
-{
-    for (std::size_t index = part.firstBlock; index < part.endBlock; ++index)
-        if (!m_entries.putBlock(packed.at(index), part.last && index + 1 == part.endBlock)) return false;
-    return true;
 }
 
 } // namespace archiver

@@ -4,9 +4,6 @@
 #include "OrderedWork.h"
 #include "Piece.h"
 
-#include <optional>
-#include <string>
-#include <sys/stat.h>
 #include <unordered_map>
 
 namespace archiver {
@@ -24,7 +21,11 @@ public:
         /// no more than the rest of its group.
         bool solid = false;
     };
-    ArchiveWriter(OutputVolumes &output, Packing packing, Diagnostics &diagnostics);
+
+    ArchiveWriter(OutputVolumes &output, Packing packing, Diagnostics &diagnostics)
+        : m_output(output), m_entries(output, diagnostics), m_packing(packing), m_diagnostics(diagnostics)
+    {
+    }
 
     /// The regular file open as `file`; `path` is its name for messages. A file that grows meanwhile is taken
     /// with the size that `status` has.
@@ -54,30 +55,26 @@ private:
 
     [[nodiscard]] bool packs() const { return m_packing.method > 0; }
     [[nodiscard]] bool addWithoutData(const FileHeader &header);
-    [[nodiscard]] bool addContent(Source &source);
     [[nodiscard]] bool addStored(Source &source);
     [[nodiscard]] bool storeContent(Source &source);
     [[nodiscard]] bool addWhole(Source &source);
     [[nodiscard]] bool addLarge(Source &source, Coding coding);
     void addPart(Source &source, std::size_t size, Coding coding);
     [[nodiscard]] bool joinGroupIfWorthIt();
+    Part takeLastPart();
     [[nodiscard]] bool joinGroupWithTwin(std::size_t place);
     [[nodiscard]] bool addToGroup(FileHeader header, Bytes content);
     [[nodiscard]] bool beginGroupFor(std::uint64_t size);
     [[nodiscard]] bool endGroup();
     [[nodiscard]] bool putAside(Part part, Bytes content);
     void joinGroup(FileHeader &header, std::uint64_t size);
-
-    void startWork();
     [[nodiscard]] bool openPiece(std::size_t size);
     enum class History { Keep, Drop };
     void givePiece(History history);
-    [[nodiscard]] History usualHistory() const { return m_packing.solid ? History::Keep : History::Drop; }
     [[nodiscard]] bool writePieces();
     [[nodiscard]] bool writeOldestPiece();
     [[nodiscard]] bool writePart(const Piece &piece, Part &part);
     void describePacking(Part &part);
-    [[nodiscard]] bool putBlocks(const PackedBlocks &packed, const Part &part);
     /// Reads up to `into.size()` bytes; 0 after a fault as well, which has been reported.
     [[nodiscard]] std::size_t read(Source &source, std::span<std::uint8_t> into);
 

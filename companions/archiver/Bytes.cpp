@@ -5,34 +5,6 @@
 
 namespace archiver {
 
-Bytes ByteReader::take(std::uint64_t count)
-{
-    if (!m_ok || count > m_left.size()) {
-        m_ok = false;
-        m_left = {};
-        return {};
-    }
-    const Bytes taken = m_left.first(static_cast<std::size_t>(count));
-    m_left = m_left.subspan(taken.size());
-    return taken;
-}
-
-std::uint64_t ByteReader::littleEndian(std::size_t width)
-{
-    std::uint64_t value = 0;
-    unsigned shift = 0;
-    for (const std::uint8_t byte : take(width)) {
-        value |= std::uint64_t{byte} << shift;
-        shift += 8;
-    }
-    return value;
-}
-
-std::uint8_t ByteReader::u8() { return static_cast<std::uint8_t>(littleEndian(1)); }
-std::uint16_t ByteReader::u16() { return static_cast<std::uint16_t>(littleEndian(2)); }
-std::uint32_t ByteReader::u32() { return static_cast<std::uint32_t>(littleEndian(4)); }
-std::uint64_t ByteReader::u64() { return littleEndian(8); }
-
 std::uint64_t ByteReader::vint()
 {
     std::uint64_t value = 0;
@@ -51,22 +23,10 @@ std::uint64_t ByteReader::vint()
 void putBytes(ByteBuffer &into, Bytes bytes) { into.insert(into.end(), bytes.begin(), bytes.end()); }
 void putText(ByteBuffer &into, std::string_view text) { into.insert(into.end(), text.begin(), text.end()); }
 
-void putU16(ByteBuffer &into, std::uint16_t value)
+void putNumber(ByteBuffer &into, std::uint64_t value, std::size_t width)
 {
-    into.push_back(static_cast<std::uint8_t>(value));
-    into.push_back(static_cast<std::uint8_t>(value >> 8));
-}
-
-void putU32(ByteBuffer &into, std::uint32_t value)
-{
-    for (unsigned shift = 0; shift < 32; shift += 8)
-        into.push_back(static_cast<std::uint8_t>(value >> shift));
-}
-
-void putU64(ByteBuffer &into, std::uint64_t value)
-{
-    for (unsigned shift = 0; shift < 64; shift += 8)
-        into.push_back(static_cast<std::uint8_t>(value >> shift));
+    for (; width > 0; --width, value >>= 8)
+        into.push_back(static_cast<std::uint8_t>(value));
 }
 
 void putVint(ByteBuffer &into, std::uint64_t value, std::size_t width)

@@ -3,7 +3,6 @@
 #include "FileDescriptor.h"
 
 #include <string_view>
-#include <vector>
 
 namespace archiver {
 
@@ -18,16 +17,36 @@ public:
     [[nodiscard]] bool ok() const { return m_ok; }
     [[nodiscard]] std::size_t remaining() const { return m_left.size(); }
 
-    Bytes take(std::uint64_t count);
-    std::uint8_t u8();
-    std::uint16_t u16();
-    std::uint32_t u32();
-    std::uint64_t u64();
+    Bytes take(std::uint64_t count)
+    {
+        if (!m_ok || count > m_left.size()) {
+            m_ok = false;
+            m_left = {};
+            return {};
+        }
+        const Bytes taken = m_left.first(static_cast<std::size_t>(count));
+        m_left = m_left.subspan(taken.size());
+        return taken;
+    }
+
+    std::uint8_t u8() { return static_cast<std::uint8_t>(littleEndian(1)); }
+    std::uint16_t u16() { return static_cast<std::uint16_t>(littleEndian(2)); }
+    std::uint32_t u32() { return static_cast<std::uint32_t>(littleEndian(4)); }
+    std::uint64_t u64() { return littleEndian(8); }
     /// Groups of 7 bits, the lowest first, the top bit set in all but the last; at most 10 bytes.
     std::uint64_t vint();
 
 private:
-    std::uint64_t littleEndian(std::size_t width);
+    std::uint64_t littleEndian(std::size_t width)
+    {
+        std::uint64_t value = 0;
+        unsigned shift = 0;
+        for (const std::uint8_t byte : take(width)) {
+            value |= std::uint64_t{byte} << shift;
+            shift += 8;
+        }
+        return value;
+    }
 
     Bytes m_left;
     bool m_ok = true;
@@ -37,9 +56,8 @@ using ByteBuffer = std::vector<std::uint8_t>;
 
 void putBytes(ByteBuffer &into, Bytes bytes);
 void putText(ByteBuffer &into, std::string_view text);
-void putU16(ByteBuffer &into, std::uint16_t value);
-void putU32(ByteBuffer &into, std::uint32_t value);
-void putU64(ByteBuffer &into, std::uint64_t value);
+/// The lowest `width` bytes, the lowest one first.
+void putNumber(ByteBuffer &into, std::uint64_t value, std::size_t width);
 /// Padded to `width` bytes where the value needs fewer, so that it can be replaced later by another of that
 /// width.
 void putVint(ByteBuffer &into, std::uint64_t value, std::size_t width = 1);

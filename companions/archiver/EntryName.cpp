@@ -6,11 +6,6 @@ namespace archiver {
 
 namespace {
 
-bool inRange(unsigned char byte, unsigned char low, unsigned char high)
-{
-    return byte >= low && byte <= high;
-}
-
 constexpr std::string_view marker = "\xEF\xBF\xBE"; // U+FFFE
 
 void appendMapped(std::string &name, unsigned char byte)
@@ -37,27 +32,34 @@ char mappedByte(std::string_view sequence)
 
 } // namespace
 
+std::vector<std::string> componentsOf(const std::string &path)
+{
+    std::vector<std::string> components;
+    for (std::size_t start = 0; start <= path.size();) {
+        const std::size_t end = std::min(path.find('/', start), path.size());
+        std::string part = path.substr(start, end - start);
+        if (!part.empty() && part != ".") components.push_back(std::move(part));
+        start = end + 1;
+    }
+    return components;
+}
+
 std::size_t utf8Length(std::string_view text)
 {
-    if (text.empty()) return 0;
     const auto at = [text](std::size_t index) {
         return index < text.size() ? static_cast<unsigned char>(text[index]) : static_cast<unsigned char>(0);
     };
-    const auto continues = [at](std::size_t index) { return inRange(at(index), 0x80, 0xBF); };
     const unsigned char first = at(0);
-    if (first < 0x80) return 1;
-    if (inRange(first, 0xC2, 0xDF)) return continues(1) ? 2 : 0;
-    if (inRange(first, 0xE0, 0xEF)) {
-        const unsigned char low = first == 0xE0 ? 0xA0 : 0x80;
-        const unsigned char high = first == 0xED ? 0x9F : 0xBF; // no surrogates
-        return inRange(at(1), low, high) && continues(2) ? 3 : 0;
-    }
-    if (inRange(first, 0xF0, 0xF4)) {
-        const unsigned char low = first == 0xF0 ? 0x90 : 0x80;
-        const unsigned char high = first == 0xF4 ? 0x8F : 0xBF;
-        return inRange(at(1), low, high) && continues(2) && continues(3) ? 4 : 0;
-    }
-    return 0;
+    if (text.empty() || first < 0x80) return text.empty() ? 0 : 1;
+    if (first < 0xC2 || first > 0xF4) return 0;
+    const std::size_t length = first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
+    // No longer forms than needed, no surrogates, and nothing behind the last code point.
+    const unsigned char low = first == 0xE0 ? 0xA0 : first == 0xF0 ? 0x90 : 0x80;
+    const unsigned char high = first == 0xED ? 0x9F : first == 0xF4 ? 0x8F : 0xBF;
+    if (at(1) < low || at(1) > high) return 0;
+    for (std::size_t index = 2; index < length; ++index)
+        if (at(index) < 0x80 || at(index) > 0xBF) return 0;
+    return length;
 }
 
 std::string encodeName(std::string_view bytes)
@@ -104,6 +106,26 @@ std::string decodeName(std::string_view stored)
         stored.remove_prefix(sequence.size());
     }
     return name;
+}
+
+std::string printable(std::string_view name)
+{
+    constexpr std::string_view digits = "0123456789abcdef";
+    constexpr std::size_t longest = 4096; // no path that the system takes is longer
+    std::string text;
+    if (name.size() > longest) return printable(name.substr(0, longest)) + "…";
+    while (!name.empty()) {
+        const std::size_t length = utf8Length(name);
+        const auto byte = static_cast<unsigned char>(name.front());
+        if (length == 0 || byte < 0x20 || byte == 0x7f) {
+            text += {'\\', 'x', digits[byte >> 4], digits[byte & 15]};
+            name.remove_prefix(1);
+            continue;
+        }
+        text += name.substr(0, length);
+        name.remove_prefix(length);
+    }
+    return text;
 }
 
 } // namespace archiver

@@ -2,8 +2,12 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace archiver {
+
+/// The components of a path or a name, without empty ones and ".".
+[[nodiscard]] std::vector<std::string> componentsOf(const std::string &path);
 
 /// Bytes of the well-formed sequence (Unicode, table 3-7) at the start of `text`; 0 where there is none.
 [[nodiscard]] std::size_t utf8Length(std::string_view text);
@@ -17,5 +21,9 @@ namespace archiver {
 
 /// The name on disk of a name in an archive.
 [[nodiscard]] std::string decodeName(std::string_view stored);
+
+/// A file name for a message: control characters and bytes that are not UTF-8 as "\xHH", and cut
+/// where it is longer than anyone reads.
+[[nodiscard]] std::string printable(std::string_view name);
 
 } // namespace archiver

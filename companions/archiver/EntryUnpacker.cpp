@@ -1,7 +1,5 @@
 #include "EntryUnpacker.h"
 
-#include "Interrupt.h"
-
 #include <limits>
 
 namespace archiver {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "ContentCheck.h"
-#include "ContentSink.h"
+#include "Content.h"
 #include "Unpacker.h"
 
 namespace archiver {

@@ -3,9 +3,8 @@
 #include "Bytes.h"
 
 #include <array>
+#include <compare>
 #include <optional>
-#include <string>
-#include <tuple>
 
 // The headers of the RAR 5 container, as its maker describes them publicly ("RAR 5.0 archive format"). A
 // header is CRC32, size, type, flags, fields, extra area; packed data follows a file's or a service header.
@@ -31,12 +30,6 @@ struct HeaderFrame {
     Bytes extra;
 };
 
-/// Bytes that `start` (7 or more bytes from the header's first one) says its whole header has; none where
-/// that can't be.
-[[nodiscard]] std::optional<std::size_t> headerLength(Bytes start);
-/// None where the checksum or the structure is wrong.
-[[nodiscard]] std::optional<HeaderFrame> parseFrame(Bytes header);
-
 struct MainHeader {
     bool volume = false;
     std::optional<std::uint64_t> volumeIndex{}; ///< 0 for the first; none where it is not told
@@ -44,19 +37,11 @@ struct MainHeader {
     bool encrypted = false; ///< so are all headers behind it
 };
 
-[[nodiscard]] std::optional<MainHeader> parseMainHeader(const HeaderFrame &frame);
-/// Whether more volumes follow.
-[[nodiscard]] std::optional<bool> parseEndHeader(const HeaderFrame &frame);
-
 struct Timestamp {
     std::int64_t seconds = 0; ///< since 1970
     std::uint32_t nanoseconds = 0;
 
-    friend bool operator==(const Timestamp &, const Timestamp &) = default;
-    friend bool operator<(const Timestamp &left, const Timestamp &right)
-    {
-        return std::tie(left.seconds, left.nanoseconds) < std::tie(right.seconds, right.nanoseconds);
-    }
+    auto operator<=>(const Timestamp &) const = default;
 };
 
 struct LinkTarget {
@@ -99,35 +84,33 @@ struct FileHeader {
     [[nodiscard]] std::uint64_t dictionarySize() const { return std::uint64_t{128 << 10} << dictionary; }
 };
 
-[[nodiscard]] std::optional<FileHeader> parseFileHeader(const HeaderFrame &frame);
-
-/// A header: checksum and size before `body`, which begins with the type.
-void putFramed(ByteBuffer &into, const ByteBuffer &body);
-void putMainHeader(ByteBuffer &into, const MainHeader &header);
-/// The same length for the same name, link and time, whatever the sizes (up to largestSize), flags and
-/// checksum: a header can be replaced when its data is behind it. A file has a checksum always, 0 as long as
-/// none is known.
-void putFileHeader(ByteBuffer &into, const FileHeader &header);
-void putEndHeader(ByteBuffer &into, bool moreVolumes);
-
-/// How one of the two formats writes its headers; the functions are as those above.
+/// How one of the two formats writes its headers.
 struct HeaderFormat {
     Bytes signature;
+    /// Bytes that `start` (7 or more bytes from the header's first one) says its whole header has; none where
+    /// that can't be.
     std::optional<std::size_t> (*length)(Bytes start);
+    /// None where the checksum or the structure is wrong.
     std::optional<HeaderFrame> (*frame)(Bytes header);
     std::optional<MainHeader> (*mainHeader)(const HeaderFrame &frame);
     std::optional<FileHeader> (*fileHeader)(const HeaderFrame &frame);
+    /// Whether more volumes follow.
     std::optional<bool> (*endHeader)(const HeaderFrame &frame);
     void (*putMain)(ByteBuffer &into, const MainHeader &header);
+    /// In RAR 5 the same length for the same name, link and time, whatever the sizes (up to largestSize),
+    /// flags and checksum: a header can be replaced when its data is behind it. A file has a checksum always,
+    /// 0 as long as none is known.
     void (*putFile)(ByteBuffer &into, const FileHeader &header);
     void (*putEnd)(ByteBuffer &into, bool moreVolumes);
 };
 
-inline constexpr HeaderFormat presentFormat{signature,       headerLength,    parseFrame,
-                                            parseMainHeader, parseFileHeader, parseEndHeader,
-                                            putMainHeader,   putFileHeader,   putEndHeader};
+/// RAR 5.
+extern const HeaderFormat presentFormat;
 /// RAR 3 and 4. It writes names as they are, one with a zero byte as the two halves of a wide one, no links
 /// and no times.
 extern const HeaderFormat olderFormat;
+
+/// A header of RAR 5: checksum and size before `body`, which begins with the type.
+void putFramed(ByteBuffer &into, const ByteBuffer &body);
 
 } // namespace archiver

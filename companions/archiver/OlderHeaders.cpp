@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <ctime>
-#include <sys/stat.h>
 
 // The headers of the older format: 16 bits of a CRC32, type, flags and size, then the type's fields, and in
 // all that have data behind them its size.
@@ -14,12 +13,10 @@ namespace {
 
 constexpr std::size_t commonSize = 7; ///< of what all headers begin with
 
-namespace oldtype {
-constexpr std::uint8_t main = 0x73;
-constexpr std::uint8_t file = 0x74;
-constexpr std::uint8_t service = 0x7A;
-constexpr std::uint8_t end = 0x7B;
-} // namespace oldtype
+constexpr std::uint8_t mainType = 0x73;
+constexpr std::uint8_t fileType = 0x74;
+constexpr std::uint8_t serviceType = 0x7A;
+constexpr std::uint8_t endType = 0x7B;
 
 namespace oldflag {
 constexpr std::uint64_t hasData = 0x8000;
@@ -58,16 +55,9 @@ std::optional<std::size_t> oldLength(Bytes start)
 
 HeaderType typeOf(std::uint8_t type)
 {
-    switch (type) {
-    case oldtype::main:
-        return HeaderType::Main;
-    case oldtype::file:
-        return HeaderType::File;
-    case oldtype::end:
-        return HeaderType::End;
-    default:
-        return HeaderType::Service;
-    }
+    if (type == mainType) return HeaderType::Main;
+    if (type == endType) return HeaderType::End;
+    return type == fileType ? HeaderType::File : HeaderType::Service;
 }
 
 std::optional<HeaderFrame> oldFrame(Bytes bytes)
@@ -83,7 +73,7 @@ std::optional<HeaderFrame> oldFrame(Bytes bytes)
     frame.fields = reader.take(reader.remaining());
 
     ByteReader fields(frame.fields);
-    const bool isFile = type == oldtype::file || type == oldtype::service;
+    const bool isFile = type == fileType || type == serviceType;
     if (isFile || frame.flags & oldflag::hasData) frame.dataSize = fields.u32();
     if (isFile && frame.flags & oldflag::largeSizes) {
         fields.take(21);
@@ -111,20 +101,14 @@ std::optional<bool> oldEndHeader(const HeaderFrame &frame)
 
 void putUtf8(std::string &text, std::uint32_t point)
 {
-    const auto put = [&text](std::uint32_t byte) { text += static_cast<char>(byte); };
-    if (point < 0x80) return put(point);
-    if (point < 0x800) {
-        put(0xC0 | point >> 6);
-    } else {
-        if (point < 0x10000) {
-            put(0xE0 | point >> 12);
-        } else {
-            put(0xF0 | point >> 18);
-            put(0x80 | (point >> 12 & 0x3F));
-        }
-        put(0x80 | (point >> 6 & 0x3F));
-    }
-    put(0x80 | (point & 0x3F));
+    const unsigned more = point < 0x80      ? 0
+                          : point < 0x800   ? 1
+                          : point < 0x10000 ? 2
+                                            : 3; // bytes behind the first
+    const std::uint32_t length = more == 0 ? 0 : 0xFF00u >> (more + 1) & 0xFF;
+    text += static_cast<char>(length | point >> 6 * more);
+    for (unsigned left = more; left-- > 0;)
+        text += static_cast<char>(0x80 | (point >> 6 * left & 0x3F));
 }
 
 std::string utf8Of(const std::vector<std::uint16_t> &units)
@@ -258,17 +242,17 @@ std::optional<FileHeader> oldFileHeader(const HeaderFrame &frame)
 void putOld(ByteBuffer &into, std::uint8_t type, std::uint64_t flags, const ByteBuffer &fields)
 {
     ByteBuffer checked{type};
-    putU16(checked, static_cast<std::uint16_t>(flags));
-    putU16(checked, static_cast<std::uint16_t>(commonSize + fields.size()));
+    putNumber(checked, flags, 2);
+    putNumber(checked, commonSize + fields.size(), 2);
     putBytes(checked, fields);
-    putU16(into, shortCrc(checked));
+    putNumber(into, shortCrc(checked), 2);
     putBytes(into, checked);
 }
 
 void putOldMainHeader(ByteBuffer &into, const MainHeader &header)
 {
     const bool isFirst = header.volume && header.volumeIndex == 0u;
-    putOld(into, oldtype::main,
+    putOld(into, mainType,
            (header.volume ? oldflag::volume : 0) | (header.solid ? oldflag::mainSolid : 0) |
                (header.encrypted ? oldflag::headersEncrypted : 0) | (isFirst ? oldflag::firstVolume : 0),
            ByteBuffer(6));
@@ -276,23 +260,20 @@ void putOldMainHeader(ByteBuffer &into, const MainHeader &header)
 
 void putOldFileHeader(ByteBuffer &into, const FileHeader &header)
 {
-    const auto putHalf = [](ByteBuffer &fields, std::uint64_t value) {
-        putU32(fields, static_cast<std::uint32_t>(value));
-    };
     ByteBuffer fields;
-    putHalf(fields, header.packedSize);
-    putHalf(fields, header.unpackedSize);
+    putNumber(fields, header.packedSize, 4);
+    putNumber(fields, header.unpackedSize, 4);
     fields.push_back(header.unixHost ? unixHost : std::uint8_t{2});
-    putU32(fields, header.crc.value_or(0));
-    putU32(fields, 0);
-    fields.push_back(static_cast<std::uint8_t>(header.version));
-    fields.push_back(static_cast<std::uint8_t>(storing + header.method));
-    putU16(fields, static_cast<std::uint16_t>(header.name.size()));
-    putU32(fields, header.mode);
-    putHalf(fields, header.packedSize >> 32);
-    putHalf(fields, header.unpackedSize >> 32);
+    putNumber(fields, header.crc.value_or(0), 4);
+    putNumber(fields, 0, 4); // no time
+    putNumber(fields, header.version, 1);
+    putNumber(fields, storing + header.method, 1);
+    putNumber(fields, header.name.size(), 2);
+    putNumber(fields, header.mode, 4);
+    putNumber(fields, header.packedSize >> 32, 4);
+    putNumber(fields, header.unpackedSize >> 32, 4);
     putText(fields, header.name);
-    putOld(into, oldtype::file,
+    putOld(into, fileType,
            oldflag::hasData | oldflag::largeSizes | (header.continuesBefore ? oldflag::continuesBefore : 0) |
                (header.continuesAfter ? oldflag::continuesAfter : 0) |
                (header.encrypted ? oldflag::encrypted : 0) | (header.solid ? oldflag::solid : 0) |
@@ -303,7 +284,7 @@ void putOldFileHeader(ByteBuffer &into, const FileHeader &header)
 
 void putOldEndHeader(ByteBuffer &into, bool moreVolumes)
 {
-    putOld(into, oldtype::end, 0x4000 | (moreVolumes ? oldflag::moreVolumes : 0), {});
+    putOld(into, endType, 0x4000 | (moreVolumes ? oldflag::moreVolumes : 0), {});
 }
 
 } // namespace

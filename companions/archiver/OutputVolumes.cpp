@@ -1,17 +1,11 @@
 #include "OutputVolumes.h"
 
-#include "Interrupt.h"
 #include "SetReplacement.h"
-#include "VolumeNames.h"
+#include "VolumeSource.h"
 
-#include <algorithm>
-#include <cerrno>
 #include <fcntl.h>
 #include <limits>
 #include <sys/resource.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#include <utility>
 
 namespace archiver {
 
@@ -19,7 +13,6 @@ namespace {
 
 constexpr std::size_t bufferSize = 512 << 10;
 constexpr std::size_t worthNoCopy = 128 << 10;
-constexpr std::uint64_t smallestLastVolume = 512; // readers look for the signature of shorter files in vain
 
 /// The written volumes, read through the descriptors that they were written through; messages name the
 /// archive.
@@ -29,18 +22,17 @@ public:
         : m_files(files), m_archive(std::move(archive))
     {
     }
-    std::unique_ptr<ByteSource> open(std::size_t index) override
+    std::optional<FileSource> open(std::size_t index) override
     {
         // Those with names were too many to be open together.
         if (index > 0 && !m_files[index - 1].passingName().empty() && !m_files[index - 1].park())
-            return nullptr;
+            return std::nullopt;
         errno = ENOENT;
         struct stat status {};
         if (index >= m_files.size() || !m_files[index].unpark() ||
             fstat(m_files[index].descriptor(), &status) != 0)
-            return nullptr;
-        return std::make_unique<FileSource>(m_files[index].descriptor(),
-                                            static_cast<std::uint64_t>(status.st_size));
+            return std::nullopt;
+        return FileSource{m_files[index].descriptor(), static_cast<std::uint64_t>(status.st_size)};
     }
     [[nodiscard]] std::string name(std::size_t) const override { return m_archive; }
 
@@ -57,14 +49,12 @@ std::size_t mostOpenVolumes()
     return static_cast<std::size_t>(std::max<rlim_t>(limit.rlim_cur / 2, 1));
 }
 
-std::string nameIn(const std::string &path) { return path.substr(path.rfind('/') + 1); }
-
 } // namespace
 
 OutputVolumes::OutputVolumes(const std::string &archivePath, std::optional<std::uint64_t> volumeSize,
                              Diagnostics &diagnostics)
     : m_path(archivePath)
-    , m_name(nameIn(archivePath))
+    , m_name(base::nameIn(archivePath))
     , m_volumeSize(volumeSize)
     , m_diagnostics(diagnostics)
     , m_passingNames(passingNamesOf(withoutExtension(m_name)))
@@ -73,73 +63,36 @@ OutputVolumes::OutputVolumes(const std::string &archivePath, std::optional<std::
 {
 }
 
-bool OutputVolumes::cannotWrite() { return m_diagnostics.reportSystem("Cannot write " + printable(m_path)); }
-
-bool OutputVolumes::openFolder()
-{
-    const std::string folder = m_path.substr(0, m_path.size() - m_name.size());
-    m_folder =
-        base::FileDescriptor(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    struct stat status {};
-    if (!m_folder || fstat(m_folder.get(), &m_folderStatus) != 0)
-        return m_diagnostics.reportSystem("Cannot create " + printable(m_path));
-    // Found out now rather than after all the work.
-    if (m_name.empty() || (fstatat(m_folder.get(), m_name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0 &&
-                           S_ISDIR(status.st_mode))) {
-        errno = EISDIR;
-        return m_diagnostics.reportSystem("Cannot create " + printable(m_path));
-    }
-    return true;
-}
-
 bool OutputVolumes::begin()
 {
-    if (!openFolder() || !finishReplacement(m_path, m_diagnostics)) return false;
+    m_folder = base::openFolderOf(m_path);
+    if (!m_folder || fstat(m_folder.get(), &m_folderStatus) != 0) return cannotCreate(m_path);
+    // Found out now rather than after all the work.
+    if (m_name.empty() || isFolder(m_name)) return errno = EISDIR, cannotCreate(m_path);
+    if (!finishReplacement(m_path, m_diagnostics)) return false;
     base::removeLeftovers(m_folder.get(), m_passingNames);
     return beginVolume();
+}
+
+bool OutputVolumes::isFolder(const std::string &name) const
+{
+    struct stat status {};
+    return fstatat(m_folder.get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0 &&
+           S_ISDIR(status.st_mode);
 }
 
 bool OutputVolumes::beginVolume()
 {
     base::StagedFile file =
         base::StagedFile::create(m_folder.get(), m_passingNames, static_cast<unsigned>(m_files.size()));
-    if (!file) return m_diagnostics.reportSystem("Cannot create " + printable(m_path));
+    if (!file) return cannotCreate(m_path);
     m_files.push_back(std::move(file));
     m_position = 0;
     ByteBuffer start(signature.begin(), signature.end());
-    putMainHeader(start, {limited(), m_files.size() - 1, m_solid});
+    presentFormat.putMain(start, {limited(), m_files.size() - 1, m_solid});
     if (!append(start)) return false;
     m_dataStart = m_position;
     return true;
-}
-
-std::uint64_t OutputVolumes::room() const
-{
-    if (!m_volumeSize) return std::numeric_limits<std::uint64_t>::max();
-    const std::uint64_t needed = m_position + endHeaderSize;
-    return *m_volumeSize > needed ? *m_volumeSize - needed : 0;
-}
-
-std::span<std::uint8_t> OutputVolumes::buffer() { return std::span(m_buffer).subspan(m_used); }
-
-void OutputVolumes::commit(std::size_t count)
-{
-    m_used += count;
-    m_position += count;
-}
-
-bool OutputVolumes::flush()
-{
-    if (interrupted()) return false;
-    return m_writer.write(m_files.back().descriptor(), m_buffer, std::exchange(m_used, 0)) || cannotWrite();
-}
-
-bool OutputVolumes::flushAndWait() { return flush() && (m_writer.finish() || cannotWrite()); }
-
-bool OutputVolumes::flushWhenFull()
-{
-    constexpr std::size_t tooLittle = 64 << 10; // a small read would cost as much as a large one
-    return m_buffer.size() - m_used >= tooLittle || flush();
 }
 
 bool OutputVolumes::append(Bytes bytes)
@@ -160,91 +113,30 @@ bool OutputVolumes::append(Bytes bytes)
     return true;
 }
 
-bool OutputVolumes::patch(std::uint64_t offset, Bytes bytes)
-{
-    const std::uint64_t flushed = m_position - m_used;
-    if (offset >= flushed) {
-        std::ranges::copy(bytes, m_buffer.begin() + static_cast<std::ptrdiff_t>(offset - flushed));
-        return true;
-    }
-    if (!flushAndWait()) return false;
-    return base::writeFullyAt(m_files.back().descriptor(), bytes, offset) || cannotWrite();
-}
-
-bool OutputVolumes::endVolume(bool more)
-{
-    ByteBuffer end;
-    putEndHeader(end, more);
-    const std::uint64_t size = m_position + end.size();
-    if (!more && m_files.size() > 1 && size < smallestLastVolume) end.resize(end.size() + smallestLastVolume);
-    if (!append(end) || !flushAndWait()) return false;
-    base::startWriteBack(m_files.back().descriptor());
-    return keepFewOpen() || cannotWrite();
-}
-
-bool OutputVolumes::keepFewOpen()
-{
-    base::StagedFile &file = m_files.back();
-    return m_files.size() < m_mostOpen ||
-           (file.giveName(m_passingNames, static_cast<unsigned>(m_files.size() - 1)) && file.park());
-}
-
-bool OutputVolumes::nextVolume() { return endVolume(true) && beginVolume(); }
-
-bool OutputVolumes::finish()
-{
-    if (limited() && m_files.size() == 1) {
-        // All fits into the first volume: an ordinary archive, then. The header's length is the same.
-        ByteBuffer header;
-        putMainHeader(header, {.solid = m_solid});
-        if (!patch(signature.size(), header)) return false;
-    }
-    return endVolume(false);
-}
-
 std::unique_ptr<VolumeSource> OutputVolumes::written()
 {
     return std::make_unique<WrittenVolumes>(m_files, m_path);
-}
-
-bool OutputVolumes::complete(base::StagedFile &file, const std::optional<Timestamp> &time)
-{
-    const bool isParked = !file;
-    if (!file.unpark()) return cannotWrite();
-    if (time) {
-        const timespec times[2] = {{0, UTIME_OMIT}, {time->seconds, time->nanoseconds}};
-        if (futimens(file.descriptor(), times) != 0)
-            return m_diagnostics.reportSystem("Cannot set the time of " + printable(m_path));
-    }
-    return (base::syncToDisk(file.descriptor()) && (!isParked || file.park())) || cannotWrite();
-}
-
-bool OutputVolumes::publish(const std::optional<Timestamp> &time)
-{
-    const std::vector<std::string> names = finalNames(m_name, m_files.size());
-    for (const std::string &name : names) {
-        struct stat status {};
-        if (fstatat(m_folder.get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0 ||
-            !S_ISDIR(status.st_mode))
-            continue;
-        errno = EISDIR;
-        return m_diagnostics.reportSystem("Cannot create " + printable(name));
-    }
-    // Before the names, or a power cut would leave an empty archive where the one before is gone.
-    for (base::StagedFile &file : m_files)
-        if (!complete(file, time)) return false;
-    const bool areSeveral =
-        names.size() > 1 || (limited() && !filesOfArchive(m_folder.get(), m_name, names).empty());
-    if (areSeveral) return replaceSet(m_folder.get(), m_name, m_files, m_diagnostics);
-    if (!m_files.front().publish(m_name, m_passingNames))
-        return m_diagnostics.reportSystem("Cannot create " + printable(m_name));
-    return base::syncToDisk(m_folder.get()) || cannotWrite();
 }
 
 bool OutputVolumes::owns(const struct stat &folder, const std::string &name) const
 {
     if (!base::isSame(folder, m_folderStatus)) return false;
     return name == m_name || m_passingNames.include(name) || (limited() && isFileOfArchive(name, m_name));
+}
+
+bool OutputVolumes::publish(const std::optional<Timestamp> &time)
+{
+    const std::vector<std::string> names = finalNames(m_name, m_files.size());
+    for (const std::string &name : names)
+        if (isFolder(name)) return errno = EISDIR, cannotCreate(name);
+    // Before the names, or a power cut would leave an empty archive where the one before is gone.
+    for (base::StagedFile &file : m_files)
+        if (!complete(file, time)) return false;
+    const bool areSeveral =
+        names.size() > 1 || (limited() && !filesOfArchive(m_folder.get(), m_name, names).empty());
+    if (areSeveral) return replaceSet(m_folder.get(), m_name, m_files, m_diagnostics);
+    if (!m_files.front().publish(m_name, m_passingNames)) return cannotCreate(m_name);
+    return base::syncToDisk(m_folder.get()) || cannotWrite();
 }
 
 } // namespace archiver

@@ -1,17 +1,11 @@
 #include "SetReplacement.h"
 
-#include "Interrupt.h"
-#include "VolumeNames.h"
+#include "VolumeSource.h"
 
-#include <algorithm>
-#include <cerrno>
-#include <dirent.h>
 #include <fcntl.h>
-#include <memory>
 #include <set>
 #include <sstream>
 #include <sys/file.h>
-#include <unistd.h>
 
 namespace archiver {
 
@@ -54,42 +48,30 @@ bool isAt(int folder, const std::string &name, const NewFile &file)
            status.st_uid == geteuid() && status.st_ino == file.inode;
 }
 
-/// Whether each file is under its passing or its final name; which of them need to be renamed.
-std::optional<std::vector<std::size_t>> findPassing(int folder, const std::vector<NewFile> &files,
-                                                    const std::vector<std::string> &names)
-{
-    std::vector<std::size_t> passing;
-    for (std::size_t index = 0; index < files.size(); ++index) {
-        if (isAt(folder, files[index].passingName, files[index]))
-            passing.push_back(index);
-        else if (!isAt(folder, names[index], files[index]))
-            return std::nullopt;
-    }
-    return passing;
-}
-
-bool removeFormer(int folder, const std::string &name, const std::vector<std::string> &current,
-                  Diagnostics &diagnostics)
-{
-    const std::vector<std::string> files = filesOfArchive(folder, name, current);
-    for (const std::string &former : files)
-        if (unlinkat(folder, former.c_str(), 0) != 0 && errno != EISDIR && errno != ENOENT)
-            diagnostics.reportSystem("Cannot remove the older volume " + printable(former));
-    // Had the mark gone before, what is left of the former set would stay for ever.
-    return files.empty() || base::syncToDisk(folder);
-}
-
 /// Does what the mark says, and removes it. False with errno set. Where a new file is gone the mark is
 /// outdated: somebody has come in between, and put the former files back, say.
 bool carryOut(int folder, const std::string &name, const std::vector<NewFile> &files,
               Diagnostics &diagnostics)
 {
     const std::vector<std::string> names = finalNames(name, files.size());
-    if (const auto passing = findPassing(folder, files, names)) {
-        for (const std::size_t index : *passing)
+    std::vector<std::size_t> passing;
+    bool areThere = true;
+    for (std::size_t index = 0; index < files.size(); ++index)
+        if (isAt(folder, files[index].passingName, files[index]))
+            passing.push_back(index);
+        else
+            areThere = areThere && isAt(folder, names[index], files[index]);
+    if (areThere) {
+        for (const std::size_t index : passing)
             if (renameat(folder, files[index].passingName.c_str(), folder, names[index].c_str()) != 0)
                 return false;
-        if (!base::syncToDisk(folder) || !removeFormer(folder, name, names, diagnostics)) return false;
+        if (!base::syncToDisk(folder)) return false;
+        const std::vector<std::string> former = filesOfArchive(folder, name, names);
+        for (const std::string &each : former)
+            if (unlinkat(folder, each.c_str(), 0) != 0 && errno != EISDIR && errno != ENOENT)
+                diagnostics.reportSystem("Cannot remove the older volume " + printable(each));
+        // Had the mark gone before, what is left of the former set would stay for ever.
+        if (!former.empty() && !base::syncToDisk(folder)) return false;
     }
     const std::string mark = passingNamesOf(withoutExtension(name)).special("set");
     return unlinkat(folder, mark.c_str(), 0) == 0 && base::syncToDisk(folder);
@@ -151,15 +133,8 @@ std::vector<std::string> filesOfArchive(int folder, const std::string &name,
                                         const std::vector<std::string> &current)
 {
     const std::set<std::string> left(current.begin(), current.end());
-    base::FileDescriptor again(openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    const std::unique_ptr<DIR, int (*)(DIR *)> entries(again ? fdopendir(again.get()) : nullptr, closedir);
-    std::vector<std::string> files;
-    if (!entries) return files;
-    again.release();
-    while (const dirent *entry = readdir(entries.get()))
-        if (isFileOfArchive(entry->d_name, name) && !left.contains(entry->d_name))
-            files.emplace_back(entry->d_name);
-    return files;
+    return base::namesIn(
+        folder, [&](const std::string &file) { return isFileOfArchive(file, name) && !left.contains(file); });
 }
 
 bool replaceSet(int folder, const std::string &name, std::vector<base::StagedFile> &files,
@@ -188,14 +163,12 @@ bool replaceSet(int folder, const std::string &name, std::vector<base::StagedFil
 
 bool finishReplacement(const std::string &path, Diagnostics &diagnostics)
 {
-    const std::size_t start = path.rfind('/') + 1;
-    const std::string folder = start == 0 ? "." : path.substr(0, start);
-    const std::string name = path.substr(start);
-    const base::FileDescriptor opened(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!opened) return true; // whoever goes on will see it
+    const base::FileDescriptor folder = base::openFolderOf(path);
+    if (!folder) return true; // whoever goes on will see it
+    const std::string name = base::nameIn(path);
     const std::optional<VolumeName> volume = parseVolumeName(name);
-    return finish(opened.get(), withoutExtension(name), diagnostics) &&
-           (!volume || finish(opened.get(), volume->base, diagnostics));
+    return finish(folder.get(), withoutExtension(name), diagnostics) &&
+           (!volume || finish(folder.get(), volume->base, diagnostics));
 }
 
 } // namespace archiver

@@ -3,9 +3,6 @@
 #include "Diagnostics.h"
 #include "StagedFile.h"
 
-#include <string>
-#include <vector>
-
 namespace archiver {
 
 // How the files of an archive, several of them, are replaced by new ones.

@@ -1,6 +1,5 @@
 #include "UnpackWork.h"
 
-#include "Interrupt.h"
 #include "LiteralBlock.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ContentSink.h"
+#include "Content.h"
 #include "HuffmanDecoder.h"
 #include "UnpackFilter.h"
 

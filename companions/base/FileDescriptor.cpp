@@ -1,36 +1,12 @@
 #include "FileDescriptor.h"
 
-#include <array>
 #include <cerrno>
+#include <dirent.h>
 #include <fcntl.h>
 #include <limits>
-#include <unistd.h>
-#include <utility>
+#include <memory>
 
 namespace base {
-
-FileDescriptor &FileDescriptor::operator=(FileDescriptor &&other) noexcept
-{
-    if (this == &other) return *this;
-    close();
-    m_descriptor = other.release();
-    return *this;
-}
-
-int FileDescriptor::release() { return std::exchange(m_descriptor, -1); }
-
-bool FileDescriptor::close()
-{
-    const int descriptor = release();
-    return descriptor < 0 || ::close(descriptor) == 0;
-}
-
-Pipe Pipe::open()
-{
-    std::array<int, 2> ends{-1, -1};
-    if (pipe2(ends.data(), O_CLOEXEC) != 0) return {};
-    return {FileDescriptor(ends[0]), FileDescriptor(ends[1])};
-}
 
 namespace {
 
@@ -49,12 +25,13 @@ ssize_t repeat(std::size_t total, Call call)
     return static_cast<ssize_t>(done);
 }
 
-bool wroteAll(ssize_t written, Bytes bytes)
+template <typename Call>
+bool writeAll(Bytes bytes, Call call)
 {
-    if (written < 0) return false;
-    if (static_cast<std::size_t>(written) == bytes.size()) return true;
-    errno = EIO;
-    return false;
+    const ssize_t written = repeat(bytes.size(), call);
+    const bool isWhole = written == static_cast<ssize_t>(bytes.size());
+    if (!isWhole && written >= 0) errno = EIO;
+    return isWhole;
 }
 
 } // namespace
@@ -75,16 +52,15 @@ ssize_t readFullyAt(int file, std::span<std::uint8_t> into, std::uint64_t offset
 
 bool writeFully(int file, Bytes bytes)
 {
-    const auto call = [=](std::size_t done) { return write(file, bytes.data() + done, bytes.size() - done); };
-    return wroteAll(repeat(bytes.size(), call), bytes);
+    return writeAll(bytes,
+                    [=](std::size_t done) { return write(file, bytes.data() + done, bytes.size() - done); });
 }
 
 bool writeFullyAt(int file, Bytes bytes, std::uint64_t offset)
 {
-    const auto call = [=](std::size_t done) {
+    return writeAll(bytes, [=](std::size_t done) {
         return pwrite(file, bytes.data() + done, bytes.size() - done, static_cast<off_t>(offset + done));
-    };
-    return wroteAll(repeat(bytes.size(), call), bytes);
+    });
 }
 
 void startWriteBack(int file) { sync_file_range(file, 0, 0, SYNC_FILE_RANGE_WRITE); }
@@ -93,6 +69,26 @@ bool syncToDisk(int file) { return fsync(file) == 0 || errno == EINVAL; }
 
 std::string descriptorPath(int descriptor) { return "/proc/self/fd/" + std::to_string(descriptor); }
 
+std::string nameIn(const std::string &path) { return path.substr(path.rfind('/') + 1); }
+
+FileDescriptor openFolderOf(const std::string &path)
+{
+    const std::string folder = path.substr(0, path.rfind('/') + 1);
+    return FileDescriptor(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+}
+
+std::vector<std::string> namesIn(int folder, const std::function<bool(const std::string &)> &isWanted)
+{
+    std::vector<std::string> names;
+    FileDescriptor own(openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const std::unique_ptr<DIR, int (*)(DIR *)> entries(own ? fdopendir(own.get()) : nullptr, closedir);
+    if (!entries) return names;
+    own.release(); // closed with the entries
+    while (const dirent *entry = readdir(entries.get()))
+        if (isWanted(entry->d_name)) names.emplace_back(entry->d_name);
+    return names;
+}
+
 bool isSame(const struct stat &one, const struct stat &other)
 {
     return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
@@ -100,20 +96,11 @@ bool isSame(const struct stat &one, const struct stat &other)
 
 const char *kindOf(mode_t mode)
 {
-    switch (mode & S_IFMT) {
-    case S_IFREG:
-        return "a file";
-    case S_IFDIR:
-        return "a folder";
-    case S_IFLNK:
-        return "a symbolic link";
-    case S_IFIFO:
-        return "a named pipe";
-    case S_IFSOCK:
-        return "a socket";
-    default:
-        return "a device";
-    }
+    if (S_ISREG(mode)) return "a file";
+    if (S_ISDIR(mode)) return "a folder";
+    if (S_ISLNK(mode)) return "a symbolic link";
+    if (S_ISFIFO(mode)) return "a named pipe";
+    return S_ISSOCK(mode) ? "a socket" : "a device";
 }
 
 } // namespace base

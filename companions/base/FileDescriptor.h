@@ -1,10 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
 #include <sys/stat.h>
 #include <sys/types.h>
+#include <unistd.h>
+#include <utility>
+#include <vector>
 
 namespace base {
 
@@ -17,27 +21,30 @@ public:
     explicit FileDescriptor(int descriptor) : m_descriptor(descriptor) {}
     ~FileDescriptor() { close(); }
     FileDescriptor(FileDescriptor &&other) noexcept : m_descriptor(other.release()) {}
-    FileDescriptor &operator=(FileDescriptor &&other) noexcept;
+
+    FileDescriptor &operator=(FileDescriptor &&other) noexcept
+    {
+        if (this == &other) return *this;
+        close();
+        m_descriptor = other.release();
+        return *this;
+    }
+
     FileDescriptor(const FileDescriptor &) = delete;
     FileDescriptor &operator=(const FileDescriptor &) = delete;
 
     [[nodiscard]] int get() const { return m_descriptor; }
     [[nodiscard]] explicit operator bool() const { return m_descriptor >= 0; }
-    int release();
+    int release() { return std::exchange(m_descriptor, -1); }
     /// False, with errno set, where the system reports a write that failed late.
-    bool close();
+    bool close()
+    {
+        const int descriptor = release();
+        return descriptor < 0 || ::close(descriptor) == 0;
+    }
 
 private:
     int m_descriptor = -1;
-};
-
-/// A pipe that programs started later do not inherit. Both ends closed, with errno set: there is none to be
-/// had.
-struct Pipe {
-    FileDescriptor read;
-    FileDescriptor write;
-
-    [[nodiscard]] static Pipe open();
 };
 
 /// Reads until `into` is full or the file ends; the number of bytes, or -1 with errno set.
@@ -56,6 +63,14 @@ void startWriteBack(int file);
 
 /// The descriptor's own name for programs and calls that take nothing but names.
 [[nodiscard]] std::string descriptorPath(int descriptor);
+
+/// The last component of a path.
+[[nodiscard]] std::string nameIn(const std::string &path);
+/// The folder that a path's last component is in. Closed, with errno set: it can't be opened.
+[[nodiscard]] FileDescriptor openFolderOf(const std::string &path);
+/// The names in an open folder for which `isWanted` is true; none where it can't be read.
+[[nodiscard]] std::vector<std::string> namesIn(int folder,
+                                               const std::function<bool(const std::string &)> &isWanted);
 
 /// Whether both are of the same file or folder.
 [[nodiscard]] bool isSame(const struct stat &one, const struct stat &other);

@@ -3,27 +3,14 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
-#include <unistd.h>
-#include <utility>
-#include <vector>
 
 namespace base {
 
 namespace {
 
 constexpr unsigned mostNames = 100'000;
-
-/// FNV-1a: nobody has to be kept from finding two names with one value, they would only share passing names.
-std::uint64_t hash(const std::string &text)
-{
-    std::uint64_t value = 0xcbf29ce484222325;
-    for (const char letter : text)
-        value = (value ^ static_cast<unsigned char>(letter)) * 0x100000001b3;
-    return value;
-}
 
 /// Whoever is at work on a file with a passing name holds its lock. File systems without locks do without.
 bool isLockedByOther(int file) { return flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK; }
@@ -55,47 +42,21 @@ std::string firstFree(int folder, const PassingNames &names, unsigned first, Att
 
 PassingNames::PassingNames(const std::string &program, const std::string &target)
 {
+    // FNV-1a: nobody has to be kept from finding two names with one value, they would only share passing
+    // names.
+    unsigned long long value = 0xcbf29ce484222325;
+    for (const char letter : target)
+        value = (value ^ static_cast<unsigned char>(letter)) * 0x100000001b3;
     std::array<char, 24> digits{};
-    std::snprintf(digits.data(), digits.size(), "-%016llx-", static_cast<unsigned long long>(hash(target)));
+    std::snprintf(digits.data(), digits.size(), "-%016llx-", value);
     m_start = program + digits.data();
 }
 
 void removeLeftovers(int folder, const PassingNames &names)
 {
-    const int again = openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    DIR *const entries = again < 0 ? nullptr : fdopendir(again);
-    if (!entries) {
-        FileDescriptor{again}.close();
-        return;
-    }
-    std::vector<std::string> found;
-    while (const dirent *entry = readdir(entries))
-        if (names.include(entry->d_name)) found.emplace_back(entry->d_name);
-    closedir(entries);
-    for (const std::string &name : found)
+    for (const std::string &name :
+         namesIn(folder, [&](const std::string &each) { return names.include(each); }))
         removeLeftover(folder, name);
-}
-
-StagedFile::StagedFile(StagedFile &&other) noexcept { *this = std::move(other); }
-
-StagedFile &StagedFile::operator=(StagedFile &&other) noexcept
-{
-    if (this == &other) return *this;
-    discard();
-    m_file = std::move(other.m_file);
-    m_passingName = std::exchange(other.m_passingName, {});
-    m_folder = other.m_folder;
-    m_identity = other.m_identity;
-    return *this;
-}
-
-StagedFile StagedFile::create(int folder, const PassingNames &names, unsigned number)
-{
-    StagedFile created;
-    created.m_folder = folder;
-    // Not every file system has such files (EOPNOTSUPP, EISDIR, ENOENT); any other reason will show again.
-    if (!created.openNameless() && !created.createNamed(names, number)) return {};
-    return created;
 }
 
 bool StagedFile::openNameless()
@@ -120,11 +81,6 @@ bool StagedFile::keep()
 {
     flock(m_file.get(), LOCK_EX | LOCK_NB);
     return fstat(m_file.get(), &m_identity) == 0;
-}
-
-bool StagedFile::giveName(const PassingNames &names, unsigned number)
-{
-    return !m_passingName.empty() || (link(names, number) && keep());
 }
 
 bool StagedFile::link(const PassingNames &names, unsigned number)
@@ -160,13 +116,6 @@ bool StagedFile::publish(const std::string &name, const PassingNames &names)
     if (renameat(m_folder, m_passingName.c_str(), m_folder, name.c_str()) != 0) return false;
     releaseName();
     return true;
-}
-
-void StagedFile::discard()
-{
-    if (!m_passingName.empty()) unlinkat(m_folder, m_passingName.c_str(), 0);
-    releaseName();
-    m_file.close();
 }
 
 } // namespace base

@@ -33,14 +33,33 @@ class StagedFile {
 public:
     StagedFile() = default;
     ~StagedFile() { discard(); }
-    StagedFile(StagedFile &&other) noexcept;
-    StagedFile &operator=(StagedFile &&other) noexcept;
+    StagedFile(StagedFile &&other) noexcept { *this = std::move(other); }
+
+    StagedFile &operator=(StagedFile &&other) noexcept
+    {
+        if (this == &other) return *this;
+        discard();
+        m_file = std::move(other.m_file);
+        m_passingName = std::exchange(other.m_passingName, {});
+        m_folder = other.m_folder;
+        m_identity = other.m_identity;
+        return *this;
+    }
+
     StagedFile(const StagedFile &) = delete;
     StagedFile &operator=(const StagedFile &) = delete;
 
     /// In the folder open as `folder`, which has to stay open. Not open, with errno set, where that fails.
     /// `number`: from which on to look for a passing name, where many share them.
-    [[nodiscard]] static StagedFile create(int folder, const PassingNames &names, unsigned number = 0);
+    [[nodiscard]] static StagedFile create(int folder, const PassingNames &names, unsigned number = 0)
+    {
+        StagedFile created;
+        created.m_folder = folder;
+        // Not every file system has such files (EOPNOTSUPP, EISDIR, ENOENT); any other reason will show
+        // again.
+        if (!created.openNameless() && !created.createNamed(names, number)) return {};
+        return created;
+    }
 
     [[nodiscard]] explicit operator bool() const { return static_cast<bool>(m_file); }
     [[nodiscard]] int descriptor() const { return m_file.get(); }
@@ -51,7 +70,11 @@ public:
 
     /// Gives it a passing name, for what can be done to names only, and keeps others from removing it as long
     /// as it is open. False with errno set.
-    [[nodiscard]] bool giveName(const PassingNames &names, unsigned number = 0);
+    [[nodiscard]] bool giveName(const PassingNames &names, unsigned number = 0)
+    {
+        return !m_passingName.empty() || (link(names, number) && keep());
+    }
+
     /// Closes a file that has a passing name, to have fewer open. False with errno set.
     [[nodiscard]] bool park() { return m_file.close(); }
     /// Opens it again, where it is still the same. False with errno set.
@@ -62,7 +85,13 @@ public:
     [[nodiscard]] bool publish(const std::string &name, const PassingNames &names);
     /// Somebody else has given the passing name its final one.
     void releaseName() { m_passingName.clear(); }
-    void discard();
+
+    void discard()
+    {
+        if (!m_passingName.empty()) unlinkat(m_folder, m_passingName.c_str(), 0);
+        releaseName();
+        m_file.close();
+    }
 
 private:
     [[nodiscard]] bool createNamed(const PassingNames &names, unsigned number);

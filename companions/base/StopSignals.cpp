@@ -28,15 +28,6 @@ extern "C" void passOn(int signal)
     errno = savedErrno;
 }
 
-sigset_t stopSet()
-{
-    sigset_t set;
-    sigemptyset(&set);
-    for (const int signal : stopSignals)
-        sigaddset(&set, signal);
-    return set;
-}
-
 void setHandler(int signal, void (*handler)(int))
 {
     struct sigaction former {};
@@ -51,7 +42,10 @@ void setHandler(int signal, void (*handler)(int))
 
 StopSignals::StopSignals(BrokenPipe brokenPipe)
 {
-    const sigset_t set = stopSet();
+    sigset_t set;
+    sigemptyset(&set);
+    for (const int signal : stopSignals)
+        sigaddset(&set, signal);
     sigprocmask(SIG_BLOCK, &set, &m_formerMask);
     receivedSignal = 0;
     for (const int signal : stopSignals)
@@ -60,15 +54,7 @@ StopSignals::StopSignals(BrokenPipe brokenPipe)
     if (brokenPipe == BrokenPipe::IsAnError) std::signal(SIGPIPE, SIG_IGN);
 }
 
-StopSignals::~StopSignals()
-{
-    for (const int signal : stopSignals)
-        setHandler(signal, SIG_DFL);
-    sigaction(SIGPIPE, &m_formerPipe, nullptr);
-    sigprocmask(SIG_SETMASK, &m_formerMask, nullptr);
-}
-
-void StopSignals::restoreInChild() const
+void StopSignals::restore() const
 {
     for (const int signal : stopSignals)
         setHandler(signal, SIG_DFL);
@@ -105,9 +91,7 @@ std::string signalName(int signal)
 
 void endBySignal(int signal)
 {
-    struct sigaction standard {};
-    standard.sa_handler = SIG_DFL;
-    sigaction(signal, &standard, nullptr);
+    std::signal(signal, SIG_DFL);
     sigset_t set;
     sigemptyset(&set);
     sigaddset(&set, signal);

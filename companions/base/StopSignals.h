@@ -14,12 +14,12 @@ public:
     /// What becomes of the program when it writes to a reader that went away.
     enum class BrokenPipe { EndsIt, IsAnError };
     explicit StopSignals(BrokenPipe brokenPipe);
-    ~StopSignals();
+    ~StopSignals() { restore(); }
     StopSignals(const StopSignals &) = delete;
     StopSignals &operator=(const StopSignals &) = delete;
 
-    /// In the child between fork and exec: everything about signals as the program found it.
-    void restoreInChild() const;
+    /// Everything about signals as the program found it, as a child needs it between fork and exec.
+    void restore() const;
     /// From now on signals go to this child; one that came in the meantime goes there at once. 0: there is no
     /// child, and received() tells.
     void watch(pid_t child);

@@ -1,13 +1,8 @@
-#include "CommandLine.h"
 #include "CommandPlan.h"
 #include "PassPhrase.h"
-#include "Secret.h"
-#include "WipedBytes.h"
+#include "PasswordFile.h"
 
-#include <algorithm>
-#include <array>
 #include <charconv>
-#include <cstring>
 
 namespace {
 
@@ -21,8 +16,6 @@ constexpr auto optionsWithValue = std::to_array<std::string_view>(
 constexpr std::string_view bufferSize = "262144";
 
 constexpr std::string_view inlinePassword = "pass:";
-
-CommandLine readCommandLine(std::span<char *const> arguments) { return {arguments, optionsWithValue}; }
 
 /// The cipher of the command line; empty where it names none.
 std::string_view cipherOf(const CommandLine &line)
@@ -45,27 +38,26 @@ char *spelledPassword(const Option &option)
     return isInline ? option.value + inlinePassword.size() : nullptr;
 }
 
-bool isPasswordOption(const Option &option)
+/// Moves the password out of the arguments, where one that counts is spelled out; wipes all that are. False:
+/// `problem` is a sentence that says why it can't be used; without one there was none.
+bool takePassword(const CommandLine &line, Secret &password, std::string &problem)
 {
-    return option.name == "k" || option.name == "kfile" || option.name == "pass";
-}
-
-enum class PasswordState { NotSpelled, Taken, TooLong, HoldsLineBreak };
-
-/// Moves the password out of the arguments, where one that counts is spelled out; wipes all that are.
-PasswordState takePassword(const CommandLine &line, Secret &password)
-{
-    PasswordState state = PasswordState::NotSpelled;
+    bool isTaken = false;
     // For the tool, `-k` and `-kfile` go before `-pass`, wherever they stand.
     const Option *effective = line.last({"k", "kfile"});
     if (!effective) effective = line.last({"pass"});
     if (const char *const text = effective ? spelledPassword(*effective) : nullptr) {
-        state = password.assign(text) ? PasswordState::Taken : PasswordState::TooLong;
-        if (std::strchr(text, '\n')) state = PasswordState::HoldsLineBreak;
+        isTaken = password.assign(text) && !std::strchr(text, '\n');
+        if (std::strchr(text, '\n'))
+            problem = "the password holds a line break, and the system's tool reads one line only: "
+                      "use a password without line breaks";
+        else if (!isTaken)
+            problem = "the password is longer than " + std::to_string(Secret::maximumSize) +
+                      " bytes, the most that the system's tool reads: use a shorter one";
     }
     for (const Option &option : line.options())
         if (char *const text = spelledPassword(option)) base::wipe(text, std::strlen(text));
-    return state;
+    return isTaken;
 }
 
 /// Whether the caller leaves it open how the key is made. Nothing is added to his choice: another count would
@@ -75,20 +67,6 @@ bool leavesDerivationOpen(const CommandLine &line) { return !line.has({"pbkdf2",
 void append(std::vector<std::string> &arguments, const std::vector<std::string> &more)
 {
     arguments.insert(arguments.end(), more.begin(), more.end());
-}
-
-void addProviders(const CommandLine &line, std::string_view cipher, std::vector<std::string> &arguments)
-{
-    if (!needsLegacyProvider(cipher) || line.has({"provider", "provider-path"})) return;
-    // Naming one provider keeps the tool from loading the default one, which has the digests.
-    append(arguments, {"-provider", "legacy", "-provider", "default"});
-}
-
-/// Where `-pass` says that the password is; nothing where it is spelled out, or no such place.
-std::optional<std::string> passPhraseSource(const CommandLine &line)
-{
-    const char *const source = line.value("pass");
-    return source && isPassPhraseSource(source) ? std::optional<std::string>(source) : std::nullopt;
 }
 
 /// Whether it is what the program runs that these tools belong to: `CIPHER [-d] -a [-salt] -in … -out … -pass
@@ -103,21 +81,23 @@ bool isOurs(const CommandLine &line)
 /// All of it for the tool, with what the caller left open.
 ToolRun planToolRun(const CommandLine &line, bool hasPassword)
 {
-    ToolRun run;
-    run.arguments.emplace_back(line.command());
-    if (leavesDerivationOpen(line))
-        append(run.arguments, derivationOptions(currentKeyDerivation, !line.has({"md"})));
-    addProviders(line, cipherOf(line), run.arguments);
+    const auto &[iterations, digest] = currentKeyDerivation;
+    ToolRun run{{std::string(line.command())}};
+    if (leavesDerivationOpen(line)) append(run.arguments, {"-pbkdf2", "-iter", std::to_string(iterations)});
+    if (leavesDerivationOpen(line) && !line.has({"md"})) append(run.arguments, {"-md", std::string(digest)});
+    // Naming one provider keeps the tool from loading the default one, which has the digests.
+    if (needsLegacyProvider(cipherOf(line)) && !line.has({"provider", "provider-path"}))
+        append(run.arguments, {"-provider", "legacy", "-provider", "default"});
     if (!line.has({"bufsize"})) append(run.arguments, {"-bufsize", std::string(bufferSize)});
-    run.isOurs = isOurs(line);
+    run.files.isOurs = isOurs(line);
     run.hasPassword = hasPassword;
-    run.output = line.file("out");
-    if (run.isOurs) run.input = line.file("in");
+    run.files.output = line.file("out");
+    if (run.files.isOurs) run.files.input = line.file("in");
     run.mayPrint = line.has({"p", "P", "v", "debug", "help", "list", "ciphers"});
-    append(run.arguments, line.without([&run](const Option &each) {
-        return each.name == "out" || spelledPassword(each) || (run.input && each.name == "in") ||
-               (run.hasPassword && isPasswordOption(each));
-    }));
+    line.appendTo(run.arguments, [&](const Option &each) {
+        return each.name == "out" || spelledPassword(each) || (run.files.input && each.name == "in") ||
+               (hasPassword && (each.name == "k" || each.name == "kfile" || each.name == "pass"));
+    });
     return run;
 }
 
@@ -156,7 +136,14 @@ std::optional<std::vector<KeyDerivation>> derivationsOf(const CommandLine &line,
     return all;
 }
 
-/// Without the password. Nothing: it is a matter for the tool.
+/// What the front does itself with the password.
+struct CipherRun {
+    FilePair files;
+    bool isDecryption;
+    PasswordFile file;
+};
+
+/// Nothing: it is a matter for the tool.
 std::optional<CipherRun> planOwnRun(const CommandLine &line)
 {
     const Option *const direction = line.last({"e", "d"});
@@ -176,10 +163,11 @@ enum class Finding { Found, NotFound, OfTool };
 /// Gets a password that the arguments don't spell out from wherever it is.
 Finding findPassword(const CommandLine &line, bool isDecryption, Secret &password, std::string &problem)
 {
-    if (const auto source = passPhraseSource(line)) {
-        if (fetchPassPhrase(*source, password, problem)) return Finding::Found;
+    const char *const source = line.value("pass");
+    if (source && isPassPhraseSource(source)) {
+        if (fetchPassPhrase(source, password, problem)) return Finding::Found;
         // Some that the tool takes are too long for a pipe to it.
-        return isRepeatable(*source) ? Finding::OfTool : Finding::NotFound;
+        return isRepeatable(source) ? Finding::OfTool : Finding::NotFound;
     }
     // Without a terminal the tool takes the password from its standard input, in a way of its own. With one
     // it asks twice before it encrypts.
@@ -192,23 +180,21 @@ Finding findPassword(const CommandLine &line, bool isDecryption, Secret &passwor
 
 std::optional<CommandPlan> planCipherCommand(std::span<char *const> arguments, Secret &password)
 {
-    const CommandLine line = readCommandLine(arguments);
+    const CommandLine line(arguments, optionsWithValue);
     if (cipherOf(line).empty()) return std::nullopt;
-    const PasswordState passwordState = takePassword(line, password);
-    if (passwordState == PasswordState::HoldsLineBreak)
-        return Refusal{"the password holds a line break, and the system's tool reads one line only: "
-                       "use a password without line breaks"};
-    if (passwordState == PasswordState::TooLong)
-        return Refusal{"the password is longer than " + std::to_string(Secret::maximumSize) +
-                       " bytes, the most that the system's tool reads: use a shorter one"};
-
-    const bool isTaken = passwordState == PasswordState::Taken;
+    std::string problem;
+    const bool isTaken = takePassword(line, password, problem);
+    if (!problem.empty()) return Refusal{problem};
     std::optional<CipherRun> run = planOwnRun(line);
     if (!run) return planToolRun(line, isTaken);
-    std::string problem;
     const Finding finding =
         isTaken ? Finding::Found : findPassword(line, run->isDecryption, password, problem);
     if (finding == Finding::NotFound) return Refusal{problem};
     if (finding == Finding::OfTool) return planToolRun(line, false);
-    return std::move(*run);
+    return OwnRun([run = std::make_shared<CipherRun>(std::move(*run)), &password] {
+        const auto conversion = run->isDecryption ? decryptFile : encryptFile;
+        return convert(run->files, [&](ByteSource &input, ByteSink &output, Fault &fault) {
+            return conversion(run->file, password.text(), input, output, fault);
+        });
+    });
 }

@@ -1,18 +1,12 @@
 #include "PassPhrase.h"
 
-#include "FileDescriptor.h"
-#include "Secret.h"
-#include "WipedBytes.h"
+#include "Files.h"
 
-#include <array>
 #include <cerrno>
 #include <charconv>
 #include <cstdlib>
 #include <fcntl.h>
 #include <openssl/evp.h>
-#include <optional>
-#include <system_error>
-#include <unistd.h>
 
 namespace {
 
@@ -32,17 +26,16 @@ std::optional<int> numberIn(std::string_view text)
 /// Takes the first line. Nothing behind it is read: a message may follow.
 bool readLine(int from, Secret &passPhrase)
 {
-    std::array<char, Secret::maximumSize> line;
+    const base::WipedBytes line(Secret::maximumSize);
+    char *const text = reinterpret_cast<char *>(line.data());
     std::size_t size = 0;
     ssize_t count = 0;
     char letter = '\0';
     while ((count = read(from, &letter, 1)) == 1 && letter != '\n' && size < line.size())
-        line[size++] = letter;
+        text[size++] = letter;
     if (count == 1 && letter != '\n') errno = EMSGSIZE;
     const bool isRead = count == 0 || letter == '\n';
-    const bool isTaken = count >= 0 && isRead && passPhrase.assign({line.data(), size});
-    base::wipe(line.data(), line.size());
-    return isTaken;
+    return count >= 0 && isRead && passPhrase.assign({text, size});
 }
 
 } // namespace
@@ -62,13 +55,11 @@ bool hasTerminal() { return static_cast<bool>(base::FileDescriptor(open("/dev/tt
 
 bool askPassPhrase(const std::string &cipher, Secret &passPhrase)
 {
-    std::array<char, Secret::maximumSize + 1> line{};
+    const base::WipedBytes line(Secret::maximumSize + 1);
+    char *const text = reinterpret_cast<char *>(line.data());
     const std::string prompt = "enter " + cipher + " decryption password:";
-    const bool isAnswered =
-        EVP_read_pw_string(line.data(), static_cast<int>(line.size()), prompt.c_str(), 0) == 0;
-    const bool isTaken = isAnswered && passPhrase.assign(line.data());
-    base::wipe(line.data(), line.size());
-    return isTaken;
+    const bool isAnswered = EVP_read_pw_string(text, static_cast<int>(line.size()), prompt.c_str(), 0) == 0;
+    return isAnswered && passPhrase.assign(text);
 }
 
 bool fetchPassPhrase(const std::string &source, Secret &passPhrase, std::string &problem)
@@ -86,8 +77,6 @@ bool fetchPassPhrase(const std::string &source, Secret &passPhrase, std::string 
         const auto number = numberIn(std::string_view(source).substr(isNumbered ? descriptor.size() : 0));
         isTaken = readLine(number.value_or(STDIN_FILENO), passPhrase);
     }
-    if (!isTaken)
-        problem =
-            "cannot take the pass phrase from " + source + ": " + std::generic_category().message(errno);
+    if (!isTaken) problem = "cannot take the pass phrase from " + source + ": " + systemReason(errno);
     return isTaken;
 }

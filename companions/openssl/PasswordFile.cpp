@@ -1,25 +1,62 @@
 #include "PasswordFile.h"
 
-#include "BackgroundSink.h"
-#include "smime/Base64Sink.h"
-#include "smime/Base64Source.h"
-#include "smime/CipherSink.h"
-#include "smime/Fault.h"
+#include "smime/Base64.h"
+#include "smime/Crypto.h"
 
-#include <algorithm>
 #include <openssl/rand.h>
+#include <strings.h>
 
 namespace {
+
+struct CipherFamily {
+    std::string_view name;
+    bool isLegacy;
+};
+
+// A longer name comes before the one that it begins with. Triple DES is not a legacy cipher, single DES is.
+constexpr std::array families{
+    CipherFamily{"aes", false},      CipherFamily{"aria", false},    CipherFamily{"camellia", false},
+    CipherFamily{"sm4", false},      CipherFamily{"des3", false},    CipherFamily{"des-ede", false},
+    CipherFamily{"chacha20", false}, CipherFamily{"des", true},      CipherFamily{"desx", true},
+    CipherFamily{"bf", true},        CipherFamily{"blowfish", true}, CipherFamily{"cast", true},
+    CipherFamily{"idea", true},      CipherFamily{"rc2", true},      CipherFamily{"rc4", true},
+    CipherFamily{"rc5", true},       CipherFamily{"seed", true}};
+
+/// Whether what follows the family's name is a key size or a mode, as in `aes256`, `cast5-cbc` and `rc4-40`.
+bool isVariant(std::string_view rest)
+{
+    return rest.empty() || rest.front() == '-' || (rest.front() >= '0' && rest.front() <= '9');
+}
+
+const CipherFamily *familyOf(std::string_view cipher)
+{
+    const auto belongs = [cipher](const CipherFamily &family) {
+        const std::size_t size = family.name.size();
+        return cipher.size() >= size && strncasecmp(cipher.data(), family.name.data(), size) == 0 &&
+               isVariant(cipher.substr(size));
+    };
+    const auto found = std::ranges::find_if(families, belongs);
+    return found == families.end() ? nullptr : &*found;
+}
+
+/// Whether bytes in any pieces, a key and an initialisation vector are all that it takes.
+bool isPlain(const EVP_CIPHER *cipher)
+{
+    constexpr std::array modes{EVP_CIPH_STREAM_CIPHER, EVP_CIPH_ECB_MODE, EVP_CIPH_CBC_MODE,
+                               EVP_CIPH_CFB_MODE,      EVP_CIPH_OFB_MODE, EVP_CIPH_CTR_MODE};
+    constexpr unsigned long others = EVP_CIPH_FLAG_AEAD_CIPHER | EVP_CIPH_FLAG_CTS;
+    return std::ranges::count(modes, EVP_CIPHER_get_mode(cipher)) > 0 &&
+           (EVP_CIPHER_get_flags(cipher) & others) == 0;
+}
 
 constexpr std::string_view mark = "Salted__";
 constexpr std::size_t saltSize = 8;
 constexpr std::size_t tellingSize = 16; // whole blocks of every cipher
-using Header = std::array<std::uint8_t, mark.size() + saltSize>;
 
 constexpr std::array<std::string_view, 2> archiveSignatures{std::string_view("Rar!\x1a\x07\x01\x00", 8),
                                                             std::string_view("Rar!\x1a\x07\x00", 7)};
 
-Bytes saltOf(const Header &header) { return Bytes(header).subspan(mark.size()); }
+Bytes saltOf(Bytes header) { return header.subspan(mark.size()); }
 
 bool startsWith(Bytes bytes, std::string_view text)
 {
@@ -28,35 +65,33 @@ bool startsWith(Bytes bytes, std::string_view text)
                               [](char letter) { return static_cast<std::uint8_t>(letter); });
 }
 
-bool start(EVP_CIPHER_CTX *context, const EVP_CIPHER *cipher, const KeyMaterial &material, bool isEncryption,
-           bool isPadded)
+/// The key with the initialisation vector behind it, as both derivations make them. Empty: the library won't.
+base::WipedBytes deriveKey(const EVP_CIPHER *cipher, const KeyDerivation &derivation,
+                           std::string_view password, Bytes salt)
 {
-    return context &&
-           EVP_CipherInit_ex(context, cipher, nullptr, material.key(), material.vector(),
-                             isEncryption ? 1 : 0) > 0 &&
-           EVP_CIPHER_CTX_set_padding(context, isPadded ? 1 : 0) > 0;
+    const CryptoHandle<EVP_MD> digest = fetchDigest(derivation.digest);
+    if (!digest) return {};
+    const int size = static_cast<int>(password.size());
+    const int keySize = EVP_CIPHER_get_key_length(cipher);
+    const int wholeSize = keySize + EVP_CIPHER_get_iv_length(cipher);
+    base::WipedBytes key(static_cast<std::size_t>(wholeSize));
+    const auto *const text = reinterpret_cast<const unsigned char *>(password.data());
+    const int isMade =
+        derivation.iterations == 0
+            ? EVP_BytesToKey(cipher, digest.get(), salt.data(), text, size, 1, key.data(),
+                             key.data() + keySize)
+            : PKCS5_PBKDF2_HMAC(password.data(), size, salt.data(), static_cast<int>(salt.size()),
+                                static_cast<int>(derivation.iterations), digest.get(), wholeSize, key.data());
+    return isMade > 0 ? std::move(key) : base::WipedBytes();
 }
 
-bool encrypt(const PasswordFile &file, std::string_view password, ByteSource &input, ByteSink &output,
-             Fault &fault)
+bool start(EVP_CIPHER_CTX *context, const EVP_CIPHER *cipher, const base::WipedBytes &key, bool isEncryption,
+           bool isPadded)
 {
-    const EVP_CIPHER *const cipher = file.cipher.get();
-    Header header{};
-    std::ranges::copy(mark, header.begin());
-    KeyMaterial material;
-    Base64Sink text(output);
-    base::BackgroundSink rear(file.isBase64 ? static_cast<ByteSink &>(text) : output);
-    CipherSink front(rear);
-    if (RAND_bytes(header.data() + mark.size(), saltSize) <= 0 ||
-        !material.derive(cipher, file.derivations.back(), password, saltOf(header)) ||
-        !start(front.context(), cipher, material, true, file.isPadded))
-        return fault.report("cannot be encrypted: libcrypto has no such key");
-
-    bool isWritten = rear.write(header);
-    for (Bytes piece; isWritten && !(piece = input.read()).empty();)
-        isWritten = front.write(piece);
-    return isWritten && !fault.isSet() && front.finish() && rear.finish() &&
-           (!file.isBase64 || text.finish());
+    return context && key.size() > 0 &&
+           EVP_CipherInit_ex(context, cipher, nullptr, key.data(),
+                             key.data() + EVP_CIPHER_get_key_length(cipher), isEncryption ? 1 : 0) > 0 &&
+           EVP_CIPHER_CTX_set_padding(context, isPadded ? 1 : 0) > 0;
 }
 
 class Decryption {
@@ -77,7 +112,7 @@ public:
     bool run()
     {
         if (!readHeader()) return false;
-        readStart();
+        m_start = m_bytes.take(tellingSize);
         if (!findKey()) return m_fault.report("cannot be decrypted: libcrypto has no such key");
         return decryptAll() || reportEnd();
     }
@@ -85,34 +120,23 @@ public:
 private:
     bool readHeader()
     {
-        std::size_t size = 0;
-        while (size < m_header.size()) {
-            const auto byte = m_bytes.get();
-            if (!byte) return size == 0 ? m_fault.report("is empty") : m_fault.reportCutShort();
-            m_header[size++] = *byte;
-        }
+        m_header = m_bytes.take(mark.size() + saltSize);
+        if (m_header.empty()) return m_fault.report("is empty");
+        if (m_header.size() < mark.size() + saltSize) return m_fault.reportCutShort();
         return startsWith(m_header, mark) ||
                m_fault.report("was not encrypted by a password: it begins with a bad magic number");
-    }
-
-    void readStart()
-    {
-        while (m_start.size() < tellingSize) {
-            const auto byte = m_bytes.get();
-            if (!byte) break;
-            m_start.push_back(*byte);
-        }
     }
 
     /// Leaves the key of the last derivation, where none makes an archive of what the file begins with.
     bool findKey()
     {
         for (const KeyDerivation &each : m_file.derivations) {
-            if (!m_material.derive(m_cipher, each, m_password, saltOf(m_header))) return false;
+            m_key = deriveKey(m_cipher, each, m_password, saltOf(m_header));
+            if (m_key.size() == 0) return false;
             m_isArchive = opensArchive();
             if (m_isArchive) break;
         }
-        return start(m_front.context(), m_cipher, m_material, false, m_file.isPadded);
+        return start(m_front.context(), m_cipher, m_key, false, m_file.isPadded);
     }
 
     [[nodiscard]] bool opensArchive() const
@@ -120,7 +144,7 @@ private:
         const CryptoHandle<EVP_CIPHER_CTX> context(EVP_CIPHER_CTX_new());
         base::WipedBytes plain(2 * tellingSize);
         int size = 0;
-        if (m_start.size() < tellingSize || !start(context.get(), m_cipher, m_material, false, false) ||
+        if (m_start.size() < tellingSize || !start(context.get(), m_cipher, m_key, false, false) ||
             EVP_DecryptUpdate(context.get(), plain.data(), &size, m_start.data(), tellingSize) <= 0)
             return false;
         const Bytes content{plain.data(), static_cast<std::size_t>(size)};
@@ -154,24 +178,60 @@ private:
     Base64Source m_text;
     ByteReader m_bytes;
     CipherSink m_front;
-    Header m_header{};
+    std::vector<std::uint8_t> m_header;
     std::vector<std::uint8_t> m_start;
-    KeyMaterial m_material;
+    base::WipedBytes m_key;
     bool m_isArchive = false;
 };
 
 } // namespace
 
-Conversion encryption(const PasswordFile &file, std::string_view password)
+bool isCipher(std::string_view name) { return familyOf(name) != nullptr; }
+
+bool needsLegacyProvider(std::string_view cipher)
 {
-    return [&file, password](ByteSource &input, ByteSink &output, Fault &fault) {
-        return encrypt(file, password, input, output, fault);
-    };
+    const CipherFamily *const family = familyOf(cipher);
+    return family && family->isLegacy;
 }
 
-Conversion decryption(const PasswordFile &file, std::string_view password)
+LibraryCipher::LibraryCipher(std::string_view name)
+    // Naming one provider keeps the library from loading the default one, too.
+    : m_standard(OSSL_PROVIDER_load(nullptr, "default"))
+    , m_legacy(needsLegacyProvider(name) ? OSSL_PROVIDER_load(nullptr, "legacy") : nullptr)
+    , m_cipher(EVP_CIPHER_fetch(nullptr, std::string(name).c_str(), nullptr))
 {
-    return [&file, password](ByteSource &input, ByteSink &output, Fault &fault) {
-        return Decryption(file, password, input, output, fault).run();
-    };
+    ERR_clear_error();
+    if (m_cipher && !isPlain(m_cipher.get())) m_cipher.reset();
+}
+
+CryptoHandle<EVP_MD> fetchDigest(std::string_view name)
+{
+    return CryptoHandle<EVP_MD>(EVP_MD_fetch(nullptr, std::string(name).c_str(), nullptr));
+}
+
+bool encryptFile(const PasswordFile &file, std::string_view password, ByteSource &input, ByteSink &output,
+                 Fault &fault)
+{
+    const EVP_CIPHER *const cipher = file.cipher.get();
+    std::array<std::uint8_t, mark.size() + saltSize> header{};
+    std::ranges::copy(mark, header.begin());
+    Base64Sink text(output);
+    base::BackgroundSink rear(file.isBase64 ? static_cast<ByteSink &>(text) : output);
+    CipherSink front(rear);
+    if (RAND_bytes(header.data() + mark.size(), saltSize) <= 0 ||
+        !start(front.context(), cipher, deriveKey(cipher, file.derivations.back(), password, saltOf(header)),
+               true, file.isPadded))
+        return fault.report("cannot be encrypted: libcrypto has no such key");
+
+    bool isWritten = rear.write(header);
+    for (Bytes piece; isWritten && !(piece = input.read()).empty();)
+        isWritten = front.write(piece);
+    return isWritten && !fault.isSet() && front.finish() && rear.finish() &&
+           (!file.isBase64 || text.finish());
+}
+
+bool decryptFile(const PasswordFile &file, std::string_view password, ByteSource &input, ByteSink &output,
+                 Fault &fault)
+{
+    return Decryption(file, password, input, output, fault).run();
 }

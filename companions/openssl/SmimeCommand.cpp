@@ -1,15 +1,10 @@
-#include "CommandLine.h"
 #include "CommandPlan.h"
 #include "PassPhrase.h"
-#include "Secret.h"
-#include "WipedBytes.h"
-#include "smime/MessageEncryption.h"
+#include "PasswordFile.h"
+#include "smime/EncryptedMessage.h"
+#include "smime/KeyOpener.h"
 
-#include <algorithm>
-#include <array>
-#include <cstring>
 #include <strings.h>
-#include <sys/stat.h>
 
 namespace {
 
@@ -24,14 +19,6 @@ constexpr auto optionsWithValue = std::to_array<std::string_view>(
 constexpr std::string_view inlinePassPhrase = "pass:";
 
 bool isInlinePassPhrase(std::string_view source) { return source.starts_with(inlinePassPhrase); }
-
-CommandLine readCommandLine(std::span<char *const> arguments) { return {arguments, optionsWithValue}; }
-
-/// The option of the operation that counts, the last one; null where there is none.
-const Option *operationOf(const CommandLine &line)
-{
-    return line.last({"encrypt", "decrypt", "sign", "resign", "verify", "pk7out"});
-}
 
 /// Whether it is what the program runs that these tools belong to.
 bool isOurs(const CommandLine &line)
@@ -58,6 +45,15 @@ MessageForm formOf(const CommandLine &line, std::string_view option)
     return form && isOneOf(form, {"DER"}) ? MessageForm::Der : MessageForm::Smime;
 }
 
+/// An encryption for the owners of certificates that the front does itself: the system's tool does it on one
+/// core.
+struct SmimeEncryption {
+    FilePair files;
+    MessageForm form;
+    LibraryCipher cipher;
+    std::vector<Certificate> recipients{};
+};
+
 /// Whether the front can do itself what the option of an encryption asks for. It writes in pieces always.
 bool isOwnEncryption(const Option &option)
 {
@@ -68,7 +64,7 @@ bool isOwnEncryption(const Option &option)
 }
 
 /// Nothing: it is a matter for the tool, which also tells what is wrong with a certificate.
-std::optional<SmimeEncryption> planOwnEncryption(const CommandLine &line)
+std::optional<OwnRun> planOwnEncryption(const CommandLine &line)
 {
     std::string_view cipher;
     for (const Option &each : line.options()) {
@@ -77,46 +73,96 @@ std::optional<SmimeEncryption> planOwnEncryption(const CommandLine &line)
         if (isCipherName) cipher = each.name;
     }
     if (cipher.empty() || needsLegacyProvider(cipher) || !line.has({"binary"})) return std::nullopt;
-    SmimeEncryption encryption{filesOf(line), formOf(line, "outform"), LibraryCipher(cipher), {}};
+    const auto own = std::make_shared<SmimeEncryption>(
+        SmimeEncryption{filesOf(line), formOf(line, "outform"), LibraryCipher(cipher)});
     std::string ignored;
     for (const char *const operand : line.operands())
-        encryption.recipients.push_back(readCertificate(operand, ignored));
-    const bool isPossible = encryption.cipher.get() && !encryption.recipients.empty() &&
-                            std::ranges::all_of(encryption.recipients, canReceive);
-    return isPossible ? std::optional(std::move(encryption)) : std::nullopt;
+        own->recipients.push_back(readCertificate(operand, ignored));
+    const bool isPossible =
+        own->cipher.get() && !own->recipients.empty() && std::ranges::all_of(own->recipients, canReceive);
+    if (!isPossible) return std::nullopt;
+    return [own] {
+        return convert(own->files, [&own](ByteSource &input, ByteSink &output, Fault &fault) {
+            return encryptMessage(input, own->form, own->recipients, own->cipher.get(), output, fault);
+        });
+    };
 }
 
-CommandPlan planEncryption(const CommandLine &line)
+ToolRun planToolRun(const CommandLine &line, bool isEncryption)
 {
-    if (std::optional<SmimeEncryption> own = planOwnEncryption(line)) return std::move(*own);
-    const char *const input = line.value("in");
-    struct stat status {};
-    const bool isFound = input && stat(input, &status) == 0;
-
-    ToolRun run;
-    run.arguments.emplace_back(line.command());
-    // A message in one piece (-noindef) can't be decrypted from 1.6 GB on, and the tool says nothing of it.
-    if (!line.has({"stream", "indef"})) run.arguments.emplace_back("-stream");
-    // The tool takes an error while it reads for the end of the file, and says nothing.
-    run.isOurs = isOurs(line);
-    const bool isFed = run.isOurs || (isFound && (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode)));
-    if (isFed) run.input = input;
-    const std::vector<std::string> given = line.without([isFed](const Option &option) {
-        return option.name == "out" || option.name == "noindef" || (isFed && option.name == "in");
+    ToolRun run{{std::string(line.command())}};
+    run.files.output = line.file("out");
+    run.mayPrint = line.has({"help"});
+    if (isEncryption) {
+        // A message in one piece (-noindef) can't be decrypted from 1.6 GB on, and the tool says nothing of
+        // it.
+        if (!line.has({"stream", "indef"})) run.arguments.emplace_back("-stream");
+        // The tool takes an error while it reads for the end of the file, and says nothing.
+        run.files.isOurs = isOurs(line);
+        const char *const input = line.value("in");
+        struct stat status {};
+        const bool isFound = input && stat(input, &status) == 0;
+        if (run.files.isOurs || (isFound && (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode))))
+            run.files.input = input;
+    }
+    line.appendTo(run.arguments, [&](const Option &option) {
+        return option.name == "out" || (isEncryption && option.name == "noindef") ||
+               (run.files.input && option.name == "in");
     });
-    run.arguments.insert(run.arguments.end(), given.begin(), given.end());
     return run;
 }
 
-CommandPlan planToolDecryption(const CommandLine &line)
-{
-    ToolRun run;
-    run.arguments.emplace_back(line.command());
-    const std::vector<std::string> given =
-        line.without([](const Option &option) { return option.name == "out"; });
-    run.arguments.insert(run.arguments.end(), given.begin(), given.end());
-    return run;
-}
+/// A decryption with a certificate's private key that the front does itself: the system's tool holds the
+/// whole message in memory and takes none that is larger than 2 GB.
+struct SmimeDecryption {
+    FilePair files;
+    MessageForm form;
+    /// The certificate of the only recipient to try. Nothing: all are tried.
+    std::optional<std::string> recipient;
+    std::string keyFile;
+    /// A certificate that was named besides. It only helps to say why a message can't be opened.
+    std::optional<std::string> mentionedCertificate{};
+    /// Where the key's pass phrase comes from: fetchPassPhrase().
+    std::optional<std::string> passPhraseSource{};
+    /// The key's pass phrase was on the command line, in the secret that goes with the plan.
+    bool hasPassPhrase = false;
+
+    [[nodiscard]] int run(Secret &passPhrase) const
+    {
+        PrivateKey key;
+        Certificate certificate;
+        std::string problem;
+        if (!readIdentity(passPhrase, key, certificate, problem)) {
+            complain(problem);
+            return 1;
+        }
+        return convert(files, [&](ByteSource &input, ByteSink &output, Fault &fault) {
+            KeyOpener keys(key, certificate.handle ? &certificate : nullptr,
+                           recipient ? KeyOpener::Scope::Certificate : KeyOpener::Scope::All);
+            base::BackgroundSink rear(output);
+            return decryptMessage(input, form, keys, rear, fault) && rear.finish();
+        });
+    }
+
+private:
+    /// The key with the certificate that tells more of it, where one is known. False: `problem` says why.
+    bool readIdentity(Secret &passPhrase, PrivateKey &key, Certificate &certificate,
+                      std::string &problem) const
+    {
+        if (passPhraseSource && !fetchPassPhrase(*passPhraseSource, passPhrase, problem)) return false;
+        std::optional<std::string_view> text;
+        if (passPhraseSource || hasPassPhrase) text = passPhrase.text();
+        key = readPrivateKey(keyFile, text, problem);
+        passPhrase.wipe();
+        if (!key.handle) return false;
+        std::string ignored;
+        if (recipient)
+            certificate = readCertificate(*recipient, problem);
+        else if (mentionedCertificate)
+            certificate = readCertificate(*mentionedCertificate, ignored);
+        return certificate.handle || !recipient;
+    }
+};
 
 /// Whether the front can do itself what the option asks for.
 bool isOwnAffair(const Option &option)
@@ -131,56 +177,40 @@ bool isOwnAffair(const Option &option)
     return name == "in" || name == "out" || name == "inkey" || name == "recip";
 }
 
-/// Moves a pass phrase that is spelled out to `passPhrase`. False: it is too long for that.
-bool takePassPhrase(const CommandLine &line, SmimeDecryption &decryption, Secret &passPhrase)
-{
-    const Option *const option = line.last({"passin"});
-    if (!option) return true;
-    if (!isInlinePassPhrase(option->value)) {
-        decryption.passPhraseSource = option->value;
-        return true;
-    }
-    char *const text = option->value + inlinePassPhrase.size();
-    decryption.hasPassPhrase = passPhrase.assign(text);
-    base::wipe(text, std::strlen(text));
-    return decryption.hasPassPhrase;
-}
-
-CommandPlan planOwnDecryption(const CommandLine &line, Secret &passPhrase)
-{
-    SmimeDecryption decryption;
-    decryption.files = filesOf(line);
-    decryption.form = formOf(line, "inform");
-    decryption.recipient = valueOf(line, "recip");
-    // The tool looks for the key beside the certificate, too.
-    decryption.keyFile = valueOf(line, "inkey").value_or(decryption.recipient.value_or(""));
-    const std::span<char *const> operands = line.operands();
-    if (!operands.empty()) decryption.mentionedCertificate = operands.front();
-    if (!takePassPhrase(line, decryption, passPhrase))
-        return Refusal{"the pass phrase of the private key is longer than " +
-                       std::to_string(Secret::maximumSize) + " bytes: use a copy of the key that has none"};
-    return decryption;
-}
-
 CommandPlan planDecryption(const CommandLine &line, Secret &passPhrase)
 {
-    const bool hasKey = line.has({"inkey", "recip"});
-    const bool isOurs = hasKey && std::ranges::all_of(line.options(), isOwnAffair);
-    return isOurs ? planOwnDecryption(line, passPhrase) : planToolDecryption(line);
+    if (!line.has({"inkey", "recip"}) || !std::ranges::all_of(line.options(), isOwnAffair))
+        return planToolRun(line, false);
+    const std::optional<std::string> recipient = valueOf(line, "recip");
+    // The tool looks for the key beside the certificate, too.
+    SmimeDecryption decryption{filesOf(line), formOf(line, "inform"), recipient,
+                               valueOf(line, "inkey").value_or(recipient.value_or(""))};
+    if (!line.operands().empty()) decryption.mentionedCertificate = line.operands().front();
+    const Option *const source = line.last({"passin"});
+    if (source && isInlinePassPhrase(source->value)) {
+        char *const text = source->value + inlinePassPhrase.size();
+        decryption.hasPassPhrase = passPhrase.assign(text);
+        base::wipe(text, std::strlen(text));
+        if (!decryption.hasPassPhrase)
+            return Refusal{"the pass phrase of the private key is longer than " +
+                           std::to_string(Secret::maximumSize) +
+                           " bytes: use a copy of the key that has none"};
+    } else if (source) {
+        decryption.passPhraseSource = source->value;
+    }
+    return OwnRun([decryption, &passPhrase] { return decryption.run(passPhrase); });
 }
 
 } // namespace
 
 std::optional<CommandPlan> planSmimeCommand(std::span<char *const> arguments, Secret &passPhrase)
 {
-    const CommandLine line = readCommandLine(arguments);
-    const Option *const operation = line.command() == "smime" ? operationOf(line) : nullptr;
-    const bool isEncryption = operation && operation->name == "encrypt";
-    if (!isEncryption && !(operation && operation->name == "decrypt")) return std::nullopt;
-    CommandPlan plan = isEncryption ? planEncryption(line) : planDecryption(line, passPhrase);
-    if (ToolRun *const run = std::get_if<ToolRun>(&plan)) {
-        run->output = line.file("out");
-        run->mayPrint = line.has({"help"});
-    }
-    return plan;
+    const CommandLine line(arguments, optionsWithValue);
+    if (line.command() != "smime") return std::nullopt;
+    const Option *const operation =
+        line.last({"encrypt", "decrypt", "sign", "resign", "verify", "pk7out"}); // the one that counts
+    if (operation && operation->name == "decrypt") return planDecryption(line, passPhrase);
+    if (!operation || operation->name != "encrypt") return std::nullopt;
+    if (std::optional<OwnRun> own = planOwnEncryption(line)) return std::move(*own);
+    return planToolRun(line, true);
 }

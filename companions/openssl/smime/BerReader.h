@@ -2,10 +2,8 @@
 
 #include "ByteReader.h"
 
-#include <functional>
-#include <vector>
-
-class Fault;
+#include <algorithm>
+#include <limits>
 
 /// Identifier octets (X.690, section 8.1.2). Tags above 30 take more than one and do not occur here.
 namespace ber {
@@ -27,31 +25,111 @@ public:
 
     /// The identifier of the next element; 0 where the open one has no more, or on a failure, which leave()
     /// tells.
-    [[nodiscard]] std::uint8_t peek();
+    [[nodiscard]] std::uint8_t peek()
+    {
+        if (roomLeft() == 0) return 0;
+        const Bytes bytes = m_bytes.available();
+        if (bytes.empty()) m_fault.reportCutShort();
+        return bytes.empty() ? 0 : bytes.front();
+    }
+
     /// Opens the next element, which must be a constructed one of this identifier.
-    [[nodiscard]] bool enter(std::uint8_t identifier);
+    [[nodiscard]] bool enter(std::uint8_t identifier)
+    {
+        Element element;
+        if (!readElement(element)) return false;
+        return element.identifier == identifier ? open(element) : reportDamage();
+    }
+
     /// Closes the open element, which must have no more.
-    [[nodiscard]] bool leave();
+    [[nodiscard]] bool leave()
+    {
+        if (m_fault.isSet()) return false;
+        if (m_levels.back().isIndefinite) {
+            // The end of the contents is marked by two zeros.
+            for (int i = 0; i < 2; ++i) {
+                std::uint8_t byte = 0;
+                if (!readByte(byte)) return false;
+                if (byte != 0) return reportDamage();
+            }
+        } else if (roomLeft() != 0) {
+            return reportDamage();
+        }
+        m_levels.pop_back();
+        return true;
+    }
+
     /// Goes past the next element with all that is in it.
-    [[nodiscard]] bool skip();
+    [[nodiscard]] bool skip()
+    {
+        Element element;
+        if (!readElement(element)) return false;
+        if (!element.isIndefinite) return readContents(element.length, [](Bytes) { return true; });
+        if (!open(element)) return false;
+        while (peek() != 0)
+            if (!skip()) return false;
+        return leave();
+    }
+
     /// Goes past the next element, a number.
-    [[nodiscard]] bool skipNumber();
+    [[nodiscard]] bool skipNumber()
+    {
+        // A failure of peek() was reported before and stays.
+        return peek() == ber::integer ? skip() : reportDamage();
+    }
+
     /// The next element as it stands, of at most `maximum` bytes.
-    [[nodiscard]] bool collect(std::vector<std::uint8_t> &encoding, std::size_t maximum);
+    [[nodiscard]] bool collect(std::vector<std::uint8_t> &encoding, std::size_t maximum)
+    {
+        encoding.clear();
+        m_recording = &encoding;
+        m_recordingMaximum = maximum;
+        const bool isRead = skip();
+        m_recording = nullptr;
+        return isRead;
+    }
 
     /// Gets the pieces of an octet string, in order. False ends the reading.
     using Consumer = std::function<bool(Bytes)>;
     /// Reads the next element, an octet string whose primitive form has this identifier. It may be in one
     /// piece or in any number of them, of any size.
-    [[nodiscard]] bool readOctets(std::uint8_t identifier, const Consumer &consumer);
+    [[nodiscard]] bool readOctets(std::uint8_t identifier, const Consumer &consumer)
+    {
+        Element element;
+        if (!readElement(element)) return false;
+        if (element.identifier == identifier) return readContents(element.length, consumer);
+        if (element.identifier != (identifier | ber::constructed)) return reportDamage();
+        if (!open(element)) return false;
+        while (peek() != 0)
+            if (!readOctets(ber::octetString, consumer)) return false;
+        return leave();
+    }
+
     /// The same for a short one, of at most `maximum` bytes.
     [[nodiscard]] bool readOctets(std::uint8_t identifier, std::vector<std::uint8_t> &octets,
-                                  std::size_t maximum);
+                                  std::size_t maximum)
+    {
+        octets.clear();
+        return readOctets(identifier, [this, &octets, maximum](Bytes bytes) {
+            if (bytes.size() > maximum - octets.size()) return reportDamage();
+            octets.insert(octets.end(), bytes.begin(), bytes.end());
+            return true;
+        });
+    }
 
     /// What was read last cannot be in such a message. Returns false.
-    bool reportDamage();
+    bool reportDamage()
+    {
+        return m_fault.report("is damaged: what is at byte " + std::to_string(m_bytes.position()) +
+                              " of its binary form cannot be there");
+    }
 
 private:
+    // Enough for a message inside any that mail programs write, and too little to fill the stack.
+    static constexpr std::size_t maximumDepth = 32;
+    static constexpr std::uint8_t longTag = 0x1f;
+    static constexpr std::uint8_t indefiniteLength = 0x80;
+
     struct Element {
         std::uint8_t identifier = 0;
         bool isIndefinite = false;
@@ -62,14 +140,79 @@ private:
         bool isIndefinite;
     };
 
-    [[nodiscard]] std::uint64_t end() const;
-    [[nodiscard]] std::uint64_t roomLeft() const;
-    bool record(Bytes bytes);
-    bool readByte(std::uint8_t &byte);
-    bool readElement(Element &element);
-    bool readLength(Element &element);
-    bool open(const Element &element);
-    bool readContents(std::uint64_t length, const Consumer &consumer);
+    [[nodiscard]] std::uint64_t end() const
+    {
+        return m_levels.empty() ? std::numeric_limits<std::uint64_t>::max() : m_levels.back().end;
+    }
+
+    [[nodiscard]] std::uint64_t roomLeft() const { return end() - m_bytes.position(); }
+
+    bool record(Bytes bytes)
+    {
+        if (!m_recording) return true;
+        if (bytes.size() > m_recordingMaximum - m_recording->size()) return reportDamage();
+        m_recording->insert(m_recording->end(), bytes.begin(), bytes.end());
+        return true;
+    }
+
+    bool readByte(std::uint8_t &byte)
+    {
+        if (roomLeft() == 0) return reportDamage();
+        const auto next = m_bytes.get();
+        if (!next) return m_fault.reportCutShort();
+        byte = *next;
+        return record({&byte, 1});
+    }
+
+    bool readElement(Element &element)
+    {
+        if (!readByte(element.identifier)) return false;
+        if ((element.identifier & longTag) == longTag || element.identifier == 0) return reportDamage();
+        if (!readLength(element)) return false;
+        const bool isConstructed = element.identifier & ber::constructed;
+        if (element.isIndefinite ? !isConstructed : element.length > roomLeft()) return reportDamage();
+        return true;
+    }
+
+    bool readLength(Element &element)
+    {
+        std::uint8_t first = 0;
+        if (!readByte(first)) return false;
+        element.isIndefinite = first == indefiniteLength;
+        if (first <= indefiniteLength) {
+            element.length = element.isIndefinite ? 0 : first;
+            return true;
+        }
+        const unsigned count = first - indefiniteLength;
+        if (count > sizeof element.length) return reportDamage();
+        for (unsigned i = 0; i < count; ++i) {
+            std::uint8_t byte = 0;
+            if (!readByte(byte)) return false;
+            element.length = element.length << 8 | byte;
+        }
+        return true;
+    }
+
+    bool open(const Element &element)
+    {
+        if (m_levels.size() == maximumDepth) return reportDamage();
+        const std::uint64_t ownEnd = element.isIndefinite ? end() : m_bytes.position() + element.length;
+        m_levels.push_back({ownEnd, element.isIndefinite});
+        return true;
+    }
+
+    bool readContents(std::uint64_t length, const Consumer &consumer)
+    {
+        while (length > 0) {
+            const Bytes bytes = m_bytes.available();
+            if (bytes.empty()) return m_fault.reportCutShort();
+            const std::size_t count = static_cast<std::size_t>(std::min<std::uint64_t>(length, bytes.size()));
+            if (!record(bytes.first(count)) || !consumer(bytes.first(count))) return false;
+            m_bytes.skip(count);
+            length -= count;
+        }
+        return true;
+    }
 
     ByteReader &m_bytes;
     Fault &m_fault;

@@ -1,30 +1,46 @@
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
+#include "Crypto.h"
+#include "Streams.h"
+
 #include <optional>
-#include <string>
-#include <utility>
-#include <vector>
+#include <string_view>
 
-struct Certificate;
-struct PrivateKey;
-struct Recipient;
+class BerReader;
 
-/// The key of a message's content, wiped at the end.
-class ContentKey {
-public:
-    explicit ContentKey(std::vector<std::uint8_t> bytes) : m_bytes(std::move(bytes)) {}
-    ~ContentKey();
-    ContentKey(ContentKey &&) noexcept = default;
-    ContentKey(const ContentKey &) = delete;
-    ContentKey &operator=(const ContentKey &) = delete;
-
-    [[nodiscard]] const std::vector<std::uint8_t> &bytes() const { return m_bytes; }
-
-private:
-    std::vector<std::uint8_t> m_bytes;
+struct PrivateKey {
+    CryptoHandle<EVP_PKEY> handle; ///< null: it could not be read
+    std::string file;
 };
+
+struct Certificate {
+    CryptoHandle<X509> handle; ///< null: it could not be read
+    std::string file;
+};
+
+/// Reads a private key in PEM or DER. `passPhrase` opens one that is protected; nobody is ever asked for it.
+/// Where the key can't be read, `problem` is a whole sentence that says why.
+[[nodiscard]] PrivateKey readPrivateKey(const std::string &file, std::optional<std::string_view> passPhrase,
+                                        std::string &problem);
+
+/// Reads a certificate in PEM or DER; otherwise as readPrivateKey().
+[[nodiscard]] Certificate readCertificate(const std::string &file, std::string &problem);
+
+/// One of those whom a message is for: KeyTransRecipientInfo of RFC 5652, section 6.2.1.
+struct Recipient {
+    /// What tells the recipient's certificate from others; null: it goes by its key's identifier.
+    CryptoHandle<PKCS7_ISSUER_AND_SERIAL> name;
+    std::vector<std::uint8_t> keyIdentifier;
+    /// What encrypted the key; it is there in every one that was read.
+    CryptoHandle<X509_ALGOR> algorithm;
+    std::vector<std::uint8_t> encryptedKey;
+
+    [[nodiscard]] bool isNamedBy(X509 &certificate) const;
+};
+
+/// Reads the next element, a recipient of the kind that goes by a certificate. False, and reported: it is
+/// damaged.
+[[nodiscard]] bool readRecipient(BerReader &ber, Recipient &recipient);
 
 /// Opens, with a private key, what a message holds for its recipients.
 ///
@@ -49,12 +65,17 @@ public:
     void passOver(OtherRecipient recipient) { m_other = m_other.value_or(recipient); }
 
     /// The key of this size, in bytes, that a recipient's entry held; null: the private key opens none.
-    [[nodiscard]] const ContentKey *contentKey(std::size_t size) const;
+    [[nodiscard]] const base::WipedBytes *contentKey(std::size_t size) const
+    {
+        const auto found = std::ranges::find(m_opened, size, &base::WipedBytes::size);
+        return found == m_opened.end() ? nullptr : &*found;
+    }
+
     /// Why it opens none, said of the message.
     [[nodiscard]] std::string refusal() const;
 
 private:
-    [[nodiscard]] bool isRsa() const;
+    [[nodiscard]] bool isRsa() const { return EVP_PKEY_is_a(m_privateKey.handle.get(), "RSA") == 1; }
 
     const PrivateKey &m_privateKey;
     const Certificate *m_certificate;
@@ -62,5 +83,5 @@ private:
     bool m_hasMetCertificate = false;
     bool m_hasMetRsa = false;
     std::optional<OtherRecipient> m_other;
-    std::vector<ContentKey> m_opened;
+    std::vector<base::WipedBytes> m_opened;
 };

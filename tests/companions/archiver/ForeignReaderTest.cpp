@@ -91,9 +91,9 @@ HandmadeEntry olderPackedFile(const std::string &name, const std::string &conten
 /// An archive with `record` in the extra area of the header at `at`, which had none.
 std::string withRecord(const std::string &bytes, std::size_t at, const ByteBuffer &record)
 {
-    const std::size_t length = *headerLength(bytesOf(bytes.substr(at)));
+    const std::size_t length = *presentFormat.length(bytesOf(bytes.substr(at)));
     const std::string header = bytes.substr(at, length);
-    const HeaderFrame frame = *parseFrame(bytesOf(header));
+    const HeaderFrame frame = *presentFormat.frame(bytesOf(header));
     ByteBuffer body{static_cast<std::uint8_t>(frame.type), static_cast<std::uint8_t>(frame.flags | 1)};
     putVint(body, record.size() + 1);
     if (frame.flags & 2) putVint(body, frame.dataSize);
@@ -115,10 +115,10 @@ TEST_F(ForeignArchive, isReadWhateverElseItsHeadersSay)
     const std::map<std::string, std::string> expected = {
         {"file", content}, {"empty", ""}, {"link", "-> file"}};
     const std::size_t mainAt = signature.size();
-    const std::size_t fileAt = mainAt + *headerLength(bytesOf(bytes.substr(mainAt)));
+    const std::size_t fileAt = mainAt + *presentFormat.length(bytesOf(bytes.substr(mainAt)));
     const auto record = [](ByteBuffer start, const std::vector<std::uint64_t> &numbers) {
         for (const std::uint64_t number : numbers)
-            putU64(start, number);
+            putNumber(start, number, 8);
         return start;
     };
     const ByteBuffer archiveName{2, 1, 5, 'a', '.', 'r', 'a', 'r'};

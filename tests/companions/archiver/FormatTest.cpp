@@ -1,6 +1,6 @@
 #include "EntryName.h"
 #include "Headers.h"
-#include "VolumeNames.h"
+#include "VolumeSource.h"
 
 #include <gtest/gtest.h>
 
@@ -29,12 +29,12 @@ TEST(FileHeader, sizesBeyond4GiBKeepTheHeadersLength)
 {
     FileHeader header;
     ByteBuffer small;
-    putFileHeader(small, header);
+    presentFormat.putFile(small, header);
     header.unpackedSize = header.packedSize = 5'000'000'000;
     ByteBuffer large;
-    putFileHeader(large, header);
+    presentFormat.putFile(large, header);
     EXPECT_EQ(large.size(), small.size());
-    EXPECT_EQ(parseFileHeader(*parseFrame(large))->unpackedSize, header.unpackedSize);
+    EXPECT_EQ(presentFormat.fileHeader(*presentFormat.frame(large))->unpackedSize, header.unpackedSize);
 }
 
 TEST(VolumeNames, theNextOneFollowsFromTheName)

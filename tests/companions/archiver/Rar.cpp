@@ -1,7 +1,7 @@
 #include "Rar.h"
 
 #include "Tree.h"
-#include "VolumeNames.h"
+#include "VolumeSource.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -2,8 +2,6 @@
 #include "PasswordFile.h"
 #include "smime/BerReader.h"
 #include "smime/EncryptedMessage.h"
-#include "smime/Fault.h"
-#include "smime/KeyFile.h"
 #include "smime/KeyOpener.h"
 
 namespace fs = std::filesystem;
@@ -96,7 +94,9 @@ TEST(PasswordFile, IsReadWhereTheSystemsToolReadsItAndNeverTakenForWholeWhenItIs
     writeFile(folder / "G",
               "Salted__SaltSalt" + runIn(folder, stock, how + "-in F -S 53616c7453616c74").output);
     const PasswordFile file{LibraryCipher("aes256"), true, true, {{1, "sha256"}}};
-    const Conversion conversion = decryption(file, "x");
+    const Conversion conversion = [&file](ByteSource &input, ByteSink &output, Fault &fault) {
+        return decryptFile(file, "x", input, output, fault);
+    };
     ASSERT_EQ(runIn(folder, "sh", "-c", {"base64 -w 64 G > T"}).status, 0);
     const std::string whole = readFile(folder / "T");
     std::size_t taken = 0;

@@ -1,7 +1,6 @@
-#include "RunTool.h"
 #include "Front.h"
-#include "Secret.h"
-#include "ToolLocation.h"
+#include "PassPhrase.h"
+#include "SystemTool.h"
 
 namespace fs = std::filesystem;
 
@@ -15,7 +14,7 @@ int runScript(const TemporaryFolder &folder, const std::string &content, const s
     fs::permissions(folder / "tool", fs::perms::owner_all);
     ToolRun run;
     run.arguments = {"aes-256-cbc"};
-    run.output = output;
+    run.files.output = output;
     run.hasPassword = !password.text().empty();
     return runTool(folder / "tool", run, password);
 }

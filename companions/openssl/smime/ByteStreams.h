@@ -1,7 +1,0 @@
-#pragma once
-
-#include "Streams.h"
-
-using base::Bytes;
-using base::ByteSink;
-using base::ByteSource;
