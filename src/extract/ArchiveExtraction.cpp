@@ -324,24 +324,24 @@ void ArchiveExtraction::noteContents(const QString &path)
 
 void ArchiveExtraction::listContents()
 {
-    if (!goesOn() || !m_isExtracted || !m_order.listing) return;
+    if (!m_isExtracted || !m_order.listing) return;
     *m_order.listing =
         listArchive(m_item, contentsFolder(m_folder), m_run.state().elapsed(), [this] { return goesOn(); });
+    m_isExtracted = goesOn();
 }
 
 void ArchiveExtraction::bringChosen()
 {
-    if (!goesOn() || !m_isExtracted || m_order.chosen.empty()) return;
+    if (!m_isExtracted || m_order.chosen.empty()) return;
+    m_isExtracted = false; // before it is where it was chosen for, nothing has come back
+    if (!goesOn()) return;
     setStage(u"placing"_qs, {}); // by renaming: it takes no time
     const QString reason = ::bringChosen(m_order, m_item, contentsFolder(m_folder), m_example,
                                          {.keep = [this](const Aside &kept) { noteKept(kept); },
                                           .keptAsItWas = [this] { noteNotKept(); },
                                           .goesOn = [this] { return !isCancelled(); }},
                                          [this](const QString &path) { noteContents(path); });
-    if (isCancelled()) {
-        m_isExtracted = false;
-        return;
-    }
+    if (isCancelled()) return;
     judgeStage(FailedStage::Kind::Place, u"\nRESTORE"_qs, {.output = reason}, true, m_order.folder);
     m_isExtracted = m_succeeded;
 }
