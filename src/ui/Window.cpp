@@ -92,6 +92,8 @@ void Window::addShortcuts()
     for (QWidget *root : m_panels->all()) {
         auto *quit = new QShortcut(QKeySequence::Quit, root);
         connect(quit, &QShortcut::activated, this, &QWidget::close);
+        auto *guide = new QShortcut(QKeySequence::HelpContents, root);
+        connect(guide, &QShortcut::activated, m_form->guideAction, &QAction::trigger);
     }
 }
 
