@@ -1370,14 +1370,6 @@ quillorent-run tut dasselbe ohne Fenster.</translation>
         <translation>Zurückholen</translation>
     </message>
     <message>
-        <source>Testing the archives…</source>
-        <translation>Archive werden geprüft…</translation>
-    </message>
-    <message>
-        <source>Restoring…</source>
-        <translation>Es wird zurückgeholt…</translation>
-    </message>
-    <message>
         <source>Progress of restoring</source>
         <translation>Fortschritt des Zurückholens</translation>
     </message>
@@ -1524,6 +1516,22 @@ quillorent-run tut dasselbe ohne Fenster.</translation>
     <message>
         <source>&amp;Keep running</source>
         <translation>&amp;Weiterlaufen lassen</translation>
+    </message>
+    <message>
+        <source>Looking into an archive</source>
+        <translation>Blick in ein Archiv</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>In einem Archiv wird nachgesehen.</translation>
+    </message>
+    <message>
+        <source>Stop looking into the archive?</source>
+        <translation>Nicht weiter im Archiv nachsehen?</translation>
+    </message>
+    <message>
+        <source>Nothing of yours has been changed.</source>
+        <translation>Von Ihren Dateien wurde nichts verändert.</translation>
     </message>
 </context>
 <context>
@@ -1731,6 +1739,10 @@ Ihre Datei bleibt, wie sie ist. Reparieren Sie sie, oder verschieben Sie sie: De
     <message>
         <source>Something is running just now. Remove these files when it has ended.</source>
         <translation>Im Augenblick läuft etwas. Entfernen Sie diese Dateien, wenn es zu Ende ist.</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>In einem Archiv wird nachgesehen.</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2140,10 @@ Ihre Datei bleibt, wie sie ist. Reparieren Sie sie, oder verschieben Sie sie: De
         <source>What &quot;%1&quot; was decrypted to is no archive. The private key is wrong, or no backup has made the archive.</source>
         <translation>Was beim Entschlüsseln von „%1“ herauskam, ist kein Archiv. Der private Schlüssel ist falsch, oder das Archiv stammt von keiner Sicherung.</translation>
     </message>
+    <message>
+        <source>Cancelled. Nothing of yours was changed.</source>
+        <translation>Abgebrochen. Von Ihren Dateien wurde nichts verändert.</translation>
+    </message>
 </context>
 <context>
     <name>extraction</name>
@@ -2170,6 +2186,22 @@ Ihre Datei bleibt, wie sie ist. Reparieren Sie sie, oder verschieben Sie sie: De
     <message>
         <source>The folder &quot;%1&quot; can&apos;t be made. Choose another one.</source>
         <translation>Der Ordner „%1“ lässt sich nicht anlegen. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>Testing the archives…</source>
+        <translation>Archive werden geprüft…</translation>
+    </message>
+    <message>
+        <source>Testing &quot;%1&quot;…</source>
+        <translation>„%1“ wird geprüft…</translation>
+    </message>
+    <message>
+        <source>Restoring…</source>
+        <translation>Es wird zurückgeholt…</translation>
+    </message>
+    <message>
+        <source>Looking into &quot;%1&quot;…</source>
+        <translation>In „%1“ wird nachgesehen…</translation>
     </message>
 </context>
 <context>
@@ -4010,6 +4042,14 @@ Was Sie geändert haben, bleibt nur, solange das Programm läuft. Schaffen Sie P
     <message>
         <source>The backup failed</source>
         <translation>Sicherung fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Archive looked into</source>
+        <translation>Im Archiv nachgesehen</translation>
+    </message>
+    <message>
+        <source>The archive can&apos;t be looked into</source>
+        <translation>Im Archiv ließ sich nicht nachsehen</translation>
     </message>
 </context>
 <context>

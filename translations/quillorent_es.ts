@@ -1370,14 +1370,6 @@ quillorent-run hace lo mismo sin ella.</translation>
         <translation>Restauración</translation>
     </message>
     <message>
-        <source>Testing the archives…</source>
-        <translation>Probando los paquetes…</translation>
-    </message>
-    <message>
-        <source>Restoring…</source>
-        <translation>Restaurando…</translation>
-    </message>
-    <message>
         <source>Progress of restoring</source>
         <translation>Progreso de la restauración</translation>
     </message>
@@ -1524,6 +1516,22 @@ quillorent-run hace lo mismo sin ella.</translation>
     <message>
         <source>&amp;Keep running</source>
         <translation>&amp;Continuar</translation>
+    </message>
+    <message>
+        <source>Looking into an archive</source>
+        <translation>Contenido de un paquete</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>Se está mirando qué contiene un paquete.</translation>
+    </message>
+    <message>
+        <source>Stop looking into the archive?</source>
+        <translation>¿Dejar de mirar qué contiene el paquete?</translation>
+    </message>
+    <message>
+        <source>Nothing of yours has been changed.</source>
+        <translation>No se ha cambiado ninguno de sus archivos.</translation>
     </message>
 </context>
 <context>
@@ -1731,6 +1739,10 @@ Su archivo se queda como está. Repárelo o muévalo a otro lugar: en el próxim
     <message>
         <source>Something is running just now. Remove these files when it has ended.</source>
         <translation>Hay una operación en curso. Elimine estos archivos cuando acabe.</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>Se está mirando qué contiene un paquete.</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2140,10 @@ Su archivo se queda como está. Repárelo o muévalo a otro lugar: en el próxim
         <source>What &quot;%1&quot; was decrypted to is no archive. The private key is wrong, or no backup has made the archive.</source>
         <translation>Lo que resulta de descifrar “%1” no es un paquete. La clave privada es incorrecta, o el paquete no procede de una copia de seguridad.</translation>
     </message>
+    <message>
+        <source>Cancelled. Nothing of yours was changed.</source>
+        <translation>Cancelado. No se ha cambiado ninguno de sus archivos.</translation>
+    </message>
 </context>
 <context>
     <name>extraction</name>
@@ -2170,6 +2186,22 @@ Su archivo se queda como está. Repárelo o muévalo a otro lugar: en el próxim
     <message>
         <source>The folder &quot;%1&quot; can&apos;t be made. Choose another one.</source>
         <translation>No se puede crear la carpeta “%1”. Elija otra.</translation>
+    </message>
+    <message>
+        <source>Testing the archives…</source>
+        <translation>Probando los paquetes…</translation>
+    </message>
+    <message>
+        <source>Testing &quot;%1&quot;…</source>
+        <translation>Probando “%1”…</translation>
+    </message>
+    <message>
+        <source>Restoring…</source>
+        <translation>Restaurando…</translation>
+    </message>
+    <message>
+        <source>Looking into &quot;%1&quot;…</source>
+        <translation>Mirando qué contiene “%1”…</translation>
     </message>
 </context>
 <context>
@@ -4010,6 +4042,14 @@ Lo que ha cambiado se conserva solo mientras el programa esté abierto. Libere e
     <message>
         <source>The backup failed</source>
         <translation>La copia ha fallado</translation>
+    </message>
+    <message>
+        <source>Archive looked into</source>
+        <translation>Contenido del paquete listo</translation>
+    </message>
+    <message>
+        <source>The archive can&apos;t be looked into</source>
+        <translation>No se puede mirar qué contiene el paquete</translation>
     </message>
 </context>
 <context>

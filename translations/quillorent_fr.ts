@@ -1370,14 +1370,6 @@ quillorent-run fait la même chose sans fenêtre.</translation>
         <translation>Restauration</translation>
     </message>
     <message>
-        <source>Testing the archives…</source>
-        <translation>Test des archives…</translation>
-    </message>
-    <message>
-        <source>Restoring…</source>
-        <translation>Restauration en cours…</translation>
-    </message>
-    <message>
         <source>Progress of restoring</source>
         <translation>Avancement de la restauration</translation>
     </message>
@@ -1524,6 +1516,22 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     <message>
         <source>&amp;Keep running</source>
         <translation>Ne &amp;pas arrêter</translation>
+    </message>
+    <message>
+        <source>Looking into an archive</source>
+        <translation>Examen d’une archive</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>Le contenu d’une archive est en cours d’examen.</translation>
+    </message>
+    <message>
+        <source>Stop looking into the archive?</source>
+        <translation>Arrêter l’examen de l’archive ?</translation>
+    </message>
+    <message>
+        <source>Nothing of yours has been changed.</source>
+        <translation>Rien de ce qui vous appartient n’a été modifié.</translation>
     </message>
 </context>
 <context>
@@ -1731,6 +1739,10 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     <message>
         <source>Something is running just now. Remove these files when it has ended.</source>
         <translation>Une opération est en cours. Supprimez ces fichiers quand elle aura pris fin.</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>Le contenu d’une archive est en cours d’examen.</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2140,10 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
         <source>What &quot;%1&quot; was decrypted to is no archive. The private key is wrong, or no backup has made the archive.</source>
         <translation>Le résultat du déchiffrement de « %1 » n’est pas une archive. La clé privée n’est pas la bonne, ou l’archive ne vient pas d’une sauvegarde.</translation>
     </message>
+    <message>
+        <source>Cancelled. Nothing of yours was changed.</source>
+        <translation>Annulé. Rien de ce qui vous appartient n’a été modifié.</translation>
+    </message>
 </context>
 <context>
     <name>extraction</name>
@@ -2170,6 +2186,22 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le : un nouveau sera cr�
     <message>
         <source>The folder &quot;%1&quot; can&apos;t be made. Choose another one.</source>
         <translation>Le dossier « %1 » ne peut pas être créé. Choisissez-en un autre.</translation>
+    </message>
+    <message>
+        <source>Testing the archives…</source>
+        <translation>Test des archives…</translation>
+    </message>
+    <message>
+        <source>Testing &quot;%1&quot;…</source>
+        <translation>Test de « %1 »…</translation>
+    </message>
+    <message>
+        <source>Restoring…</source>
+        <translation>Restauration en cours…</translation>
+    </message>
+    <message>
+        <source>Looking into &quot;%1&quot;…</source>
+        <translation>Examen du contenu de « %1 »…</translation>
     </message>
 </context>
 <context>
@@ -4010,6 +4042,14 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     <message>
         <source>The backup failed</source>
         <translation>La sauvegarde a échoué</translation>
+    </message>
+    <message>
+        <source>Archive looked into</source>
+        <translation>Archive examinée</translation>
+    </message>
+    <message>
+        <source>The archive can&apos;t be looked into</source>
+        <translation>L’archive n’a pas pu être examinée</translation>
     </message>
 </context>
 <context>

@@ -1370,14 +1370,6 @@ quillorent-run を使うと、ウィンドウなしで同じことができま�
         <translation>復元</translation>
     </message>
     <message>
-        <source>Testing the archives…</source>
-        <translation>アーカイブをテストしています…</translation>
-    </message>
-    <message>
-        <source>Restoring…</source>
-        <translation>復元しています…</translation>
-    </message>
-    <message>
         <source>Progress of restoring</source>
         <translation>復元の進行状況</translation>
     </message>
@@ -1524,6 +1516,22 @@ quillorent-run を使うと、ウィンドウなしで同じことができま�
     <message>
         <source>&amp;Keep running</source>
         <translation>続ける(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Looking into an archive</source>
+        <translation>アーカイブの確認中</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>アーカイブの中を調べています。</translation>
+    </message>
+    <message>
+        <source>Stop looking into the archive?</source>
+        <translation>アーカイブの確認を中止しますか？</translation>
+    </message>
+    <message>
+        <source>Nothing of yours has been changed.</source>
+        <translation>あなたのファイルは変更されていません。</translation>
     </message>
 </context>
 <context>
@@ -1731,6 +1739,10 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
     <message>
         <source>Something is running just now. Remove these files when it has ended.</source>
         <translation>処理が実行中です。終わってからこれらのファイルを削除してください。</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>アーカイブの中を調べています。</translation>
     </message>
 </context>
 <context>
@@ -2126,6 +2138,10 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
         <source>What &quot;%1&quot; was decrypted to is no archive. The private key is wrong, or no backup has made the archive.</source>
         <translation>「%1」を復号したものはアーカイブではありません。秘密鍵が違うか、バックアップで作られたアーカイブではありません。</translation>
     </message>
+    <message>
+        <source>Cancelled. Nothing of yours was changed.</source>
+        <translation>キャンセルしました。あなたのファイルは変更されていません。</translation>
+    </message>
 </context>
 <context>
     <name>extraction</name>
@@ -2168,6 +2184,22 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
     <message>
         <source>The folder &quot;%1&quot; can&apos;t be made. Choose another one.</source>
         <translation>フォルダー「%1」を作成できません。別のフォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>Testing the archives…</source>
+        <translation>アーカイブをテストしています…</translation>
+    </message>
+    <message>
+        <source>Testing &quot;%1&quot;…</source>
+        <translation>「%1」をテストしています…</translation>
+    </message>
+    <message>
+        <source>Restoring…</source>
+        <translation>復元しています…</translation>
+    </message>
+    <message>
+        <source>Looking into &quot;%1&quot;…</source>
+        <translation>「%1」の中を調べています…</translation>
     </message>
 </context>
 <context>
@@ -3999,6 +4031,14 @@ What you changed is kept only as long as the program runs. Make room, or make th
     <message>
         <source>The backup failed</source>
         <translation>バックアップに失敗しました</translation>
+    </message>
+    <message>
+        <source>Archive looked into</source>
+        <translation>アーカイブの中身を確認しました</translation>
+    </message>
+    <message>
+        <source>The archive can&apos;t be looked into</source>
+        <translation>アーカイブの中身を確認できません</translation>
     </message>
 </context>
 <context>

@@ -1370,14 +1370,6 @@ quillorent-run 无需窗口即可完成同样的工作。</translation>
         <translation>还原</translation>
     </message>
     <message>
-        <source>Testing the archives…</source>
-        <translation>正在检查归档…</translation>
-    </message>
-    <message>
-        <source>Restoring…</source>
-        <translation>正在还原…</translation>
-    </message>
-    <message>
         <source>Progress of restoring</source>
         <translation>还原进度</translation>
     </message>
@@ -1524,6 +1516,22 @@ quillorent-run 无需窗口即可完成同样的工作。</translation>
     <message>
         <source>&amp;Keep running</source>
         <translation>继续运行(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Looking into an archive</source>
+        <translation>正在查看归档</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>正在查看归档的内容。</translation>
+    </message>
+    <message>
+        <source>Stop looking into the archive?</source>
+        <translation>停止查看归档吗？</translation>
+    </message>
+    <message>
+        <source>Nothing of yours has been changed.</source>
+        <translation>您的文件没有任何改变。</translation>
     </message>
 </context>
 <context>
@@ -1731,6 +1739,10 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
     <message>
         <source>Something is running just now. Remove these files when it has ended.</source>
         <translation>有任务正在进行。请在它结束后再删除这些文件。</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>正在查看归档的内容。</translation>
     </message>
 </context>
 <context>
@@ -2126,6 +2138,10 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
         <source>What &quot;%1&quot; was decrypted to is no archive. The private key is wrong, or no backup has made the archive.</source>
         <translation>“%1”解密后得到的不是归档。可能是私钥错误，或者它不是备份的归档。</translation>
     </message>
+    <message>
+        <source>Cancelled. Nothing of yours was changed.</source>
+        <translation>已取消。您的文件没有任何改变。</translation>
+    </message>
 </context>
 <context>
     <name>extraction</name>
@@ -2168,6 +2184,22 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
     <message>
         <source>The folder &quot;%1&quot; can&apos;t be made. Choose another one.</source>
         <translation>无法创建文件夹“%1”。请另选一个。</translation>
+    </message>
+    <message>
+        <source>Testing the archives…</source>
+        <translation>正在检查归档…</translation>
+    </message>
+    <message>
+        <source>Testing &quot;%1&quot;…</source>
+        <translation>正在检查“%1”…</translation>
+    </message>
+    <message>
+        <source>Restoring…</source>
+        <translation>正在还原…</translation>
+    </message>
+    <message>
+        <source>Looking into &quot;%1&quot;…</source>
+        <translation>正在查看“%1”的内容…</translation>
     </message>
 </context>
 <context>
@@ -3999,6 +4031,14 @@ What you changed is kept only as long as the program runs. Make room, or make th
     <message>
         <source>The backup failed</source>
         <translation>备份失败</translation>
+    </message>
+    <message>
+        <source>Archive looked into</source>
+        <translation>归档已查看</translation>
+    </message>
+    <message>
+        <source>The archive can&apos;t be looked into</source>
+        <translation>无法查看归档</translation>
     </message>
 </context>
 <context>

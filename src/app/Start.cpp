@@ -62,9 +62,10 @@ private:
 };
 
 /// What somebody is told who wants to shut the machine down meanwhile.
-QString whyAwake(const RunStart &start)
+QString whyAwake(const RunStart &start, bool onlyLooks)
 {
     const QString &sheet = start.sheet.sheet.name();
+    if (sheet == u"progressPanel02" && onlyLooks) return Words::tr("An archive is being looked into.");
     if (sheet == u"progressPanel02") return Words::tr("Files are being restored, and would not be complete.");
     if (sheet == u"progressPanel03")
         return Words::tr("Folders are being synchronised, and would not be in step.");
@@ -95,7 +96,7 @@ void QuillorentAppDelegate::carryOut(const RunStart &start)
         return;
     }
     if (isWanted(start, findings)) {
-        const StayAwake awake(whyAwake(start));
+        const StayAwake awake(whyAwake(start, !lookedInto().isEmpty()));
         start.work(monitor);
     } else {
         endRun();

@@ -4,7 +4,7 @@
 #include "ui/PanelDialog.h"
 
 #include <QAccessible>
-#include <QApplication>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QUrl>
 
@@ -25,6 +25,9 @@ KindOfRun kindOf(const RunRecord &record)
     if (record.kind == u"extract")
         return {record.kind, u"outputText02"_qs, RunNotices::tr("Files restored"),
                 RunNotices::tr("Restoring failed")};
+    if (record.kind == u"look")
+        return {record.kind, u"outputText02"_qs, RunNotices::tr("Archive looked into"),
+                RunNotices::tr("The archive can't be looked into")};
     if (record.kind == u"sync")
         return {record.kind, u"outputText03"_qs, RunNotices::tr("Folders synchronised"),
                 RunNotices::tr("The synchronisation failed")};
@@ -71,6 +74,7 @@ void RunNotices::look()
         const int hundredth = int(figures.done() * 100);
         if (figures.bytesToDo > 0 && std::exchange(m_shownHundredth, hundredth) != hundredth)
             m_notices->showProgress(figures.done());
+        tellDamage();
         return;
     }
     m_timer.stop();
@@ -79,14 +83,26 @@ void RunNotices::look()
     if (!record.kind.isEmpty() && std::exchange(m_toldOf, record.began) != record.began) tellEnd(record);
 }
 
+// The run waits there until somebody has seen it.
+void RunNotices::tellDamage()
+{
+    const bool isShown = m_controller.extractPanel01.place() != outlets::Panel::Place::Hidden;
+    if (std::exchange(m_isDamageShown, isShown) == isShown || !isShown || isProgramInFront()) return;
+    m_folder.clear();
+    m_notices->show({.title = tr("Restoring failed"),
+                     .text = m_controller.extractReasonText01.text(),
+                     .isFailure = true,
+                     .opensFolder = false});
+}
+
 void RunNotices::tellEnd(const RunRecord &record)
 {
     const KindOfRun kind = kindOf(record);
     if (auto *result = m_window.findChild<QWidget *>(kind.result)) announce(*result, record.summary);
     // Who is here has seen it, and who has cancelled knows.
-    if (record.outcome == Outcome::Cancelled || QApplication::activeWindow()) return;
+    if (record.outcome == Outcome::Cancelled || isProgramInFront()) return;
     const bool isFailure = record.outcome != Outcome::Succeeded;
-    m_folder = isFailure ? QString() : folderToOpen(record);
+    m_folder = isFailure || record.kind == u"look" ? QString() : folderToOpen(record);
     m_notices->show({.title = isFailure ? kind.failed : kind.finished,
                      .text = record.summary,
                      .isFailure = isFailure,

@@ -32,6 +32,7 @@ protected:
 private:
     void begin();
     void look();
+    void tellDamage();
     void tellEnd(const RunRecord &record);
     [[nodiscard]] QString folderToOpen(const RunRecord &record) const;
 
@@ -39,6 +40,7 @@ private:
     QWidget &m_window;
     RunProgress m_progress;
     std::optional<int> m_shownHundredth;
+    bool m_isDamageShown = false;
     QDateTime m_toldOf; ///< when the run began whose end was told last
     QString m_folder;   ///< of the last notice
     QTimer m_timer;

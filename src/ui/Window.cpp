@@ -119,17 +119,18 @@ void Window::askToCancel(const PanelDialog &sheet)
     if (m_question || m_controller.isCancelledByUser()) return;
     // "progressPanel01" has "buttonCancel01".
     auto *cancel = sheet.findChild<QAbstractButton *>(u"buttonCancel"_qs + sheet.objectName().last(2));
-    m_question =
-        ui::askToStop(*this, m_panels->progressSheets(), StopFor::Itself, [cancel] { cancel->click(); });
+    m_question = ui::askToStop(*this, m_panels->progressSheets(), StopFor::Itself,
+                               !m_controller.lookedInto().isEmpty(), [cancel] { cancel->click(); });
 }
 
 void Window::askToStop()
 {
     if (m_question) return;
-    m_question = ui::askToStop(*this, m_panels->progressSheets(), StopFor::Quitting, [this] {
-        m_mayStop = true;
-        close();
-    });
+    m_question = ui::askToStop(*this, m_panels->progressSheets(), StopFor::Quitting,
+                               !m_controller.lookedInto().isEmpty(), [this] {
+                                   m_mayStop = true;
+                                   close();
+                               });
 }
 
 } // namespace ui

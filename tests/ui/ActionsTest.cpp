@@ -202,7 +202,7 @@ TEST_F(ActionsTest, PasswordsAreTypedAndShown)
     const auto &protection = widget<QLabel>(u"protectionText"_qs);
     click(u"protectionButton"_qs);
     EXPECT_TRUE(widget(u"passwordsPage"_qs).isVisible());
-    EXPECT_TRUE(protection.text().contains(u"not entered"));
+    EXPECT_TRUE(protection.text().contains(u"none typed"));
     type(window, u"se<cret"_qs);
     EXPECT_EQ(delegate.passwordSelector(), u"se<cret"_qs);
     EXPECT_TRUE(widget<QLabel>(u"strengthHint"_qs).text().startsWith(u"Easy to guess"));
