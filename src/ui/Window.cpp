@@ -2,6 +2,7 @@
 
 #include "app/QuillorentAppDelegate.h"
 #include "ui/Actions.h"
+#include "ui/Announcer.h"
 #include "ui/Appearance.h"
 #include "ui/Binding.h"
 #include "ui/Derived.h"
@@ -38,7 +39,10 @@ Window::Window(QuillorentAppDelegate &controller)
     connectActions(controller, *this, roots());
     for (PanelDialog *sheet : m_panels->progressSheets())
         connect(sheet, &PanelDialog::closeRequested, this, [this, sheet] { askToCancel(*sheet); });
-    const auto *notices = new RunNotices(controller, *this, m_panels->progressSheets());
+    auto *announcer = new Announcer(*this);
+    for (QWidget *root : m_panels->all())
+        if (auto *panel = qobject_cast<PanelDialog *>(root)) announcer->readAloud(*panel);
+    const auto *notices = new RunNotices(controller, *announcer, m_panels->progressSheets());
     connect(notices, &RunNotices::showRequested, this, &Window::comeToFront);
     m_unsaved = std::make_unique<UnsavedChanges>(controller, *this, *m_form->unsavedText);
     showDerived(controller, *m_form, m_binding->queue());

@@ -50,7 +50,7 @@ class Words:
         return re.sub("&(.)", r"\1", text)  # the letter to press
 
     def pattern(self, context, source):
-        return re.compile(re.escape(self(context, source)).replace("%1", ".*"))
+        return re.compile(re.sub("%.", ".*", re.escape(self(context, source))), re.DOTALL)
 
 
 class Screen:
