@@ -50,6 +50,7 @@ FoldersPage::FoldersPage(QuillorentAppDelegate &controller, Ui::MainWindow &form
         if (isOpen) showInPage(*m_form.archivesBox);
     });
     connect(form.hindranceList, &HindranceList::placeWanted, this, &FoldersPage::goTo);
+    connect(form.secureText02, &QLineEdit::returnPressed, this, &FoldersPage::goOnFromPassword);
     connect(form.mainTabs, &QTabWidget::currentChanged, this, [this] { m_readiness.lookSoon(); });
     connect(&m_readiness, &BackupReadiness::changed, this, [this] {
         showHindrances();
@@ -172,6 +173,19 @@ void FoldersPage::goTo(Hindrance::Place place)
     m_form.mainTabs->setCurrentWidget(page);
     field->setFocus(Qt::OtherFocusReason);
     if (page == m_form.foldersPage) showInPage(*field);
+}
+
+// Whoever has typed it twice wants to use it.
+void FoldersPage::goOnFromPassword()
+{
+    QString password = m_all.passwordSelector();
+    QString repetition = m_all.secureText02.text();
+    const bool isRepeated = !password.isEmpty() && password == repetition;
+    wipe(password);
+    wipe(repetition);
+    if (!isRepeated) return;
+    m_form.mainTabs->setCurrentWidget(m_form.foldersPage);
+    m_form.buttonLaunch01->setFocus(Qt::OtherFocusReason);
 }
 
 // Only on an account that has never backed up anything: who has folders on a list knows the way.

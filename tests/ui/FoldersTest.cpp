@@ -302,8 +302,17 @@ TEST_F(FirstStartTest, LeadsThroughThreeStepsAndNeverComesAgain)
     EXPECT_EQ(window.focusWidget(), &widget(u"secureText01a"_qs));
     EXPECT_FALSE(ui::FirstSteps::wasSeen());
     QTest::keyClicks(window.focusWidget(), u"correct horse"_qs);
+    QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    for (const char *typed : {"correct horsf", "\be"}) {
+        for (; *typed; ++typed)
+            *typed == '\b' ? QTest::keyClick(window.focusWidget(), Qt::Key_Backspace)
+                           : QTest::keyClick(window.focusWidget(), *typed);
+        settle();
+        EXPECT_FALSE(widget(u"foldersPage"_qs).isVisible()) << "a mistyped one leads nowhere";
+        QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+    }
     settle();
-    showTab(u"foldersPage"_qs);
+    EXPECT_EQ(window.focusWidget(), &widget(u"buttonLaunch01"_qs));
     EXPECT_TRUE(widget(u"listTableView"_qs).isVisible());
     EXPECT_TRUE(ui::FirstSteps::wasSeen());
 }
