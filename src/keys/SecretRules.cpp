@@ -91,8 +91,6 @@ CertificateJudgement judgeCertificate(const QString &path)
     const int bits = EVP_PKEY_get_bits(key);
     if (bits >= shortestKey) return {.key = described};
     return {.concern = Words::tr("The key of the certificate \"%1\" has %2 bits; less than %3 can be broken.")
-                           .arg(path)
-                           .arg(bits)
-                           .arg(shortestKey),
+                           .arg(path, QString::number(bits), QString::number(shortestKey)),
             .key = described};
 }

@@ -2,6 +2,7 @@
 
 #include "app/QuillorentAppDelegate.h"
 #include "backup/BackupLook.h"
+#include "ui/Appearance.h"
 #include "ui/CompressionHint.h"
 #include "ui/FirstSteps.h"
 #include "ui/Protection.h"
@@ -273,7 +274,7 @@ void FoldersPage::showProtection()
     else if (m_readiness.verdict() == PasswordTrial::Verdict::Wrong)
         text = tr("%1 – it does not open the archives that are there").arg(text);
     m_form.protectionText->setText(text);
-    m_form.protectionText->setToolTip(text);
+    m_form.protectionText->setToolTip(plainToolTip(text));
 }
 
 void FoldersPage::showArchives()

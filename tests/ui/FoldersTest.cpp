@@ -285,6 +285,42 @@ TEST_F(FoldersTest, TheLastResultStaysAndIsThereAfterARestart)
     EXPECT_FALSE(widget(u"backupResult"_qs).isVisible()) << "it is another profile's";
 }
 
+// Names are text, whatever is in them: markup of theirs would hide and change what is told of them.
+TEST_F(FoldersTest, NamesAreShownAsTheyAre)
+{
+    const QString name = u"<img src=x><b>a&b\n%1"_qs;
+    fs::create_directories((program.folder() / name.toStdString()));
+    writeFile(program.folder() / name.toStdString() / "x.rar.aes.rar", "x");
+    haveDestination(name.toStdString());
+    delegate.addFolders({program.path(name.toStdString())});
+    delegate.listPlist().setValue(name, delegate.currentRecord().deepCopy());
+    delegate.profileCombo01.setTitles({delegate.currentProfile(), name});
+    delegate.profileCombo01.selectTitle(name);
+    delegate.passCombo01.selectIndex(2);
+    delegate.certFile01.setText(program.path(name.toStdString()));
+    delegate.warningText01.setText(name);
+    showTab(u"extractPage"_qs);
+    EXPECT_TRUE(waitUntil([&] { return widget<QLabel>(u"backupsFoundLabel"_qs).text().contains(u"<img"); }));
+    int shown = 0;
+    const auto expectPlain = [&](const QString &text, bool isPlain, const QString &where) {
+        if (!text.contains(u"img src")) return;
+        ++shown;
+        EXPECT_TRUE(isPlain || !Qt::mightBeRichText(text) || text.contains(u"&lt;img"))
+            << where.toStdString() << ": " << text.toStdString();
+    };
+    for (const QWidget *root : window.roots())
+        for (const QWidget *each : root->findChildren<QWidget *>()) {
+            expectPlain(each->toolTip(), false, each->objectName());
+            if (const auto *label = qobject_cast<const QLabel *>(each))
+                expectPlain(label->text(), label->textFormat() == Qt::PlainText, label->objectName());
+            const auto *view = qobject_cast<const QAbstractItemView *>(each);
+            for (int row = 0; view && view->model() && row < view->model()->rowCount(); ++row)
+                expectPlain(view->model()->index(row, 0).data(Qt::ToolTipRole).toString(), false,
+                            view->objectName());
+        }
+    EXPECT_GT(shown, 6) << "the names are seen nowhere";
+}
+
 TEST_F(FirstStartTest, LeadsThroughThreeStepsAndNeverComesAgain)
 {
     writeFile(program.folder() / "docs/a", "x");
