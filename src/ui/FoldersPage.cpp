@@ -273,7 +273,7 @@ void FoldersPage::showProtection()
         text = tr("%1 – it opens the archives that are there").arg(text);
     else if (m_readiness.verdict() == PasswordTrial::Verdict::Wrong)
         text = tr("%1 – it does not open the archives that are there").arg(text);
-    m_form.protectionText->setText(text);
+    m_form.protectionText->setText(breakable(text));
     m_form.protectionText->setToolTip(plainToolTip(text));
 }
 

@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QToolButton>
 
@@ -288,7 +289,9 @@ TEST_F(FoldersTest, TheLastResultStaysAndIsThereAfterARestart)
 // Names are text, whatever is in them: markup of theirs would hide and change what is told of them.
 TEST_F(FoldersTest, NamesAreShownAsTheyAre)
 {
-    const QString name = u"<img src=x><b>a&b\n%1"_qs;
+    const QString name = u"<img src=x><b>a&b\n%1"_qs + QString(200, u'n'); // too long for an archive's
+    auto &scroll = *widget(u"foldersPage"_qs).findChild<QScrollArea *>();
+    const int leastWidth = scroll.widget()->minimumSizeHint().width();
     fs::create_directories((program.folder() / name.toStdString()));
     writeFile(program.folder() / name.toStdString() / "x.rar.aes.rar", "x");
     haveDestination(name.toStdString());
@@ -299,6 +302,9 @@ TEST_F(FoldersTest, NamesAreShownAsTheyAre)
     delegate.passCombo01.selectIndex(2);
     delegate.certFile01.setText(program.path(name.toStdString()));
     delegate.warningText01.setText(name);
+    EXPECT_TRUE(waitUntil([&] { return !missing<QLabel>().isEmpty(); }));
+    settle();
+    EXPECT_EQ(scroll.widget()->minimumSizeHint().width(), leastWidth) << "a name makes the page wide";
     showTab(u"extractPage"_qs);
     EXPECT_TRUE(waitUntil([&] { return widget<QLabel>(u"backupsFoundLabel"_qs).text().contains(u"<img"); }));
     int shown = 0;
