@@ -51,7 +51,8 @@ void PanelDialog::showInFront()
 void PanelDialog::openAsSheet()
 {
     if (!m_windowClosable) {
-        open();
+        setWindowModality(Qt::WindowModal);
+        showInFront();
         return;
     }
     // Qt lets no close event through to a window that a modal dialog blocks.
