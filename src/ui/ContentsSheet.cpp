@@ -56,7 +56,7 @@ void ContentsSheet::open()
     m_model.setListing(listing);
     m_widgets.heading.setText(
         breakable(tr("What \"%1\" holds").arg(quillorentLibrary::lastPathComponent(listing->archive))));
-    m_widgets.heading.setToolTip(plainToolTip(listing->archive));
+    setPlainToolTip(m_widgets.heading, listing->archive);
     openFirstFork();
     m_widgets.tree.setFocus();
 }

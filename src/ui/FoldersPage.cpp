@@ -274,7 +274,7 @@ void FoldersPage::showProtection()
     else if (m_readiness.verdict() == PasswordTrial::Verdict::Wrong)
         text = tr("%1 – it does not open the archives that are there").arg(text);
     m_form.protectionText->setText(breakable(text));
-    m_form.protectionText->setToolTip(plainToolTip(text));
+    setPlainToolTip(*m_form.protectionText, text);
 }
 
 void FoldersPage::showArchives()

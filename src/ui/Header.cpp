@@ -39,9 +39,8 @@ void showWhetherLoaded(const QuillorentAppDelegate &all, QPushButton &load)
     const QString chosen = all.profileCombo01.selectedTitle();
     const bool isOther = !chosen.isEmpty() && chosen != all.currentProfileTextView.text();
     accent(load, isOther);
-    load.setToolTip(isOther
-                        ? plainToolTip(Words::tr("Use “%1”, which is chosen but not in use yet").arg(chosen))
-                        : Words::tr("Use the chosen profile; it is in use already"));
+    setPlainToolTip(load, isOther ? Words::tr("Use “%1”, which is chosen but not in use yet").arg(chosen)
+                                  : Words::tr("Use the chosen profile; it is in use already"));
 }
 
 } // namespace

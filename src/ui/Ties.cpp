@@ -53,7 +53,7 @@ void connectWidget(RefreshQueue &queue, outlets::TextField &field, QLineEdit &ed
         edit.setText(field.text());
         if (!edit.isReadOnly()) return;
         edit.setCursorPosition(0);
-        edit.setToolTip(plainToolTip(field.text()));
+        setPlainToolTip(edit, field.text());
     });
     QObject::connect(&edit, &QLineEdit::textChanged, &edit,
                      [&field](const QString &text) { field.setText(text); });
