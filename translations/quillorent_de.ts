@@ -364,10 +364,6 @@ quillorent-run tut dasselbe ohne Fenster.</translation>
         <translation>Zielordner wählen</translation>
     </message>
     <message>
-        <source>While a folder is packed, it lies there two and a half times</source>
-        <translation>Während ein Ordner gepackt wird, belegt er dort das Zweieinhalbfache seiner Größe</translation>
-    </message>
-    <message>
         <source>Protected by</source>
         <translation>Schutz</translation>
     </message>
@@ -484,10 +480,6 @@ quillorent-run tut dasselbe ohne Fenster.</translation>
         <translation>Zurückzuholende Archi&amp;ve</translation>
     </message>
     <message>
-        <source>Of an archive that was made in several parts, the first one is enough; the others only have to lie beside it</source>
-        <translation>Von einem Archiv aus mehreren Teilen genügt der erste; die anderen müssen nur daneben liegen</translation>
-    </message>
-    <message>
         <source>Archives to be brought back</source>
         <translation>Zurückzuholende Archive</translation>
     </message>
@@ -554,10 +546,6 @@ quillorent-run tut dasselbe ohne Fenster.</translation>
     <message>
         <source>H&amp;ow it is encrypted</source>
         <translation>Verschlüss&amp;elung</translation>
-    </message>
-    <message>
-        <source>Only where an archive was renamed its name may not tell any more how it was encrypted. AES, Blowfish and Triple DES are ways to do it with a password; S/MIME is the way to do it for a certificate, and takes the private key that belongs to it. Both are chosen where passwords are.</source>
-        <translation>Nur wo ein Archiv umbenannt wurde, sagt sein Name womöglich nicht mehr, wie es verschlüsselt ist. AES, Blowfish und Triple DES sind Verfahren mit einem Passwort; S/MIME ist das Verfahren für ein Zertifikat und braucht dessen privaten Schlüssel. Beides wird bei den Passwörtern gewählt.</translation>
     </message>
     <message>
         <source>With the password, by AES</source>
@@ -1051,6 +1039,18 @@ quillorent-run tut dasselbe ohne Fenster.</translation>
         <source>&amp;About Quillorent</source>
         <translation>Ü&amp;ber Quillorent</translation>
     </message>
+    <message>
+        <source>A backup needs more room than its archives do in the end: what is packed and what is encrypted lie here side by side for a while, together about two and a half times as much as the folder</source>
+        <translation>Eine Sicherung braucht mehr Platz, als ihre Archive am Ende belegen: Gepacktes und Verschlüsseltes liegen hier eine Weile nebeneinander, zusammen etwa das Zweieinhalbfache des Ordners</translation>
+    </message>
+    <message>
+        <source>Of an archive that was made in several parts, the first one is enough; the others only have to be in the same folder</source>
+        <translation>Von einem Archiv aus mehreren Teilen genügt der erste; die anderen müssen nur im selben Ordner liegen</translation>
+    </message>
+    <message>
+        <source>The name of an archive tells how it was encrypted; choose it here only where an archive was renamed. AES, Blowfish and Triple DES are ways to do it with a password; S/MIME is the way to do it for a certificate, and takes the private key that belongs to it. Both are chosen where passwords are.</source>
+        <translation>Wie ein Archiv verschlüsselt ist, sagt sein Name; wählen Sie es hier nur, wo ein Archiv umbenannt wurde. AES, Blowfish und Triple DES sind Verfahren mit einem Passwort; S/MIME ist das Verfahren für ein Zertifikat und braucht dessen privaten Schlüssel. Beides wird bei den Passwörtern gewählt.</translation>
+    </message>
 </context>
 <context>
     <name>MessagePanel</name>
@@ -1099,10 +1099,6 @@ quillorent-run tut dasselbe ohne Fenster.</translation>
     <message>
         <source>Can&apos;t start</source>
         <translation>Start nicht möglich</translation>
-    </message>
-    <message>
-        <source>No such name</source>
-        <translation>Name nicht möglich</translation>
     </message>
     <message>
         <source>Certificate not accepted</source>
@@ -1179,6 +1175,10 @@ quillorent-run tut dasselbe ohne Fenster.</translation>
     <message>
         <source>The two are independent of each other once the profiles are saved and the program is started again. Until then a change in one is a change in both.</source>
         <translation>Unabhängig voneinander sind die beiden, sobald die Profile gespeichert sind und das Programm neu gestartet ist. Bis dahin ist eine Änderung in einem eine Änderung in beiden.</translation>
+    </message>
+    <message>
+        <source>Name not accepted</source>
+        <translation>Name nicht angenommen</translation>
     </message>
 </context>
 <context>
@@ -1386,14 +1386,6 @@ quillorent-run tut dasselbe ohne Fenster.</translation>
         <translation>Zurückholen</translation>
     </message>
     <message>
-        <source>Testing the archives…</source>
-        <translation>Archive werden geprüft…</translation>
-    </message>
-    <message>
-        <source>Restoring…</source>
-        <translation>Es wird zurückgeholt…</translation>
-    </message>
-    <message>
         <source>Progress of restoring</source>
         <translation>Fortschritt des Zurückholens</translation>
     </message>
@@ -1432,10 +1424,6 @@ quillorent-run tut dasselbe ohne Fenster.</translation>
 <context>
     <name>Protection</name>
     <message>
-        <source>Typed password – not entered yet</source>
-        <translation>Eingetipptes Passwort – noch nicht eingegeben</translation>
-    </message>
-    <message>
         <source>Typed password</source>
         <translation>Eingetipptes Passwort</translation>
     </message>
@@ -1466,6 +1454,10 @@ quillorent-run tut dasselbe ohne Fenster.</translation>
     <message>
         <source>Certificate: %1</source>
         <translation>Zertifikat: %1</translation>
+    </message>
+    <message>
+        <source>Password – none typed yet</source>
+        <translation>Passwort – noch keins eingetippt</translation>
     </message>
 </context>
 <context>
@@ -1540,6 +1532,22 @@ quillorent-run tut dasselbe ohne Fenster.</translation>
     <message>
         <source>&amp;Keep running</source>
         <translation>&amp;Weiterlaufen lassen</translation>
+    </message>
+    <message>
+        <source>Looking into an archive</source>
+        <translation>Blick in ein Archiv</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>In einem Archiv wird nachgesehen.</translation>
+    </message>
+    <message>
+        <source>Stop looking into the archive?</source>
+        <translation>Nicht weiter im Archiv nachsehen?</translation>
+    </message>
+    <message>
+        <source>Nothing of yours has been changed.</source>
+        <translation>Von Ihren Dateien wurde nichts verändert.</translation>
     </message>
 </context>
 <context>
@@ -1715,22 +1723,8 @@ quillorent-run tut dasselbe ohne Fenster.</translation>
         <translation>Abgebrochen, bevor etwas getan wurde.</translation>
     </message>
     <message>
-        <source>A run is at work, or still ending its tools. Try again when it has ended.</source>
-        <translation>Ein Lauf arbeitet noch oder beendet gerade seine Werkzeuge. Versuchen Sie es erneut, wenn er zu Ende ist.</translation>
-    </message>
-    <message>
         <source>Another profile was opened while the keychain was asked. Start again.</source>
         <translation>Ein anderes Profil wurde geöffnet, während der Schlüsselbund gefragt wurde. Beginnen Sie neu.</translation>
-    </message>
-    <message>
-        <source>Left by a run that did not end well, and not encrypted:
-%1</source>
-        <translation>Von einem Lauf übrig, der nicht gut ausging, und nicht verschlüsselt:
-%1</translation>
-    </message>
-    <message>
-        <source>A run is at work. Remove them when it has ended.</source>
-        <translation>Ein Lauf ist bei der Arbeit. Entfernen Sie die Dateien, wenn er zu Ende ist.</translation>
     </message>
     <message>
         <source>The %1 can&apos;t be read:
@@ -1747,6 +1741,24 @@ Ihre Datei bleibt, wie sie ist. Reparieren Sie sie, oder verschieben Sie sie: De
     <message>
         <source>profiles</source>
         <translation>Profile</translation>
+    </message>
+    <message>
+        <source>Something is running already, or about to end. Try again when it has ended.</source>
+        <translation>Es läuft schon etwas, oder es ist noch nicht ganz zu Ende. Versuchen Sie es danach erneut.</translation>
+    </message>
+    <message>
+        <source>A run that was broken off has left this, and it is not encrypted:
+%1</source>
+        <translation>Von einem abgebrochenen Lauf ist dies übrig, und es ist nicht verschlüsselt:
+%1</translation>
+    </message>
+    <message>
+        <source>Something is running just now. Remove these files when it has ended.</source>
+        <translation>Im Augenblick läuft etwas. Entfernen Sie diese Dateien, wenn es zu Ende ist.</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>In einem Archiv wird nachgesehen.</translation>
     </message>
 </context>
 <context>
@@ -1812,44 +1824,12 @@ Ihre Datei bleibt, wie sie ist. Reparieren Sie sie, oder verschieben Sie sie: De
         <translation>Ausgelassen, weil weder Datei noch Ordner: %1.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; can&apos;t be given another name while its successor is made.</source>
-        <translation>„%1“ lässt sich nicht umbenennen, während der Nachfolger entsteht.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; can&apos;t be given another name while its successor is made: %2.</source>
-        <translation>„%1“ lässt sich nicht umbenennen, während der Nachfolger entsteht: %2.</translation>
-    </message>
-    <message>
         <source>The former archive is called &quot;%1&quot; now: %2.</source>
         <translation>Das frühere Archiv heißt jetzt „%1“: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is left and is not encrypted: run the backup again, or remove it.</source>
         <translation>„%1“ ist übrig und nicht verschlüsselt: Sichern Sie noch einmal, oder entfernen Sie es.</translation>
-    </message>
-    <message>
-        <source>The settings have no %1, and without it files would be lost. Repair the settings file, or move it away: the next start makes a new one.</source>
-        <translation>Den Einstellungen fehlt dies, und ohne das gingen Dateien verloren: %1. Reparieren Sie die Einstellungsdatei, oder verschieben Sie sie: Der nächste Start legt eine neue an.</translation>
-    </message>
-    <message>
-        <source>file extension of archives (&quot;extensions&quot;, &quot;RAR&quot;)</source>
-        <translation>Dateiendung der Archive (&quot;extensions&quot;, &quot;RAR&quot;)</translation>
-    </message>
-    <message>
-        <source>file extension of &quot;%1&quot; (&quot;extensions&quot;)</source>
-        <translation>Dateiendung von „%1“ (&quot;extensions&quot;)</translation>
-    </message>
-    <message>
-        <source>command for &quot;%1&quot; (&quot;encparam&quot;)</source>
-        <translation>Befehl für „%1“ (&quot;encparam&quot;)</translation>
-    </message>
-    <message>
-        <source>path of the archiver (&quot;external&quot;, &quot;RAR&quot;)</source>
-        <translation>Pfad des Packprogramms (&quot;external&quot;, &quot;RAR&quot;)</translation>
-    </message>
-    <message>
-        <source>path of the OpenSSL tool (&quot;external&quot;, &quot;OpenSSL&quot;)</source>
-        <translation>Pfad des OpenSSL-Werkzeugs (&quot;external&quot;, &quot;OpenSSL&quot;)</translation>
     </message>
     <message>
         <source>The profile has no folders. Add those that are to be backed up.</source>
@@ -1906,6 +1886,18 @@ Ihre Datei bleibt, wie sie ist. Reparieren Sie sie, oder verschieben Sie sie: De
     <message>
         <source>and %1 more</source>
         <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be given another name while the new archive is made.</source>
+        <translation>„%1“ lässt sich nicht umbenennen, während das neue Archiv entsteht.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be given another name while the new archive is made: %2.</source>
+        <translation>„%1“ lässt sich nicht umbenennen, während das neue Archiv entsteht: %2.</translation>
+    </message>
+    <message>
+        <source>Something is missing in the settings file, and without it files would be lost: %1. Repair the file, or move it away: the next start makes a new one.</source>
+        <translation>In der Einstellungsdatei fehlt etwas, und ohne das gingen Dateien verloren: %1. Reparieren Sie die Datei, oder verschieben Sie sie: Der nächste Start legt eine neue an.</translation>
     </message>
 </context>
 <context>
@@ -1999,10 +1991,6 @@ Ihre Datei bleibt, wie sie ist. Reparieren Sie sie, oder verschieben Sie sie: De
         <translation>„%1“ enthält eine Verknüpfung, wo die verschlüsselte Datei sein sollte. Eine Sicherung hat es nicht gemacht: Trauen Sie ihm nicht.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not hold the file &quot;%2&quot; that its name promises. Give the archive back the name that it had, or it is none of a backup&apos;s.</source>
-        <translation>„%1“ enthält nicht die Datei „%2“, die der Name verspricht. Geben Sie dem Archiv den Namen zurück, den es hatte; sonst stammt es von keiner Sicherung.</translation>
-    </message>
-    <message>
         <source>The name of &quot;%1&quot; does not tell how it was encrypted. Choose the decryption method, and extract again.</source>
         <translation>Der Name von „%1“ sagt nicht, wie es verschlüsselt ist. Wählen Sie die Art der Verschlüsselung, und entpacken Sie erneut.</translation>
     </message>
@@ -2021,10 +2009,6 @@ Ihre Datei bleibt, wie sie ist. Reparieren Sie sie, oder verschieben Sie sie: De
     <message>
         <source>&quot;%1&quot; can&apos;t be decrypted: %2.</source>
         <translation>„%1“ lässt sich nicht entschlüsseln: %2.</translation>
-    </message>
-    <message>
-        <source>What &quot;%1&quot; was decrypted to is no archive. The private key is wrong, or the archive is none of a backup&apos;s.</source>
-        <translation>Was beim Entschlüsseln von „%1“ herauskam, ist kein Archiv. Der private Schlüssel ist falsch, oder das Archiv stammt von keiner Sicherung.</translation>
     </message>
     <message>
         <source>The password is probably wrong: what &quot;%1&quot; was decrypted to is no archive. Type the one that the archive was made with.</source>
@@ -2165,6 +2149,18 @@ Ihre Datei bleibt, wie sie ist. Reparieren Sie sie, oder verschieben Sie sie: De
         <translation>Teil %1 ist so groß wie die vor ihm, also womöglich nicht der letzte</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; does not hold the file &quot;%2&quot; that its name promises. Give the archive back the name that it had; if it never had another one, no backup has made it.</source>
+        <translation>„%1“ enthält nicht die Datei „%2“, die der Name verspricht. Geben Sie dem Archiv den Namen zurück, den es hatte; hatte es nie einen anderen, stammt es von keiner Sicherung.</translation>
+    </message>
+    <message>
+        <source>What &quot;%1&quot; was decrypted to is no archive. The private key is wrong, or no backup has made the archive.</source>
+        <translation>Was beim Entschlüsseln von „%1“ herauskam, ist kein Archiv. Der private Schlüssel ist falsch, oder das Archiv stammt von keiner Sicherung.</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing of yours was changed.</source>
+        <translation>Abgebrochen. Von Ihren Dateien wurde nichts verändert.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is a link</source>
         <translation>„%1“ ist eine Verknüpfung</translation>
     </message>
@@ -2210,6 +2206,22 @@ Ihre Datei bleibt, wie sie ist. Reparieren Sie sie, oder verschieben Sie sie: De
     <message>
         <source>The folder &quot;%1&quot; can&apos;t be made. Choose another one.</source>
         <translation>Der Ordner „%1“ lässt sich nicht anlegen. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>Testing the archives…</source>
+        <translation>Archive werden geprüft…</translation>
+    </message>
+    <message>
+        <source>Testing &quot;%1&quot;…</source>
+        <translation>„%1“ wird geprüft…</translation>
+    </message>
+    <message>
+        <source>Restoring…</source>
+        <translation>Es wird zurückgeholt…</translation>
+    </message>
+    <message>
+        <source>Looking into &quot;%1&quot;…</source>
+        <translation>In „%1“ wird nachgesehen…</translation>
     </message>
 </context>
 <context>
@@ -2628,10 +2640,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>Das Zertifikat selbst ist nicht mehr verwendbar. </translation>
     </message>
     <message>
-        <source>The certificate &quot;%1&quot; %2. Choose another one on the Password tab.</source>
-        <translation>Das Zertifikat „%1“ %2. Wählen Sie ein anderes auf der Seite „Passwort“.</translation>
-    </message>
-    <message>
         <source>No password is given. Type one on the Password tab; without a password nothing is backed up.</source>
         <translation>Es ist kein Passwort angegeben. Tippen Sie eines auf der Seite „Passwort“ ein; ohne Passwort wird nichts gesichert.</translation>
     </message>
@@ -2652,22 +2660,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>Es ist kein Zertifikat gewählt. Wählen Sie eines auf der Seite „Passwort“.</translation>
     </message>
     <message>
-        <source>is not there, or can&apos;t be read</source>
-        <translation>ist nicht da oder nicht lesbar</translation>
-    </message>
-    <message>
-        <source>is a private key</source>
-        <translation>ist ein privater Schlüssel</translation>
-    </message>
-    <message>
-        <source>is no certificate in PEM, the text form</source>
-        <translation>ist kein Zertifikat in PEM, der Textform</translation>
-    </message>
-    <message>
-        <source>has no RSA key, and nothing can be encrypted to another kind</source>
-        <translation>hat keinen RSA-Schlüssel, und für einen anderen kann nicht verschlüsselt werden</translation>
-    </message>
-    <message>
         <source>The key of the certificate &quot;%1&quot; has %2 bits; less than %3 can be broken.</source>
         <translation>Der Schlüssel des Zertifikats „%1“ hat %2 Bit; weniger als %3 lassen sich brechen.</translation>
     </message>
@@ -2678,6 +2670,22 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
     <message>
         <source>unknown kind</source>
         <translation>unbekannte Art</translation>
+    </message>
+    <message>
+        <source>The certificate &quot;%1&quot; is not there, or can&apos;t be read. Choose another one on the Password tab.</source>
+        <translation>Das Zertifikat „%1“ ist nicht da oder nicht lesbar. Wählen Sie ein anderes auf der Seite „Passwort“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is chosen as the certificate, but it is a private key. Choose the certificate that belongs to it on the Password tab.</source>
+        <translation>„%1“ ist als Zertifikat gewählt, ist aber ein privater Schlüssel. Wählen Sie das zugehörige Zertifikat auf der Seite „Passwort“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no certificate in the form that is needed here, which is PEM, a text file. Choose another one on the Password tab.</source>
+        <translation>„%1“ ist kein Zertifikat in der Form, die hier nötig ist, nämlich PEM, einer Textdatei. Wählen Sie ein anderes auf der Seite „Passwort“.</translation>
+    </message>
+    <message>
+        <source>The certificate &quot;%1&quot; has a key of another kind than RSA, and only RSA keys can be used here. Choose another one on the Password tab.</source>
+        <translation>Das Zertifikat „%1“ hat einen anderen als einen RSA-Schlüssel, und nur solche sind hier verwendbar. Wählen Sie ein anderes auf der Seite „Passwort“.</translation>
     </message>
 </context>
 <context>
@@ -2752,10 +2760,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
 </context>
 <context>
     <name>plist</name>
-    <message>
-        <source>U+%1, which XML can&apos;t carry</source>
-        <translation>U+%1, das XML nicht fassen kann</translation>
-    </message>
     <message>
         <source>declarations within the document are not supported</source>
         <translation>Deklarationen innerhalb des Dokuments werden nicht unterstützt</translation>
@@ -2881,10 +2885,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>%1: nicht in UTF-8</translation>
     </message>
     <message>
-        <source>the value under “%1” %2</source>
-        <translation>der Wert unter „%1“ %2</translation>
-    </message>
-    <message>
         <source>it can&apos;t be put into XML</source>
         <translation>der Inhalt lässt sich nicht in XML fassen</translation>
     </message>
@@ -2893,24 +2893,24 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>sie würde größer als %1 MiB</translation>
     </message>
     <message>
-        <source>is nested deeper than %1 levels</source>
-        <translation>ist tiefer als %1 Ebenen verschachtelt</translation>
-    </message>
-    <message>
-        <source>is a date that a property list can&apos;t carry</source>
-        <translation>ist ein Datum, das eine Property-Liste nicht fassen kann</translation>
-    </message>
-    <message>
         <source>there is nothing to write</source>
         <translation>es gibt nichts zu schreiben</translation>
     </message>
     <message>
-        <source>it holds %1</source>
-        <translation>sie enthält %1</translation>
+        <source>it has a character that such a file can&apos;t hold (%1)</source>
+        <translation>sie enthält ein Zeichen, das in einer solchen Datei nicht stehen kann (%1)</translation>
     </message>
     <message>
-        <source>holds %1</source>
-        <translation>enthält %1</translation>
+        <source>the value under “%2” is nested deeper than %1 levels</source>
+        <translation>der Wert unter „%2“ ist tiefer als %1 Ebenen verschachtelt</translation>
+    </message>
+    <message>
+        <source>the value under “%1” is a date that the file can&apos;t hold</source>
+        <translation>der Wert unter „%1“ ist ein Datum, das in der Datei nicht stehen kann</translation>
+    </message>
+    <message>
+        <source>the value under “%2” has a character that the file can&apos;t hold (%1)</source>
+        <translation>der Wert unter „%2“ enthält ein Zeichen, das in der Datei nicht stehen kann (%1)</translation>
     </message>
 </context>
 <context>
@@ -3033,14 +3033,6 @@ Was Sie geändert haben, bleibt nur, solange das Programm läuft. Schaffen Sie P
         <translation>Ein anderer Lauf schreibt in „%1“, oder seine Werkzeuge tun es noch. Warten Sie, bis er zu Ende ist.</translation>
     </message>
     <message>
-        <source>No record of the run can be kept: %1. What it leaves if it is interrupted could not be told from files of your own.</source>
-        <translation>Vom Lauf lässt sich kein Protokoll führen: %1. Was er bei einer Unterbrechung zurücklässt, wäre von Ihren eigenen Dateien nicht zu unterscheiden.</translation>
-    </message>
-    <message>
-        <source>The OpenSSL that is registered derives keys from passwords in another way than the archives need. Choose Quillorent&apos;s own on the Tools tab; the password may be right.</source>
-        <translation>Das eingetragene OpenSSL leitet Schlüssel anders aus Passwörtern ab, als die Archive es brauchen. Wählen Sie das von Quillorent auf der Seite „Werkzeuge“; das Passwort kann richtig sein.</translation>
-    </message>
-    <message>
         <source>Collecting</source>
         <translation>Sammeln</translation>
     </message>
@@ -3139,13 +3131,17 @@ Was Sie geändert haben, bleibt nur, solange das Programm läuft. Schaffen Sie P
         <source>the folder &quot;%1&quot; can&apos;t be made</source>
         <translation>der Ordner „%1“ lässt sich nicht anlegen</translation>
     </message>
+    <message>
+        <source>It can&apos;t be written down what this run does: %1. If it is interrupted, nobody could tell what it leaves from files of your own.</source>
+        <translation>Was dieser Lauf tut, lässt sich nicht festhalten: %1. Wird er unterbrochen, wäre das, was er zurücklässt, von Ihren eigenen Dateien nicht zu unterscheiden.</translation>
+    </message>
+    <message>
+        <source>The OpenSSL program that is chosen on the Tools tab makes something else of a password than these archives need, so it can&apos;t open them. Choose Quillorent&apos;s own there; the password may be right.</source>
+        <translation>Das OpenSSL-Programm, das auf der Seite „Werkzeuge“ gewählt ist, macht aus einem Passwort etwas anderes, als diese Archive brauchen, und kann sie deshalb nicht öffnen. Wählen Sie dort das von Quillorent; das Passwort kann richtig sein.</translation>
+    </message>
 </context>
 <context>
     <name>settings</name>
-    <message>
-        <source>The folder can&apos;t be made: </source>
-        <translation>Der Ordner lässt sich nicht anlegen: </translation>
-    </message>
     <message>
         <source>“%1” may not be written, nor moved out of the way: what is changed can&apos;t be saved.</source>
         <translation>„%1“ darf weder beschrieben noch beiseitegelegt werden: Änderungen können nicht gespeichert werden.</translation>
@@ -3155,16 +3151,8 @@ Was Sie geändert haben, bleibt nur, solange das Programm läuft. Schaffen Sie P
         <translation>Dieses Benutzerkonto darf „%1“ nicht beschreiben. Die Datei bleibt als „%2“ erhalten, und eine neue mit den Voreinstellungen des Programms ist an ihre Stelle getreten.</translation>
     </message>
     <message>
-        <source> can&apos;t be read, nor kept beside a new one: it is not saved over</source>
-        <translation> ist nicht lesbar und lässt sich nicht neben einer neuen Datei aufbewahren: Es wird nicht überschrieben</translation>
-    </message>
-    <message>
         <source>“%1” could not be read when it was saved over. What it held is kept as “%2”.</source>
         <translation>„%1“ war nicht lesbar, als es überschrieben wurde. Was es enthielt, bleibt als „%2“ erhalten.</translation>
-    </message>
-    <message>
-        <source>: what is to be replaced can&apos;t be kept beside it</source>
-        <translation>: Was ersetzt werden soll, lässt sich nicht daneben erhalten</translation>
     </message>
     <message>
         <source>What others had changed in “%1” is kept as “%2”.</source>
@@ -3173,6 +3161,18 @@ Was Sie geändert haben, bleibt nur, solange das Programm läuft. Schaffen Sie P
     <message>
         <source>What you had changed in “%1” is kept as “%2”.</source>
         <translation>Was Sie in „%1“ geändert hatten, bleibt als „%2“ erhalten.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; can&apos;t be made</source>
+        <translation>Der Ordner „%1“ lässt sich nicht anlegen</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be read, and no copy of it can be kept: so it is not saved over</source>
+        <translation>„%1“ ist nicht lesbar, und es lässt sich keine Kopie davon aufbewahren: Deshalb wird sie nicht überschrieben</translation>
+    </message>
+    <message>
+        <source>Of “%1” no copy can be kept: so it is not saved over</source>
+        <translation>Von „%1“ lässt sich keine Kopie aufbewahren: Deshalb wird sie nicht überschrieben</translation>
     </message>
 </context>
 <context>
@@ -3312,10 +3312,6 @@ Was Sie geändert haben, bleibt nur, solange das Programm läuft. Schaffen Sie P
     <message>
         <source>ssh has noted the server&apos;s key, and what it said counts as a failure. Run it once more.</source>
         <translation>ssh hat sich den Schlüssel des Servers gemerkt, und seine Meldung darüber zählt als Fehlschlag. Gleichen Sie noch einmal ab.</translation>
-    </message>
-    <message>
-        <source>rsync was not content; what it said follows.</source>
-        <translation>rsync war nicht zufrieden; was es sagte, folgt.</translation>
     </message>
     <message>
         <source> Nothing was deleted at the destination.</source>
@@ -3473,6 +3469,10 @@ Was Sie geändert haben, bleibt nur, solange das Programm läuft. Schaffen Sie P
             <numerusform>%n Einträge</numerusform>
         </translation>
     </message>
+    <message>
+        <source>rsync, the program that copies, reported a problem; its own words follow.</source>
+        <translation>rsync, das Programm, das kopiert, hat ein Problem gemeldet; seine eigenen Worte folgen.</translation>
+    </message>
 </context>
 <context>
     <name>synchronisation</name>
@@ -3516,10 +3516,6 @@ Was Sie geändert haben, bleibt nur, solange das Programm läuft. Schaffen Sie P
 <context>
     <name>tools</name>
     <message>
-        <source>This OpenSSL can&apos;t be used by itself: it derives keys from passwords in another way than archives of this program need, and complains of it. Choose Quillorent&apos;s own &quot;openssl&quot;, which uses it.</source>
-        <translation>Dieses OpenSSL ist allein nicht verwendbar: Es leitet Schlüssel anders aus Passwörtern ab, als die Archive dieses Programms es brauchen, und beschwert sich darüber. Wählen Sie das „openssl“ von Quillorent, das dieses hier benutzt.</translation>
-    </message>
-    <message>
         <source>Choose a tool</source>
         <translation>Werkzeug wählen</translation>
     </message>
@@ -3538,6 +3534,10 @@ Was Sie geändert haben, bleibt nur, solange das Programm läuft. Schaffen Sie P
     <message>
         <source>Can&apos;t start &quot;%1&quot;: %2. Choose the tool&apos;s path on the Tools tab.</source>
         <translation>„%1“ lässt sich nicht starten: %2. Wählen Sie den Pfad des Werkzeugs auf der Seite „Werkzeuge“.</translation>
+    </message>
+    <message>
+        <source>This OpenSSL can&apos;t be used by itself: it makes something else of a password than archives of this program need, and complains of it. Choose Quillorent&apos;s own &quot;openssl&quot;, which uses it.</source>
+        <translation>Dieses OpenSSL ist allein nicht verwendbar: Es macht aus einem Passwort etwas anderes, als die Archive dieses Programms brauchen, und beschwert sich darüber. Wählen Sie das „openssl“ von Quillorent, das dieses hier benutzt.</translation>
     </message>
     <message>
         <source>the tool&apos;s message is not readable text</source>
@@ -4066,6 +4066,14 @@ Was Sie geändert haben, bleibt nur, solange das Programm läuft. Schaffen Sie P
     <message>
         <source>The backup failed</source>
         <translation>Sicherung fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Archive looked into</source>
+        <translation>Im Archiv nachgesehen</translation>
+    </message>
+    <message>
+        <source>The archive can&apos;t be looked into</source>
+        <translation>Im Archiv ließ sich nicht nachsehen</translation>
     </message>
 </context>
 <context>

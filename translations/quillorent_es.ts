@@ -364,10 +364,6 @@ quillorent-run hace lo mismo sin ella.</translation>
         <translation>Elegir la carpeta de destino</translation>
     </message>
     <message>
-        <source>While a folder is packed, it lies there two and a half times</source>
-        <translation>Mientras se empaqueta una carpeta, ocupa allí dos veces y media su tamaño</translation>
-    </message>
-    <message>
         <source>Protected by</source>
         <translation>Protección</translation>
     </message>
@@ -484,10 +480,6 @@ quillorent-run hace lo mismo sin ella.</translation>
         <translation>Para rec&amp;uperar</translation>
     </message>
     <message>
-        <source>Of an archive that was made in several parts, the first one is enough; the others only have to lie beside it</source>
-        <translation>De un paquete hecho en varias partes basta la primera; las demás solo tienen que estar junto a ella</translation>
-    </message>
-    <message>
         <source>Archives to be brought back</source>
         <translation>Paquetes para recuperar</translation>
     </message>
@@ -554,10 +546,6 @@ quillorent-run hace lo mismo sin ella.</translation>
     <message>
         <source>H&amp;ow it is encrypted</source>
         <translation>Cómo está cifrad&amp;o</translation>
-    </message>
-    <message>
-        <source>Only where an archive was renamed its name may not tell any more how it was encrypted. AES, Blowfish and Triple DES are ways to do it with a password; S/MIME is the way to do it for a certificate, and takes the private key that belongs to it. Both are chosen where passwords are.</source>
-        <translation>Solo cuando se ha cambiado el nombre de un paquete puede ocurrir que el nombre ya no indique cómo se cifró. AES, Blowfish y Triple DES son formas de cifrar con una contraseña; S/MIME es la forma de cifrar para un certificado y necesita la clave privada que le corresponde. Ambas cosas se eligen donde están las contraseñas.</translation>
     </message>
     <message>
         <source>With the password, by AES</source>
@@ -1051,6 +1039,18 @@ quillorent-run hace lo mismo sin ella.</translation>
         <source>&amp;About Quillorent</source>
         <translation>&amp;Acerca de Quillorent</translation>
     </message>
+    <message>
+        <source>A backup needs more room than its archives do in the end: what is packed and what is encrypted lie here side by side for a while, together about two and a half times as much as the folder</source>
+        <translation>Una copia necesita más espacio del que ocupan al final sus paquetes: lo empaquetado y lo cifrado están aquí a la vez durante un tiempo, en total unas dos veces y media el tamaño de la carpeta</translation>
+    </message>
+    <message>
+        <source>Of an archive that was made in several parts, the first one is enough; the others only have to be in the same folder</source>
+        <translation>De un paquete hecho en varias partes basta la primera; las demás solo tienen que estar en la misma carpeta</translation>
+    </message>
+    <message>
+        <source>The name of an archive tells how it was encrypted; choose it here only where an archive was renamed. AES, Blowfish and Triple DES are ways to do it with a password; S/MIME is the way to do it for a certificate, and takes the private key that belongs to it. Both are chosen where passwords are.</source>
+        <translation>El nombre de un paquete indica cómo se cifró; elíjalo aquí solo si se ha cambiado el nombre de un paquete. AES, Blowfish y Triple DES son formas de cifrar con una contraseña; S/MIME es la forma de cifrar para un certificado y necesita la clave privada que le corresponde. Ambas cosas se eligen donde están las contraseñas.</translation>
+    </message>
 </context>
 <context>
     <name>MessagePanel</name>
@@ -1099,10 +1099,6 @@ quillorent-run hace lo mismo sin ella.</translation>
     <message>
         <source>Can&apos;t start</source>
         <translation>No se puede empezar</translation>
-    </message>
-    <message>
-        <source>No such name</source>
-        <translation>Nombre no válido</translation>
     </message>
     <message>
         <source>Certificate not accepted</source>
@@ -1179,6 +1175,10 @@ quillorent-run hace lo mismo sin ella.</translation>
     <message>
         <source>The two are independent of each other once the profiles are saved and the program is started again. Until then a change in one is a change in both.</source>
         <translation>Los dos son independientes una vez que se guardan los perfiles y se inicia de nuevo el programa. Hasta entonces, un cambio en uno es un cambio en ambos.</translation>
+    </message>
+    <message>
+        <source>Name not accepted</source>
+        <translation>Nombre no aceptado</translation>
     </message>
 </context>
 <context>
@@ -1386,14 +1386,6 @@ quillorent-run hace lo mismo sin ella.</translation>
         <translation>Restauración</translation>
     </message>
     <message>
-        <source>Testing the archives…</source>
-        <translation>Probando los paquetes…</translation>
-    </message>
-    <message>
-        <source>Restoring…</source>
-        <translation>Restaurando…</translation>
-    </message>
-    <message>
         <source>Progress of restoring</source>
         <translation>Progreso de la restauración</translation>
     </message>
@@ -1432,10 +1424,6 @@ quillorent-run hace lo mismo sin ella.</translation>
 <context>
     <name>Protection</name>
     <message>
-        <source>Typed password – not entered yet</source>
-        <translation>Contraseña escrita – aún no introducida</translation>
-    </message>
-    <message>
         <source>Typed password</source>
         <translation>Contraseña escrita</translation>
     </message>
@@ -1466,6 +1454,10 @@ quillorent-run hace lo mismo sin ella.</translation>
     <message>
         <source>Certificate: %1</source>
         <translation>Certificado: %1</translation>
+    </message>
+    <message>
+        <source>Password – none typed yet</source>
+        <translation>Contraseña – aún no se ha escrito ninguna</translation>
     </message>
 </context>
 <context>
@@ -1540,6 +1532,22 @@ quillorent-run hace lo mismo sin ella.</translation>
     <message>
         <source>&amp;Keep running</source>
         <translation>&amp;Continuar</translation>
+    </message>
+    <message>
+        <source>Looking into an archive</source>
+        <translation>Contenido de un paquete</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>Se está mirando qué contiene un paquete.</translation>
+    </message>
+    <message>
+        <source>Stop looking into the archive?</source>
+        <translation>¿Dejar de mirar qué contiene el paquete?</translation>
+    </message>
+    <message>
+        <source>Nothing of yours has been changed.</source>
+        <translation>No se ha cambiado ninguno de sus archivos.</translation>
     </message>
 </context>
 <context>
@@ -1715,22 +1723,8 @@ quillorent-run hace lo mismo sin ella.</translation>
         <translation>Cancelado antes de hacer nada.</translation>
     </message>
     <message>
-        <source>A run is at work, or still ending its tools. Try again when it has ended.</source>
-        <translation>Hay una operación en curso, o sus herramientas aún están terminando. Inténtelo de nuevo cuando acabe.</translation>
-    </message>
-    <message>
         <source>Another profile was opened while the keychain was asked. Start again.</source>
         <translation>Se abrió otro perfil mientras se consultaba el llavero. Empiece de nuevo.</translation>
-    </message>
-    <message>
-        <source>Left by a run that did not end well, and not encrypted:
-%1</source>
-        <translation>Restos sin cifrar de una operación que no acabó bien:
-%1</translation>
-    </message>
-    <message>
-        <source>A run is at work. Remove them when it has ended.</source>
-        <translation>Hay una operación en curso. Elimínelos cuando acabe.</translation>
     </message>
     <message>
         <source>The %1 can&apos;t be read:
@@ -1747,6 +1741,24 @@ Su archivo se queda como está. Repárelo o muévalo a otro lugar: en el próxim
     <message>
         <source>profiles</source>
         <translation>perfiles</translation>
+    </message>
+    <message>
+        <source>Something is running already, or about to end. Try again when it has ended.</source>
+        <translation>Ya hay una operación en curso, o a punto de acabar. Inténtelo de nuevo cuando acabe.</translation>
+    </message>
+    <message>
+        <source>A run that was broken off has left this, and it is not encrypted:
+%1</source>
+        <translation>Una operación interrumpida ha dejado esto, y no está cifrado:
+%1</translation>
+    </message>
+    <message>
+        <source>Something is running just now. Remove these files when it has ended.</source>
+        <translation>Hay una operación en curso. Elimine estos archivos cuando acabe.</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>Se está mirando qué contiene un paquete.</translation>
     </message>
 </context>
 <context>
@@ -1812,44 +1824,12 @@ Su archivo se queda como está. Repárelo o muévalo a otro lugar: en el próxim
         <translation>Omitidos, por no ser ni archivos ni carpetas: %1.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; can&apos;t be given another name while its successor is made.</source>
-        <translation>No se puede dar otro nombre a “%1” mientras se hace su sucesor.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; can&apos;t be given another name while its successor is made: %2.</source>
-        <translation>No se puede dar otro nombre a “%1” mientras se hace su sucesor: %2.</translation>
-    </message>
-    <message>
         <source>The former archive is called &quot;%1&quot; now: %2.</source>
         <translation>El paquete anterior se llama ahora “%1”: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is left and is not encrypted: run the backup again, or remove it.</source>
         <translation>“%1” ha quedado sin cifrar: vuelva a hacer la copia o elimínelo.</translation>
-    </message>
-    <message>
-        <source>The settings have no %1, and without it files would be lost. Repair the settings file, or move it away: the next start makes a new one.</source>
-        <translation>Falta en los ajustes: %1; sin eso se perderían archivos. Repare el archivo de ajustes o muévalo a otro lugar: en el próximo inicio se crea uno nuevo.</translation>
-    </message>
-    <message>
-        <source>file extension of archives (&quot;extensions&quot;, &quot;RAR&quot;)</source>
-        <translation>extensión de archivo de los paquetes (&quot;extensions&quot;, &quot;RAR&quot;)</translation>
-    </message>
-    <message>
-        <source>file extension of &quot;%1&quot; (&quot;extensions&quot;)</source>
-        <translation>extensión de archivo de “%1” (&quot;extensions&quot;)</translation>
-    </message>
-    <message>
-        <source>command for &quot;%1&quot; (&quot;encparam&quot;)</source>
-        <translation>comando para “%1” (&quot;encparam&quot;)</translation>
-    </message>
-    <message>
-        <source>path of the archiver (&quot;external&quot;, &quot;RAR&quot;)</source>
-        <translation>ruta del empaquetador (&quot;external&quot;, &quot;RAR&quot;)</translation>
-    </message>
-    <message>
-        <source>path of the OpenSSL tool (&quot;external&quot;, &quot;OpenSSL&quot;)</source>
-        <translation>ruta de la herramienta OpenSSL (&quot;external&quot;, &quot;OpenSSL&quot;)</translation>
     </message>
     <message>
         <source>The profile has no folders. Add those that are to be backed up.</source>
@@ -1906,6 +1886,18 @@ Su archivo se queda como está. Repárelo o muévalo a otro lugar: en el próxim
     <message>
         <source>and %1 more</source>
         <translation>y %1 más</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be given another name while the new archive is made.</source>
+        <translation>No se puede dar otro nombre a “%1” mientras se hace el paquete nuevo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be given another name while the new archive is made: %2.</source>
+        <translation>No se puede dar otro nombre a “%1” mientras se hace el paquete nuevo: %2.</translation>
+    </message>
+    <message>
+        <source>Something is missing in the settings file, and without it files would be lost: %1. Repair the file, or move it away: the next start makes a new one.</source>
+        <translation>En el archivo de ajustes falta algo sin lo que se perderían archivos: %1. Repare el archivo o muévalo a otro lugar: en el próximo inicio se crea uno nuevo.</translation>
     </message>
 </context>
 <context>
@@ -1999,10 +1991,6 @@ Su archivo se queda como está. Repárelo o muévalo a otro lugar: en el próxim
         <translation>“%1” contiene un enlace donde debería estar el archivo cifrado. No procede de una copia de seguridad: no se fíe de él.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not hold the file &quot;%2&quot; that its name promises. Give the archive back the name that it had, or it is none of a backup&apos;s.</source>
-        <translation>“%1” no contiene el archivo “%2” que su nombre promete. Devuelva al paquete el nombre que tenía; si no, no procede de una copia de seguridad.</translation>
-    </message>
-    <message>
         <source>The name of &quot;%1&quot; does not tell how it was encrypted. Choose the decryption method, and extract again.</source>
         <translation>El nombre de “%1” no indica cómo se cifró. Elija el método de descifrado y vuelva a extraer.</translation>
     </message>
@@ -2021,10 +2009,6 @@ Su archivo se queda como está. Repárelo o muévalo a otro lugar: en el próxim
     <message>
         <source>&quot;%1&quot; can&apos;t be decrypted: %2.</source>
         <translation>“%1” no se puede descifrar: %2.</translation>
-    </message>
-    <message>
-        <source>What &quot;%1&quot; was decrypted to is no archive. The private key is wrong, or the archive is none of a backup&apos;s.</source>
-        <translation>Lo que resulta de descifrar “%1” no es un paquete. La clave privada es incorrecta, o el paquete no procede de una copia de seguridad.</translation>
     </message>
     <message>
         <source>The password is probably wrong: what &quot;%1&quot; was decrypted to is no archive. Type the one that the archive was made with.</source>
@@ -2165,6 +2149,18 @@ Su archivo se queda como está. Repárelo o muévalo a otro lugar: en el próxim
         <translation>el volumen %1 es tan grande como los anteriores, así que puede no ser el último</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; does not hold the file &quot;%2&quot; that its name promises. Give the archive back the name that it had; if it never had another one, no backup has made it.</source>
+        <translation>“%1” no contiene el archivo “%2” que su nombre promete. Devuelva al paquete el nombre que tenía; si nunca tuvo otro, no procede de una copia de seguridad.</translation>
+    </message>
+    <message>
+        <source>What &quot;%1&quot; was decrypted to is no archive. The private key is wrong, or no backup has made the archive.</source>
+        <translation>Lo que resulta de descifrar “%1” no es un paquete. La clave privada es incorrecta, o el paquete no procede de una copia de seguridad.</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing of yours was changed.</source>
+        <translation>Cancelado. No se ha cambiado ninguno de sus archivos.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is a link</source>
         <translation>“%1” es un enlace</translation>
     </message>
@@ -2210,6 +2206,22 @@ Su archivo se queda como está. Repárelo o muévalo a otro lugar: en el próxim
     <message>
         <source>The folder &quot;%1&quot; can&apos;t be made. Choose another one.</source>
         <translation>No se puede crear la carpeta “%1”. Elija otra.</translation>
+    </message>
+    <message>
+        <source>Testing the archives…</source>
+        <translation>Probando los paquetes…</translation>
+    </message>
+    <message>
+        <source>Testing &quot;%1&quot;…</source>
+        <translation>Probando “%1”…</translation>
+    </message>
+    <message>
+        <source>Restoring…</source>
+        <translation>Restaurando…</translation>
+    </message>
+    <message>
+        <source>Looking into &quot;%1&quot;…</source>
+        <translation>Mirando qué contiene “%1”…</translation>
     </message>
 </context>
 <context>
@@ -2628,10 +2640,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>El propio certificado ya no se puede usar. </translation>
     </message>
     <message>
-        <source>The certificate &quot;%1&quot; %2. Choose another one on the Password tab.</source>
-        <translation>El certificado “%1” %2. Elija otro en la pestaña Contraseña.</translation>
-    </message>
-    <message>
         <source>No password is given. Type one on the Password tab; without a password nothing is backed up.</source>
         <translation>No se ha dado ninguna contraseña. Escriba una en la pestaña Contraseña; sin contraseña no se hace ninguna copia.</translation>
     </message>
@@ -2652,22 +2660,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>No se ha elegido ningún certificado. Elija uno en la pestaña Contraseña.</translation>
     </message>
     <message>
-        <source>is not there, or can&apos;t be read</source>
-        <translation>no está ahí o no se puede leer</translation>
-    </message>
-    <message>
-        <source>is a private key</source>
-        <translation>es una clave privada</translation>
-    </message>
-    <message>
-        <source>is no certificate in PEM, the text form</source>
-        <translation>no es un certificado en PEM, el formato de texto</translation>
-    </message>
-    <message>
-        <source>has no RSA key, and nothing can be encrypted to another kind</source>
-        <translation>no tiene clave RSA, y no se puede cifrar para otro tipo de clave</translation>
-    </message>
-    <message>
         <source>The key of the certificate &quot;%1&quot; has %2 bits; less than %3 can be broken.</source>
         <translation>La clave del certificado “%1” tiene %2 bits; las de menos de %3 se pueden romper.</translation>
     </message>
@@ -2678,6 +2670,22 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
     <message>
         <source>unknown kind</source>
         <translation>tipo desconocido</translation>
+    </message>
+    <message>
+        <source>The certificate &quot;%1&quot; is not there, or can&apos;t be read. Choose another one on the Password tab.</source>
+        <translation>El certificado “%1” no está ahí o no se puede leer. Elija otro en la pestaña Contraseña.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is chosen as the certificate, but it is a private key. Choose the certificate that belongs to it on the Password tab.</source>
+        <translation>“%1” está elegido como certificado, pero es una clave privada. Elija en la pestaña Contraseña el certificado que le corresponde.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no certificate in the form that is needed here, which is PEM, a text file. Choose another one on the Password tab.</source>
+        <translation>“%1” no es un certificado en el formato que se necesita aquí, PEM, un archivo de texto. Elija otro en la pestaña Contraseña.</translation>
+    </message>
+    <message>
+        <source>The certificate &quot;%1&quot; has a key of another kind than RSA, and only RSA keys can be used here. Choose another one on the Password tab.</source>
+        <translation>El certificado “%1” tiene una clave que no es RSA, y aquí solo se pueden usar claves RSA. Elija otro en la pestaña Contraseña.</translation>
     </message>
 </context>
 <context>
@@ -2752,10 +2760,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
 </context>
 <context>
     <name>plist</name>
-    <message>
-        <source>U+%1, which XML can&apos;t carry</source>
-        <translation>U+%1, que XML no admite</translation>
-    </message>
     <message>
         <source>declarations within the document are not supported</source>
         <translation>no se admiten declaraciones dentro del documento</translation>
@@ -2881,10 +2885,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>%1: no está en UTF-8</translation>
     </message>
     <message>
-        <source>the value under “%1” %2</source>
-        <translation>el valor de “%1” %2</translation>
-    </message>
-    <message>
         <source>it can&apos;t be put into XML</source>
         <translation>no se puede pasar a XML</translation>
     </message>
@@ -2893,24 +2893,24 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>ocuparía más de %1 MiB</translation>
     </message>
     <message>
-        <source>is nested deeper than %1 levels</source>
-        <translation>tiene más de %1 niveles de anidamiento</translation>
-    </message>
-    <message>
-        <source>is a date that a property list can&apos;t carry</source>
-        <translation>es una fecha que una lista de propiedades no admite</translation>
-    </message>
-    <message>
         <source>there is nothing to write</source>
         <translation>no hay nada que escribir</translation>
     </message>
     <message>
-        <source>it holds %1</source>
-        <translation>contiene %1</translation>
+        <source>it has a character that such a file can&apos;t hold (%1)</source>
+        <translation>contiene un carácter que un archivo así no admite (%1)</translation>
     </message>
     <message>
-        <source>holds %1</source>
-        <translation>contiene %1</translation>
+        <source>the value under “%2” is nested deeper than %1 levels</source>
+        <translation>el valor de “%2” tiene más de %1 niveles de anidamiento</translation>
+    </message>
+    <message>
+        <source>the value under “%1” is a date that the file can&apos;t hold</source>
+        <translation>el valor de “%1” es una fecha que el archivo no admite</translation>
+    </message>
+    <message>
+        <source>the value under “%2” has a character that the file can&apos;t hold (%1)</source>
+        <translation>el valor de “%2” contiene un carácter que el archivo no admite (%1)</translation>
     </message>
 </context>
 <context>
@@ -3033,14 +3033,6 @@ Lo que ha cambiado se conserva solo mientras el programa esté abierto. Libere e
         <translation>Otra operación está escribiendo en “%1”, o aún lo hacen sus herramientas. Espere a que acabe.</translation>
     </message>
     <message>
-        <source>No record of the run can be kept: %1. What it leaves if it is interrupted could not be told from files of your own.</source>
-        <translation>No se puede llevar un registro de la operación: %1. Si se interrumpe, lo que deje no se podría distinguir de sus propios archivos.</translation>
-    </message>
-    <message>
-        <source>The OpenSSL that is registered derives keys from passwords in another way than the archives need. Choose Quillorent&apos;s own on the Tools tab; the password may be right.</source>
-        <translation>El OpenSSL configurado deriva las claves de las contraseñas de un modo distinto del que necesitan los paquetes. Elija el propio de Quillorent en la pestaña Herramientas; puede que la contraseña sea correcta.</translation>
-    </message>
-    <message>
         <source>Collecting</source>
         <translation>Reuniendo</translation>
     </message>
@@ -3139,13 +3131,17 @@ Lo que ha cambiado se conserva solo mientras el programa esté abierto. Libere e
         <source>the folder &quot;%1&quot; can&apos;t be made</source>
         <translation>la carpeta “%1” no se puede crear</translation>
     </message>
+    <message>
+        <source>It can&apos;t be written down what this run does: %1. If it is interrupted, nobody could tell what it leaves from files of your own.</source>
+        <translation>No se puede anotar lo que hace esta operación: %1. Si se interrumpe, lo que deje no se podría distinguir de sus propios archivos.</translation>
+    </message>
+    <message>
+        <source>The OpenSSL program that is chosen on the Tools tab makes something else of a password than these archives need, so it can&apos;t open them. Choose Quillorent&apos;s own there; the password may be right.</source>
+        <translation>El programa OpenSSL elegido en la pestaña Herramientas hace con la contraseña algo distinto de lo que necesitan estos paquetes, y por eso no puede abrirlos. Elija allí el propio de Quillorent; puede que la contraseña sea correcta.</translation>
+    </message>
 </context>
 <context>
     <name>settings</name>
-    <message>
-        <source>The folder can&apos;t be made: </source>
-        <translation>No se puede crear la carpeta: </translation>
-    </message>
     <message>
         <source>“%1” may not be written, nor moved out of the way: what is changed can&apos;t be saved.</source>
         <translation>No se puede escribir en “%1” ni moverlo a otro lugar: lo que se cambie no se puede guardar.</translation>
@@ -3155,16 +3151,8 @@ Lo que ha cambiado se conserva solo mientras el programa esté abierto. Libere e
         <translation>Este usuario no puede escribir en “%1”. Se conserva como “%2”, y uno nuevo con los ajustes propios del programa ha ocupado su lugar.</translation>
     </message>
     <message>
-        <source> can&apos;t be read, nor kept beside a new one: it is not saved over</source>
-        <translation> no se puede leer ni conservar junto a uno nuevo: no se sobrescribe</translation>
-    </message>
-    <message>
         <source>“%1” could not be read when it was saved over. What it held is kept as “%2”.</source>
         <translation>“%1” no se pudo leer cuando se sobrescribió. Lo que contenía se conserva como “%2”.</translation>
-    </message>
-    <message>
-        <source>: what is to be replaced can&apos;t be kept beside it</source>
-        <translation>: lo que se va a reemplazar no se puede conservar junto a él</translation>
     </message>
     <message>
         <source>What others had changed in “%1” is kept as “%2”.</source>
@@ -3173,6 +3161,18 @@ Lo que ha cambiado se conserva solo mientras el programa esté abierto. Libere e
     <message>
         <source>What you had changed in “%1” is kept as “%2”.</source>
         <translation>Lo que usted había cambiado en “%1” se conserva como “%2”.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; can&apos;t be made</source>
+        <translation>No se puede crear la carpeta “%1”</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be read, and no copy of it can be kept: so it is not saved over</source>
+        <translation>“%1” no se puede leer, ni se puede conservar una copia de él: por eso no se sobrescribe</translation>
+    </message>
+    <message>
+        <source>Of “%1” no copy can be kept: so it is not saved over</source>
+        <translation>No se puede conservar una copia de “%1”: por eso no se sobrescribe</translation>
     </message>
 </context>
 <context>
@@ -3312,10 +3312,6 @@ Lo que ha cambiado se conserva solo mientras el programa esté abierto. Libere e
     <message>
         <source>ssh has noted the server&apos;s key, and what it said counts as a failure. Run it once more.</source>
         <translation>ssh ha anotado la clave del servidor, y lo que dijo cuenta como un fallo. Repita la operación una vez más.</translation>
-    </message>
-    <message>
-        <source>rsync was not content; what it said follows.</source>
-        <translation>rsync no quedó conforme; a continuación, lo que dijo.</translation>
     </message>
     <message>
         <source> Nothing was deleted at the destination.</source>
@@ -3473,6 +3469,10 @@ Lo que ha cambiado se conserva solo mientras el programa esté abierto. Libere e
             <numerusform>%n elementos</numerusform>
         </translation>
     </message>
+    <message>
+        <source>rsync, the program that copies, reported a problem; its own words follow.</source>
+        <translation>rsync, el programa que copia, comunicó un problema; a continuación, sus propias palabras.</translation>
+    </message>
 </context>
 <context>
     <name>synchronisation</name>
@@ -3516,10 +3516,6 @@ Lo que ha cambiado se conserva solo mientras el programa esté abierto. Libere e
 <context>
     <name>tools</name>
     <message>
-        <source>This OpenSSL can&apos;t be used by itself: it derives keys from passwords in another way than archives of this program need, and complains of it. Choose Quillorent&apos;s own &quot;openssl&quot;, which uses it.</source>
-        <translation>Este OpenSSL no se puede usar por sí solo: deriva las claves de las contraseñas de un modo distinto del que necesitan los paquetes de este programa, y se queja de ello. Elija el &quot;openssl&quot; propio de Quillorent, que lo utiliza.</translation>
-    </message>
-    <message>
         <source>Choose a tool</source>
         <translation>Elegir una herramienta</translation>
     </message>
@@ -3538,6 +3534,10 @@ Lo que ha cambiado se conserva solo mientras el programa esté abierto. Libere e
     <message>
         <source>Can&apos;t start &quot;%1&quot;: %2. Choose the tool&apos;s path on the Tools tab.</source>
         <translation>No se puede iniciar “%1”: %2. Elija la ruta de la herramienta en la pestaña Herramientas.</translation>
+    </message>
+    <message>
+        <source>This OpenSSL can&apos;t be used by itself: it makes something else of a password than archives of this program need, and complains of it. Choose Quillorent&apos;s own &quot;openssl&quot;, which uses it.</source>
+        <translation>Este OpenSSL no se puede usar por sí solo: hace con la contraseña algo distinto de lo que necesitan los paquetes de este programa, y se queja de ello. Elija el &quot;openssl&quot; propio de Quillorent, que lo utiliza.</translation>
     </message>
     <message>
         <source>the tool&apos;s message is not readable text</source>
@@ -4066,6 +4066,14 @@ Lo que ha cambiado se conserva solo mientras el programa esté abierto. Libere e
     <message>
         <source>The backup failed</source>
         <translation>La copia ha fallado</translation>
+    </message>
+    <message>
+        <source>Archive looked into</source>
+        <translation>Contenido del paquete listo</translation>
+    </message>
+    <message>
+        <source>The archive can&apos;t be looked into</source>
+        <translation>No se puede mirar qué contiene el paquete</translation>
     </message>
 </context>
 <context>

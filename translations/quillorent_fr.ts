@@ -92,7 +92,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Open this page: %1.</source>
-        <translation>Ouvrir cette page&#xa0;: %1.</translation>
+        <translation>Ouvrir cette page : %1.</translation>
     </message>
     <message>
         <source>page</source>
@@ -100,11 +100,11 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>There is no option &quot;%1&quot;.</source>
-        <translation>Il n’y a pas d’option «&#xa0;%1&#xa0;».</translation>
+        <translation>Il n’y a pas d’option « %1 ».</translation>
     </message>
     <message>
         <source>There is no page &quot;%1&quot;.</source>
-        <translation>Il n’y a pas de page «&#xa0;%1&#xa0;».</translation>
+        <translation>Il n’y a pas de page « %1 ».</translation>
     </message>
 </context>
 <context>
@@ -364,10 +364,6 @@ quillorent-run fait la même chose sans fenêtre.</translation>
         <translation>Choisir le dossier de destination</translation>
     </message>
     <message>
-        <source>While a folder is packed, it lies there two and a half times</source>
-        <translation>Pendant l’archivage, un dossier y occupe deux fois et demie sa taille</translation>
-    </message>
-    <message>
         <source>Protected by</source>
         <translation>Protection</translation>
     </message>
@@ -484,10 +480,6 @@ quillorent-run fait la même chose sans fenêtre.</translation>
         <translation>À r&amp;estaurer</translation>
     </message>
     <message>
-        <source>Of an archive that was made in several parts, the first one is enough; the others only have to lie beside it</source>
-        <translation>D’une archive en plusieurs parties, la première suffit&#xa0;; les autres doivent seulement se trouver à côté</translation>
-    </message>
-    <message>
         <source>Archives to be brought back</source>
         <translation>Archives à restaurer</translation>
     </message>
@@ -554,10 +546,6 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     <message>
         <source>H&amp;ow it is encrypted</source>
         <translation>&amp;Chiffrement</translation>
-    </message>
-    <message>
-        <source>Only where an archive was renamed its name may not tell any more how it was encrypted. AES, Blowfish and Triple DES are ways to do it with a password; S/MIME is the way to do it for a certificate, and takes the private key that belongs to it. Both are chosen where passwords are.</source>
-        <translation>À régler seulement si une archive a été renommée, car son nom peut alors ne plus indiquer comment elle a été chiffrée. AES, Blowfish et Triple DES chiffrent avec un mot de passe&#xa0;; S/MIME chiffre pour un certificat, et demande la clé privée correspondante. Les deux se choisissent là où se trouvent les mots de passe.</translation>
     </message>
     <message>
         <source>With the password, by AES</source>
@@ -1051,6 +1039,18 @@ quillorent-run fait la même chose sans fenêtre.</translation>
         <source>&amp;About Quillorent</source>
         <translation>À &amp;propos de Quillorent</translation>
     </message>
+    <message>
+        <source>A backup needs more room than its archives do in the end: what is packed and what is encrypted lie here side by side for a while, together about two and a half times as much as the folder</source>
+        <translation>Une sauvegarde demande plus de place que ses archives n’en occupent à la fin : ce qui est archivé et ce qui est chiffré se trouvent ici côte à côte pendant un temps, soit environ deux fois et demie la taille du dossier</translation>
+    </message>
+    <message>
+        <source>Of an archive that was made in several parts, the first one is enough; the others only have to be in the same folder</source>
+        <translation>D’une archive en plusieurs parties, la première suffit ; les autres doivent seulement se trouver dans le même dossier</translation>
+    </message>
+    <message>
+        <source>The name of an archive tells how it was encrypted; choose it here only where an archive was renamed. AES, Blowfish and Triple DES are ways to do it with a password; S/MIME is the way to do it for a certificate, and takes the private key that belongs to it. Both are chosen where passwords are.</source>
+        <translation>Le nom d’une archive indique comment elle a été chiffrée ; ne faites un choix ici que si une archive a été renommée. AES, Blowfish et Triple DES chiffrent avec un mot de passe ; S/MIME chiffre pour un certificat, et demande la clé privée correspondante. Les deux se choisissent là où se trouvent les mots de passe.</translation>
+    </message>
 </context>
 <context>
     <name>MessagePanel</name>
@@ -1099,10 +1099,6 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     <message>
         <source>Can&apos;t start</source>
         <translation>Démarrage impossible</translation>
-    </message>
-    <message>
-        <source>No such name</source>
-        <translation>Nom refusé</translation>
     </message>
     <message>
         <source>Certificate not accepted</source>
@@ -1179,6 +1175,10 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     <message>
         <source>The two are independent of each other once the profiles are saved and the program is started again. Until then a change in one is a change in both.</source>
         <translation>Les deux sont indépendants l’un de l’autre une fois les profils enregistrés et le programme redémarré. D’ici là, une modification de l’un vaut pour les deux.</translation>
+    </message>
+    <message>
+        <source>Name not accepted</source>
+        <translation>Nom refusé</translation>
     </message>
 </context>
 <context>
@@ -1386,14 +1386,6 @@ quillorent-run fait la même chose sans fenêtre.</translation>
         <translation>Restauration</translation>
     </message>
     <message>
-        <source>Testing the archives…</source>
-        <translation>Test des archives…</translation>
-    </message>
-    <message>
-        <source>Restoring…</source>
-        <translation>Restauration en cours…</translation>
-    </message>
-    <message>
         <source>Progress of restoring</source>
         <translation>Avancement de la restauration</translation>
     </message>
@@ -1432,10 +1424,6 @@ quillorent-run fait la même chose sans fenêtre.</translation>
 <context>
     <name>Protection</name>
     <message>
-        <source>Typed password – not entered yet</source>
-        <translation>Mot de passe à saisir – pas encore indiqué</translation>
-    </message>
-    <message>
         <source>Typed password</source>
         <translation>Mot de passe saisi</translation>
     </message>
@@ -1466,6 +1454,10 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     <message>
         <source>Certificate: %1</source>
         <translation>Certificat&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Password – none typed yet</source>
+        <translation>Mot de passe – pas encore saisi</translation>
     </message>
 </context>
 <context>
@@ -1540,6 +1532,22 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     <message>
         <source>&amp;Keep running</source>
         <translation>Ne &amp;pas arrêter</translation>
+    </message>
+    <message>
+        <source>Looking into an archive</source>
+        <translation>Examen d’une archive</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>Le contenu d’une archive est en cours d’examen.</translation>
+    </message>
+    <message>
+        <source>Stop looking into the archive?</source>
+        <translation>Arrêter l’examen de l’archive&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Nothing of yours has been changed.</source>
+        <translation>Rien de ce qui vous appartient n’a été modifié.</translation>
     </message>
 </context>
 <context>
@@ -1715,22 +1723,8 @@ quillorent-run fait la même chose sans fenêtre.</translation>
         <translation>Annulé avant toute action.</translation>
     </message>
     <message>
-        <source>A run is at work, or still ending its tools. Try again when it has ended.</source>
-        <translation>Une opération est en cours, ou n’a pas encore fini d’arrêter ses outils. Réessayez quand elle aura pris fin.</translation>
-    </message>
-    <message>
         <source>Another profile was opened while the keychain was asked. Start again.</source>
         <translation>Un autre profil a été ouvert pendant que le trousseau était interrogé. Recommencez.</translation>
-    </message>
-    <message>
-        <source>Left by a run that did not end well, and not encrypted:
-%1</source>
-        <translation>Laissé par une opération qui s’est mal terminée, et non chiffré&#xa0;:
-%1</translation>
-    </message>
-    <message>
-        <source>A run is at work. Remove them when it has ended.</source>
-        <translation>Une opération est en cours. Supprimez-les quand elle aura pris fin.</translation>
     </message>
     <message>
         <source>The %1 can&apos;t be read:
@@ -1747,6 +1741,24 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le&#xa0;: un nouveau sera
     <message>
         <source>profiles</source>
         <translation>profils</translation>
+    </message>
+    <message>
+        <source>Something is running already, or about to end. Try again when it has ended.</source>
+        <translation>Une opération est déjà en cours, ou sur le point de se terminer. Réessayez quand elle aura pris fin.</translation>
+    </message>
+    <message>
+        <source>A run that was broken off has left this, and it is not encrypted:
+%1</source>
+        <translation>Une opération interrompue a laissé ceci, qui n’est pas chiffré :
+%1</translation>
+    </message>
+    <message>
+        <source>Something is running just now. Remove these files when it has ended.</source>
+        <translation>Une opération est en cours. Supprimez ces fichiers quand elle aura pris fin.</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>Le contenu d’une archive est en cours d’examen.</translation>
     </message>
 </context>
 <context>
@@ -1812,44 +1824,12 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le&#xa0;: un nouveau sera
         <translation>Ignoré, car ni fichier ni dossier&#xa0;: %1.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; can&apos;t be given another name while its successor is made.</source>
-        <translation>«&#xa0;%1&#xa0;» ne peut pas recevoir un autre nom le temps de créer l’archive qui le remplacera.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; can&apos;t be given another name while its successor is made: %2.</source>
-        <translation>«&#xa0;%1&#xa0;» ne peut pas recevoir un autre nom le temps de créer l’archive qui le remplacera&#xa0;: %2.</translation>
-    </message>
-    <message>
         <source>The former archive is called &quot;%1&quot; now: %2.</source>
         <translation>L’archive précédente s’appelle maintenant «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is left and is not encrypted: run the backup again, or remove it.</source>
         <translation>«&#xa0;%1&#xa0;» est resté et n’est pas chiffré&#xa0;: relancez la sauvegarde, ou supprimez-le.</translation>
-    </message>
-    <message>
-        <source>The settings have no %1, and without it files would be lost. Repair the settings file, or move it away: the next start makes a new one.</source>
-        <translation>Il manque aux réglages&#xa0;: %1. Sans cela, des fichiers seraient perdus. Réparez le fichier de réglages, ou déplacez-le&#xa0;: un nouveau sera créé au prochain démarrage.</translation>
-    </message>
-    <message>
-        <source>file extension of archives (&quot;extensions&quot;, &quot;RAR&quot;)</source>
-        <translation>extension de fichier des archives (&quot;extensions&quot;, &quot;RAR&quot;)</translation>
-    </message>
-    <message>
-        <source>file extension of &quot;%1&quot; (&quot;extensions&quot;)</source>
-        <translation>extension de fichier de «&#xa0;%1&#xa0;» (&quot;extensions&quot;)</translation>
-    </message>
-    <message>
-        <source>command for &quot;%1&quot; (&quot;encparam&quot;)</source>
-        <translation>commande pour «&#xa0;%1&#xa0;» (&quot;encparam&quot;)</translation>
-    </message>
-    <message>
-        <source>path of the archiver (&quot;external&quot;, &quot;RAR&quot;)</source>
-        <translation>chemin de l’outil d’archivage (&quot;external&quot;, &quot;RAR&quot;)</translation>
-    </message>
-    <message>
-        <source>path of the OpenSSL tool (&quot;external&quot;, &quot;OpenSSL&quot;)</source>
-        <translation>chemin de l’outil OpenSSL (&quot;external&quot;, &quot;OpenSSL&quot;)</translation>
     </message>
     <message>
         <source>The profile has no folders. Add those that are to be backed up.</source>
@@ -1906,6 +1886,18 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le&#xa0;: un nouveau sera
     <message>
         <source>and %1 more</source>
         <translation>et %1 de plus</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be given another name while the new archive is made.</source>
+        <translation>« %1 » ne peut pas recevoir un autre nom le temps de créer la nouvelle archive.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be given another name while the new archive is made: %2.</source>
+        <translation>« %1 » ne peut pas recevoir un autre nom le temps de créer la nouvelle archive : %2.</translation>
+    </message>
+    <message>
+        <source>Something is missing in the settings file, and without it files would be lost: %1. Repair the file, or move it away: the next start makes a new one.</source>
+        <translation>Il manque au fichier de réglages quelque chose sans quoi des fichiers seraient perdus : %1. Réparez ce fichier, ou déplacez-le : un nouveau sera créé au prochain démarrage.</translation>
     </message>
 </context>
 <context>
@@ -1999,10 +1991,6 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le&#xa0;: un nouveau sera
         <translation>«&#xa0;%1&#xa0;» contient un lien là où devrait se trouver le fichier chiffré. Cette archive ne vient pas d’une sauvegarde&#xa0;: ne vous y fiez pas.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not hold the file &quot;%2&quot; that its name promises. Give the archive back the name that it had, or it is none of a backup&apos;s.</source>
-        <translation>«&#xa0;%1&#xa0;» ne contient pas le fichier «&#xa0;%2&#xa0;» que son nom annonce. Rendez à l’archive le nom qu’elle portait&#xa0;; sinon, elle ne vient pas d’une sauvegarde.</translation>
-    </message>
-    <message>
         <source>The name of &quot;%1&quot; does not tell how it was encrypted. Choose the decryption method, and extract again.</source>
         <translation>Le nom de «&#xa0;%1&#xa0;» n’indique pas comment il a été chiffré. Choisissez la méthode de déchiffrement, puis relancez l’extraction.</translation>
     </message>
@@ -2021,10 +2009,6 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le&#xa0;: un nouveau sera
     <message>
         <source>&quot;%1&quot; can&apos;t be decrypted: %2.</source>
         <translation>«&#xa0;%1&#xa0;» ne peut pas être déchiffré&#xa0;: %2.</translation>
-    </message>
-    <message>
-        <source>What &quot;%1&quot; was decrypted to is no archive. The private key is wrong, or the archive is none of a backup&apos;s.</source>
-        <translation>Le résultat du déchiffrement de «&#xa0;%1&#xa0;» n’est pas une archive. La clé privée n’est pas la bonne, ou l’archive ne vient pas d’une sauvegarde.</translation>
     </message>
     <message>
         <source>The password is probably wrong: what &quot;%1&quot; was decrypted to is no archive. Type the one that the archive was made with.</source>
@@ -2165,6 +2149,18 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le&#xa0;: un nouveau sera
         <translation>le volume %1 est aussi grand que les précédents&#xa0;: ce n’est donc peut-être pas le dernier</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; does not hold the file &quot;%2&quot; that its name promises. Give the archive back the name that it had; if it never had another one, no backup has made it.</source>
+        <translation>« %1 » ne contient pas le fichier « %2 » que son nom annonce. Rendez à l’archive le nom qu’elle portait ; si elle n’en a jamais eu d’autre, elle ne vient pas d’une sauvegarde.</translation>
+    </message>
+    <message>
+        <source>What &quot;%1&quot; was decrypted to is no archive. The private key is wrong, or no backup has made the archive.</source>
+        <translation>Le résultat du déchiffrement de « %1 » n’est pas une archive. La clé privée n’est pas la bonne, ou l’archive ne vient pas d’une sauvegarde.</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing of yours was changed.</source>
+        <translation>Annulé. Rien de ce qui vous appartient n’a été modifié.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is a link</source>
         <translation>« %1 » est un lien</translation>
     </message>
@@ -2210,6 +2206,22 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le&#xa0;: un nouveau sera
     <message>
         <source>The folder &quot;%1&quot; can&apos;t be made. Choose another one.</source>
         <translation>Le dossier «&#xa0;%1&#xa0;» ne peut pas être créé. Choisissez-en un autre.</translation>
+    </message>
+    <message>
+        <source>Testing the archives…</source>
+        <translation>Test des archives…</translation>
+    </message>
+    <message>
+        <source>Testing &quot;%1&quot;…</source>
+        <translation>Test de «&#xa0;%1&#xa0;»…</translation>
+    </message>
+    <message>
+        <source>Restoring…</source>
+        <translation>Restauration en cours…</translation>
+    </message>
+    <message>
+        <source>Looking into &quot;%1&quot;…</source>
+        <translation>Examen du contenu de « %1 »…</translation>
     </message>
 </context>
 <context>
@@ -2628,10 +2640,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>Le certificat lui-même n’est plus utilisable. </translation>
     </message>
     <message>
-        <source>The certificate &quot;%1&quot; %2. Choose another one on the Password tab.</source>
-        <translation>Le certificat «&#xa0;%1&#xa0;» %2. Choisissez-en un autre dans l’onglet «&#xa0;Mot de passe&#xa0;».</translation>
-    </message>
-    <message>
         <source>No password is given. Type one on the Password tab; without a password nothing is backed up.</source>
         <translation>Aucun mot de passe n’est indiqué. Saisissez-en un dans l’onglet «&#xa0;Mot de passe&#xa0;»&#xa0;; sans mot de passe, rien n’est sauvegardé.</translation>
     </message>
@@ -2652,22 +2660,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>Aucun certificat n’est choisi. Choisissez-en un dans l’onglet «&#xa0;Mot de passe&#xa0;».</translation>
     </message>
     <message>
-        <source>is not there, or can&apos;t be read</source>
-        <translation>n’existe pas, ou est illisible</translation>
-    </message>
-    <message>
-        <source>is a private key</source>
-        <translation>est une clé privée</translation>
-    </message>
-    <message>
-        <source>is no certificate in PEM, the text form</source>
-        <translation>n’est pas un certificat au format PEM, la forme texte</translation>
-    </message>
-    <message>
-        <source>has no RSA key, and nothing can be encrypted to another kind</source>
-        <translation>n’a pas de clé RSA, et rien ne peut être chiffré pour une clé d’un autre type</translation>
-    </message>
-    <message>
         <source>The key of the certificate &quot;%1&quot; has %2 bits; less than %3 can be broken.</source>
         <translation>La clé du certificat «&#xa0;%1&#xa0;» a %2&#xa0;bits&#xa0;; avec moins de %3, elle peut être cassée.</translation>
     </message>
@@ -2678,6 +2670,22 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
     <message>
         <source>unknown kind</source>
         <translation>type inconnu</translation>
+    </message>
+    <message>
+        <source>The certificate &quot;%1&quot; is not there, or can&apos;t be read. Choose another one on the Password tab.</source>
+        <translation>Le certificat « %1 » n’existe pas, ou est illisible. Choisissez-en un autre dans l’onglet « Mot de passe ».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is chosen as the certificate, but it is a private key. Choose the certificate that belongs to it on the Password tab.</source>
+        <translation>« %1 » est choisi comme certificat, mais c’est une clé privée. Choisissez le certificat correspondant dans l’onglet « Mot de passe ».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no certificate in the form that is needed here, which is PEM, a text file. Choose another one on the Password tab.</source>
+        <translation>« %1 » n’est pas un certificat sous la forme nécessaire ici : PEM, un fichier texte. Choisissez-en un autre dans l’onglet « Mot de passe ».</translation>
+    </message>
+    <message>
+        <source>The certificate &quot;%1&quot; has a key of another kind than RSA, and only RSA keys can be used here. Choose another one on the Password tab.</source>
+        <translation>La clé du certificat « %1 » n’est pas une clé RSA, et seules celles-ci sont utilisables ici. Choisissez un autre certificat dans l’onglet « Mot de passe ».</translation>
     </message>
 </context>
 <context>
@@ -2752,10 +2760,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
 </context>
 <context>
     <name>plist</name>
-    <message>
-        <source>U+%1, which XML can&apos;t carry</source>
-        <translation>U+%1, que XML ne peut pas transporter</translation>
-    </message>
     <message>
         <source>declarations within the document are not supported</source>
         <translation>les déclarations à l’intérieur du document ne sont pas acceptées</translation>
@@ -2881,10 +2885,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>%1&#xa0;: ce n’est pas de l’UTF-8</translation>
     </message>
     <message>
-        <source>the value under “%1” %2</source>
-        <translation>la valeur de «&#xa0;%1&#xa0;» %2</translation>
-    </message>
-    <message>
         <source>it can&apos;t be put into XML</source>
         <translation>impossible de l’exprimer en XML</translation>
     </message>
@@ -2893,24 +2893,24 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>il dépasserait %1&#xa0;Mio</translation>
     </message>
     <message>
-        <source>is nested deeper than %1 levels</source>
-        <translation>est imbriquée sur plus de %1 niveaux</translation>
-    </message>
-    <message>
-        <source>is a date that a property list can&apos;t carry</source>
-        <translation>est une date qu’une liste de propriétés ne peut pas contenir</translation>
-    </message>
-    <message>
         <source>there is nothing to write</source>
         <translation>il n’y a rien à écrire</translation>
     </message>
     <message>
-        <source>it holds %1</source>
-        <translation>il contient %1</translation>
+        <source>it has a character that such a file can&apos;t hold (%1)</source>
+        <translation>il contient un caractère qu’un tel fichier ne peut pas contenir (%1)</translation>
     </message>
     <message>
-        <source>holds %1</source>
-        <translation>contient %1</translation>
+        <source>the value under “%2” is nested deeper than %1 levels</source>
+        <translation>la valeur de « %2 » est imbriquée sur plus de %1 niveaux</translation>
+    </message>
+    <message>
+        <source>the value under “%1” is a date that the file can&apos;t hold</source>
+        <translation>la valeur de « %1 » est une date que le fichier ne peut pas contenir</translation>
+    </message>
+    <message>
+        <source>the value under “%2” has a character that the file can&apos;t hold (%1)</source>
+        <translation>la valeur de « %2 » contient un caractère que le fichier ne peut pas contenir (%1)</translation>
     </message>
 </context>
 <context>
@@ -3033,14 +3033,6 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
         <translation>Une autre opération écrit dans «&#xa0;%1&#xa0;», ou ses outils le font encore. Attendez qu’elle ait pris fin.</translation>
     </message>
     <message>
-        <source>No record of the run can be kept: %1. What it leaves if it is interrupted could not be told from files of your own.</source>
-        <translation>Impossible de tenir le compte rendu de l’opération&#xa0;: %1. Ce qu’elle laisserait en cas d’interruption ne pourrait pas être distingué de vos propres fichiers.</translation>
-    </message>
-    <message>
-        <source>The OpenSSL that is registered derives keys from passwords in another way than the archives need. Choose Quillorent&apos;s own on the Tools tab; the password may be right.</source>
-        <translation>L’outil OpenSSL choisi dérive les clés des mots de passe d’une autre façon que celle dont les archives ont besoin. Choisissez celui de Quillorent dans l’onglet «&#xa0;Outils&#xa0;»&#xa0;; le mot de passe est peut-être bon.</translation>
-    </message>
-    <message>
         <source>Collecting</source>
         <translation>Collecte</translation>
     </message>
@@ -3139,13 +3131,17 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
         <source>the folder &quot;%1&quot; can&apos;t be made</source>
         <translation>le dossier «&#xa0;%1&#xa0;» ne peut pas être créé</translation>
     </message>
+    <message>
+        <source>It can&apos;t be written down what this run does: %1. If it is interrupted, nobody could tell what it leaves from files of your own.</source>
+        <translation>Impossible de noter ce que fait cette opération : %1. Ce qu’elle laisserait en cas d’interruption ne pourrait pas être distingué de vos propres fichiers.</translation>
+    </message>
+    <message>
+        <source>The OpenSSL program that is chosen on the Tools tab makes something else of a password than these archives need, so it can&apos;t open them. Choose Quillorent&apos;s own there; the password may be right.</source>
+        <translation>Le programme OpenSSL choisi dans l’onglet « Outils » tire du mot de passe autre chose que ce dont ces archives ont besoin, et ne peut donc pas les ouvrir. Choisissez-y celui de Quillorent ; le mot de passe est peut-être bon.</translation>
+    </message>
 </context>
 <context>
     <name>settings</name>
-    <message>
-        <source>The folder can&apos;t be made: </source>
-        <translation>Impossible de créer le dossier&#xa0;: </translation>
-    </message>
     <message>
         <source>“%1” may not be written, nor moved out of the way: what is changed can&apos;t be saved.</source>
         <translation>«&#xa0;%1&#xa0;» ne peut être ni écrit, ni déplacé&#xa0;: vos modifications ne peuvent pas être enregistrées.</translation>
@@ -3155,16 +3151,8 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
         <translation>Cet utilisateur n’a pas le droit d’écrire dans «&#xa0;%1&#xa0;». Ce fichier est conservé sous le nom «&#xa0;%2&#xa0;», et un nouveau, avec les réglages du programme, a pris sa place.</translation>
     </message>
     <message>
-        <source> can&apos;t be read, nor kept beside a new one: it is not saved over</source>
-        <translation> est illisible, et ne peut pas être conservé à côté d’un nouveau&#xa0;: il n’est pas remplacé</translation>
-    </message>
-    <message>
         <source>“%1” could not be read when it was saved over. What it held is kept as “%2”.</source>
         <translation>«&#xa0;%1&#xa0;» était illisible au moment d’être remplacé. Son contenu est conservé sous le nom «&#xa0;%2&#xa0;».</translation>
-    </message>
-    <message>
-        <source>: what is to be replaced can&apos;t be kept beside it</source>
-        <translation>: ce qui doit être remplacé ne peut pas être conservé à côté</translation>
     </message>
     <message>
         <source>What others had changed in “%1” is kept as “%2”.</source>
@@ -3173,6 +3161,18 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     <message>
         <source>What you had changed in “%1” is kept as “%2”.</source>
         <translation>Ce que vous aviez modifié dans «&#xa0;%1&#xa0;» est conservé sous le nom «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; can&apos;t be made</source>
+        <translation>Impossible de créer le dossier « %1 »</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be read, and no copy of it can be kept: so it is not saved over</source>
+        <translation>« %1 » est illisible, et aucune copie ne peut en être conservée : il n’est donc pas remplacé</translation>
+    </message>
+    <message>
+        <source>Of “%1” no copy can be kept: so it is not saved over</source>
+        <translation>Aucune copie de « %1 » ne peut être conservée : il n’est donc pas remplacé</translation>
     </message>
 </context>
 <context>
@@ -3312,10 +3312,6 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     <message>
         <source>ssh has noted the server&apos;s key, and what it said counts as a failure. Run it once more.</source>
         <translation>ssh a noté la clé du serveur, et son message compte comme un échec. Recommencez une fois.</translation>
-    </message>
-    <message>
-        <source>rsync was not content; what it said follows.</source>
-        <translation>rsync n’est pas satisfait&#xa0;; voici son message.</translation>
     </message>
     <message>
         <source> Nothing was deleted at the destination.</source>
@@ -3473,6 +3469,10 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
             <numerusform>%n éléments</numerusform>
         </translation>
     </message>
+    <message>
+        <source>rsync, the program that copies, reported a problem; its own words follow.</source>
+        <translation>rsync, le programme qui copie, a signalé un problème ; voici son message.</translation>
+    </message>
 </context>
 <context>
     <name>synchronisation</name>
@@ -3516,10 +3516,6 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
 <context>
     <name>tools</name>
     <message>
-        <source>This OpenSSL can&apos;t be used by itself: it derives keys from passwords in another way than archives of this program need, and complains of it. Choose Quillorent&apos;s own &quot;openssl&quot;, which uses it.</source>
-        <translation>Cet OpenSSL ne peut pas être utilisé seul&#xa0;: il dérive les clés des mots de passe d’une autre façon que celle dont les archives de ce programme ont besoin, et s’en plaint. Choisissez l’outil &quot;openssl&quot; de Quillorent, qui l’utilise.</translation>
-    </message>
-    <message>
         <source>Choose a tool</source>
         <translation>Choisir un outil</translation>
     </message>
@@ -3538,6 +3534,10 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     <message>
         <source>Can&apos;t start &quot;%1&quot;: %2. Choose the tool&apos;s path on the Tools tab.</source>
         <translation>Impossible de démarrer «&#xa0;%1&#xa0;»&#xa0;: %2. Choisissez le chemin de l’outil dans l’onglet «&#xa0;Outils&#xa0;».</translation>
+    </message>
+    <message>
+        <source>This OpenSSL can&apos;t be used by itself: it makes something else of a password than archives of this program need, and complains of it. Choose Quillorent&apos;s own &quot;openssl&quot;, which uses it.</source>
+        <translation>Cet OpenSSL ne peut pas être utilisé seul : il tire du mot de passe autre chose que ce dont les archives de ce programme ont besoin, et s’en plaint. Choisissez l’outil &quot;openssl&quot; de Quillorent, qui l’utilise.</translation>
     </message>
     <message>
         <source>the tool&apos;s message is not readable text</source>
@@ -4066,6 +4066,14 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
     <message>
         <source>The backup failed</source>
         <translation>La sauvegarde a échoué</translation>
+    </message>
+    <message>
+        <source>Archive looked into</source>
+        <translation>Archive examinée</translation>
+    </message>
+    <message>
+        <source>The archive can&apos;t be looked into</source>
+        <translation>L’archive n’a pas pu être examinée</translation>
     </message>
 </context>
 <context>

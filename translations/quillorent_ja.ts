@@ -364,10 +364,6 @@ quillorent-run を使うと、ウィンドウなしで同じことができま�
         <translation>保存先フォルダーを選択</translation>
     </message>
     <message>
-        <source>While a folder is packed, it lies there two and a half times</source>
-        <translation>フォルダーをアーカイブにしている間は、その2.5倍の容量を使います</translation>
-    </message>
-    <message>
         <source>Protected by</source>
         <translation>保護</translation>
     </message>
@@ -484,10 +480,6 @@ quillorent-run を使うと、ウィンドウなしで同じことができま�
         <translation>復元するアーカイブ(&amp;U)</translation>
     </message>
     <message>
-        <source>Of an archive that was made in several parts, the first one is enough; the others only have to lie beside it</source>
-        <translation>分割されたアーカイブは、最初のファイルだけ追加してください。残りは同じフォルダーにあれば使われます</translation>
-    </message>
-    <message>
         <source>Archives to be brought back</source>
         <translation>復元するアーカイブ</translation>
     </message>
@@ -554,10 +546,6 @@ quillorent-run を使うと、ウィンドウなしで同じことができま�
     <message>
         <source>H&amp;ow it is encrypted</source>
         <translation>暗号化方式(&amp;O)</translation>
-    </message>
-    <message>
-        <source>Only where an archive was renamed its name may not tell any more how it was encrypted. AES, Blowfish and Triple DES are ways to do it with a password; S/MIME is the way to do it for a certificate, and takes the private key that belongs to it. Both are chosen where passwords are.</source>
-        <translation>アーカイブの名前が変更されていると、名前から暗号化方式がわからないことがあります。AES、Blowfish、Triple DESはパスワードで暗号化する方式です。S/MIMEは証明書を使って暗号化する方式で、対応する秘密鍵が必要です。パスワードと証明書は「パスワード」タブで設定します。</translation>
     </message>
     <message>
         <source>With the password, by AES</source>
@@ -1051,6 +1039,18 @@ quillorent-run を使うと、ウィンドウなしで同じことができま�
         <source>&amp;About Quillorent</source>
         <translation>Quillorentについて(&amp;A)</translation>
     </message>
+    <message>
+        <source>A backup needs more room than its archives do in the end: what is packed and what is encrypted lie here side by side for a while, together about two and a half times as much as the folder</source>
+        <translation>バックアップ中は、完成したアーカイブよりも多くの容量が必要です。まとめたものと暗号化したものが一時的に両方置かれ、合わせてフォルダーの約2.5倍になります</translation>
+    </message>
+    <message>
+        <source>Of an archive that was made in several parts, the first one is enough; the others only have to be in the same folder</source>
+        <translation>分割されたアーカイブは、最初のファイルだけ追加してください。残りは同じフォルダーにあれば使われます</translation>
+    </message>
+    <message>
+        <source>The name of an archive tells how it was encrypted; choose it here only where an archive was renamed. AES, Blowfish and Triple DES are ways to do it with a password; S/MIME is the way to do it for a certificate, and takes the private key that belongs to it. Both are chosen where passwords are.</source>
+        <translation>暗号化方式はアーカイブの名前からわかります。アーカイブの名前が変更されている場合だけ、ここで選んでください。AES、Blowfish、Triple DESはパスワードで暗号化する方式です。S/MIMEは証明書を使って暗号化する方式で、対応する秘密鍵が必要です。パスワードと証明書は「パスワード」タブで設定します。</translation>
+    </message>
 </context>
 <context>
     <name>MessagePanel</name>
@@ -1099,10 +1099,6 @@ quillorent-run を使うと、ウィンドウなしで同じことができま�
     <message>
         <source>Can&apos;t start</source>
         <translation>開始できません</translation>
-    </message>
-    <message>
-        <source>No such name</source>
-        <translation>その名前はありません</translation>
     </message>
     <message>
         <source>Certificate not accepted</source>
@@ -1179,6 +1175,10 @@ quillorent-run を使うと、ウィンドウなしで同じことができま�
     <message>
         <source>The two are independent of each other once the profiles are saved and the program is started again. Until then a change in one is a change in both.</source>
         <translation>プロファイルを保存してプログラムを起動し直すと、2つは互いに独立します。それまでは、一方を変更すると他方も変更されます。</translation>
+    </message>
+    <message>
+        <source>Name not accepted</source>
+        <translation>この名前は使えません</translation>
     </message>
 </context>
 <context>
@@ -1386,14 +1386,6 @@ quillorent-run を使うと、ウィンドウなしで同じことができま�
         <translation>復元</translation>
     </message>
     <message>
-        <source>Testing the archives…</source>
-        <translation>アーカイブをテストしています…</translation>
-    </message>
-    <message>
-        <source>Restoring…</source>
-        <translation>復元しています…</translation>
-    </message>
-    <message>
         <source>Progress of restoring</source>
         <translation>復元の進行状況</translation>
     </message>
@@ -1432,10 +1424,6 @@ quillorent-run を使うと、ウィンドウなしで同じことができま�
 <context>
     <name>Protection</name>
     <message>
-        <source>Typed password – not entered yet</source>
-        <translation>入力するパスワード – まだ入力されていません</translation>
-    </message>
-    <message>
         <source>Typed password</source>
         <translation>入力するパスワード</translation>
     </message>
@@ -1466,6 +1454,10 @@ quillorent-run を使うと、ウィンドウなしで同じことができま�
     <message>
         <source>Certificate: %1</source>
         <translation>証明書: %1</translation>
+    </message>
+    <message>
+        <source>Password – none typed yet</source>
+        <translation>パスワード – まだ入力されていません</translation>
     </message>
 </context>
 <context>
@@ -1540,6 +1532,22 @@ quillorent-run を使うと、ウィンドウなしで同じことができま�
     <message>
         <source>&amp;Keep running</source>
         <translation>続ける(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Looking into an archive</source>
+        <translation>アーカイブの確認中</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>アーカイブの中を調べています。</translation>
+    </message>
+    <message>
+        <source>Stop looking into the archive?</source>
+        <translation>アーカイブの確認を中止しますか？</translation>
+    </message>
+    <message>
+        <source>Nothing of yours has been changed.</source>
+        <translation>あなたのファイルは変更されていません。</translation>
     </message>
 </context>
 <context>
@@ -1715,22 +1723,8 @@ quillorent-run を使うと、ウィンドウなしで同じことができま�
         <translation>何も行わないうちにキャンセルされました。</translation>
     </message>
     <message>
-        <source>A run is at work, or still ending its tools. Try again when it has ended.</source>
-        <translation>処理が実行中か、ツールの終了を待っています。終わってからもう一度お試しください。</translation>
-    </message>
-    <message>
         <source>Another profile was opened while the keychain was asked. Start again.</source>
         <translation>キーリングへの問い合わせ中に、別のプロファイルが開かれました。もう一度開始してください。</translation>
-    </message>
-    <message>
-        <source>Left by a run that did not end well, and not encrypted:
-%1</source>
-        <translation>正常に終わらなかった処理が残した、暗号化されていないファイル:
-%1</translation>
-    </message>
-    <message>
-        <source>A run is at work. Remove them when it has ended.</source>
-        <translation>処理が実行中です。終わってから削除してください。</translation>
     </message>
     <message>
         <source>The %1 can&apos;t be read:
@@ -1747,6 +1741,24 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
     <message>
         <source>profiles</source>
         <translation>プロファイル</translation>
+    </message>
+    <message>
+        <source>Something is running already, or about to end. Try again when it has ended.</source>
+        <translation>処理が実行中か、まもなく終わるところです。終わってからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>A run that was broken off has left this, and it is not encrypted:
+%1</source>
+        <translation>中断された処理が残した、暗号化されていないファイル:
+%1</translation>
+    </message>
+    <message>
+        <source>Something is running just now. Remove these files when it has ended.</source>
+        <translation>処理が実行中です。終わってからこれらのファイルを削除してください。</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>アーカイブの中を調べています。</translation>
     </message>
 </context>
 <context>
@@ -1812,44 +1824,12 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
         <translation>ファイルでもフォルダーでもないため、対象外にしました: %1。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; can&apos;t be given another name while its successor is made.</source>
-        <translation>新しいアーカイブを作る間、「%1」の名前を変えておくことができません。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; can&apos;t be given another name while its successor is made: %2.</source>
-        <translation>新しいアーカイブを作る間、「%1」の名前を変えておくことができません: %2。</translation>
-    </message>
-    <message>
         <source>The former archive is called &quot;%1&quot; now: %2.</source>
         <translation>以前のアーカイブの名前は、現在「%1」です: %2。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is left and is not encrypted: run the backup again, or remove it.</source>
         <translation>暗号化されていない「%1」が残っています。もう一度バックアップするか、削除してください。</translation>
-    </message>
-    <message>
-        <source>The settings have no %1, and without it files would be lost. Repair the settings file, or move it away: the next start makes a new one.</source>
-        <translation>設定に%1がありません。このままではファイルが失われるおそれがあります。設定ファイルを修復するか、別の場所に移してください。移すと、次回の起動時に新しいファイルが作成されます。</translation>
-    </message>
-    <message>
-        <source>file extension of archives (&quot;extensions&quot;, &quot;RAR&quot;)</source>
-        <translation>アーカイブの拡張子（&quot;extensions&quot;、&quot;RAR&quot;）</translation>
-    </message>
-    <message>
-        <source>file extension of &quot;%1&quot; (&quot;extensions&quot;)</source>
-        <translation>「%1」の拡張子（&quot;extensions&quot;）</translation>
-    </message>
-    <message>
-        <source>command for &quot;%1&quot; (&quot;encparam&quot;)</source>
-        <translation>「%1」のコマンド（&quot;encparam&quot;）</translation>
-    </message>
-    <message>
-        <source>path of the archiver (&quot;external&quot;, &quot;RAR&quot;)</source>
-        <translation>アーカイバーのパス（&quot;external&quot;、&quot;RAR&quot;）</translation>
-    </message>
-    <message>
-        <source>path of the OpenSSL tool (&quot;external&quot;, &quot;OpenSSL&quot;)</source>
-        <translation>OpenSSLツールのパス（&quot;external&quot;、&quot;OpenSSL&quot;）</translation>
     </message>
     <message>
         <source>The profile has no folders. Add those that are to be backed up.</source>
@@ -1906,6 +1886,18 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
     <message>
         <source>and %1 more</source>
         <translation>ほか %1 個</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be given another name while the new archive is made.</source>
+        <translation>新しいアーカイブを作る間、「%1」の名前を変えておくことができません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be given another name while the new archive is made: %2.</source>
+        <translation>新しいアーカイブを作る間、「%1」の名前を変えておくことができません: %2。</translation>
+    </message>
+    <message>
+        <source>Something is missing in the settings file, and without it files would be lost: %1. Repair the file, or move it away: the next start makes a new one.</source>
+        <translation>設定ファイルに必要な項目がありません: %1。このままではファイルが失われるおそれがあります。設定ファイルを修復するか、別の場所に移してください。移すと、次回の起動時に新しいファイルが作成されます。</translation>
     </message>
 </context>
 <context>
@@ -1999,10 +1991,6 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
         <translation>「%1」では、暗号化ファイルがあるはずの場所にリンクがあります。バックアップで作られたものではないので、信用しないでください。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not hold the file &quot;%2&quot; that its name promises. Give the archive back the name that it had, or it is none of a backup&apos;s.</source>
-        <translation>「%1」には、その名前から予想されるファイル「%2」がありません。アーカイブを元の名前に戻してください。元の名前なら、バックアップで作られたものではありません。</translation>
-    </message>
-    <message>
         <source>The name of &quot;%1&quot; does not tell how it was encrypted. Choose the decryption method, and extract again.</source>
         <translation>「%1」の名前からは、暗号化方式がわかりません。暗号化方式を選んで、もう一度展開してください。</translation>
     </message>
@@ -2021,10 +2009,6 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
     <message>
         <source>&quot;%1&quot; can&apos;t be decrypted: %2.</source>
         <translation>「%1」を復号できません: %2。</translation>
-    </message>
-    <message>
-        <source>What &quot;%1&quot; was decrypted to is no archive. The private key is wrong, or the archive is none of a backup&apos;s.</source>
-        <translation>「%1」を復号したものはアーカイブではありません。秘密鍵が違うか、バックアップで作られたアーカイブではありません。</translation>
     </message>
     <message>
         <source>The password is probably wrong: what &quot;%1&quot; was decrypted to is no archive. Type the one that the archive was made with.</source>
@@ -2163,6 +2147,18 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
         <translation>%1番目の分割ファイルがそれまでのものと同じ大きさのため、最後ではない可能性があります</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; does not hold the file &quot;%2&quot; that its name promises. Give the archive back the name that it had; if it never had another one, no backup has made it.</source>
+        <translation>「%1」には、その名前から予想されるファイル「%2」がありません。アーカイブを元の名前に戻してください。名前を変えたことがなければ、バックアップで作られたものではありません。</translation>
+    </message>
+    <message>
+        <source>What &quot;%1&quot; was decrypted to is no archive. The private key is wrong, or no backup has made the archive.</source>
+        <translation>「%1」を復号したものはアーカイブではありません。秘密鍵が違うか、バックアップで作られたアーカイブではありません。</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing of yours was changed.</source>
+        <translation>キャンセルしました。あなたのファイルは変更されていません。</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is a link</source>
         <translation>「%1」はリンクです</translation>
     </message>
@@ -2208,6 +2204,22 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
     <message>
         <source>The folder &quot;%1&quot; can&apos;t be made. Choose another one.</source>
         <translation>フォルダー「%1」を作成できません。別のフォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>Testing the archives…</source>
+        <translation>アーカイブをテストしています…</translation>
+    </message>
+    <message>
+        <source>Testing &quot;%1&quot;…</source>
+        <translation>「%1」をテストしています…</translation>
+    </message>
+    <message>
+        <source>Restoring…</source>
+        <translation>復元しています…</translation>
+    </message>
+    <message>
+        <source>Looking into &quot;%1&quot;…</source>
+        <translation>「%1」の中を調べています…</translation>
     </message>
 </context>
 <context>
@@ -2625,10 +2637,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>証明書自体が使用できなくなっています。 </translation>
     </message>
     <message>
-        <source>The certificate &quot;%1&quot; %2. Choose another one on the Password tab.</source>
-        <translation>証明書「%1」は%2。「パスワード」タブで別の証明書を選んでください。</translation>
-    </message>
-    <message>
         <source>No password is given. Type one on the Password tab; without a password nothing is backed up.</source>
         <translation>パスワードがありません。「パスワード」タブで入力してください。パスワードなしでは何もバックアップされません。</translation>
     </message>
@@ -2649,22 +2657,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>証明書が選択されていません。「パスワード」タブで選んでください。</translation>
     </message>
     <message>
-        <source>is not there, or can&apos;t be read</source>
-        <translation>見つからないか、読み取れません</translation>
-    </message>
-    <message>
-        <source>is a private key</source>
-        <translation>秘密鍵です</translation>
-    </message>
-    <message>
-        <source>is no certificate in PEM, the text form</source>
-        <translation>テキスト形式であるPEMの証明書ではありません</translation>
-    </message>
-    <message>
-        <source>has no RSA key, and nothing can be encrypted to another kind</source>
-        <translation>RSA鍵のものではなく、ほかの種類の鍵では暗号化できません</translation>
-    </message>
-    <message>
         <source>The key of the certificate &quot;%1&quot; has %2 bits; less than %3 can be broken.</source>
         <translation>証明書「%1」の鍵は%2ビットです。%3ビット未満は破られるおそれがあります。</translation>
     </message>
@@ -2675,6 +2667,22 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
     <message>
         <source>unknown kind</source>
         <translation>不明な種類</translation>
+    </message>
+    <message>
+        <source>The certificate &quot;%1&quot; is not there, or can&apos;t be read. Choose another one on the Password tab.</source>
+        <translation>証明書「%1」が見つからないか、読み取れません。「パスワード」タブで別の証明書を選んでください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is chosen as the certificate, but it is a private key. Choose the certificate that belongs to it on the Password tab.</source>
+        <translation>証明書として選ばれている「%1」は秘密鍵です。「パスワード」タブで、対になる証明書を選んでください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no certificate in the form that is needed here, which is PEM, a text file. Choose another one on the Password tab.</source>
+        <translation>「%1」は、ここで必要な形式（テキストファイルであるPEM）の証明書ではありません。「パスワード」タブで別の証明書を選んでください。</translation>
+    </message>
+    <message>
+        <source>The certificate &quot;%1&quot; has a key of another kind than RSA, and only RSA keys can be used here. Choose another one on the Password tab.</source>
+        <translation>証明書「%1」の鍵はRSAではありません。ここで使用できるのはRSA鍵だけです。「パスワード」タブで別の証明書を選んでください。</translation>
     </message>
 </context>
 <context>
@@ -2749,10 +2757,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
 </context>
 <context>
     <name>plist</name>
-    <message>
-        <source>U+%1, which XML can&apos;t carry</source>
-        <translation>U+%1（XMLでは使用できません）</translation>
-    </message>
     <message>
         <source>declarations within the document are not supported</source>
         <translation>文書内の宣言には対応していません</translation>
@@ -2878,10 +2882,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>%1: UTF-8ではありません</translation>
     </message>
     <message>
-        <source>the value under “%1” %2</source>
-        <translation>「%1」の値: %2</translation>
-    </message>
-    <message>
         <source>it can&apos;t be put into XML</source>
         <translation>XMLにできません</translation>
     </message>
@@ -2890,24 +2890,24 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>%1 MiBを超えてしまいます</translation>
     </message>
     <message>
-        <source>is nested deeper than %1 levels</source>
-        <translation>%1段を超える入れ子になっています</translation>
-    </message>
-    <message>
-        <source>is a date that a property list can&apos;t carry</source>
-        <translation>プロパティリストで表せない日時です</translation>
-    </message>
-    <message>
         <source>there is nothing to write</source>
         <translation>書き込むものがありません</translation>
     </message>
     <message>
-        <source>it holds %1</source>
-        <translation>%1 を含んでいます</translation>
+        <source>it has a character that such a file can&apos;t hold (%1)</source>
+        <translation>このようなファイルでは使用できない文字（%1）を含んでいます</translation>
     </message>
     <message>
-        <source>holds %1</source>
-        <translation>%1 を含んでいます</translation>
+        <source>the value under “%2” is nested deeper than %1 levels</source>
+        <translation>「%2」の値が%1段を超える入れ子になっています</translation>
+    </message>
+    <message>
+        <source>the value under “%1” is a date that the file can&apos;t hold</source>
+        <translation>「%1」の値が、ファイルに記録できない日時です</translation>
+    </message>
+    <message>
+        <source>the value under “%2” has a character that the file can&apos;t hold (%1)</source>
+        <translation>「%2」の値が、ファイルでは使用できない文字（%1）を含んでいます</translation>
     </message>
 </context>
 <context>
@@ -3030,14 +3030,6 @@ What you changed is kept only as long as the program runs. Make room, or make th
         <translation>別の処理かそのツールが、「%1」に書き込んでいます。終わるまでお待ちください。</translation>
     </message>
     <message>
-        <source>No record of the run can be kept: %1. What it leaves if it is interrupted could not be told from files of your own.</source>
-        <translation>処理の記録を残せません: %1。中断された場合に残るものを、あなたのファイルと区別できなくなります。</translation>
-    </message>
-    <message>
-        <source>The OpenSSL that is registered derives keys from passwords in another way than the archives need. Choose Quillorent&apos;s own on the Tools tab; the password may be right.</source>
-        <translation>登録されているOpenSSLは、パスワードから鍵を作る方法が、このアーカイブに必要なものと異なります。「ツール」タブでQuillorent付属のものを選んでください。パスワードは正しいかもしれません。</translation>
-    </message>
-    <message>
         <source>Collecting</source>
         <translation>収集中</translation>
     </message>
@@ -3135,13 +3127,17 @@ What you changed is kept only as long as the program runs. Make room, or make th
         <source>the folder &quot;%1&quot; can&apos;t be made</source>
         <translation>フォルダー「%1」を作成できません</translation>
     </message>
+    <message>
+        <source>It can&apos;t be written down what this run does: %1. If it is interrupted, nobody could tell what it leaves from files of your own.</source>
+        <translation>この処理の内容を記録しておけません: %1。中断された場合に残るものを、あなたのファイルと区別できなくなります。</translation>
+    </message>
+    <message>
+        <source>The OpenSSL program that is chosen on the Tools tab makes something else of a password than these archives need, so it can&apos;t open them. Choose Quillorent&apos;s own there; the password may be right.</source>
+        <translation>「ツール」タブで選ばれているOpenSSLは、パスワードの扱い方がこのアーカイブに必要なものと異なるため、アーカイブを開けません。そこでQuillorent付属のものを選んでください。パスワードは正しいかもしれません。</translation>
+    </message>
 </context>
 <context>
     <name>settings</name>
-    <message>
-        <source>The folder can&apos;t be made: </source>
-        <translation>フォルダーを作成できません: </translation>
-    </message>
     <message>
         <source>“%1” may not be written, nor moved out of the way: what is changed can&apos;t be saved.</source>
         <translation>「%1」には書き込めず、移動することもできないため、変更した内容を保存できません。</translation>
@@ -3151,16 +3147,8 @@ What you changed is kept only as long as the program runs. Make room, or make th
         <translation>このユーザーには「%1」に書き込む権限がありません。これを「%2」として残し、プログラムの標準設定の新しいファイルに替えました。</translation>
     </message>
     <message>
-        <source> can&apos;t be read, nor kept beside a new one: it is not saved over</source>
-        <translation> を読み取れず、同じ場所に残しておくこともできないため、上書き保存しません</translation>
-    </message>
-    <message>
         <source>“%1” could not be read when it was saved over. What it held is kept as “%2”.</source>
         <translation>上書き保存のときに「%1」を読み取れませんでした。元の内容は「%2」に残してあります。</translation>
-    </message>
-    <message>
-        <source>: what is to be replaced can&apos;t be kept beside it</source>
-        <translation>: 置き換え前の内容を同じ場所に残せません</translation>
     </message>
     <message>
         <source>What others had changed in “%1” is kept as “%2”.</source>
@@ -3169,6 +3157,18 @@ What you changed is kept only as long as the program runs. Make room, or make th
     <message>
         <source>What you had changed in “%1” is kept as “%2”.</source>
         <translation>あなたが変更した「%1」の内容は、「%2」に残してあります。</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; can&apos;t be made</source>
+        <translation>フォルダー「%1」を作成できません</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be read, and no copy of it can be kept: so it is not saved over</source>
+        <translation>「%1」を読み取れず、コピーを残しておくこともできないため、上書き保存しません</translation>
+    </message>
+    <message>
+        <source>Of “%1” no copy can be kept: so it is not saved over</source>
+        <translation>「%1」のコピーを残せないため、上書き保存しません</translation>
     </message>
 </context>
 <context>
@@ -3308,10 +3308,6 @@ What you changed is kept only as long as the program runs. Make room, or make th
     <message>
         <source>ssh has noted the server&apos;s key, and what it said counts as a failure. Run it once more.</source>
         <translation>sshがサーバーの鍵を登録しましたが、そのメッセージが失敗として扱われました。もう一度実行してください。</translation>
-    </message>
-    <message>
-        <source>rsync was not content; what it said follows.</source>
-        <translation>rsyncが問題を報告しました。内容は次のとおりです。</translation>
     </message>
     <message>
         <source> Nothing was deleted at the destination.</source>
@@ -3467,6 +3463,10 @@ What you changed is kept only as long as the program runs. Make room, or make th
             <numerusform>%n 項目</numerusform>
         </translation>
     </message>
+    <message>
+        <source>rsync, the program that copies, reported a problem; its own words follow.</source>
+        <translation>コピーを行うプログラムrsyncが問題を報告しました。内容は次のとおりです。</translation>
+    </message>
 </context>
 <context>
     <name>synchronisation</name>
@@ -3510,10 +3510,6 @@ What you changed is kept only as long as the program runs. Make room, or make th
 <context>
     <name>tools</name>
     <message>
-        <source>This OpenSSL can&apos;t be used by itself: it derives keys from passwords in another way than archives of this program need, and complains of it. Choose Quillorent&apos;s own &quot;openssl&quot;, which uses it.</source>
-        <translation>このOpenSSLは、そのままでは使用できません。パスワードから鍵を作る方法が、このプログラムのアーカイブに必要なものと異なり、警告を出します。このOpenSSLを内部で使用する、Quillorent付属の「openssl」を選んでください。</translation>
-    </message>
-    <message>
         <source>Choose a tool</source>
         <translation>ツールを選択</translation>
     </message>
@@ -3532,6 +3528,10 @@ What you changed is kept only as long as the program runs. Make room, or make th
     <message>
         <source>Can&apos;t start &quot;%1&quot;: %2. Choose the tool&apos;s path on the Tools tab.</source>
         <translation>「%1」を起動できません: %2。「ツール」タブでツールのパスを選択してください。</translation>
+    </message>
+    <message>
+        <source>This OpenSSL can&apos;t be used by itself: it makes something else of a password than archives of this program need, and complains of it. Choose Quillorent&apos;s own &quot;openssl&quot;, which uses it.</source>
+        <translation>このOpenSSLは、そのままでは使用できません。パスワードの扱い方が、このプログラムのアーカイブに必要なものと異なり、警告を出します。このOpenSSLを内部で使用する、Quillorent付属の「openssl」を選んでください。</translation>
     </message>
     <message>
         <source>the tool&apos;s message is not readable text</source>
@@ -4055,6 +4055,14 @@ What you changed is kept only as long as the program runs. Make room, or make th
     <message>
         <source>The backup failed</source>
         <translation>バックアップに失敗しました</translation>
+    </message>
+    <message>
+        <source>Archive looked into</source>
+        <translation>アーカイブの中身を確認しました</translation>
+    </message>
+    <message>
+        <source>The archive can&apos;t be looked into</source>
+        <translation>アーカイブの中身を確認できません</translation>
     </message>
 </context>
 <context>

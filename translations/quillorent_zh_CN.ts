@@ -364,10 +364,6 @@ quillorent-run 无需窗口即可完成同样的工作。</translation>
         <translation>选择目标文件夹</translation>
     </message>
     <message>
-        <source>While a folder is packed, it lies there two and a half times</source>
-        <translation>打包文件夹期间，会占用其两倍半的空间</translation>
-    </message>
-    <message>
         <source>Protected by</source>
         <translation>保护方式</translation>
     </message>
@@ -484,10 +480,6 @@ quillorent-run 无需窗口即可完成同样的工作。</translation>
         <translation>要还原的归档(&amp;U)</translation>
     </message>
     <message>
-        <source>Of an archive that was made in several parts, the first one is enough; the others only have to lie beside it</source>
-        <translation>分成几部分的归档，只需选择第一部分；其余部分放在它旁边即可</translation>
-    </message>
-    <message>
         <source>Archives to be brought back</source>
         <translation>要还原的归档</translation>
     </message>
@@ -554,10 +546,6 @@ quillorent-run 无需窗口即可完成同样的工作。</translation>
     <message>
         <source>H&amp;ow it is encrypted</source>
         <translation>加密方式(&amp;O)</translation>
-    </message>
-    <message>
-        <source>Only where an archive was renamed its name may not tell any more how it was encrypted. AES, Blowfish and Triple DES are ways to do it with a password; S/MIME is the way to do it for a certificate, and takes the private key that belongs to it. Both are chosen where passwords are.</source>
-        <translation>只有在归档被改名后，才可能无法从名称看出其加密方式。AES、Blowfish 和 Triple DES 都是用密码加密的方式；S/MIME 是用证书加密的方式，需要与证书配对的私钥。密码或证书请在“密码”页面选择。</translation>
     </message>
     <message>
         <source>With the password, by AES</source>
@@ -1051,6 +1039,18 @@ quillorent-run 无需窗口即可完成同样的工作。</translation>
         <source>&amp;About Quillorent</source>
         <translation>关于 Quillorent(&amp;A)</translation>
     </message>
+    <message>
+        <source>A backup needs more room than its archives do in the end: what is packed and what is encrypted lie here side by side for a while, together about two and a half times as much as the folder</source>
+        <translation>备份所需的空间比最终的归档更多：打包的和加密的文件会在此处同时存在一段时间，合计约为文件夹的两倍半</translation>
+    </message>
+    <message>
+        <source>Of an archive that was made in several parts, the first one is enough; the others only have to be in the same folder</source>
+        <translation>分成几部分的归档，只需选择第一部分；其余部分只要在同一文件夹中即可</translation>
+    </message>
+    <message>
+        <source>The name of an archive tells how it was encrypted; choose it here only where an archive was renamed. AES, Blowfish and Triple DES are ways to do it with a password; S/MIME is the way to do it for a certificate, and takes the private key that belongs to it. Both are chosen where passwords are.</source>
+        <translation>归档的名称表明其加密方式；仅在归档被改名后才需要在此选择。AES、Blowfish 和 Triple DES 都是用密码加密的方式；S/MIME 是用证书加密的方式，需要与证书配对的私钥。密码或证书请在“密码”页面选择。</translation>
+    </message>
 </context>
 <context>
     <name>MessagePanel</name>
@@ -1099,10 +1099,6 @@ quillorent-run 无需窗口即可完成同样的工作。</translation>
     <message>
         <source>Can&apos;t start</source>
         <translation>无法开始</translation>
-    </message>
-    <message>
-        <source>No such name</source>
-        <translation>名称不可用</translation>
     </message>
     <message>
         <source>Certificate not accepted</source>
@@ -1179,6 +1175,10 @@ quillorent-run 无需窗口即可完成同样的工作。</translation>
     <message>
         <source>The two are independent of each other once the profiles are saved and the program is started again. Until then a change in one is a change in both.</source>
         <translation>保存方案并重新启动程序后，两者便相互独立。在此之前，更改其中一个，另一个也会随之改变。</translation>
+    </message>
+    <message>
+        <source>Name not accepted</source>
+        <translation>名称不可用</translation>
     </message>
 </context>
 <context>
@@ -1386,14 +1386,6 @@ quillorent-run 无需窗口即可完成同样的工作。</translation>
         <translation>还原</translation>
     </message>
     <message>
-        <source>Testing the archives…</source>
-        <translation>正在检查归档…</translation>
-    </message>
-    <message>
-        <source>Restoring…</source>
-        <translation>正在还原…</translation>
-    </message>
-    <message>
         <source>Progress of restoring</source>
         <translation>还原进度</translation>
     </message>
@@ -1432,10 +1424,6 @@ quillorent-run 无需窗口即可完成同样的工作。</translation>
 <context>
     <name>Protection</name>
     <message>
-        <source>Typed password – not entered yet</source>
-        <translation>输入的密码 – 尚未输入</translation>
-    </message>
-    <message>
         <source>Typed password</source>
         <translation>输入的密码</translation>
     </message>
@@ -1466,6 +1454,10 @@ quillorent-run 无需窗口即可完成同样的工作。</translation>
     <message>
         <source>Certificate: %1</source>
         <translation>证书：%1</translation>
+    </message>
+    <message>
+        <source>Password – none typed yet</source>
+        <translation>密码 – 尚未输入</translation>
     </message>
 </context>
 <context>
@@ -1540,6 +1532,22 @@ quillorent-run 无需窗口即可完成同样的工作。</translation>
     <message>
         <source>&amp;Keep running</source>
         <translation>继续运行(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Looking into an archive</source>
+        <translation>正在查看归档</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>正在查看归档的内容。</translation>
+    </message>
+    <message>
+        <source>Stop looking into the archive?</source>
+        <translation>停止查看归档吗？</translation>
+    </message>
+    <message>
+        <source>Nothing of yours has been changed.</source>
+        <translation>您的文件没有任何改变。</translation>
     </message>
 </context>
 <context>
@@ -1715,22 +1723,8 @@ quillorent-run 无需窗口即可完成同样的工作。</translation>
         <translation>已取消，未做任何操作。</translation>
     </message>
     <message>
-        <source>A run is at work, or still ending its tools. Try again when it has ended.</source>
-        <translation>有任务正在进行，或正在结束其工具。请在它结束后重试。</translation>
-    </message>
-    <message>
         <source>Another profile was opened while the keychain was asked. Start again.</source>
         <translation>询问密钥环期间打开了另一个方案。请重新开始。</translation>
-    </message>
-    <message>
-        <source>Left by a run that did not end well, and not encrypted:
-%1</source>
-        <translation>由未正常结束的任务遗留，且未加密：
-%1</translation>
-    </message>
-    <message>
-        <source>A run is at work. Remove them when it has ended.</source>
-        <translation>有任务正在进行。请在它结束后再删除。</translation>
     </message>
     <message>
         <source>The %1 can&apos;t be read:
@@ -1747,6 +1741,24 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
     <message>
         <source>profiles</source>
         <translation>方案</translation>
+    </message>
+    <message>
+        <source>Something is running already, or about to end. Try again when it has ended.</source>
+        <translation>已有任务正在进行，或即将结束。请在它结束后重试。</translation>
+    </message>
+    <message>
+        <source>A run that was broken off has left this, and it is not encrypted:
+%1</source>
+        <translation>被中断的任务遗留了以下文件，且未加密：
+%1</translation>
+    </message>
+    <message>
+        <source>Something is running just now. Remove these files when it has ended.</source>
+        <translation>有任务正在进行。请在它结束后再删除这些文件。</translation>
+    </message>
+    <message>
+        <source>An archive is being looked into.</source>
+        <translation>正在查看归档的内容。</translation>
     </message>
 </context>
 <context>
@@ -1812,44 +1824,12 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
         <translation>以下项目既不是文件也不是文件夹，已跳过：%1。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; can&apos;t be given another name while its successor is made.</source>
-        <translation>制作新归档期间，无法为“%1”改名。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; can&apos;t be given another name while its successor is made: %2.</source>
-        <translation>制作新归档期间，无法为“%1”改名：%2。</translation>
-    </message>
-    <message>
         <source>The former archive is called &quot;%1&quot; now: %2.</source>
         <translation>先前的归档现在名为“%1”：%2。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is left and is not encrypted: run the backup again, or remove it.</source>
         <translation>“%1”遗留在原处，且未加密：请重新备份，或将其删除。</translation>
-    </message>
-    <message>
-        <source>The settings have no %1, and without it files would be lost. Repair the settings file, or move it away: the next start makes a new one.</source>
-        <translation>设置中缺少%1，没有它会丢失文件。请修复设置文件，或将其移走：下次启动时会新建一个。</translation>
-    </message>
-    <message>
-        <source>file extension of archives (&quot;extensions&quot;, &quot;RAR&quot;)</source>
-        <translation>归档的文件扩展名（&quot;extensions&quot;, &quot;RAR&quot;）</translation>
-    </message>
-    <message>
-        <source>file extension of &quot;%1&quot; (&quot;extensions&quot;)</source>
-        <translation>“%1”的文件扩展名（&quot;extensions&quot;）</translation>
-    </message>
-    <message>
-        <source>command for &quot;%1&quot; (&quot;encparam&quot;)</source>
-        <translation>“%1”的命令（&quot;encparam&quot;）</translation>
-    </message>
-    <message>
-        <source>path of the archiver (&quot;external&quot;, &quot;RAR&quot;)</source>
-        <translation>归档程序的路径（&quot;external&quot;, &quot;RAR&quot;）</translation>
-    </message>
-    <message>
-        <source>path of the OpenSSL tool (&quot;external&quot;, &quot;OpenSSL&quot;)</source>
-        <translation>OpenSSL 工具的路径（&quot;external&quot;, &quot;OpenSSL&quot;）</translation>
     </message>
     <message>
         <source>The profile has no folders. Add those that are to be backed up.</source>
@@ -1906,6 +1886,18 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
     <message>
         <source>and %1 more</source>
         <translation>及另外 %1 个</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be given another name while the new archive is made.</source>
+        <translation>制作新归档期间，无法为“%1”改名。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be given another name while the new archive is made: %2.</source>
+        <translation>制作新归档期间，无法为“%1”改名：%2。</translation>
+    </message>
+    <message>
+        <source>Something is missing in the settings file, and without it files would be lost: %1. Repair the file, or move it away: the next start makes a new one.</source>
+        <translation>设置文件中缺少一项，没有它会丢失文件：%1。请修复该文件，或将其移走：下次启动时会新建一个。</translation>
     </message>
 </context>
 <context>
@@ -1999,10 +1991,6 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
         <translation>“%1”中本应是加密文件的位置是一个链接。它不是由备份生成的：请勿信任它。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; does not hold the file &quot;%2&quot; that its name promises. Give the archive back the name that it had, or it is none of a backup&apos;s.</source>
-        <translation>“%1”中没有与其名称相应的文件“%2”。请恢复该归档原来的名称；否则它就不是备份的归档。</translation>
-    </message>
-    <message>
         <source>The name of &quot;%1&quot; does not tell how it was encrypted. Choose the decryption method, and extract again.</source>
         <translation>从“%1”的名称看不出其加密方式。请选择解密方式，然后重新提取。</translation>
     </message>
@@ -2021,10 +2009,6 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
     <message>
         <source>&quot;%1&quot; can&apos;t be decrypted: %2.</source>
         <translation>无法解密“%1”：%2。</translation>
-    </message>
-    <message>
-        <source>What &quot;%1&quot; was decrypted to is no archive. The private key is wrong, or the archive is none of a backup&apos;s.</source>
-        <translation>“%1”解密后得到的不是归档。可能是私钥错误，或者它不是备份的归档。</translation>
     </message>
     <message>
         <source>The password is probably wrong: what &quot;%1&quot; was decrypted to is no archive. Type the one that the archive was made with.</source>
@@ -2163,6 +2147,18 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
         <translation>第 %1 卷与前面各卷一样大，因此可能不是最后一卷</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; does not hold the file &quot;%2&quot; that its name promises. Give the archive back the name that it had; if it never had another one, no backup has made it.</source>
+        <translation>“%1”中没有与其名称相应的文件“%2”。请恢复该归档原来的名称；如果它从未改名，就不是备份的归档。</translation>
+    </message>
+    <message>
+        <source>What &quot;%1&quot; was decrypted to is no archive. The private key is wrong, or no backup has made the archive.</source>
+        <translation>“%1”解密后得到的不是归档。可能是私钥错误，或者它不是备份的归档。</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing of yours was changed.</source>
+        <translation>已取消。您的文件没有任何改变。</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is a link</source>
         <translation>“%1”是链接</translation>
     </message>
@@ -2208,6 +2204,22 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
     <message>
         <source>The folder &quot;%1&quot; can&apos;t be made. Choose another one.</source>
         <translation>无法创建文件夹“%1”。请另选一个。</translation>
+    </message>
+    <message>
+        <source>Testing the archives…</source>
+        <translation>正在检查归档…</translation>
+    </message>
+    <message>
+        <source>Testing &quot;%1&quot;…</source>
+        <translation>正在检查“%1”…</translation>
+    </message>
+    <message>
+        <source>Restoring…</source>
+        <translation>正在还原…</translation>
+    </message>
+    <message>
+        <source>Looking into &quot;%1&quot;…</source>
+        <translation>正在查看“%1”的内容…</translation>
     </message>
 </context>
 <context>
@@ -2625,10 +2637,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>证书本身已无法使用。 </translation>
     </message>
     <message>
-        <source>The certificate &quot;%1&quot; %2. Choose another one on the Password tab.</source>
-        <translation>证书“%1”%2。请在“密码”标签页另选一个。</translation>
-    </message>
-    <message>
         <source>No password is given. Type one on the Password tab; without a password nothing is backed up.</source>
         <translation>未提供密码。请在“密码”标签页输入；没有密码就不会备份任何内容。</translation>
     </message>
@@ -2649,22 +2657,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>未选择证书。请在“密码”标签页选择一个。</translation>
     </message>
     <message>
-        <source>is not there, or can&apos;t be read</source>
-        <translation>不存在，或无法读取</translation>
-    </message>
-    <message>
-        <source>is a private key</source>
-        <translation>是私钥</translation>
-    </message>
-    <message>
-        <source>is no certificate in PEM, the text form</source>
-        <translation>不是文本形式（PEM）的证书</translation>
-    </message>
-    <message>
-        <source>has no RSA key, and nothing can be encrypted to another kind</source>
-        <translation>没有 RSA 密钥，而其他类型的密钥无法用于加密</translation>
-    </message>
-    <message>
         <source>The key of the certificate &quot;%1&quot; has %2 bits; less than %3 can be broken.</source>
         <translation>证书“%1”的密钥有 %2 位；少于 %3 位的密钥可能被破解。</translation>
     </message>
@@ -2675,6 +2667,22 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
     <message>
         <source>unknown kind</source>
         <translation>未知类型</translation>
+    </message>
+    <message>
+        <source>The certificate &quot;%1&quot; is not there, or can&apos;t be read. Choose another one on the Password tab.</source>
+        <translation>证书“%1”不存在，或无法读取。请在“密码”标签页另选一个。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is chosen as the certificate, but it is a private key. Choose the certificate that belongs to it on the Password tab.</source>
+        <translation>选作证书的“%1”其实是私钥。请在“密码”标签页选择与它配对的证书。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no certificate in the form that is needed here, which is PEM, a text file. Choose another one on the Password tab.</source>
+        <translation>“%1”不是此处所需形式的证书，即文本文件形式的 PEM。请在“密码”标签页另选一个。</translation>
+    </message>
+    <message>
+        <source>The certificate &quot;%1&quot; has a key of another kind than RSA, and only RSA keys can be used here. Choose another one on the Password tab.</source>
+        <translation>证书“%1”的密钥不是 RSA 密钥，而此处只能使用 RSA 密钥。请在“密码”标签页另选一个。</translation>
     </message>
 </context>
 <context>
@@ -2749,10 +2757,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
 </context>
 <context>
     <name>plist</name>
-    <message>
-        <source>U+%1, which XML can&apos;t carry</source>
-        <translation>U+%1，XML 无法容纳该字符</translation>
-    </message>
     <message>
         <source>declarations within the document are not supported</source>
         <translation>不支持文档内的声明</translation>
@@ -2878,10 +2882,6 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>%1：不是 UTF-8</translation>
     </message>
     <message>
-        <source>the value under “%1” %2</source>
-        <translation>“%1”下的值%2</translation>
-    </message>
-    <message>
         <source>it can&apos;t be put into XML</source>
         <translation>无法写成 XML</translation>
     </message>
@@ -2890,24 +2890,24 @@ openssl pkcs12 -in FILE -nocerts -nodes -out key.pem</translation>
         <translation>它会大于 %1 MiB</translation>
     </message>
     <message>
-        <source>is nested deeper than %1 levels</source>
-        <translation>嵌套超过 %1 层</translation>
-    </message>
-    <message>
-        <source>is a date that a property list can&apos;t carry</source>
-        <translation>是属性列表无法表示的日期</translation>
-    </message>
-    <message>
         <source>there is nothing to write</source>
         <translation>没有可写入的内容</translation>
     </message>
     <message>
-        <source>it holds %1</source>
-        <translation>它含有 %1</translation>
+        <source>it has a character that such a file can&apos;t hold (%1)</source>
+        <translation>含有此类文件无法容纳的字符（%1）</translation>
     </message>
     <message>
-        <source>holds %1</source>
-        <translation>含有 %1</translation>
+        <source>the value under “%2” is nested deeper than %1 levels</source>
+        <translation>“%2”下的值嵌套超过 %1 层</translation>
+    </message>
+    <message>
+        <source>the value under “%1” is a date that the file can&apos;t hold</source>
+        <translation>“%1”下的值是文件无法表示的日期</translation>
+    </message>
+    <message>
+        <source>the value under “%2” has a character that the file can&apos;t hold (%1)</source>
+        <translation>“%2”下的值含有文件无法容纳的字符（%1）</translation>
     </message>
 </context>
 <context>
@@ -3030,14 +3030,6 @@ What you changed is kept only as long as the program runs. Make room, or make th
         <translation>另一个任务正在写入“%1”，或其工具仍在写入。请等它结束。</translation>
     </message>
     <message>
-        <source>No record of the run can be kept: %1. What it leaves if it is interrupted could not be told from files of your own.</source>
-        <translation>无法保存任务记录：%1。这样一来，任务如被中断，它遗留的文件就无法与您自己的文件区分。</translation>
-    </message>
-    <message>
-        <source>The OpenSSL that is registered derives keys from passwords in another way than the archives need. Choose Quillorent&apos;s own on the Tools tab; the password may be right.</source>
-        <translation>登记的 OpenSSL 由密码生成密钥的方式与归档所需的不同。请在“工具”标签页选择 Quillorent 自带的 OpenSSL；密码可能是对的。</translation>
-    </message>
-    <message>
         <source>Collecting</source>
         <translation>收集</translation>
     </message>
@@ -3135,13 +3127,17 @@ What you changed is kept only as long as the program runs. Make room, or make th
         <source>the folder &quot;%1&quot; can&apos;t be made</source>
         <translation>无法创建文件夹“%1”</translation>
     </message>
+    <message>
+        <source>It can&apos;t be written down what this run does: %1. If it is interrupted, nobody could tell what it leaves from files of your own.</source>
+        <translation>无法记下此任务所做的事：%1。如果它被中断，就无法把它遗留的文件与您自己的文件区分开。</translation>
+    </message>
+    <message>
+        <source>The OpenSSL program that is chosen on the Tools tab makes something else of a password than these archives need, so it can&apos;t open them. Choose Quillorent&apos;s own there; the password may be right.</source>
+        <translation>“工具”标签页中选择的 OpenSSL 程序处理密码的方式与这些归档所需的不同，因此无法打开它们。请在那里选择 Quillorent 自带的 OpenSSL；密码可能是对的。</translation>
+    </message>
 </context>
 <context>
     <name>settings</name>
-    <message>
-        <source>The folder can&apos;t be made: </source>
-        <translation>无法创建文件夹： </translation>
-    </message>
     <message>
         <source>“%1” may not be written, nor moved out of the way: what is changed can&apos;t be saved.</source>
         <translation>“%1”不可写入，也无法移走：更改无法保存。</translation>
@@ -3151,16 +3147,8 @@ What you changed is kept only as long as the program runs. Make room, or make th
         <translation>当前用户无法写入“%1”。它已保留为“%2”，并由一个采用程序自身设置的新文件取代。</translation>
     </message>
     <message>
-        <source> can&apos;t be read, nor kept beside a new one: it is not saved over</source>
-        <translation> 无法读取，也无法保留在新文件旁边：因此不覆盖它</translation>
-    </message>
-    <message>
         <source>“%1” could not be read when it was saved over. What it held is kept as “%2”.</source>
         <translation>保存并覆盖“%1”时，无法读取其内容。原内容已保留为“%2”。</translation>
-    </message>
-    <message>
-        <source>: what is to be replaced can&apos;t be kept beside it</source>
-        <translation>：将被替换的内容无法保留在旁边</translation>
     </message>
     <message>
         <source>What others had changed in “%1” is kept as “%2”.</source>
@@ -3169,6 +3157,18 @@ What you changed is kept only as long as the program runs. Make room, or make th
     <message>
         <source>What you had changed in “%1” is kept as “%2”.</source>
         <translation>您在“%1”中所做的更改已保留为“%2”。</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; can&apos;t be made</source>
+        <translation>无法创建文件夹“%1”</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be read, and no copy of it can be kept: so it is not saved over</source>
+        <translation>“%1”无法读取，也无法保留其副本：因此不覆盖它</translation>
+    </message>
+    <message>
+        <source>Of “%1” no copy can be kept: so it is not saved over</source>
+        <translation>无法保留“%1”的副本：因此不覆盖它</translation>
     </message>
 </context>
 <context>
@@ -3308,10 +3308,6 @@ What you changed is kept only as long as the program runs. Make room, or make th
     <message>
         <source>ssh has noted the server&apos;s key, and what it said counts as a failure. Run it once more.</source>
         <translation>ssh 记下了服务器的密钥，而它给出的消息被算作失败。请再运行一次。</translation>
-    </message>
-    <message>
-        <source>rsync was not content; what it said follows.</source>
-        <translation>rsync 报告了问题；它的消息如下。</translation>
     </message>
     <message>
         <source> Nothing was deleted at the destination.</source>
@@ -3467,6 +3463,10 @@ What you changed is kept only as long as the program runs. Make room, or make th
             <numerusform>%n 个项目</numerusform>
         </translation>
     </message>
+    <message>
+        <source>rsync, the program that copies, reported a problem; its own words follow.</source>
+        <translation>负责复制的程序 rsync 报告了问题；它的消息如下。</translation>
+    </message>
 </context>
 <context>
     <name>synchronisation</name>
@@ -3510,10 +3510,6 @@ What you changed is kept only as long as the program runs. Make room, or make th
 <context>
     <name>tools</name>
     <message>
-        <source>This OpenSSL can&apos;t be used by itself: it derives keys from passwords in another way than archives of this program need, and complains of it. Choose Quillorent&apos;s own &quot;openssl&quot;, which uses it.</source>
-        <translation>此 OpenSSL 不能单独使用：它由密码生成密钥的方式与本程序的归档所需的不同，并会就此给出警告。请选择 Quillorent 自带的“openssl”，它会调用此 OpenSSL。</translation>
-    </message>
-    <message>
         <source>Choose a tool</source>
         <translation>选择工具</translation>
     </message>
@@ -3532,6 +3528,10 @@ What you changed is kept only as long as the program runs. Make room, or make th
     <message>
         <source>Can&apos;t start &quot;%1&quot;: %2. Choose the tool&apos;s path on the Tools tab.</source>
         <translation>无法启动“%1”：%2。请在“工具”标签页选择该工具的路径。</translation>
+    </message>
+    <message>
+        <source>This OpenSSL can&apos;t be used by itself: it makes something else of a password than archives of this program need, and complains of it. Choose Quillorent&apos;s own &quot;openssl&quot;, which uses it.</source>
+        <translation>此 OpenSSL 不能单独使用：它处理密码的方式与本程序的归档所需的不同，并会就此给出警告。请选择 Quillorent 自带的“openssl”，它会调用此 OpenSSL。</translation>
     </message>
     <message>
         <source>the tool&apos;s message is not readable text</source>
@@ -4055,6 +4055,14 @@ What you changed is kept only as long as the program runs. Make room, or make th
     <message>
         <source>The backup failed</source>
         <translation>备份失败</translation>
+    </message>
+    <message>
+        <source>Archive looked into</source>
+        <translation>归档已查看</translation>
+    </message>
+    <message>
+        <source>The archive can&apos;t be looked into</source>
+        <translation>无法查看归档</translation>
     </message>
 </context>
 <context>

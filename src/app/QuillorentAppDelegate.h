@@ -71,7 +71,8 @@ public:
     Guarded<RunRecord> lastRecord; ///< of the run that ended last; without a kind before one has
     /// The deepest folder of all that the last extraction brought back; empty unless all of it succeeded.
     [[nodiscard]] QString extractedFolder() const { return openFolderButton.alternateTitle(); }
-    Listings listings;                             ///< of archives that were looked into
+    Listings listings;           ///< of archives that were looked into
+    Guarded<QString> lookedInto; ///< the archive that the run of that tab only looks into; else empty
     Guarded<Listings::Listing> shownListing;       ///< the one that `contentsPanel01` shows
     Guarded<std::vector<std::string>> chosenPaths; ///< what is chosen there, as the archive has it
     /// On: a synchronisation that deletes shows first what. Off: it is a concern like others. Set before it

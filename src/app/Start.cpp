@@ -62,9 +62,10 @@ private:
 };
 
 /// What somebody is told who wants to shut the machine down meanwhile.
-QString whyAwake(const RunStart &start)
+QString whyAwake(const RunStart &start, bool onlyLooks)
 {
     const QString &sheet = start.sheet.sheet.name();
+    if (sheet == u"progressPanel02" && onlyLooks) return Words::tr("An archive is being looked into.");
     if (sheet == u"progressPanel02") return Words::tr("Files are being restored, and would not be complete.");
     if (sheet == u"progressPanel03")
         return Words::tr("Folders are being synchronised, and would not be in step.");
@@ -95,7 +96,7 @@ void QuillorentAppDelegate::carryOut(const RunStart &start)
         return;
     }
     if (isWanted(start, findings)) {
-        const StayAwake awake(whyAwake(start));
+        const StayAwake awake(whyAwake(start, !lookedInto().isEmpty()));
         start.work(monitor);
     } else {
         endRun();
@@ -133,7 +134,7 @@ void QuillorentAppDelegate::answer(outlets::Panel &panel, bool goesOn)
 void QuillorentAppDelegate::startRun(const QString &threadName, const std::function<RunStart()> &prepare)
 {
     if (!tryBeginRun()) {
-        warn(Words::tr("A run is at work, or still ending its tools. Try again when it has ended."));
+        warn(Words::tr("Something is running already, or about to end. Try again when it has ended."));
         return;
     }
     const auto go = [this, threadName, prepare] {
@@ -174,9 +175,9 @@ void QuillorentAppDelegate::showLeftInClear()
 {
     const QStringList left = aftermath::leftInClear();
     clearText01.setText(
-        left.isEmpty()
-            ? QString()
-            : Words::tr("Left by a run that did not end well, and not encrypted:\n%1").arg(left.join(u'\n')));
+        left.isEmpty() ? QString()
+                       : Words::tr("A run that was broken off has left this, and it is not encrypted:\n%1")
+                             .arg(left.join(u'\n')));
     clearText01.setHidden(left.isEmpty());
     clearRemove01.setHidden(left.isEmpty());
 }
@@ -185,7 +186,7 @@ void QuillorentAppDelegate::clearRemove01Action()
 {
     // A run may be making just these at the moment.
     if (isRunActive()) {
-        warn(Words::tr("A run is at work. Remove them when it has ended."));
+        warn(Words::tr("Something is running just now. Remove these files when it has ended."));
         return;
     }
     detachThread(u"remove-clear"_qs, [this] {

@@ -165,7 +165,7 @@ QString FolderBackup::setFormerAside()
     const QStringList files = filesOfArchive(m_paths.final);
     const auto plan = planAside(files, u"former"_qs);
     if (!plan)
-        return Words::tr("\"%1\" can't be given another name while its successor is made.")
+        return Words::tr("\"%1\" can't be given another name while the new archive is made.")
             .arg(files.value(0));
     // Where the names are written down first, a run that is killed now is repaired by the next.
     m_run.journal().changeItem(m_index, [&](ItemRecord &item) {
@@ -176,7 +176,7 @@ QString FolderBackup::setFormerAside()
     m_run.journal().sync();
     const QString reason = setAside(*plan);
     if (!reason.isEmpty())
-        return Words::tr("\"%1\" can't be given another name while its successor is made: %2.")
+        return Words::tr("\"%1\" can't be given another name while the new archive is made: %2.")
             .arg(files.value(0), reason);
     m_former = *plan;
     return {};

@@ -43,18 +43,18 @@ private:
 
 void lookAtSettings(const BackupOrder &order, Found &found)
 {
-    const auto missing = [&](const QString &value, const QString &what) {
+    const auto missing = [&](const QString &value, const QStringList &keys) {
         if (value.isEmpty())
-            found.add(Place::Settings,
-                      Words::tr("The settings have no %1, and without it files would be lost. Repair the "
-                                "settings file, or move it away: the next start makes a new one.")
-                          .arg(what));
+            found.add(Place::Settings, Words::tr("Something is missing in the settings file, and without it "
+                                                 "files would be lost: %1. Repair "
+                                                 "the file, or move it away: the next start makes a new one.")
+                                           .arg(keys.join(u" / "_qs)));
     };
-    missing(order.archiveExtension, Words::tr("file extension of archives (\"extensions\", \"RAR\")"));
-    missing(order.methodExtension, Words::tr("file extension of \"%1\" (\"extensions\")").arg(order.method));
-    missing(order.cipher, Words::tr("command for \"%1\" (\"encparam\")").arg(order.method));
-    missing(order.archiver, Words::tr("path of the archiver (\"external\", \"RAR\")"));
-    missing(order.encoder, Words::tr("path of the OpenSSL tool (\"external\", \"OpenSSL\")"));
+    missing(order.archiveExtension, {u"extensions"_qs, u"RAR"_qs});
+    missing(order.methodExtension, {u"extensions"_qs, order.method});
+    missing(order.cipher, {u"encparam"_qs, order.method});
+    missing(order.archiver, {u"external"_qs, u"RAR"_qs});
+    missing(order.encoder, {u"external"_qs, u"OpenSSL"_qs});
 }
 
 void lookAtSources(const BackupOrder &order, Found &found)

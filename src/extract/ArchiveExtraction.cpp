@@ -279,7 +279,7 @@ QString ArchiveExtraction::folderForContents(Contents &contents)
     const QString name = inner.endsWith(u".rar"_qs) ? inner.chopped(4) : inner + u" contents"_qs;
     QString folder = joined(m_order.folder, name);
     for (int number = 2; !QDir().mkdir(folder) && number < 1000; ++number)
-        folder = joined(m_order.folder, u"%1 (%2)"_qs.arg(name).arg(number));
+        folder = joined(m_order.folder, u"%1 (%2)"_qs.arg(name, QString::number(number)));
     const std::lock_guard lock(m_shared.mutex);
     m_shared.ownFolders.append(folder);
     return folder;

@@ -50,9 +50,7 @@ QString describe(const QString &leftOut, const QStringList &all)
     if (holdsFirstVolume(all, volume->set)) return {};
     return Words::tr("The first volume is missing: \"%1\" is volume %2 of its set. Add the first one, "
                      "\"%3.part1.rar\" or \"…part01.rar\".")
-        .arg(name)
-        .arg(volume->number)
-        .arg(quillorentLibrary::lastPathComponent(volume->set));
+        .arg(name, QString::number(volume->number), quillorentLibrary::lastPathComponent(volume->set));
 }
 
 } // namespace

@@ -124,7 +124,7 @@ QString explainDecryption(const FailedStage &stage)
             .arg(name);
     if (stage.atEncrypted == Place::Nothing)
         return Words::tr("\"%1\" does not hold the file \"%2\" that its name promises. Give the archive back "
-                         "the name that it had, or it is none of a backup's.")
+                         "the name that it had; if it never had another one, no backup has made it.")
             .arg(name, nameOf(stage.encrypted));
     if (stage.decoderCommand.isEmpty())
         return Words::tr("The name of \"%1\" does not tell how it was encrypted. Choose the decryption "
@@ -152,8 +152,8 @@ QString explainInner(const FailedStage &stage)
 {
     const QString name = nameOf(stage.archive);
     if (!stage.innerIsArchive && stage.decoderCommand == u"smime")
-        return Words::tr("What \"%1\" was decrypted to is no archive. The private key is wrong, or the "
-                         "archive is none of a backup's.")
+        return Words::tr("What \"%1\" was decrypted to is no archive. The private key is wrong, or no "
+                         "backup has made the archive.")
             .arg(name);
     if (!stage.innerIsArchive)
         return Words::tr("The password is probably wrong: what \"%1\" was decrypted to is no archive. Type "

@@ -168,6 +168,8 @@ QString ExtractRun::summary() const
     QStringList sentences;
     if (!m_state.failure().isEmpty())
         sentences.append(Words::tr("Failed: %1").arg(m_state.failure()));
+    else if (m_state.isCancelledByUser() && m_order.listing)
+        sentences.append(Words::tr("Cancelled. Nothing of yours was changed."));
     else if (m_state.isCancelledByUser() && m_order.isPart())
         sentences.append(Words::tr("Cancelled. What was chosen may have been brought back in part."));
     else if (m_state.isCancelledByUser())

@@ -41,11 +41,6 @@ QString describeKey(const EVP_PKEY *key)
         .arg(EVP_PKEY_get_bits(key));
 }
 
-QString refusal(const QString &path, const QString &reason)
-{
-    return Words::tr("The certificate \"%1\" %2. Choose another one on the Password tab.").arg(path, reason);
-}
-
 } // namespace
 
 QString whyBadPassword(const QString &password)
@@ -73,24 +68,29 @@ CertificateJudgement judgeCertificate(const QString &path)
         return {.obstacle = Words::tr("No certificate is chosen. Choose one on the Password tab.")};
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-        return {.obstacle = refusal(path, Words::tr("is not there, or can't be read"))};
+        return {.obstacle = Words::tr("The certificate \"%1\" is not there, or can't be read. Choose another "
+                                      "one on the Password tab.")
+                                .arg(path)};
     const QByteArray content = file.read(largestFile);
     const auto certificate = readCertificate(content);
     if (!certificate)
-        return {.obstacle = refusal(path, content.contains("PRIVATE KEY")
-                                              ? Words::tr("is a private key")
-                                              : Words::tr("is no certificate in PEM, the text form"))};
+        return {.obstacle =
+                    (content.contains("PRIVATE KEY")
+                         ? Words::tr("\"%1\" is chosen as the certificate, but it is a private key. Choose "
+                                     "the certificate that belongs to it on the Password tab.")
+                         : Words::tr("\"%1\" is no certificate in the form that is needed here, which is "
+                                     "PEM, a text file. Choose another one on the Password tab."))
+                        .arg(path)};
     EVP_PKEY *key = X509_get0_pubkey(certificate.get());
     const QString described = key ? describeKey(key) : QString();
     if (!key || EVP_PKEY_get_base_id(key) != EVP_PKEY_RSA)
-        return {.obstacle =
-                    refusal(path, Words::tr("has no RSA key, and nothing can be encrypted to another kind")),
+        return {.obstacle = Words::tr("The certificate \"%1\" has a key of another kind than RSA, and only "
+                                      "RSA keys can be used here. Choose another one on the Password tab.")
+                                .arg(path),
                 .key = described};
     const int bits = EVP_PKEY_get_bits(key);
     if (bits >= shortestKey) return {.key = described};
     return {.concern = Words::tr("The key of the certificate \"%1\" has %2 bits; less than %3 can be broken.")
-                           .arg(path)
-                           .arg(bits)
-                           .arg(shortestKey),
+                           .arg(path, QString::number(bits), QString::number(shortestKey)),
             .key = described};
 }

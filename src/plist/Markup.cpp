@@ -74,7 +74,7 @@ std::optional<Refusal> forbiddenCharacter(QStringView text)
         if (isPair)
             ++index;
         else if (isControl || unit.isSurrogate() || unit >= QChar(0xFFFE))
-            return Refusal{index, Words::tr("U+%1, which XML can't carry").arg(hexadecimal(unit))};
+            return Refusal{index, u"U+"_qs + hexadecimal(unit)};
     }
     return std::nullopt;
 }
@@ -82,7 +82,9 @@ std::optional<Refusal> forbiddenCharacter(QStringView text)
 std::optional<Refusal> refusedMarkup(QStringView document)
 {
     if (const auto forbidden = forbiddenCharacter(document))
-        return Refusal{forbidden->index, Words::tr("it holds %1").arg(forbidden->reason)};
+        return Refusal{
+            forbidden->index,
+            Words::tr("it has a character that such a file can't hold (%1)").arg(forbidden->reason)};
 
     qsizetype index = document.indexOf(u'<');
     while (index >= 0) {

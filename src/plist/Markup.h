@@ -12,7 +12,7 @@ struct Refusal {
 };
 
 /// The first character that XML 1.0 can't carry, not even as a reference (https://www.w3.org/TR/xml/,
-/// “Char”). None where it can carry all.
+/// “Char”); the reason is its number, "U+0001". None where it can carry all.
 [[nodiscard]] std::optional<Refusal> forbiddenCharacter(QStringView text);
 
 /// What of a document must not reach the XML reader: characters that are not XML's (its messages would repeat

@@ -275,12 +275,12 @@ FileContent readFile(const QString &path)
 
     if (const auto refusal = refusedMarkup(document)) {
         const qsizetype line = QStringView(document).first(refusal->index).count(u'\n') + 1;
-        return {{}, u"%1:%2: %3"_qs.arg(path).arg(line).arg(refusal->reason)};
+        return {{}, u"%1:%2: %3"_qs.arg(path, QString::number(line), refusal->reason)};
     }
 
     Reader reader(document);
     Dictionary dictionary = reader.readDocument();
-    if (!dictionary) return {{}, u"%1:%2: %3"_qs.arg(path).arg(reader.line()).arg(reader.error())};
+    if (!dictionary) return {{}, u"%1:%2: %3"_qs.arg(path, QString::number(reader.line()), reader.error())};
     return {std::move(dictionary), {}};
 }
 

@@ -43,7 +43,8 @@ private:
     void writeArray(const Array &array, int depth);
     void writeDate(const QDateTime &date);
     void writeText(const QString &element, const QString &text);
-    void refuse(const QString &reason);
+    void refuse(const QString &reason); // which has one place left, for the keys that lead there
+    void refuseDepth();
 
     QByteArray m_bytes;
     QXmlStreamWriter m_xml;
@@ -53,7 +54,12 @@ private:
 
 void Writer::refuse(const QString &reason)
 {
-    if (m_reason.isEmpty()) m_reason = Words::tr("the value under “%1” %2").arg(m_keys.join(u"/"_qs), reason);
+    if (m_reason.isEmpty()) m_reason = reason.arg(m_keys.join(u"/"_qs));
+}
+
+void Writer::refuseDepth()
+{
+    refuse(Words::tr("the value under “%2” is nested deeper than %1 levels").arg(maximumDepth));
 }
 
 void Writer::writeDocument(const Dictionary &root)
@@ -89,7 +95,7 @@ void Writer::writeValue(const Value &value, int depth)
 void Writer::writeDictionary(const Dictionary &dictionary, int depth)
 {
     // Also what ends the writing of a container that came to lie in itself.
-    if (depth > maximumDepth) return refuse(Words::tr("is nested deeper than %1 levels").arg(maximumDepth));
+    if (depth > maximumDepth) return refuseDepth();
     m_xml.writeStartElement(u"dict"_qs);
     const QList<Dictionary::Entry> entries = dictionary.entries();
     for (const Dictionary::Entry &entry : entries) {
@@ -103,7 +109,7 @@ void Writer::writeDictionary(const Dictionary &dictionary, int depth)
 
 void Writer::writeArray(const Array &array, int depth)
 {
-    if (depth > maximumDepth) return refuse(Words::tr("is nested deeper than %1 levels").arg(maximumDepth));
+    if (depth > maximumDepth) return refuseDepth();
     m_xml.writeStartElement(u"array"_qs);
     const QList<Value> values = array.values();
     for (const Value &value : values)
@@ -115,14 +121,15 @@ void Writer::writeDate(const QDateTime &date)
 {
     const QDateTime utc = date.toUTC();
     if (!utc.isValid() || utc.date().year() < 1 || utc.date().year() > 9999)
-        return refuse(Words::tr("is a date that a property list can't carry"));
+        return refuse(Words::tr("the value under “%1” is a date that the file can't hold"));
     writeText(u"date"_qs, utc.toString(u"yyyy-MM-ddTHH:mm:ssZ"_qs));
 }
 
 void Writer::writeText(const QString &element, const QString &text)
 {
     if (const auto forbidden = forbiddenCharacter(text))
-        return refuse(Words::tr("holds %1").arg(forbidden->reason));
+        return refuse(Words::tr("the value under “%2” has a character that the file can't hold (%1)")
+                          .arg(forbidden->reason));
 
     m_xml.writeStartElement(element);
     m_xml.writeCharacters({}); // so that even an empty element has both of its tags

@@ -23,15 +23,17 @@ QString concernAboutRecords()
 {
     const QString reason = whyNoRecords();
     if (reason.isEmpty()) return {};
-    return Words::tr("No record of the run can be kept: %1. What it leaves if it is interrupted could not be "
-                     "told from files of your own.")
-        .arg(reason);
+    return Words::
+        tr("It can't be written down what this run does: %1. If it is interrupted, nobody could tell what it "
+           "leaves from files of your own.")
+            .arg(reason);
 }
 
 QString whyOtherOpenSsl()
 {
-    return Words::tr("The OpenSSL that is registered derives keys from passwords in another way than the "
-                     "archives need. Choose Quillorent's own on the Tools tab; the password may be right.");
+    return Words::tr(
+        "The OpenSSL program that is chosen on the Tools tab makes something else of a password than these "
+        "archives need, so it can't open them. Choose Quillorent's own there; the password may be right.");
 }
 
 bool isWholeArchive(const QString &archiver, const QString &archive)

@@ -37,7 +37,7 @@ bool isTaken(const QString &path)
 
 QString numbered(const QString &path, int number)
 {
-    return number == 0 ? path : u"%1.%2"_qs.arg(path).arg(number);
+    return number == 0 ? path : u"%1.%2"_qs.arg(path, QString::number(number));
 }
 
 /// Where `content` lies already, or else the first free place.

@@ -25,7 +25,7 @@ struct Words {
 QString makeFolderFor(const QString &path)
 {
     const QString folder = QFileInfo(path).path();
-    return makePrivateFolder(folder) ? QString() : Words::tr("The folder can't be made: ") + folder;
+    return makePrivateFolder(folder) ? QString() : Words::tr("The folder \"%1\" can't be made").arg(folder);
 }
 
 void logReason(const QString &reason)
@@ -111,7 +111,8 @@ QString UserFile::keepUnreadable(const QString &path)
 {
     const KeptCopy kept = keepCopy(path, KeptAs::Damaged);
     if (!kept.isSafe)
-        return path + Words::tr(" can't be read, nor kept beside a new one: it is not saved over");
+        return Words::tr("“%1” can't be read, and no copy of it can be kept: so it is not saved over")
+            .arg(path);
     if (!kept.path.isEmpty())
         notice(Words::tr("“%1” could not be read when it was saved over. What it held is kept as “%2”.")
                    .arg(path, kept.path));
@@ -123,7 +124,7 @@ QString UserFile::keepLoser(const QString &path, const plist::Dictionary &mine, 
     const KeptCopy kept = inConflict == InConflict::KeepMine
                               ? keepCopy(path, KeptAs::Former)
                               : keepContent(path, plist::toDocument(mine).bytes);
-    if (!kept.isSafe) return path + Words::tr(": what is to be replaced can't be kept beside it");
+    if (!kept.isSafe) return Words::tr("Of “%1” no copy can be kept: so it is not saved over").arg(path);
     notice((inConflict == InConflict::KeepMine ? Words::tr("What others had changed in “%1” is kept as “%2”.")
                                                : Words::tr("What you had changed in “%1” is kept as “%2”."))
                .arg(path, kept.path));

@@ -128,7 +128,7 @@ QString explainSync(const QString &output, const SyncOrder &order)
         });
     QString text =
         known == explanations.end()
-            ? Words::tr("rsync was not content; what it said follows.")
+            ? Words::tr("rsync, the program that copies, reported a problem; its own words follow.")
             : Words::tr(known->meaning).replace(u"%1"_qs, order.server).replace(u"%2"_qs, order.destination);
     if (output.contains(u"skipping file deletion"))
         text += Words::tr(" Nothing was deleted at the destination.");

@@ -259,9 +259,7 @@ QString describeEnd(const QString &tool, int status)
     if (!WIFSIGNALED(status)) return {};
     const int signal = WTERMSIG(status);
     return Words::tr("\"%1\" was ended by signal %2 (%3).\n")
-        .arg(tool)
-        .arg(signal)
-        .arg(QString::fromLocal8Bit(strsignal(signal)));
+        .arg(tool, QString::number(signal), QString::fromLocal8Bit(strsignal(signal)));
 }
 
 } // namespace

@@ -77,4 +77,10 @@ QString plainToolTip(const QString &text)
     return u"<span style='white-space:pre'>%1</span>"_qs.arg(text.toHtmlEscaped());
 }
 
+void setPlainToolTip(QWidget &widget, const QString &text)
+{
+    widget.setToolTip(plainToolTip(text));
+    widget.setAccessibleDescription(text);
+}
+
 } // namespace ui

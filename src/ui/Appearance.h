@@ -25,4 +25,7 @@ enum class Sign { Good, Bad, Pending };
 /// A tool tip that shows the text as it is, even where it looks like markup.
 [[nodiscard]] QString plainToolTip(const QString &text);
 
+/// Gives the widget such a tool tip. People who hear the screen are told the text, without the markup.
+void setPlainToolTip(QWidget &widget, const QString &text);
+
 } // namespace ui

@@ -106,8 +106,9 @@ void BackupOffer::show()
     const int most = m_label.fontMetrics().averageCharWidth() * 40;
     QString name =
         m_label.fontMetrics().elidedText(quillorentLibrary::lastPathComponent(folder), Qt::ElideMiddle, most);
+    m_label.setTextFormat(Qt::PlainText);
     m_label.setText(tr("Bac&kups in \"%1\": tick what you want back").arg(name.replace(u'&', u"&&"_qs)));
-    m_label.setToolTip(plainToolTip(folder));
+    setPlainToolTip(m_label, folder);
     m_label.setHidden(found.isEmpty());
     m_list.setHidden(found.isEmpty());
     m_list.setBackups(found);

@@ -4,6 +4,7 @@
 #include "files/Names.h"
 #include "ui/Appearance.h"
 #include "ui/PanelDialog.h"
+#include "ui/Wording.h"
 
 #include <QHeaderView>
 #include <QLabel>
@@ -54,8 +55,8 @@ void ContentsSheet::open()
     m_widgets.search.clear();
     m_model.setListing(listing);
     m_widgets.heading.setText(
-        tr("What \"%1\" holds").arg(quillorentLibrary::lastPathComponent(listing->archive)));
-    m_widgets.heading.setToolTip(plainToolTip(listing->archive));
+        breakable(tr("What \"%1\" holds").arg(quillorentLibrary::lastPathComponent(listing->archive))));
+    setPlainToolTip(m_widgets.heading, listing->archive);
     openFirstFork();
     m_widgets.tree.setFocus();
 }

@@ -2,6 +2,7 @@
 
 #include "app/QuillorentAppDelegate.h"
 #include "backup/BackupLook.h"
+#include "ui/Appearance.h"
 #include "ui/CompressionHint.h"
 #include "ui/FirstSteps.h"
 #include "ui/Protection.h"
@@ -51,6 +52,7 @@ FoldersPage::FoldersPage(QuillorentAppDelegate &controller, Ui::MainWindow &form
         if (isOpen) showInPage(*m_form.archivesBox);
     });
     connect(form.hindranceList, &HindranceList::placeWanted, this, &FoldersPage::goTo);
+    connect(form.secureText02, &QLineEdit::returnPressed, this, &FoldersPage::goOnFromPassword);
     connect(form.mainTabs, &QTabWidget::currentChanged, this, [this] { m_readiness.lookSoon(); });
     connect(&m_readiness, &BackupReadiness::changed, this, [this] {
         showHindrances();
@@ -175,6 +177,19 @@ void FoldersPage::goTo(Hindrance::Place place)
     if (page == m_form.foldersPage) showInPage(*field);
 }
 
+// Whoever has typed it twice wants to use it.
+void FoldersPage::goOnFromPassword()
+{
+    QString password = m_all.passwordSelector();
+    QString repetition = m_all.secureText02.text();
+    const bool isRepeated = !password.isEmpty() && password == repetition;
+    wipe(password);
+    wipe(repetition);
+    if (!isRepeated) return;
+    m_form.mainTabs->setCurrentWidget(m_form.foldersPage);
+    m_form.buttonLaunch01->setFocus(Qt::OtherFocusReason);
+}
+
 // Only on an account that has never backed up anything: who has folders on a list knows the way.
 void FoldersPage::offerFirstSteps()
 {
@@ -259,8 +274,8 @@ void FoldersPage::showProtection()
         text = tr("%1 – it opens the archives that are there").arg(text);
     else if (m_readiness.verdict() == PasswordTrial::Verdict::Wrong)
         text = tr("%1 – it does not open the archives that are there").arg(text);
-    m_form.protectionText->setText(text);
-    m_form.protectionText->setToolTip(text);
+    m_form.protectionText->setText(breakable(text));
+    setPlainToolTip(*m_form.protectionText, text);
 }
 
 void FoldersPage::showArchives()

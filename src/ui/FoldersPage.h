@@ -37,6 +37,7 @@ private:
     void offerVolumeSizes();
     void offerFirstSteps();
     void takeFirstStep(int step);
+    void goOnFromPassword();
     void endFirstSteps();
     void refreshFirstSteps();
 

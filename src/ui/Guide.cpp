@@ -6,8 +6,10 @@
 #include <QFile>
 #include <QLocale>
 #include <QPushButton>
+#include <QScreen>
 #include <QTextBrowser>
 #include <QVBoxLayout>
+#include <algorithm>
 
 // At global scope, as the macro asks: the texts lie in a static library, which would not load them by itself.
 static void loadTexts() { Q_INIT_RESOURCE(help); }
@@ -34,9 +36,10 @@ QUrl addressOf(GuidePage page)
     return QUrl(u"qrc"_qs + (page == GuidePage::Guide ? guideInOwnLanguage() : u":/help/recovery.md"_qs));
 }
 
-QDialog *makeGuide(QWidget &window)
+std::unique_ptr<QDialog> makeDialog()
 {
-    auto *dialog = new QDialog(&window);
+    auto made = std::make_unique<QDialog>();
+    QDialog *dialog = made.get();
     dialog->setObjectName(u"guide"_qs);
     dialog->setWindowTitle(Words::tr("Guide"));
     auto *text = new QTextBrowser(dialog);
@@ -53,22 +56,36 @@ QDialog *makeGuide(QWidget &window)
     column->addWidget(text);
     column->addWidget(buttons);
     dialog->resize(text->fontMetrics().averageCharWidth() * 90, text->fontMetrics().height() * 32);
-    return dialog;
+    return made;
+}
+
+void center(QDialog &dialog, const QWidget &over)
+{
+    QRect place({}, dialog.size());
+    place.moveCenter(over.frameGeometry().center());
+    const QRect screen = over.screen()->availableGeometry();
+    place.moveTop(std::max(place.top(), screen.top()));
+    place.moveLeft(std::max(place.left(), screen.left()));
+    dialog.move(place.topLeft());
 }
 
 } // namespace
 
-void showGuide(QWidget &window, GuidePage page)
+Guide::Guide(QObject *parent) : QObject(parent) {}
+
+Guide::~Guide() = default;
+
+void Guide::show(GuidePage page, const QWidget &over)
 {
     loadTexts();
-    auto *dialog = window.findChild<QDialog *>(u"guide"_qs, Qt::FindDirectChildrenOnly);
-    if (!dialog) dialog = makeGuide(window);
-    auto *text = dialog->findChild<QTextBrowser *>();
+    if (!m_dialog) m_dialog = makeDialog();
+    auto *text = m_dialog->findChild<QTextBrowser *>();
     text->setSource(addressOf(page), QTextDocument::MarkdownResource);
     text->setFocus();
-    dialog->show();
-    dialog->raise();
-    dialog->activateWindow();
+    if (!m_dialog->isVisible()) center(*m_dialog, over);
+    m_dialog->show();
+    m_dialog->raise();
+    m_dialog->activateWindow();
 }
 
 } // namespace ui

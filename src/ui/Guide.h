@@ -1,5 +1,9 @@
 #pragma once
 
+#include <QObject>
+#include <memory>
+
+class QDialog;
 class QWidget;
 
 namespace ui {
@@ -9,8 +13,21 @@ enum class GuidePage {
     Recovery ///< how to get everything back without it
 };
 
-/// Shows a page of the guide, which lies in the program itself, in a window of its own beside `window`. There
-/// is one such window; it is brought to the front where it is open.
-void showGuide(QWidget &window, GuidePage page);
+/// The guide, which lies in the program itself, in a window of its own. It belongs to nothing that is on the
+/// screen: what stands above the main window would be blocked by a sheet, and it is about sheets, too, that
+/// people read.
+class Guide : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Guide(QObject *parent);
+    ~Guide() override;
+
+    /// Brings it to the front, over the middle of that window.
+    void show(GuidePage page, const QWidget &over);
+
+private:
+    std::unique_ptr<QDialog> m_dialog; ///< once it was wanted
+};
 
 } // namespace ui

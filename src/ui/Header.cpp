@@ -1,6 +1,7 @@
 #include "ui/Header.h"
 
 #include "app/QuillorentAppDelegate.h"
+#include "ui/Appearance.h"
 #include "ui/RefreshQueue.h"
 #include "ui_MainWindow.h"
 
@@ -38,8 +39,8 @@ void showWhetherLoaded(const QuillorentAppDelegate &all, QPushButton &load)
     const QString chosen = all.profileCombo01.selectedTitle();
     const bool isOther = !chosen.isEmpty() && chosen != all.currentProfileTextView.text();
     accent(load, isOther);
-    load.setToolTip(isOther ? Words::tr("Use “%1”, which is chosen but not in use yet").arg(chosen)
-                            : Words::tr("Use the chosen profile; it is in use already"));
+    setPlainToolTip(load, isOther ? Words::tr("Use “%1”, which is chosen but not in use yet").arg(chosen)
+                                  : Words::tr("Use the chosen profile; it is in use already"));
 }
 
 } // namespace

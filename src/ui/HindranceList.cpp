@@ -1,6 +1,7 @@
 #include "ui/HindranceList.h"
 
 #include "ui/Appearance.h"
+#include "ui/Wording.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -74,7 +75,7 @@ QToolButton *HindranceList::addLine(const Hindrance &hindrance)
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
     sign->setPixmap(themeIcon(u"dialog-warning"_qs).pixmap(size));
     row->addWidget(sign, 0, Qt::AlignTop);
-    auto *text = new QLabel(hindrance.text, line);
+    auto *text = new QLabel(breakable(hindrance.text), line);
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
     row->addWidget(text, 1);

@@ -134,10 +134,11 @@ void connectMenu(QMainWindow &window)
         if (PanelDialog *sheet = runningSheet(window)) sheet->reject();
     });
     QObject::connect(&part<QAction>(window, "quitAction"), &QAction::triggered, &window, &QWidget::close);
-    QObject::connect(&part<QAction>(window, "guideAction"), &QAction::triggered, &window,
-                     [&window] { showGuide(window, GuidePage::Guide); });
-    QObject::connect(&part<QAction>(window, "recoveryAction"), &QAction::triggered, &window,
-                     [&window] { showGuide(window, GuidePage::Recovery); });
+    auto *guide = new Guide(&window);
+    QObject::connect(&part<QAction>(window, "guideAction"), &QAction::triggered, guide,
+                     [guide, &window] { guide->show(GuidePage::Guide, window); });
+    QObject::connect(&part<QAction>(window, "recoveryAction"), &QAction::triggered, guide,
+                     [guide, &window] { guide->show(GuidePage::Recovery, window); });
     QObject::connect(&part<QAction>(window, "aboutAction"), &QAction::triggered, &window,
                      [&window] { showAbout(window); });
 }

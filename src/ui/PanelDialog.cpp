@@ -1,19 +1,29 @@
 #include "ui/PanelDialog.h"
 
+#include <QGuiApplication>
 #include <QHideEvent>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QPushButton>
 #include <QShowEvent>
+#include <QWindow>
 
 namespace ui {
 
 using Place = outlets::Panel::Place;
 
+bool isProgramInFront()
+{
+    // The toolkit's active window is none while one goes and the next has not got the keyboard yet.
+    const QWindow *focused = QGuiApplication::focusWindow();
+    return focused && QWidget::find(focused->winId());
+}
+
 PanelDialog::PanelDialog(QWidget *parent) : QDialog(parent) {}
 
 void PanelDialog::setPlace(Place place)
 {
+    setAttribute(Qt::WA_ShowWithoutActivating, !isProgramInFront());
     if (place != Place::Sheet) blockContents(false);
     if (place == Place::Hidden || (place == Place::Window && isModal())) hide();
 
@@ -25,25 +35,30 @@ void PanelDialog::setPlace(Place place)
         return;
     case Place::Window:
         setWindowModality(Qt::NonModal);
-        show();
-        raise();
-        activateWindow();
+        showInFront();
         return;
     }
+}
+
+void PanelDialog::showInFront()
+{
+    show();
+    if (testAttribute(Qt::WA_ShowWithoutActivating)) return;
+    raise();
+    activateWindow();
 }
 
 void PanelDialog::openAsSheet()
 {
     if (!m_windowClosable) {
-        open();
+        setWindowModality(Qt::WindowModal);
+        showInFront();
         return;
     }
     // Qt lets no close event through to a window that a modal dialog blocks.
     blockContents(true);
     setWindowModality(Qt::NonModal);
-    show();
-    raise();
-    activateWindow();
+    showInFront();
 }
 
 void PanelDialog::blockContents(bool block)

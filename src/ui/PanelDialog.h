@@ -7,8 +7,12 @@
 
 namespace ui {
 
-/// A panel of the program. The program alone shows and hides it: Escape and the close button only ask for the
-/// panel's closing action.
+/// Whether one of the program's windows has the keyboard: somebody is looking at it.
+[[nodiscard]] bool isProgramInFront();
+
+/// A panel of the program. It takes the keyboard from other windows of the program, never from another
+/// program: who works there is told by a notice. The program alone shows and hides it: Escape and the close
+/// button only ask for the panel's closing action.
 class PanelDialog : public QDialog {
     Q_OBJECT
 
@@ -33,6 +37,7 @@ protected:
 
 private:
     void openAsSheet();
+    void showInFront();
     void focusFirst();
     void blockContents(bool block);
 

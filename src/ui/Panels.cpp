@@ -180,7 +180,7 @@ QList<QWidget *> makeMessages(QWidget &window)
 {
     return {
         makeMessage(window, u"warningPanel01"_qs, u"warningText01"_qs, Words::tr("Can't start")),
-        makeMessage(window, u"warningPanel04"_qs, u"warningText04"_qs, Words::tr("No such name")),
+        makeMessage(window, u"warningPanel04"_qs, u"warningText04"_qs, Words::tr("Name not accepted")),
         makeMessage(window, u"certPanel01"_qs, u"certPanelText01"_qs, Words::tr("Certificate not accepted")),
         makeMessage(window, u"pkPanel01"_qs, u"pkPanelText01"_qs, Words::tr("Private key not accepted")),
         makeMessage(window, u"savePanel01"_qs, u"saveText01"_qs, Words::tr("Can't save")),

@@ -15,7 +15,7 @@ struct Words {
 QString ofTypedPassword(const PasswordTab &tab)
 {
     const outlets::SecretField &field = tab.checkBox01.isOn() ? tab.secureText01a : tab.secureText01b;
-    return field.isEmpty() ? Words::tr("Typed password – not entered yet") : Words::tr("Typed password");
+    return field.isEmpty() ? Words::tr("Password – none typed yet") : Words::tr("Typed password");
 }
 
 QString ofKeychain(const PasswordTab &tab)

@@ -1,10 +1,10 @@
 #include "ui/RunNotices.h"
 
 #include "app/QuillorentAppDelegate.h"
+#include "ui/Announcer.h"
 #include "ui/PanelDialog.h"
 
-#include <QAccessible>
-#include <QApplication>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QUrl>
 
@@ -14,8 +14,6 @@ namespace ui {
 namespace {
 
 struct KindOfRun {
-    QString name;     ///< in its record
-    QString result;   ///< the widget that tells how it ended
     QString finished; ///< titles of notices
     QString failed;
 };
@@ -23,27 +21,19 @@ struct KindOfRun {
 KindOfRun kindOf(const RunRecord &record)
 {
     if (record.kind == u"extract")
-        return {record.kind, u"outputText02"_qs, RunNotices::tr("Files restored"),
-                RunNotices::tr("Restoring failed")};
+        return {RunNotices::tr("Files restored"), RunNotices::tr("Restoring failed")};
+    if (record.kind == u"look")
+        return {RunNotices::tr("Archive looked into"), RunNotices::tr("The archive can't be looked into")};
     if (record.kind == u"sync")
-        return {record.kind, u"outputText03"_qs, RunNotices::tr("Folders synchronised"),
-                RunNotices::tr("The synchronisation failed")};
-    return {record.kind, u"outputText01"_qs, RunNotices::tr("Backup finished"),
-            RunNotices::tr("The backup failed")};
-}
-
-/// Says it where the screen is read aloud, when whatever is being said has been said.
-void announce(QWidget &result, const QString &text)
-{
-    result.setAccessibleDescription(text);
-    QAccessibleEvent alert(&result, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+        return {RunNotices::tr("Folders synchronised"), RunNotices::tr("The synchronisation failed")};
+    return {RunNotices::tr("Backup finished"), RunNotices::tr("The backup failed")};
 }
 
 } // namespace
 
-RunNotices::RunNotices(QuillorentAppDelegate &controller, QWidget &window, const QList<PanelDialog *> &sheets)
-    : QObject(&window), m_controller(controller), m_window(window), m_progress(controller)
+RunNotices::RunNotices(QuillorentAppDelegate &controller, Announcer &announcer,
+                       const QList<PanelDialog *> &sheets)
+    : QObject(&announcer), m_controller(controller), m_announcer(announcer), m_progress(controller)
 {
     for (const PanelDialog *sheet : sheets)
         connect(sheet, &PanelDialog::visibilityChanged, this, [this](bool isVisible) {
@@ -71,6 +61,7 @@ void RunNotices::look()
         const int hundredth = int(figures.done() * 100);
         if (figures.bytesToDo > 0 && std::exchange(m_shownHundredth, hundredth) != hundredth)
             m_notices->showProgress(figures.done());
+        tellDamage();
         return;
     }
     m_timer.stop();
@@ -79,14 +70,26 @@ void RunNotices::look()
     if (!record.kind.isEmpty() && std::exchange(m_toldOf, record.began) != record.began) tellEnd(record);
 }
 
+// The run waits there until somebody has seen it.
+void RunNotices::tellDamage()
+{
+    const bool isShown = m_controller.extractPanel01.place() != outlets::Panel::Place::Hidden;
+    if (std::exchange(m_isDamageShown, isShown) == isShown || !isShown || isProgramInFront()) return;
+    m_folder.clear();
+    m_notices->show({.title = tr("Restoring failed"),
+                     .text = m_controller.extractReasonText01.text(),
+                     .isFailure = true,
+                     .opensFolder = false});
+}
+
 void RunNotices::tellEnd(const RunRecord &record)
 {
     const KindOfRun kind = kindOf(record);
-    if (auto *result = m_window.findChild<QWidget *>(kind.result)) announce(*result, record.summary);
+    m_announcer.say(record.summary);
     // Who is here has seen it, and who has cancelled knows.
-    if (record.outcome == Outcome::Cancelled || QApplication::activeWindow()) return;
+    if (record.outcome == Outcome::Cancelled || isProgramInFront()) return;
     const bool isFailure = record.outcome != Outcome::Succeeded;
-    m_folder = isFailure ? QString() : folderToOpen(record);
+    m_folder = isFailure || record.kind == u"look" ? QString() : folderToOpen(record);
     m_notices->show({.title = isFailure ? kind.failed : kind.finished,
                      .text = record.summary,
                      .isFailure = isFailure,

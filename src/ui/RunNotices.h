@@ -5,13 +5,13 @@
 #include "runs/RunRecord.h"
 
 #include <QTimer>
-#include <QWidget>
 #include <atomic>
 
 class QuillorentAppDelegate;
 
 namespace ui {
 
+class Announcer;
 class PanelDialog;
 
 /// Tells how a run goes to whoever doesn't look at the window: on the program's sign in the desktop's bar
@@ -20,8 +20,8 @@ class RunNotices : public QObject {
     Q_OBJECT
 
 public:
-    /// Begins when one of the sheets shows.
-    RunNotices(QuillorentAppDelegate &controller, QWidget &window, const QList<PanelDialog *> &sheets);
+    /// Begins when one of the sheets shows; lives as long as the announcer.
+    RunNotices(QuillorentAppDelegate &controller, Announcer &announcer, const QList<PanelDialog *> &sheets);
 
 Q_SIGNALS:
     void showRequested(); ///< the notice was pressed
@@ -32,13 +32,15 @@ protected:
 private:
     void begin();
     void look();
+    void tellDamage();
     void tellEnd(const RunRecord &record);
     [[nodiscard]] QString folderToOpen(const RunRecord &record) const;
 
     QuillorentAppDelegate &m_controller;
-    QWidget &m_window;
+    Announcer &m_announcer;
     RunProgress m_progress;
     std::optional<int> m_shownHundredth;
+    bool m_isDamageShown = false;
     QDateTime m_toldOf; ///< when the run began whose end was told last
     QString m_folder;   ///< of the last notice
     QTimer m_timer;

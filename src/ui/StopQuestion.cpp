@@ -20,12 +20,15 @@ struct Sentences {
     QString consequence; ///< of stopping
 };
 
-Sentences wordsOfRun(const QWidget &sheet)
+Sentences wordsOfRun(const QWidget &sheet, bool onlyLooks)
 {
     if (sheet.objectName() == u"progressPanel03")
         return {Words::tr("Synchronisation in progress"), Words::tr("Folders are being synchronised."),
                 Words::tr("Stop the synchronisation?"),
                 Words::tr("What is copied already stays, and the next run goes on from there.")};
+    if (sheet.objectName() == u"progressPanel02" && onlyLooks)
+        return {Words::tr("Looking into an archive"), Words::tr("An archive is being looked into."),
+                Words::tr("Stop looking into the archive?"), Words::tr("Nothing of yours has been changed.")};
     if (sheet.objectName() == u"progressPanel02")
         return {Words::tr("Restoring in progress"), Words::tr("Files are being restored."),
                 Words::tr("Stop restoring?"),
@@ -39,13 +42,13 @@ Sentences wordsOfRun(const QWidget &sheet)
 
 } // namespace
 
-QMessageBox *askToStop(QWidget &window, const QList<PanelDialog *> &sheets, StopFor purpose,
+QMessageBox *askToStop(QWidget &window, const QList<PanelDialog *> &sheets, StopFor purpose, bool onlyLooks,
                        const std::function<void()> &stop)
 {
     QWidget *over = &window;
     for (PanelDialog *sheet : sheets)
         if (sheet->isVisible()) over = sheet;
-    const Sentences words = wordsOfRun(*over);
+    const Sentences words = wordsOfRun(*over, onlyLooks);
     const bool quits = purpose == StopFor::Quitting;
     auto *question = new QMessageBox(QMessageBox::Question, quits ? words.title : words.question,
                                      quits ? words.text : words.question, QMessageBox::NoButton, over);

@@ -16,6 +16,7 @@
 #include "ui/Spinner.h"
 #include "ui/StepperButtons.h"
 #include "ui/TextArea.h"
+#include "ui/Wording.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -52,7 +53,7 @@ void connectWidget(RefreshQueue &queue, outlets::TextField &field, QLineEdit &ed
         edit.setText(field.text());
         if (!edit.isReadOnly()) return;
         edit.setCursorPosition(0);
-        edit.setToolTip(plainToolTip(field.text()));
+        setPlainToolTip(edit, field.text());
     });
     QObject::connect(&edit, &QLineEdit::textChanged, &edit,
                      [&field](const QString &text) { field.setText(text); });
@@ -81,7 +82,10 @@ void connectWidget(RefreshQueue &queue, outlets::TextField &field, QLabel &label
     label.setTextFormat(Qt::PlainText);
     // A label whose text stands in the form keeps it until the program has another.
     if (field.text().isEmpty()) field.setText(label.text());
-    queue.watch(field, [&field, &label] { label.setText(inUsersLanguage(field.text())); });
+    queue.watch(field, [&field, &label] {
+        const QString text = inUsersLanguage(field.text());
+        label.setText(label.wordWrap() ? breakable(text) : text);
+    });
 }
 
 void connectWidget(RefreshQueue &queue, outlets::TextField &field, TextArea &area)

@@ -71,6 +71,7 @@ ToolTableView::ToolTableView(QWidget *parent) : OutletTableView(parent)
 
 void ToolTableView::updateButtons()
 {
+    QWidget *before = this;
     for (int row = 0; row < outletModel().rowCount(); ++row) {
         const QModelIndex place = outletModel().index(row, outletModel().columnOf(buttonColumn));
         auto *button = qobject_cast<QPushButton *>(indexWidget(place));
@@ -84,7 +85,9 @@ void ToolTableView::updateButtons()
             const int height = std::max(verticalHeader()->defaultSectionSize(), button->sizeHint().height());
             verticalHeader()->setDefaultSectionSize(height);
             setIndexWidget(place, button);
+            setTabOrder(before, button);
         }
+        before = button;
         button->setAccessibleName(
             tr("Choose the file of %1").arg(outletModel().cell(row, nameColumn).toString()));
     }

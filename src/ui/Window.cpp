@@ -2,6 +2,7 @@
 
 #include "app/QuillorentAppDelegate.h"
 #include "ui/Actions.h"
+#include "ui/Announcer.h"
 #include "ui/Appearance.h"
 #include "ui/Binding.h"
 #include "ui/Derived.h"
@@ -38,7 +39,10 @@ Window::Window(QuillorentAppDelegate &controller)
     connectActions(controller, *this, roots());
     for (PanelDialog *sheet : m_panels->progressSheets())
         connect(sheet, &PanelDialog::closeRequested, this, [this, sheet] { askToCancel(*sheet); });
-    const auto *notices = new RunNotices(controller, *this, m_panels->progressSheets());
+    auto *announcer = new Announcer(*this);
+    for (QWidget *root : m_panels->all())
+        if (auto *panel = qobject_cast<PanelDialog *>(root)) announcer->readAloud(*panel);
+    const auto *notices = new RunNotices(controller, *announcer, m_panels->progressSheets());
     connect(notices, &RunNotices::showRequested, this, &Window::comeToFront);
     m_unsaved = std::make_unique<UnsavedChanges>(controller, *this, *m_form->unsavedText);
     showDerived(controller, *m_form, m_binding->queue());
@@ -94,6 +98,8 @@ void Window::addShortcuts()
     for (QWidget *root : m_panels->all()) {
         auto *quit = new QShortcut(QKeySequence::Quit, root);
         connect(quit, &QShortcut::activated, this, &QWidget::close);
+        auto *guide = new QShortcut(QKeySequence::HelpContents, root);
+        connect(guide, &QShortcut::activated, m_form->guideAction, &QAction::trigger);
     }
 }
 
@@ -119,17 +125,18 @@ void Window::askToCancel(const PanelDialog &sheet)
     if (m_question || m_controller.isCancelledByUser()) return;
     // "progressPanel01" has "buttonCancel01".
     auto *cancel = sheet.findChild<QAbstractButton *>(u"buttonCancel"_qs + sheet.objectName().last(2));
-    m_question =
-        ui::askToStop(*this, m_panels->progressSheets(), StopFor::Itself, [cancel] { cancel->click(); });
+    m_question = ui::askToStop(*this, m_panels->progressSheets(), StopFor::Itself,
+                               !m_controller.lookedInto().isEmpty(), [cancel] { cancel->click(); });
 }
 
 void Window::askToStop()
 {
     if (m_question) return;
-    m_question = ui::askToStop(*this, m_panels->progressSheets(), StopFor::Quitting, [this] {
-        m_mayStop = true;
-        close();
-    });
+    m_question = ui::askToStop(*this, m_panels->progressSheets(), StopFor::Quitting,
+                               !m_controller.lookedInto().isEmpty(), [this] {
+                                   m_mayStop = true;
+                                   close();
+                               });
 }
 
 } // namespace ui

@@ -53,4 +53,21 @@ QString pathText(const QString &path)
     return isolate + path + end;
 }
 
+QString breakable(const QString &text)
+{
+    constexpr int longest = 40; // as no word of a language is
+    constexpr QChar maybeBreak(0x200b);
+    QString all;
+    int length = 0;
+    for (const QChar unit : text) {
+        length = unit.isSpace() || unit == u'/' ? 0 : length + 1;
+        if (length > longest && !unit.isLowSurrogate() && !unit.isMark()) {
+            all += maybeBreak;
+            length = 1;
+        }
+        all += unit;
+    }
+    return all;
+}
+
 } // namespace ui

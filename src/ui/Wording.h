@@ -18,4 +18,8 @@ namespace ui {
 /// The path, which reads from the left to the right among words of any language.
 [[nodiscard]] QString pathText(const QString &path);
 
+/// The same to look at, but a name of 255 characters can go over several lines: a label would be as wide as
+/// it.
+[[nodiscard]] QString breakable(const QString &text);
+
 } // namespace ui

@@ -50,7 +50,7 @@ class Words:
         return re.sub("&(.)", r"\1", text)  # the letter to press
 
     def pattern(self, context, source):
-        return re.compile(re.escape(self(context, source)).replace("%1", ".*"))
+        return re.compile(re.sub("%.", ".*", re.escape(self(context, source))), re.DOTALL)
 
 
 class Screen:
@@ -198,6 +198,7 @@ class Screen:
         """What somebody who doesn't see the screen, or has no mouse, can't use of the view."""
         found = [f"a {each.get_role_name()} without a name, of “{parent_names(each)}”"
                  for each in [view, *self.walk(view)] if each.get_role() in NAMED and not name_of(each)]
+        found += [f"markup is told of “{each.get_name()}”" for each in self.walk(view) if "</" in each.get_description()]
         reached = self.reached_by_tab(view)
         for each in self.walk(view):
             isOfKeyboard = each.get_role() in CONTROLS and has(each, State.FOCUSABLE) and has(each, State.SENSITIVE)

@@ -65,11 +65,11 @@ TEST_F(BackupFindings, TellWhatIsWrongAndWhatToDo)
              {[](BackupOrder &o) { o.showsOtherDestination = true; }, u"!|not this profile's own"_qs},
              {[](BackupOrder &o) { o.items.clear(), o.destination.clear(); },
               u"!|no folders|No destination"_qs},
-             {[](BackupOrder &o) { o.archiveExtension.clear(); }, u"!|\"RAR\""_qs},
+             {[](BackupOrder &o) { o.archiveExtension.clear(); }, u"!|extensions / RAR"_qs},
              {[](BackupOrder &o) { o.methodExtension.clear(); }, u"!|OpenSSL-AES"_qs},
-             {[](BackupOrder &o) { o.cipher.clear(); }, u"!|encparam"_qs},
-             {[](BackupOrder &o) { o.archiver.clear(); }, u"!|path of the archiver"_qs},
-             {[](BackupOrder &o) { o.encoder.clear(); }, u"!|path of the OpenSSL tool"_qs},
+             {[](BackupOrder &o) { o.cipher.clear(); }, u"!|encparam / "_qs},
+             {[](BackupOrder &o) { o.archiver.clear(); }, u"!|external / RAR"_qs},
+             {[](BackupOrder &o) { o.encoder.clear(); }, u"!|external / OpenSSL"_qs},
              {password({}), u"!|password"_qs},
              {password(QString(1023, u'x')), {}},
              {by("rsa.pem"), {}},
@@ -181,5 +181,5 @@ TEST_F(BackupFindings, KeepRunsApart)
     EXPECT_EQ(look([](BackupOrder &) {}), QString());
     fs::remove_all(folder / "state");
     writeFile(folder / "state", "no folder");
-    EXPECT_TRUE(look([](BackupOrder &) {}).contains(u"No record of the run can be kept"));
+    EXPECT_TRUE(look([](BackupOrder &) {}).contains(u"It can't be written down what this run does"));
 }

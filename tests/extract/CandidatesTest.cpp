@@ -53,11 +53,13 @@ TEST_F(Candidates, AFolderStandsForItsArchivesAndWhatIsLeftOutIsTold)
               (QStringList{program.path("drop/a.part1.rar"), program.path("drop/a.part9.rar"),
                            program.path("drop/a.part10.rar")}));
     EXPECT_EQ(delegate.outputText02.text(), QString());
-    for (const auto &[path, said] : {std::pair{program.path("drop/notes.txt"), u"no archive"_qs},
-                                     {u"/x/b.part2.rar"_qs, u"first volume is missing"_qs},
-                                     {u"/x/b.part1.rar"_qs, QString()},
-                                     {u"/Apartment/a.rar"_qs, QString()},
-                                     {u"/Departments/report2.rar"_qs, u"Move or rename"_qs}}) {
+    for (const auto &[path, said] :
+         {std::pair{program.path("drop/notes.txt"), u"no archive"_qs},
+          {u"/x/b.part2.rar"_qs, u"first volume is missing"_qs},
+          {u"/x/b%2%1.part7.rar"_qs, u"\"b%2%1.part7.rar\" is volume 7 of its set"_qs},
+          {u"/x/b.part1.rar"_qs, QString()},
+          {u"/Apartment/a.rar"_qs, QString()},
+          {u"/Departments/report2.rar"_qs, u"Move or rename"_qs}}) {
         delegate.addArchives({path});
         EXPECT_TRUE(delegate.outputText02.text().contains(said)) << qPrintable(said);
         EXPECT_EQ(delegate.outputText02.text().isEmpty(), said.isEmpty());

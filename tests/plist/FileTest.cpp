@@ -44,7 +44,7 @@ TEST_F(PlistFile, RefusesMalformedDocumentsWithTheFileAndAReason)
         {"bplist00\xd1\x01\x02", "binary"},
         {valued("<string>\xE9t\xE9</string>"), "UTF-8"},
         {"<?xml version=\"1.0\" encoding=\"UTF-16\"?>" + document(""), "UTF-16"},
-        {valued("\n<string>\x01</string>"), ":3: it holds U+0001"},
+        {valued("\n<string>\x01</string>"), ":3: it has a character that such a file can't hold (U+0001)"},
         {valued("<string>&#1;</string>"), ":2:"},
         {head + "<key>a</key><string>b</string><key>c</ke", ":2:"}, // half written
         {"<dict/>", "<dict>, not <plist>"},
@@ -148,8 +148,8 @@ TEST_F(PlistFile, RefusesToWriteWhatCanNotBeReadBackAndKeepsTheOldFile)
 {
     const Array inItself = Array::make();
     inItself.append(inItself);
-    const std::vector<std::pair<Value, QString>> cases{{u"\u0001"_s, u"holds U+0001"_s},
-                                                       {u"\uFFFF"_s, u"holds U+FFFF"_s},
+    const std::vector<std::pair<Value, QString>> cases{{u"\u0001"_s, u"(U+0001)"_s},
+                                                       {u"\uFFFF"_s, u"(U+FFFF)"_s},
                                                        {QString(QChar(0xD800)), u"U+D800"_s},
                                                        {QDateTime(), u"is a date"_s},
                                                        {inItself, u"deeper than 64"_s}};

@@ -202,6 +202,20 @@ TEST_F(BackupTest, WhoLooksElsewhereIsToldOfTheEnd)
     runCommand({"dunstctl", "close-all"});
     const std::string history = runCommand({"dunstctl", "history"}).output;
     EXPECT_NE(history.find("Backed up 1 of 1"), std::string::npos) << history;
+
+    // Nor does the console of a failure come between: it would be as if somebody were here.
+    window.activateWindow();
+    ASSERT_TRUE(waitUntil([] { return QApplication::activeWindow() != nullptr; }));
+    const Stub failing(program.folder(), "openssl", "complain no");
+    program.useTool(u"OpenSSL"_qs, failing.path());
+    clickAndAnswer(u"buttonLaunch01"_qs, u"warningPanel03"_qs, [this] { click(u"buttonLaunch01b"_qs); });
+    ASSERT_TRUE(waitUntil([this] { return widget(u"progressPanel01"_qs).isVisible(); }));
+    other.requestActivate();
+    ASSERT_TRUE(waitUntil([] { return !QApplication::activeWindow(); }));
+    waitForEnd();
+    EXPECT_TRUE(waitUntil([this] { return widget(u"consolePanel01"_qs).isVisible(); }));
+    EXPECT_TRUE(waitUntil([&] { return displayed().startsWith(u"1"); })) << "who is elsewhere is not told";
+    EXPECT_EQ(QGuiApplication::focusWindow(), &other);
 }
 
 TEST_F(BackupTest, StoppingAsks)

@@ -1,10 +1,14 @@
 #include "TestWindow.h"
 
+#include "Stub.h"
+
 #include "tools/Threads.h"
+#include "tools/ToolRun.h"
 #include "ui/ArchiveList.h"
 #include "ui/BackupList.h"
 #include "ui/TextArea.h"
 
+#include <QDir>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QTreeView>
@@ -141,4 +145,26 @@ TEST_F(ExtractTest, OneFileIsFoundAndComesBackAlone)
     settle();
     EXPECT_FALSE(widget(u"contentsPanel01"_qs).isVisible());
     EXPECT_TRUE(widget<ui::TextArea>(u"outputText02"_qs).text().contains(u"password"));
+}
+
+TEST_F(ExtractTest, LookingIntoAnArchiveSaysSoAndStops)
+{
+    const Stub hanging(program.folder(), "rar", "hang");
+    program.useTool(u"RAR"_qs, hanging.path());
+    dropOnList(program.path("archives"));
+    for (const auto &[button, says] : {std::pair{u"contentsButton01"_qs, u"\"docs.rar.aes.part1.rar\""_qs},
+                                       {u"buttonLaunch02"_qs, u"archives"_qs}}) {
+        click(button);
+        ASSERT_TRUE(waitUntil([] { return toolsRunning() > 0; }));
+        settle();
+        EXPECT_TRUE(widget<QLabel>(u"progress02progressLabel01"_qs).text().contains(says));
+        click(u"buttonCancel02"_qs);
+        program.waitForEnd();
+        EXPECT_TRUE(waitForThreads(std::chrono::seconds(60)));
+        settle();
+        EXPECT_EQ(toolsRunning(), 0);
+        EXPECT_TRUE(widget<ui::TextArea>(u"outputText02"_qs).text().startsWith(u"Cancelled"));
+    }
+    EXPECT_FALSE(widget(u"contentsPanel01"_qs).isVisible());
+    EXPECT_TRUE(QDir(program.path("out")).isEmpty());
 }

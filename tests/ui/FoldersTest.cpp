@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QToolButton>
 
@@ -285,6 +286,47 @@ TEST_F(FoldersTest, TheLastResultStaysAndIsThereAfterARestart)
     EXPECT_FALSE(widget(u"backupResult"_qs).isVisible()) << "it is another profile's";
 }
 
+// Names are text, whatever is in them: markup of theirs would hide and change what is told of them.
+TEST_F(FoldersTest, NamesAreShownAsTheyAre)
+{
+    const QString name = u"<img src=x><b>a&b\n%1"_qs + QString(200, u'n'); // too long for an archive's
+    auto &scroll = *widget(u"foldersPage"_qs).findChild<QScrollArea *>();
+    const int leastWidth = scroll.widget()->minimumSizeHint().width();
+    fs::create_directories((program.folder() / name.toStdString()));
+    writeFile(program.folder() / name.toStdString() / "x.rar.aes.rar", "x");
+    haveDestination(name.toStdString());
+    delegate.addFolders({program.path(name.toStdString())});
+    delegate.listPlist().setValue(name, delegate.currentRecord().deepCopy());
+    delegate.profileCombo01.setTitles({delegate.currentProfile(), name});
+    delegate.profileCombo01.selectTitle(name);
+    delegate.passCombo01.selectIndex(2);
+    delegate.certFile01.setText(program.path(name.toStdString()));
+    delegate.warningText01.setText(name);
+    EXPECT_TRUE(waitUntil([&] { return !missing<QLabel>().isEmpty(); }));
+    settle();
+    EXPECT_EQ(scroll.widget()->minimumSizeHint().width(), leastWidth) << "a name makes the page wide";
+    showTab(u"extractPage"_qs);
+    EXPECT_TRUE(waitUntil([&] { return widget<QLabel>(u"backupsFoundLabel"_qs).text().contains(u"<img"); }));
+    int shown = 0;
+    const auto expectPlain = [&](const QString &text, bool isPlain, const QString &where) {
+        if (!text.contains(u"img src")) return;
+        ++shown;
+        EXPECT_TRUE(isPlain || !Qt::mightBeRichText(text) || text.contains(u"&lt;img"))
+            << where.toStdString() << ": " << text.toStdString();
+    };
+    for (const QWidget *root : window.roots())
+        for (const QWidget *each : root->findChildren<QWidget *>()) {
+            expectPlain(each->toolTip(), false, each->objectName());
+            if (const auto *label = qobject_cast<const QLabel *>(each))
+                expectPlain(label->text(), label->textFormat() == Qt::PlainText, label->objectName());
+            const auto *view = qobject_cast<const QAbstractItemView *>(each);
+            for (int row = 0; view && view->model() && row < view->model()->rowCount(); ++row)
+                expectPlain(view->model()->index(row, 0).data(Qt::ToolTipRole).toString(), false,
+                            view->objectName());
+        }
+    EXPECT_GT(shown, 6) << "the names are seen nowhere";
+}
+
 TEST_F(FirstStartTest, LeadsThroughThreeStepsAndNeverComesAgain)
 {
     writeFile(program.folder() / "docs/a", "x");
@@ -302,8 +344,17 @@ TEST_F(FirstStartTest, LeadsThroughThreeStepsAndNeverComesAgain)
     EXPECT_EQ(window.focusWidget(), &widget(u"secureText01a"_qs));
     EXPECT_FALSE(ui::FirstSteps::wasSeen());
     QTest::keyClicks(window.focusWidget(), u"correct horse"_qs);
+    QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    for (const char *typed : {"correct horsf", "\be"}) {
+        for (; *typed; ++typed)
+            *typed == '\b' ? QTest::keyClick(window.focusWidget(), Qt::Key_Backspace)
+                           : QTest::keyClick(window.focusWidget(), *typed);
+        settle();
+        EXPECT_FALSE(widget(u"foldersPage"_qs).isVisible()) << "a mistyped one leads nowhere";
+        QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+    }
     settle();
-    showTab(u"foldersPage"_qs);
+    EXPECT_EQ(window.focusWidget(), &widget(u"buttonLaunch01"_qs));
     EXPECT_TRUE(widget(u"listTableView"_qs).isVisible());
     EXPECT_TRUE(ui::FirstSteps::wasSeen());
 }

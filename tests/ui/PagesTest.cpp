@@ -48,6 +48,15 @@ struct Opened : WindowTest {
         }
     }
 
+    /// Also what shows where it is asked for.
+    void showAll()
+    {
+        widget<QAbstractButton>(u"archivesToggle"_qs).setChecked(true);
+        for (const QString &name : {u"syncCheck01"_qs, u"checkBox04"_qs})
+            widget<QAbstractButton>(name).setChecked(true);
+        settle();
+    }
+
 private:
     /// All but what lies on other pages and in other windows; also what shows at certain times only.
     static QList<QWidget *> shownBy(QWidget &root)
@@ -144,6 +153,32 @@ std::string whyCut(const QWidget &widget)
     return {};
 }
 
+/// What Tab goes to of these, one after the other, from where it begins.
+QList<QWidget *> inOrderOfTheKeyboard(const QList<QWidget *> &widgets)
+{
+    QWidget *const top = widgets.first()->window();
+    QList<QWidget *> order;
+    for (QWidget *next = top->nextInFocusChain(); next != top; next = next->nextInFocusChain())
+        if (widgets.contains(next) && next->isVisible() && next->isEnabled() && !next->focusProxy() &&
+            (next->focusPolicy() & Qt::TabFocus) && !next->objectName().startsWith(u"qt_"))
+            order.append(next);
+    return order;
+}
+
+/// Whether who reads from `side` meets the one before the other: it is above, or beside it on that side.
+bool isReadBefore(const QWidget &one, const QWidget &other, Qt::LayoutDirection side)
+{
+    const auto place = [](const QWidget &widget) {
+        return QRect(widget.mapTo(widget.window(), QPoint()), widget.size());
+    };
+    const QRect first = place(one);
+    const QRect second = place(other);
+    const bool isAbove = first.bottom() <= second.center().y() && first.center().y() <= second.top();
+    const bool isBelow = second.bottom() <= first.center().y() && second.center().y() <= first.top();
+    if (isAbove || isBelow) return isAbove;
+    return (first.center().x() < second.center().x()) == (side == Qt::LeftToRight);
+}
+
 /// How much lighter or darker than the background the icon's boldest point is; at most 255.
 int contrast(const QIcon &icon, const QColor &background)
 {
@@ -196,6 +231,23 @@ TEST(PagesTest, HaveEachMnemonicOnce)
         for (const QMenu *menu : opened.window.findChildren<QMenu *>())
             expectUnique(mnemonicTexts(*menu), menu->objectName().toStdString());
     }
+}
+
+TEST(PagesTest, AreGoneThroughByTheKeyboardAsByTheEye)
+{
+    for (const auto side : {Qt::LeftToRight, Qt::RightToLeft}) {
+        QGuiApplication::setLayoutDirection(side);
+        Opened opened;
+        opened.showAll();
+        opened.forEachView([&](const std::string &view, const QList<QWidget *> &widgets) {
+            const QList<QWidget *> order = inOrderOfTheKeyboard(widgets);
+            for (qsizetype next = 1; next < order.size(); ++next)
+                EXPECT_TRUE(isReadBefore(*order[next - 1], *order[next], side))
+                    << view << ": " << order[next - 1]->objectName().toStdString() << " leads to "
+                    << order[next]->objectName().toStdString();
+        });
+    }
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 TEST(PagesTest, AreCutOffNowhere)

@@ -5,6 +5,7 @@
 #include "extract/Candidates.h"
 #include "extract/ExtractLook.h"
 #include "extract/ExtractRun.h"
+#include "files/Names.h"
 #include "keys/SecretRules.h"
 
 #include <QCoreApplication>
@@ -62,10 +63,24 @@ void carryOut(QuillorentAppDelegate &delegate, Extraction &extraction, RunMonito
         [&](const QString &archive, const QString &reason) { showDamage(delegate, archive, reason); });
 }
 
+/// What the sheet says is done: bringing archives back, or looking into that one.
+void nameTheWork(QuillorentAppDelegate &delegate, const QString &archive = {})
+{
+    using quillorentLibrary::lastPathComponent;
+    delegate.lookedInto.set(archive);
+    delegate.progress02progressLabel01.setText(
+        archive.isEmpty() ? Words::tr("Testing the archives…")
+                          : Words::tr("Testing \"%1\"…").arg(lastPathComponent(archive)));
+    delegate.progress02progressLabel02.setText(
+        archive.isEmpty() ? Words::tr("Restoring…")
+                          : Words::tr("Looking into \"%1\"…").arg(lastPathComponent(archive)));
+}
+
 QString noArchiveToLookInto() { return Words::tr("No archive is chosen. Add the one that has the file."); }
 
 RunStart prepare(QuillorentAppDelegate &delegate, bool mayOverwrite)
 {
+    nameTheWork(delegate);
     delegate.openFolderButton.setAlternateTitle({});
     const auto extraction =
         std::make_shared<Extraction>(Extraction{readExtractOrder(delegate.currentProfile())});
@@ -89,6 +104,7 @@ RunStart prepare(QuillorentAppDelegate &delegate, bool mayOverwrite)
 RunStart preparePart(QuillorentAppDelegate &delegate, const QStringList &archives,
                      const std::vector<std::string> &chosen)
 {
+    nameTheWork(delegate);
     delegate.openFolderButton.setAlternateTitle({});
     const auto extraction =
         std::make_shared<Extraction>(Extraction{readExtractOrderOf(delegate.currentProfile(), archives)});
@@ -111,6 +127,7 @@ RunStart prepareLook(QuillorentAppDelegate &delegate, const QStringList &archive
         std::shared_ptr<ArchiveListing> listing = std::make_shared<ArchiveListing>();
         Listings::Listing known{};
     };
+    nameTheWork(delegate, archives.value(0));
     const auto looking = std::make_shared<Looking>();
     const auto extraction =
         std::make_shared<Extraction>(Extraction{readExtractOrderOf(delegate.currentProfile(), archives)});

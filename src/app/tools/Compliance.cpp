@@ -26,7 +26,7 @@ QString hintOnOpenSsl()
 {
     if (!quillorentLibrary::warnsOfItsKeyDerivation(registeredTool(u"OpenSSL"_qs))) return {};
     return Words::tr(
-        "This OpenSSL can't be used by itself: it derives keys from passwords in another way than archives "
+        "This OpenSSL can't be used by itself: it makes something else of a password than archives "
         "of this program need, and complains of it. Choose Quillorent's own \"openssl\", which uses it.");
 }
 
