@@ -13,6 +13,8 @@
 #include <pthread.h>
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 // How long the window does not answer at the longest while many small files are backed up:
 // `xvfb-run -a build/release/bench/window-answer 50000`. Beside it, what the window itself works meanwhile:
 // on a busy machine it waits for a processor as well. Whatever takes more than 30 ms of that is told with its
@@ -116,8 +118,8 @@ int main(int argc, char **argv)
     const QApplication application(argc, argv);
     ui::setUpAppearance();
     quillorentLibrary::setResourceFolder(QStringLiteral(QUILLORENT_TEMPLATES));
-    writeFiles(folder.filePath(u"files"_qs), argc > 1 ? QByteArray(argv[1]).toInt() : 50'000);
-    QDir().mkpath(folder.filePath(u"archives"_qs));
+    writeFiles(folder.filePath(u"files"_s), argc > 1 ? QByteArray(argv[1]).toInt() : 50'000);
+    QDir().mkpath(folder.filePath(u"archives"_s));
 
     QuillorentAppDelegate controller;
     {
@@ -126,18 +128,18 @@ int main(int argc, char **argv)
         controller.applicationDidFinishLaunching();
         processFor(3s);
         controller.openPanel = [&](const outlets::OpenPanel &panel) {
-            return QStringList{folder.filePath(panel.canChooseFiles ? u"files"_qs : u"archives"_qs)};
+            return QStringList{folder.filePath(panel.canChooseFiles ? u"files"_s : u"archives"_s)};
         };
         Knocker knocker;
         controller.folderButton01Action();
         controller.fileButton01Action();
         processFor(3s);
         knocker.tell("while a folder is chosen");
-        controller.secureText01a.setText(u"correct horse battery staple"_qs);
-        controller.secureText02.setText(u"correct horse battery staple"_qs);
+        controller.secureText01a.setText(u"correct horse battery staple"_s);
+        controller.secureText02.setText(u"correct horse battery staple"_s);
         processFor(1s);
         knocker.begin();
-        window.findChild<QAbstractButton *>(u"buttonLaunch01"_qs)->click();
+        window.findChild<QAbstractButton *>(u"buttonLaunch01"_s)->click();
         while (controller.isRunActive())
             processFor(50ms);
         processFor(1s);

@@ -18,6 +18,8 @@
 #include <QTimer>
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QPalette darkPalette()
@@ -43,36 +45,36 @@ public:
         takePages();
         takePanels();
         plugIn();
-        runAndTake(u"foldersPage"_qs, u"buttonLaunch01"_qs, u"progressPanel01"_qs, u"backup"_qs);
+        runAndTake(u"foldersPage"_s, u"buttonLaunch01"_s, u"progressPanel01"_s, u"backup"_s);
         for (const QString &archive :
-             QDir(m_controller.fileText01.text()).entryList({u"*.rar"_qs}, QDir::Files))
+             QDir(m_controller.fileText01.text()).entryList({u"*.rar"_s}, QDir::Files))
             m_controller.addArchives({m_controller.fileText01.text() + u'/' + archive});
-        runAndTake(u"extractPage"_qs, u"buttonLaunch02"_qs, u"progressPanel02"_qs, u"extraction"_qs);
-        takePages(u"after-"_qs);
+        runAndTake(u"extractPage"_s, u"buttonLaunch02"_s, u"progressPanel02"_s, u"extraction"_s);
+        takePages(u"after-"_s);
     }
 
 private:
     void take(QWidget &widget, const QString &name)
     {
         QTest::qWait(50);
-        const QString path = m_folder.filePath(u"%1.png"_qs.arg(name));
+        const QString path = m_folder.filePath(u"%1.png"_s.arg(name));
         if (!widget.grab().save(path)) std::fprintf(stderr, "%s can't be written\n", qUtf8Printable(path));
     }
 
     /// The folder that was missing by now is there, as on a disk that comes back.
     static void plugIn()
     {
-        QDir::home().rename(u".unplugged"_qs, u"Recipes"_qs);
+        QDir::home().rename(u".unplugged"_s, u"Recipes"_s);
         QTest::qWait(3000);
     }
 
-    QTabWidget &tabs() { return *m_window.findChild<QTabWidget *>(u"mainTabs"_qs); }
+    QTabWidget &tabs() { return *m_window.findChild<QTabWidget *>(u"mainTabs"_s); }
 
     void takePages(const QString &prefix = {})
     {
         for (int page = 0; page < tabs().count(); ++page) {
             tabs().setCurrentIndex(page);
-            take(m_window, prefix + u"%1-%2"_qs.arg(page + 1).arg(tabs().widget(page)->objectName()));
+            take(m_window, prefix + u"%1-%2"_s.arg(page + 1).arg(tabs().widget(page)->objectName()));
             if (tabs().widget(page)->objectName() == u"passwordsPage" && prefix.isEmpty())
                 takePasswordSources();
         }
@@ -80,12 +82,12 @@ private:
 
     void takePasswordSources()
     {
-        auto &sources = *m_window.findChild<QComboBox *>(u"passCombo01"_qs);
+        auto &sources = *m_window.findChild<QComboBox *>(u"passCombo01"_s);
         const int chosen = sources.currentIndex();
         for (int source = 0; source < sources.count(); ++source) {
             sources.setCurrentIndex(source);
             Q_EMIT sources.activated(source);
-            take(m_window, u"password-%1"_qs.arg(source));
+            take(m_window, u"password-%1"_s.arg(source));
         }
         sources.setCurrentIndex(chosen);
         Q_EMIT sources.activated(chosen);
@@ -97,7 +99,7 @@ private:
             if (panel == &m_window) continue;
             panel->setAttribute(Qt::WA_DontShowOnScreen);
             panel->show();
-            take(*panel, u"panel-"_qs + panel->objectName());
+            take(*panel, u"panel-"_s + panel->objectName());
             panel->hide();
             panel->setAttribute(Qt::WA_DontShowOnScreen, false);
         }
@@ -120,7 +122,7 @@ private:
             for (QWidget *root : m_window.roots()) {
                 if (root == &m_window || !root->isVisible() || root->objectName().startsWith(u"progress"))
                     continue;
-                take(*root, u"question-%1-%2"_qs.arg(name).arg(++questions));
+                take(*root, u"question-%1-%2"_s.arg(name).arg(++questions));
                 answer(*root);
                 return;
             }
@@ -129,12 +131,12 @@ private:
         m_window.findChild<QAbstractButton *>(button)->click();
         if (QTest::qWaitFor([&] { return panel(sheet)->isVisible(); }, 5000)) {
             QTest::qWait(1800);
-            if (panel(sheet)->isVisible()) take(*panel(sheet), u"progress-"_qs + name);
+            if (panel(sheet)->isVisible()) take(*panel(sheet), u"progress-"_s + name);
         }
         if (!QTest::qWaitFor([&] { return !m_controller.isRunActive(); }, 120'000))
             qFatal("the run does not end");
         QTest::qWait(500);
-        take(m_window, u"result-"_qs + name);
+        take(m_window, u"result-"_s + name);
     }
 
     static void answer(QWidget &question)
@@ -163,15 +165,15 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     installTranslations();
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_qs));
+    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     ui::setUpAppearance();
     const QStringList words = QApplication::arguments().mid(1);
     if (words.isEmpty() || !QDir().mkpath(words.first())) {
         std::fputs("usage: quillorent-pictures OUTPUT-FOLDER [dark] [rtl] [POINTS]\n", stderr);
         return 64;
     }
-    if (words.contains(u"dark"_qs)) QApplication::setPalette(darkPalette());
-    if (words.contains(u"rtl"_qs)) QApplication::setLayoutDirection(Qt::RightToLeft);
+    if (words.contains(u"dark"_s)) QApplication::setPalette(darkPalette());
+    if (words.contains(u"rtl"_s)) QApplication::setLayoutDirection(Qt::RightToLeft);
     for (const QString &word : words.mid(1))
         if (const int points = word.toInt(); points > 0) {
             QFont font = QApplication::font();

@@ -9,17 +9,17 @@
 
 /// The main window itself and the row of the profile.
 struct MainWindowOutlets : virtual outlets::Registry {
-    outlets::Panel window{*this, u"window"_qs};
+    outlets::Panel window{*this, QStringLiteral("window")};
     // Set by the front end before the program starts up.
     outlets::OpenPanelAnswer openPanel;
     std::function<void(const QString &)> openAddress; ///< in the user's browser
     bool showsUpdates = false;                        ///< off: nobody would see that there is a newer version
 
-    outlets::Chooser profileCombo01{*this, u"profileCombo01"_qs};
-    outlets::TextField currentProfileTextView{*this, u"currentProfileTextView"_qs};
-    outlets::ProgressIndicator indicator01{*this, u"indicator01"_qs};
-    outlets::ProgressIndicator indicator02{*this, u"indicator02"_qs};
-    outlets::ProgressIndicator indicator03{*this, u"indicator03"_qs};
-    outlets::CheckBox autosaveCheck01{*this, u"autosaveCheck01"_qs};
-    outlets::CheckBox updatesCheck01{*this, u"updatesCheck01"_qs};
+    outlets::Chooser profileCombo01{*this, QStringLiteral("profileCombo01")};
+    outlets::TextField currentProfileTextView{*this, QStringLiteral("currentProfileTextView")};
+    outlets::ProgressIndicator indicator01{*this, QStringLiteral("indicator01")};
+    outlets::ProgressIndicator indicator02{*this, QStringLiteral("indicator02")};
+    outlets::ProgressIndicator indicator03{*this, QStringLiteral("indicator03")};
+    outlets::CheckBox autosaveCheck01{*this, QStringLiteral("autosaveCheck01")};
+    outlets::CheckBox updatesCheck01{*this, QStringLiteral("updatesCheck01")};
 };

@@ -7,23 +7,26 @@
 /// What the program says: why something can't start, what to think of before it does, what is left of it, and
 /// the console log.
 struct Messages : virtual outlets::Registry {
-    outlets::Panel warningPanel01{*this, u"warningPanel01"_qs};
-    outlets::TextField warningText01{*this, u"warningText01"_qs}; ///< which condition failed, and what to do
+    outlets::Panel warningPanel01{*this, QStringLiteral("warningPanel01")};
+    outlets::TextField warningText01{
+        *this, QStringLiteral("warningText01")}; ///< which condition failed, and what to do
 
-    outlets::Panel concernsPanel01{*this, u"concernsPanel01"_qs};   ///< before a run: go on all the same?
-    outlets::TextField concernsText01{*this, u"concernsText01"_qs}; ///< what was found
+    outlets::Panel concernsPanel01{*this,
+                                   QStringLiteral("concernsPanel01")}; ///< before a run: go on all the same?
+    outlets::TextField concernsText01{*this, QStringLiteral("concernsText01")}; ///< what was found
 
     // Below the tabs, hidden where there is nothing to say.
-    outlets::TextField toolsText01{*this,
-                                   u"toolsText01"_qs}; ///< what still is at work after a run has failed
-    outlets::Button toolsCancel01{*this, u"toolsCancel01"_qs};
-    outlets::TextField clearText01{*this,
-                                   u"clearText01"_qs}; ///< files that runs left, and that are not encrypted
-    outlets::Button clearRemove01{*this, u"clearRemove01"_qs};
+    outlets::TextField toolsText01{
+        *this, QStringLiteral("toolsText01")}; ///< what still is at work after a run has failed
+    outlets::Button toolsCancel01{*this, QStringLiteral("toolsCancel01")};
+    outlets::TextField clearText01{
+        *this, QStringLiteral("clearText01")}; ///< files that runs left, and that are not encrypted
+    outlets::Button clearRemove01{*this, QStringLiteral("clearRemove01")};
 
-    outlets::Panel noPathPanel01{*this, u"noPathPanel01"_qs};
-    outlets::TextField noPathText01{*this, u"noPathText01"_qs}; ///< how many tools are missing or wrong
+    outlets::Panel noPathPanel01{*this, QStringLiteral("noPathPanel01")};
+    outlets::TextField noPathText01{*this,
+                                    QStringLiteral("noPathText01")}; ///< how many tools are missing or wrong
 
-    outlets::Panel consolePanel01{*this, u"consolePanel01"_qs};
-    outlets::TextView consoleTextView01{*this, u"consoleTextView01"_qs};
+    outlets::Panel consolePanel01{*this, QStringLiteral("consolePanel01")};
+    outlets::TextView consoleTextView01{*this, QStringLiteral("consoleTextView01")};
 };

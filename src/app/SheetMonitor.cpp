@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -71,7 +73,7 @@ void SheetMonitor::ended(const QString &summary)
 void SheetMonitor::toolsStillRun(const QStringList &what)
 {
     m_delegate.toolsText01.setText(what.isEmpty() ? QString()
-                                                  : Words::tr("Still at work: %1.").arg(what.join(u", "_qs)));
+                                                  : Words::tr("Still at work: %1.").arg(what.join(u", "_s)));
     m_delegate.toolsText01.setHidden(what.isEmpty());
     m_delegate.toolsCancel01.setHidden(what.isEmpty());
 }

@@ -11,6 +11,8 @@
 #include <QTimer>
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -22,9 +24,8 @@ struct Words {
 QString sentences(const QStringList &list)
 {
     constexpr qsizetype most = 12; // as many as a person reads
-    if (list.size() <= most) return list.join(u"\n\n"_qs);
-    return list.first(most).join(u"\n\n"_qs) + u"\n\n"_qs +
-           Words::tr("… and %1 more.").arg(list.size() - most);
+    if (list.size() <= most) return list.join(u"\n\n"_s);
+    return list.first(most).join(u"\n\n"_s) + u"\n\n"_s + Words::tr("… and %1 more.").arg(list.size() - most);
 }
 
 /// Shows the sheet while it lives, to somebody who has waited for a moment: most looks take no time, and a
@@ -189,7 +190,7 @@ void QuillorentAppDelegate::clearRemove01Action()
         warn(Words::tr("Something is running just now. Remove these files when it has ended."));
         return;
     }
-    detachThread(u"remove-clear"_qs, [this] {
+    detachThread(u"remove-clear"_s, [this] {
         aftermath::removeLeftInClear();
         showLeftInClear();
     });

@@ -8,6 +8,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -19,26 +21,26 @@ struct Words {
 plist::Dictionary makeDefaultProfile()
 {
     auto record = plist::Dictionary::make();
-    record.setValue(u"folders"_qs, plist::Array::make());
-    record.setValue(u"path"_qs, u"");
-    record.setValue(u"password"_qs, u"");
-    record.setValue(u"passtype"_qs, PasswordTab::TypedPassword);
-    record.setValue(u"encryption"_qs, u"");
-    record.setValue(u"symencryption"_qs, u"OpenSSL-AES");
-    record.setValue(u"asymencryption"_qs, u"OpenSSL-SMIME");
-    record.setValue(u"lastkeychainuser"_qs, u"");
-    record.setValue(u"lastcertfile"_qs, u"");
-    record.setValue(u"lastpkfile"_qs, u"");
-    record.setValue(u"extractpath"_qs, u"");
-    record.setSwitch(u"split"_qs, true);
-    record.setValue(u"part"_qs, u"10000");
-    record.setSwitch(u"keepdate"_qs, true);
-    record.setSwitch(u"emptydir"_qs, false);
-    record.setValue(u"sync"_qs, plist::Array::make());
-    record.setValue(u"rsyncmode"_qs, u"0");
-    record.setSwitch(u"rsyncdelete1"_qs, false);
-    record.setSwitch(u"rsyncdelete2"_qs, false);
-    record.setSwitch(u"isremotesync"_qs, false);
+    record.setValue(u"folders"_s, plist::Array::make());
+    record.setValue(u"path"_s, u"");
+    record.setValue(u"password"_s, u"");
+    record.setValue(u"passtype"_s, PasswordTab::TypedPassword);
+    record.setValue(u"encryption"_s, u"");
+    record.setValue(u"symencryption"_s, u"OpenSSL-AES");
+    record.setValue(u"asymencryption"_s, u"OpenSSL-SMIME");
+    record.setValue(u"lastkeychainuser"_s, u"");
+    record.setValue(u"lastcertfile"_s, u"");
+    record.setValue(u"lastpkfile"_s, u"");
+    record.setValue(u"extractpath"_s, u"");
+    record.setSwitch(u"split"_s, true);
+    record.setValue(u"part"_s, u"10000");
+    record.setSwitch(u"keepdate"_s, true);
+    record.setSwitch(u"emptydir"_s, false);
+    record.setValue(u"sync"_s, plist::Array::make());
+    record.setValue(u"rsyncmode"_s, u"0");
+    record.setSwitch(u"rsyncdelete1"_s, false);
+    record.setSwitch(u"rsyncdelete2"_s, false);
+    record.setSwitch(u"isremotesync"_s, false);
     return record;
 }
 
@@ -67,7 +69,7 @@ void QuillorentAppDelegate::applicationDidFinishLaunching()
     decryptionCombo01.selectIndex(automaticDecryption);
     defaultProfile.set(makeDefaultProfile());
     checkForUpdatesAtStart();
-    detachThread(u"left-in-clear"_qs, [this] { showLeftInClear(); });
+    detachThread(u"left-in-clear"_s, [this] { showLeftInClear(); });
 
     QStringList notices = quillorentLibrary::takeNotices();
     if (!configPlist())
@@ -80,7 +82,7 @@ void QuillorentAppDelegate::applicationDidFinishLaunching()
 void QuillorentAppDelegate::applicationWillTerminate()
 {
     m_endsUnasked = true;
-    if (configPlist().dictionary(u"resources"_qs).isOn(u"autosave"_qs) && !m_leavesUnsaved) {
+    if (configPlist().dictionary(u"resources"_s).isOn(u"autosave"_s) && !m_leavesUnsaved) {
         if (isUnsaved(profilesToSave())) profileButton01Action();
         if (isUnsaved(settingsToSave())) saveSettings1Action();
     }

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cerrno>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -26,24 +28,24 @@ bool namesAny(const QString &reason, const QStringList &words)
 
 QString adviceOnFailure(const QString &reason)
 {
-    if (namesAny(reason, wordsFor(ENOSPC, u"No space left on device"_qs) +
-                             wordsFor(EDQUOT, u"Disk quota exceeded"_qs)))
+    if (namesAny(reason,
+                 wordsFor(ENOSPC, u"No space left on device"_s) + wordsFor(EDQUOT, u"Disk quota exceeded"_s)))
         return Words::tr(
             "Make room on the disk of the destination, or choose another one. Then back up again.");
-    if (namesAny(reason, wordsFor(EFBIG, u"File too large"_qs)))
+    if (namesAny(reason, wordsFor(EFBIG, u"File too large"_s)))
         return Words::tr(
             "The destination takes no files of that size. Have the archives split into files of less "
             "than 4 GB, and back up again.");
-    if (namesAny(reason, wordsFor(EROFS, u"Read-only file system"_qs)))
+    if (namesAny(reason, wordsFor(EROFS, u"Read-only file system"_s)))
         return Words::tr(
             "Nothing can be written to the destination any more. Connect its disk anew, or choose "
             "another one, and back up again.");
-    if (namesAny(reason, wordsFor(EIO, u"Input/output error"_qs)))
+    if (namesAny(reason, wordsFor(EIO, u"Input/output error"_s)))
         return Words::tr(
             "A disk does not work as it should. Check its cable, try another disk as the destination, "
             "and save what is on this one.");
     if (namesAny(reason,
-                 wordsFor(EACCES, u"Permission denied"_qs) + wordsFor(EPERM, u"Operation not permitted"_qs)))
+                 wordsFor(EACCES, u"Permission denied"_s) + wordsFor(EPERM, u"Operation not permitted"_s)))
         return Words::tr(
             "Something may not be read or written by you. Change its permissions, or take it off the "
             "list, and back up again.");

@@ -16,6 +16,8 @@
 #include <algorithm>
 #include <future>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -42,8 +44,8 @@ void lookForFilesInTheWay(const BackupOrder &order, const BackupItem &item, Find
                 Words::tr("\"%1\" is there, and its name is needed for a while. It may be yours, or left in "
                           "clear by a run that was interrupted. It will be called \"%2\", and stay.")
                     .arg(path, [&] {
-                        const auto plan = planAside({path}, u"kept"_qs);
-                        return plan ? lastPathComponent(plan->first().to) : u"kept-…"_qs;
+                        const auto plan = planAside({path}, u"kept"_s);
+                        return plan ? lastPathComponent(plan->first().to) : u"kept-…"_s;
                     }()));
     }
 }
@@ -62,7 +64,7 @@ void lookForFormerArchives(const BackupOrder &order, Findings &findings)
     if (!names.isEmpty())
         findings.overwrites =
             Words::tr("These archives are in \"%1\" and will be replaced, other files stay: %2.")
-                .arg(order.destination, names.join(u", "_qs));
+                .arg(order.destination, names.join(u", "_s));
     else if (!quillorentLibrary::holdsNothing(order.destination))
         findings.overwrites = Words::tr("The destination \"%1\" is not empty. Other files stay as they are.")
                                   .arg(order.destination);

@@ -11,6 +11,8 @@
 #include <QLocale>
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -36,7 +38,7 @@ private:
 
 RunRecord recordOf(const BackupOrder &order)
 {
-    RunRecord record{.kind = u"backup"_qs,
+    RunRecord record{.kind = u"backup"_s,
                      .profile = order.profile,
                      .folder = order.destination,
                      .began = QDateTime::currentDateTimeUtc()};
@@ -60,7 +62,7 @@ void BackupRun::work()
         // A folder that is listed twice has one archive: one after the other.
         const auto isFree = [this, source] { return !m_state.threadsRunning().contains(source); };
         const auto body = [this, index] { backUpItem(*this, m_order, index); };
-        if (!launchWorker(u"backup"_qs, source, body, isFree)) return;
+        if (!launchWorker(u"backup"_s, source, body, isFree)) return;
     }
 }
 
@@ -109,10 +111,10 @@ QString BackupRun::summary() const
             Words::tr("Backed up %1 of %2 (%3).")
                 .arg(number(m_state.foldersDone()), number(m_state.foldersToDo()),
                      locale.formattedDataSize(qint64(m_state.sizeDone()), 1, QLocale::DataSizeSIFormat)));
-    if (!m_missing.isEmpty()) sentences.append(Words::tr("Not found: %1.").arg(m_missing.join(u", "_qs)));
+    if (!m_missing.isEmpty()) sentences.append(Words::tr("Not found: %1.").arg(m_missing.join(u", "_s)));
     if (!m_unsuitable.isEmpty())
         sentences.append(Words::tr("Left out, as they are neither files nor folders: %1.")
-                             .arg(m_unsuitable.join(u", "_qs)));
+                             .arg(m_unsuitable.join(u", "_s)));
     sentences += describeKept();
     return sentences.join(u' ');
 }

@@ -13,6 +13,8 @@
 #include <QFileInfo>
 #include <future>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -53,7 +55,7 @@ FolderBackup::FolderBackup(Run &run, const BackupOrder &order, qsizetype index)
     , m_order(order)
     , m_paths(order.items[index])
 {
-    m_log = u"\nSTART processing file"_qs + m_item;
+    m_log = u"\nSTART processing file"_s + m_item;
     expect({m_paths.stored, m_paths.encrypted}, m_paths.stored, m_paths.final);
 }
 
@@ -83,9 +85,9 @@ bool FolderBackup::judgeStage(const QString &stage, const ToolResult &result, co
                               LogOutput logOutput)
 {
     const bool isMade = entryAt(product).has_value();
-    const bool isDone = judge(u"\n   "_qs + stage, result, isMade, product);
+    const bool isDone = judge(u"\n   "_s + stage, result, isMade, product);
     if (logOutput == LogOutput::Yes || !result.wasStarted) m_log += u'\n' + result.text();
-    if (!m_succeeded) m_reason = stage + u": "_qs + result.firstLine();
+    if (!m_succeeded) m_reason = stage + u": "_s + result.firstLine();
     if (!m_succeeded && result.text().contains(u"deprecated key derivation")) m_reason = whyOtherOpenSsl();
     noteBetween(product);
     return isDone;
@@ -94,7 +96,7 @@ bool FolderBackup::judgeStage(const QString &stage, const ToolResult &result, co
 void FolderBackup::storeFolder()
 {
     if (isCancelled()) return;
-    setStage(u"storing"_qs, backupStages::storing(m_order, bytesToDo()));
+    setStage(u"storing"_s, backupStages::storing(m_order, bytesToDo()));
     ToolResult result = makeWay(m_paths.stored); // the archiver would update what is there
     if (result.isSilent()) {
         using enum backupArguments::FirstPass;
@@ -102,13 +104,13 @@ void FolderBackup::storeFolder()
             runStage(m_order.archiver, backupArguments::firstPass(m_order.compresses ? Compresses : Stores,
                                                                   m_order.keepDate, m_paths.stored, m_item));
     }
-    judgeStage(u"RAR 1st"_qs, result, m_paths.stored, LogOutput::Yes);
+    judgeStage(u"RAR 1st"_s, result, m_paths.stored, LogOutput::Yes);
 }
 
 void FolderBackup::encrypt()
 {
     if (!goesOn()) return;
-    setStage(u"encrypting"_qs, backupStages::encrypting(m_order, bytesAt(m_paths.stored)));
+    setStage(u"encrypting"_s, backupStages::encrypting(m_order, bytesAt(m_paths.stored)));
     ToolResult result = makeWay(m_paths.encrypted);
     if (result.isSilent()) result = checkInput(m_paths.stored);
     if (result.isSilent()) {
@@ -122,7 +124,7 @@ void FolderBackup::encrypt()
         wipe(arguments);
         wipe(password);
     }
-    m_isEncrypted = judgeStage(u"Encoder"_qs, result, m_paths.encrypted);
+    m_isEncrypted = judgeStage(u"Encoder"_s, result, m_paths.encrypted);
 }
 
 // Without regard to whether the stages before it succeeded.
@@ -147,7 +149,7 @@ void FolderBackup::removeStored()
 void FolderBackup::pack()
 {
     if (!goesOn()) return;
-    setStage(u"packing"_qs, backupStages::packing(m_order, bytesAt(m_paths.encrypted)));
+    setStage(u"packing"_s, backupStages::packing(m_order, bytesAt(m_paths.encrypted)));
     const QString problem = setFormerAside();
     ToolResult result{.output = problem, .wasStarted = problem.isEmpty()};
     if (result.isSilent()) result = checkInput(m_paths.encrypted);
@@ -155,7 +157,7 @@ void FolderBackup::pack()
         result = runStage(m_order.archiver, backupArguments::secondPass(m_order.keepDate, m_order.split,
                                                                         m_paths.final, m_paths.encrypted));
     const QStringList made = newFiles();
-    m_isPacked = judgeStage(u"RAR 2nd"_qs, result, made.value(0, m_paths.final));
+    m_isPacked = judgeStage(u"RAR 2nd"_s, result, made.value(0, m_paths.final));
 }
 
 /// The archive of an earlier run, whole or in volumes, gets other names: what can still be opened stays until
@@ -163,7 +165,7 @@ void FolderBackup::pack()
 QString FolderBackup::setFormerAside()
 {
     const QStringList files = filesOfArchive(m_paths.final);
-    const auto plan = planAside(files, u"former"_qs);
+    const auto plan = planAside(files, u"former"_s);
     if (!plan)
         return Words::tr("\"%1\" can't be given another name while the new archive is made.")
             .arg(files.value(0));
@@ -187,7 +189,7 @@ QString FolderBackup::setFormerAside()
 void FolderBackup::settleFormer()
 {
     if (m_former.isEmpty()) return;
-    setStage(u"finishing"_qs, backupStages::finishing());
+    setStage(u"finishing"_s, backupStages::finishing());
     const QStringList made = newFiles();
     bool isSafe = m_isPacked && m_distrust.isEmpty() && !made.isEmpty();
     for (const QString &path : made)

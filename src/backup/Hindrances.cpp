@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <climits>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -48,13 +50,13 @@ void lookAtSettings(const BackupOrder &order, Found &found)
             found.add(Place::Settings, Words::tr("Something is missing in the settings file, and without it "
                                                  "files would be lost: %1. Repair "
                                                  "the file, or move it away: the next start makes a new one.")
-                                           .arg(keys.join(u" / "_qs)));
+                                           .arg(keys.join(u" / "_s)));
     };
-    missing(order.archiveExtension, {u"extensions"_qs, u"RAR"_qs});
-    missing(order.methodExtension, {u"extensions"_qs, order.method});
-    missing(order.cipher, {u"encparam"_qs, order.method});
-    missing(order.archiver, {u"external"_qs, u"RAR"_qs});
-    missing(order.encoder, {u"external"_qs, u"OpenSSL"_qs});
+    missing(order.archiveExtension, {u"extensions"_s, u"RAR"_s});
+    missing(order.methodExtension, {u"extensions"_s, order.method});
+    missing(order.cipher, {u"encparam"_s, order.method});
+    missing(order.archiver, {u"external"_s, u"RAR"_s});
+    missing(order.encoder, {u"external"_s, u"OpenSSL"_s});
 }
 
 void lookAtSources(const BackupOrder &order, Found &found)
@@ -120,9 +122,9 @@ QStringList claimsOf(const BackupItem &item)
 {
     QStringList claims = namesOf(item);
     for (const QString &name : namesOf(item))
-        if (const auto volume = volumeName(name)) claims.append(volume->set + u".part"_qs);
+        if (const auto volume = volumeName(name)) claims.append(volume->set + u".part"_s);
     const QString final = lastPathComponent(item.final);
-    claims.append(final.left(final.lastIndexOf(u'.')) + u".part"_qs);
+    claims.append(final.left(final.lastIndexOf(u'.')) + u".part"_s);
     return claims;
 }
 

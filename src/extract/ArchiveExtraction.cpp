@@ -18,6 +18,8 @@
 #include <QFileInfo>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -83,7 +85,7 @@ Place whatIsAt(const QString &path)
 }
 
 /// In the folder of a run's own, beside the files between the stages.
-QString contentsFolder(const QString &privateFolder) { return joined(privateFolder, u"contents"_qs); }
+QString contentsFolder(const QString &privateFolder) { return joined(privateFolder, u"contents"_s); }
 
 /// Whether a file begins as RAR archives do, of any version.
 bool beginsAsArchive(const QString &path)
@@ -130,7 +132,7 @@ bool ArchiveExtraction::begin()
     if (m_order.privateFolder.isEmpty() || isCancelled()) return true;
     const ToolResult result = openPrivateFolder(m_order.privateFolder);
     if (result.isSilent()) return true;
-    judgeStage(FailedStage::Kind::Place, u"\nRESTORE"_qs, result, true, m_order.privateFolder);
+    judgeStage(FailedStage::Kind::Place, u"\nRESTORE"_s, result, true, m_order.privateFolder);
     return false;
 }
 
@@ -207,7 +209,7 @@ ToolResult ArchiveExtraction::makeWayForEntries(const QStringList &entries)
 void ArchiveExtraction::unpackOuter()
 {
     if (isCancelled()) return;
-    setStage(u"unpacking"_qs, {unpackingShare, bytesToDo()});
+    setStage(u"unpacking"_s, {unpackingShare, bytesToDo()});
     // An archive that was renamed holds its encrypted file under the old name, which another's may have, too.
     QStringList entries;
     for (const QString &entry : entriesOf(m_item))
@@ -220,7 +222,7 @@ void ArchiveExtraction::unpackOuter()
     if (result.isSilent())
         result = runStage(m_order.archiver, extractArguments::unpackOuter(m_item, m_folder));
     // Whether the encrypted file is there is for the next stage to say: its name may be another one.
-    judgeStage(FailedStage::Kind::UnpackOuter, u"\nunRAR 1st"_qs, result, true, m_paths.paths.encrypted);
+    judgeStage(FailedStage::Kind::UnpackOuter, u"\nunRAR 1st"_s, result, true, m_paths.paths.encrypted);
 }
 
 // An archive that was renamed still holds its encrypted file under the old name.
@@ -239,12 +241,12 @@ void ArchiveExtraction::takeRenamedEntry()
 void ArchiveExtraction::decrypt()
 {
     if (!goesOn()) return;
-    setStage(u"decrypting"_qs, {decryptingShare, bytesAt(m_paths.paths.encrypted)});
+    setStage(u"decrypting"_s, {decryptingShare, bytesAt(m_paths.paths.encrypted)});
     if (m_command.isEmpty() && !m_entryName.isEmpty())
         m_command = commandOfArchive(m_entryName, m_order.methods);
     const ToolResult result = runDecoder();
     const bool isMade = whatIsAt(m_paths.paths.inner) == Place::File;
-    judgeStage(FailedStage::Kind::Decrypt, u"\nDECODE"_qs, result, isMade, m_paths.paths.inner);
+    judgeStage(FailedStage::Kind::Decrypt, u"\nDECODE"_s, result, isMade, m_paths.paths.inner);
     m_isDecrypted = m_succeeded && isMade && m_distrust.isEmpty();
 }
 
@@ -276,10 +278,10 @@ QString ArchiveExtraction::folderForContents(Contents &contents)
     if (m_order.isPart()) return contentsFolder(m_folder);
     if (m_order.items.size() < 2 || m_shared.names.claim(std::move(contents.names))) return m_order.folder;
     const QString inner = lastPathComponent(m_paths.paths.inner);
-    const QString name = inner.endsWith(u".rar"_qs) ? inner.chopped(4) : inner + u" contents"_qs;
+    const QString name = inner.endsWith(u".rar"_s) ? inner.chopped(4) : inner + u" contents"_s;
     QString folder = joined(m_order.folder, name);
     for (int number = 2; !QDir().mkdir(folder) && number < 1000; ++number)
-        folder = joined(m_order.folder, u"%1 (%2)"_qs.arg(name, QString::number(number)));
+        folder = joined(m_order.folder, u"%1 (%2)"_s.arg(name, QString::number(number)));
     const std::lock_guard lock(m_shared.mutex);
     m_shared.ownFolders.append(folder);
     return folder;
@@ -288,7 +290,7 @@ QString ArchiveExtraction::folderForContents(Contents &contents)
 void ArchiveExtraction::unpackInner()
 {
     if (!goesOn()) return;
-    setStage(u"extracting"_qs, {extractingShare, bytesAt(m_paths.paths.inner)});
+    setStage(u"extracting"_s, {extractingShare, bytesAt(m_paths.paths.inner)});
     const QString &inner = m_paths.paths.inner;
     m_innerIsArchive = beginsAsArchive(inner);
     Contents contents = m_innerIsArchive ? contentsOf(inner) : Contents();
@@ -302,7 +304,7 @@ void ArchiveExtraction::unpackInner()
     // Now and then a wrong password decrypts to rubbish, without a word, and some archivers say nothing about
     // rubbish.
     if (result.isSilent() && !m_innerIsArchive) result.output = Words::tr("\"%1\" is no archive").arg(inner);
-    judgeStage(FailedStage::Kind::UnpackInner, u"\nunRAR 2nd"_qs, result, hasCome(contents.some, folder),
+    judgeStage(FailedStage::Kind::UnpackInner, u"\nunRAR 2nd"_s, result, hasCome(contents.some, folder),
                folder);
     m_isExtracted = m_succeeded && m_distrust.isEmpty();
     if (!contents.some.isEmpty()) m_example = contents.some.first();
@@ -335,14 +337,14 @@ void ArchiveExtraction::bringChosen()
     if (!m_isExtracted || m_order.chosen.empty()) return;
     m_isExtracted = false; // before it is where it was chosen for, nothing has come back
     if (!goesOn()) return;
-    setStage(u"placing"_qs, {}); // by renaming: it takes no time
+    setStage(u"placing"_s, {}); // by renaming: it takes no time
     const QString reason = ::bringChosen(m_order, m_item, contentsFolder(m_folder), m_example,
                                          {.keep = [this](const Aside &kept) { noteKept(kept); },
                                           .keptAsItWas = [this] { noteNotKept(); },
                                           .goesOn = [this] { return !isCancelled(); }},
                                          [this](const QString &path) { noteContents(path); });
     if (isCancelled()) return;
-    judgeStage(FailedStage::Kind::Place, u"\nRESTORE"_qs, {.output = reason}, true, m_order.folder);
+    judgeStage(FailedStage::Kind::Place, u"\nRESTORE"_s, {.output = reason}, true, m_order.folder);
     m_isExtracted = m_succeeded;
 }
 

@@ -2,6 +2,8 @@
 
 #include "files/Names.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Without what follows the last dot of its last component; a dot at the beginning starts no extension.
@@ -19,7 +21,7 @@ ExtractPaths extractPaths(const QString &archive, const QString &folder, const Q
     const QString encrypted = withoutLastExtension(quillorentLibrary::joined(folder, name));
     QString inner = withoutLastExtension(encrypted);
     // A renamed archive may have no further extension. A file can't be decrypted into itself.
-    if (inner == encrypted) inner += u".rar"_qs;
+    if (inner == encrypted) inner += u".rar"_s;
     return {encrypted, inner, encrypted + methodExtension};
 }
 
@@ -27,7 +29,7 @@ QString methodOfArchive(const QString &archive, const QList<Method> &methods)
 {
     QString found;
     // The last match counts: the method stands last in a name that holds several extensions.
-    for (const QString &piece : quillorentLibrary::lastPathComponent(archive).split(u".rar"_qs))
+    for (const QString &piece : quillorentLibrary::lastPathComponent(archive).split(u".rar"_s))
         for (const Method &method : methods)
             if (method.extension == piece) found = method.name;
     return found;

@@ -7,13 +7,15 @@
 #include <QMap>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// "docs" of "/x/docs.rar.aes.rar".
 QString nameOfBackup(const QString &whole)
 {
-    const QString inner = quillorentLibrary::lastPathComponent(extractPaths(whole, u"/"_qs, {}).inner);
-    return inner.endsWith(u".rar"_qs) ? inner.chopped(4) : inner;
+    const QString inner = quillorentLibrary::lastPathComponent(extractPaths(whole, u"/"_s, {}).inner);
+    return inner.endsWith(u".rar"_s) ? inner.chopped(4) : inner;
 }
 
 FoundBackup describe(const QString &whole, const QStringList &files)
@@ -51,7 +53,7 @@ QList<FoundBackup> backupsIn(const QString &folder, const QList<Method> &methods
 {
     QMap<QString, QStringList> files; // by the path of the archive in one piece
     const QDir::Filters filters = QDir::Files | QDir::Hidden;
-    for (const QFileInfo &file : QDir(folder).entryInfoList({u"*.rar"_qs}, filters, QDir::Unsorted))
+    for (const QFileInfo &file : QDir(folder).entryInfoList({u"*.rar"_s}, filters, QDir::Unsorted))
         files[withoutVolumePart(file.filePath())].append(file.filePath());
 
     QList<FoundBackup> backups;

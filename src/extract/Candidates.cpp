@@ -7,13 +7,15 @@
 #include <QDir>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
     Q_DECLARE_TR_FUNCTIONS(extract)
 };
 
-bool isArchive(const QString &path) { return path.endsWith(u".rar"_qs, Qt::CaseInsensitive); }
+bool isArchive(const QString &path) { return path.endsWith(u".rar"_s, Qt::CaseInsensitive); }
 
 QStringList archivesIn(const QString &folder)
 {

@@ -8,6 +8,8 @@
 #include <QFile>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -92,5 +94,5 @@ QString commonFolder(const QString &one, const QString &other)
     QString common;
     for (qsizetype at = 0; at < std::min(parts.size(), others.size()) && parts[at] == others[at]; ++at)
         common += u'/' + parts[at];
-    return common.isEmpty() ? u"/"_qs : common;
+    return common.isEmpty() ? u"/"_s : common;
 }

@@ -16,6 +16,8 @@
 #include <memory>
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -54,7 +56,7 @@ QStringList archivesOf(const ExtractOrder &order)
 
 RunRecord recordOf(const ExtractOrder &order)
 {
-    RunRecord record{.kind = order.listing ? u"look"_qs : u"extract"_qs,
+    RunRecord record{.kind = order.listing ? u"look"_s : u"extract"_s,
                      .profile = order.profile,
                      .folder = order.folder,
                      .began = QDateTime::currentDateTimeUtc()};
@@ -102,8 +104,8 @@ bool ExtractRun::allAreWhole()
 ToolResult ExtractRun::test(const QString &archive)
 {
     const auto result = std::make_shared<ToolResult>();
-    const bool isLaunched = launchWorker(u"extract-test"_qs, archive, [this, archive, result] {
-        m_state.setStage(archive, u"testing"_qs, {.share = 1, .bytes = double(bytesOfArchive(archive))});
+    const bool isLaunched = launchWorker(u"extract-test"_s, archive, [this, archive, result] {
+        m_state.setStage(archive, u"testing"_s, {.share = 1, .bytes = double(bytesOfArchive(archive))});
         *result = runTool(m_order.archiver, extractArguments::test(archive), lockDescriptor(),
                           [this, archive](int processId) { m_state.setTool(archive, processId); });
         m_state.endItem(archive);
@@ -144,7 +146,7 @@ void ExtractRun::launchWorkers()
     for (qsizetype index = 0; index < m_order.items.size(); ++index) {
         const ExtractItem &item = m_order.items[index];
         const auto body = [this, index] { extractItem(*this, m_order, index, m_shared); };
-        if (!launchWorker(u"extract"_qs, item.archive, body, [this, &item] { return isFree(item); })) return;
+        if (!launchWorker(u"extract"_s, item.archive, body, [this, &item] { return isFree(item); })) return;
     }
 }
 
@@ -183,7 +185,7 @@ QString ExtractRun::summary() const
     const QStringList leftOut = namesLeftOut(m_order.shown, archivesOf(m_order));
     if (!leftOut.isEmpty())
         sentences.append(
-            Words::tr("Not extracted, as they look like later volumes: %1.").arg(leftOut.join(u", "_qs)));
+            Words::tr("Not extracted, as they look like later volumes: %1.").arg(leftOut.join(u", "_s)));
     sentences += describeKept();
     return sentences.join(u' ');
 }

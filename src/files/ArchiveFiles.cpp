@@ -6,9 +6,11 @@
 #include <QRegularExpression>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 std::optional<VolumeName> volumeName(const QString &path)
 {
-    static const QRegularExpression pattern(u"^(.*)\\.part([0-9]+)\\.rar$"_qs,
+    static const QRegularExpression pattern(u"^(.*)\\.part([0-9]+)\\.rar$"_s,
                                             QRegularExpression::DotMatchesEverythingOption |
                                                 QRegularExpression::CaseInsensitiveOption);
     const QRegularExpressionMatch match = pattern.match(path);

@@ -14,6 +14,8 @@
 #include <unistd.h>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -24,7 +26,7 @@ QString shown(const std::string &path) { return QFile::decodeName(QByteArray::fr
 
 QString failure(const std::string &path, int error)
 {
-    return u"\"%1\": %2"_qs.arg(shown(path), qt_error_string(error));
+    return u"\"%1\": %2"_s.arg(shown(path), qt_error_string(error));
 }
 
 std::optional<struct stat> statusOf(int folder, const std::string &name)

@@ -4,11 +4,13 @@
 #include <QDir>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 QString quillorentLibrary::lastPathComponent(const QString &path)
 {
     const QStringList components = path.split(u'/', Qt::SkipEmptyParts);
     if (!components.isEmpty()) return components.last();
-    return path.startsWith(u'/') ? u"/"_qs : QString();
+    return path.startsWith(u'/') ? u"/"_s : QString();
 }
 
 QString quillorentLibrary::joined(const QString &folder, const QString &name)
@@ -29,5 +31,5 @@ QString quillorentLibrary::createTempFileName()
     // The reference date of the names is the first instant of 2001, in universal time.
     constexpr qint64 referenceDate = 978'307'200'000;
     const qint64 milliseconds = QDateTime::currentMSecsSinceEpoch() - referenceDate;
-    return QDir::tempPath() + u"/Quillorent_%1.txt"_qs.arg(milliseconds);
+    return QDir::tempPath() + u"/Quillorent_%1.txt"_s.arg(milliseconds);
 }

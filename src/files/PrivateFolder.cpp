@@ -16,9 +16,11 @@
 #include <unistd.h>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString prefix = u".quillorent-"_qs;
+const QString prefix = u".quillorent-"_s;
 
 struct CloseFolder {
     void operator()(DIR *folder) const { closedir(folder); }

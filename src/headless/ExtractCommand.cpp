@@ -11,6 +11,8 @@
 #include <QFileInfo>
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -26,7 +28,7 @@ bool fillIn(QuillorentAppDelegate &delegate, const Options &options)
 {
     if (!options.folder.isEmpty()) {
         delegate.extractPath.setText(absolute(options.folder));
-        delegate.currentRecord().setValue(u"extractpath"_qs, absolute(options.folder));
+        delegate.currentRecord().setValue(u"extractpath"_s, absolute(options.folder));
     }
     if (options.method) delegate.decryptionCombo01.selectIndex(*options.method);
 

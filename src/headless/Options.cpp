@@ -5,6 +5,8 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -23,22 +25,22 @@ struct CommandRow {
 const QList<CommandRow> &commands()
 {
     static const QList<CommandRow> rows{
-        {Command::Backup, u"backup"_qs, 2, {u"password-file"_qs, u"yes"_qs, u"progress"_qs, u"json"_qs}},
+        {Command::Backup, u"backup"_s, 2, {u"password-file"_s, u"yes"_s, u"progress"_s, u"json"_s}},
         {Command::Extract,
-         u"extract"_qs,
+         u"extract"_s,
          2,
-         {u"to"_qs, u"only"_qs, u"method"_qs, u"password-file"_qs, u"yes"_qs, u"progress"_qs, u"json"_qs}},
+         {u"to"_s, u"only"_s, u"method"_s, u"password-file"_s, u"yes"_s, u"progress"_s, u"json"_s}},
         {Command::List,
-         u"list"_qs,
+         u"list"_s,
          2,
-         {u"to"_qs, u"method"_qs, u"password-file"_qs, u"yes"_qs, u"progress"_qs, u"json"_qs}},
-        {Command::Sync, u"sync"_qs, 2, {u"yes"_qs, u"progress"_qs, u"json"_qs}},
-        {Command::Tools, u"tools"_qs, 1, {}},
-        {Command::Profiles, u"profiles"_qs, 1, {}}};
+         {u"to"_s, u"method"_s, u"password-file"_s, u"yes"_s, u"progress"_s, u"json"_s}},
+        {Command::Sync, u"sync"_s, 2, {u"yes"_s, u"progress"_s, u"json"_s}},
+        {Command::Tools, u"tools"_s, 1, {}},
+        {Command::Profiles, u"profiles"_s, 1, {}}};
     return rows;
 }
 
-const QStringList methods{u"aes"_qs, u"bf"_qs, u"3d"_qs, u"smime"_qs, u"auto"_qs};
+const QStringList methods{u"aes"_s, u"bf"_s, u"3d"_s, u"smime"_s, u"auto"_s};
 
 ParsedArguments wrongUsage(const QString &message)
 {
@@ -71,26 +73,25 @@ void describe(QCommandLineParser &parser)
         "Exit status: 0 done, 1 failed or cancelled, 2 could not start, or was not to\n"
         "go on (see --yes), 64 wrong usage."));
     parser.addOptions(
-        {{{u"h"_qs, u"help"_qs}, Words::tr("Show this text.")},
-         {{u"v"_qs, u"version"_qs}, Words::tr("Show the version.")},
-         {u"password-file"_qs,
-          Words::tr("Take the password from the first line of FILE; - is standard input."), u"FILE"_qs},
-         {u"only"_qs,
+        {{{u"h"_s, u"help"_s}, Words::tr("Show this text.")},
+         {{u"v"_s, u"version"_s}, Words::tr("Show the version.")},
+         {u"password-file"_s,
+          Words::tr("Take the password from the first line of FILE; - is standard input."), u"FILE"_s},
+         {u"only"_s,
           Words::tr(
               "Bring back PATH alone, a file or folder of the one archive, as list tells it; may be given "
               "several times. Nothing is replaced: what is there gets a name that begins with \"kept-\"."),
-          u"PATH"_qs},
-         {u"to"_qs, Words::tr("Extract into FOLDER instead of the profile's extraction folder."),
-          u"FOLDER"_qs},
-         {u"method"_qs, Words::tr("Decrypt by METHOD: aes, bf, 3d, smime, or auto, by the archive's name."),
-          u"METHOD"_qs},
-         {u"yes"_qs, Words::tr("Go on in spite of what is found before the run: archives that will be "
-                               "replaced, too little room, files that will be deleted, and the like. What "
-                               "would lose files is refused all the same.")},
-         {u"json"_qs, Words::tr("Print the run's record on standard output when it has ended.")},
-         {u"progress"_qs, Words::tr("Show progress even where no terminal is.")}});
-    parser.addPositionalArgument(u"command"_qs, Words::tr("backup, extract, list, sync, tools or profiles."));
-    parser.addPositionalArgument(u"PROFILE"_qs,
+          u"PATH"_s},
+         {u"to"_s, Words::tr("Extract into FOLDER instead of the profile's extraction folder."), u"FOLDER"_s},
+         {u"method"_s, Words::tr("Decrypt by METHOD: aes, bf, 3d, smime, or auto, by the archive's name."),
+          u"METHOD"_s},
+         {u"yes"_s, Words::tr("Go on in spite of what is found before the run: archives that will be "
+                              "replaced, too little room, files that will be deleted, and the like. What "
+                              "would lose files is refused all the same.")},
+         {u"json"_s, Words::tr("Print the run's record on standard output when it has ended.")},
+         {u"progress"_s, Words::tr("Show progress even where no terminal is.")}});
+    parser.addPositionalArgument(u"command"_s, Words::tr("backup, extract, list, sync, tools or profiles."));
+    parser.addPositionalArgument(u"PROFILE"_s,
                                  Words::tr("The profile; without it the one that the window would open."));
 }
 
@@ -101,12 +102,12 @@ ParsedArguments parseArguments(const QStringList &arguments)
     QCommandLineParser parser;
     describe(parser);
     // Behind "--" stand archives alone, so that none is taken for the profile.
-    const qsizetype end = arguments.indexOf(u"--"_qs);
+    const qsizetype end = arguments.indexOf(u"--"_s);
     const QStringList archives = end < 0 ? QStringList() : arguments.mid(end + 1);
-    if (!parser.parse(QStringList(u"quillorent-run"_qs) + arguments.mid(0, end)))
+    if (!parser.parse(QStringList(u"quillorent-run"_s) + arguments.mid(0, end)))
         return wrongUsage(parser.errorText());
-    if (parser.isSet(u"help"_qs)) return {std::nullopt, parser.helpText(), Done};
-    if (parser.isSet(u"version"_qs))
+    if (parser.isSet(u"help"_s)) return {std::nullopt, parser.helpText(), Done};
+    if (parser.isSet(u"version"_s))
         return {std::nullopt, QStringLiteral("quillorent-run " QUILLORENT_VERSION "\n"), Done};
 
     const QStringList words = parser.positionalArguments();
@@ -127,22 +128,21 @@ ParsedArguments parseArguments(const QStringList &arguments)
     if (const QString useless = firstUseless(parser, *command); !useless.isEmpty())
         return wrongUsage(Words::tr("\"%1\" does not go with \"%2\".").arg(useless, words.first()));
 
-    const QString method = parser.value(u"method"_qs);
-    if (parser.isSet(u"method"_qs) && !methods.contains(method))
-        return wrongUsage(
-            Words::tr("\"%1\" is no method; there are %2.").arg(method, methods.join(u", "_qs)));
+    const QString method = parser.value(u"method"_s);
+    if (parser.isSet(u"method"_s) && !methods.contains(method))
+        return wrongUsage(Words::tr("\"%1\" is no method; there are %2.").arg(method, methods.join(u", "_s)));
 
     return {Options{.command = command->command,
                     .profile = words.value(1),
-                    .passwordFile = parser.value(u"password-file"_qs),
-                    .folder = parser.value(u"to"_qs),
-                    .method = parser.isSet(u"method"_qs) ? std::optional(int(methods.indexOf(method)))
-                                                         : std::nullopt,
+                    .passwordFile = parser.value(u"password-file"_s),
+                    .folder = parser.value(u"to"_s),
+                    .method = parser.isSet(u"method"_s) ? std::optional(int(methods.indexOf(method)))
+                                                        : std::nullopt,
                     .archives = archives,
-                    .only = parser.values(u"only"_qs),
-                    .yes = parser.isSet(u"yes"_qs),
-                    .json = parser.isSet(u"json"_qs),
-                    .progress = parser.isSet(u"progress"_qs)},
+                    .only = parser.values(u"only"_s),
+                    .yes = parser.isSet(u"yes"_s),
+                    .json = parser.isSet(u"json"_s),
+                    .progress = parser.isSet(u"progress"_s)},
             {},
             Done};
 }

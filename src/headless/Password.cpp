@@ -10,6 +10,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -24,7 +26,7 @@ PasswordInput nothingTyped() { return refusal(Words::tr("No password was typed. 
 
 QString nameOf(const QString &path)
 {
-    return path == u"-" ? Words::tr("standard input") : u"\"%1\""_qs.arg(path);
+    return path == u"-" ? Words::tr("standard input") : u"\"%1\""_s.arg(path);
 }
 
 /// Up to the end of the first line, or `longestLine`: what comes behind is nobody's business, and a pipe may

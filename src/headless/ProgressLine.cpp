@@ -8,6 +8,8 @@
 #include <cstdio>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -17,9 +19,9 @@ QString itemsOf(const RunFigures &figures)
     QStringList running;
     for (const RunFigures::Item &item : figures.items)
         if (item.phase == RunItem::Phase::Running)
-            running.append(quillorentLibrary::lastPathComponent(item.path) + u": "_qs +
+            running.append(quillorentLibrary::lastPathComponent(item.path) + u": "_s +
                            progressWords::step(item));
-    return running.join(u", "_qs);
+    return running.join(u", "_s);
 }
 
 QStringList describe(const RunFigures &figures)
@@ -64,7 +66,7 @@ void ProgressLine::show()
         m_onTerminal || !synchronising.isEmpty() ? words.join(u' ') : words.first() + itemsOf(figures);
     if (sign == m_last) return;
     m_last = sign;
-    const QString line = words.join(u"  "_qs);
+    const QString line = words.join(u"  "_s);
     std::fprintf(stderr, m_onTerminal ? "\r%s\033[K" : "%s\n", qUtf8Printable(line));
     std::fflush(stderr);
 }

@@ -11,6 +11,8 @@
 #include <QCoreApplication>
 #include <QLoggingCategory>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -24,7 +26,7 @@ ExitStatus listTools(const QuillorentAppDelegate &delegate)
     for (const QString &name : registeredTools()) {
         const bool passes = quillorentLibrary::testAll(name);
         allPass = allPass && passes;
-        print(QStringList{name, registeredTool(name), passes ? u"ok"_qs : u"not ok"_qs}.join(u'\t'));
+        print(QStringList{name, registeredTool(name), passes ? u"ok"_s : u"not ok"_s}.join(u'\t'));
     }
     return allPass ? Done : RunFailed;
 }
@@ -33,7 +35,7 @@ ExitStatus listProfiles(const QuillorentAppDelegate &delegate)
 {
     if (!delegate.listPlist()) return RunFailed; // likewise
     for (const QString &name : delegate.listPlist().keys())
-        print((name == delegate.currentProfile() ? u"* "_qs : u"  "_qs) + name);
+        print((name == delegate.currentProfile() ? u"* "_s : u"  "_s) + name);
     return Done;
 }
 
@@ -47,7 +49,7 @@ bool openProfile(QuillorentAppDelegate &delegate, const QString &name)
     }
     if (name.isEmpty()) return true;
     if (!names.contains(name)) {
-        printError(Words::tr("There is no profile \"%1\"; there are: %2.").arg(name, names.join(u", "_qs)));
+        printError(Words::tr("There is no profile \"%1\"; there are: %2.").arg(name, names.join(u", "_s)));
         return false;
     }
     delegate.setterCurrentProfile(name);
@@ -89,7 +91,7 @@ int main(int argc, char **argv)
     }
 
     // Standard error is for the person who started this; how an archive's name was read is not for them.
-    QLoggingCategory::setFilterRules(u"quillorent.decisions.info=false\nquillorent.decisions.debug=false"_qs);
+    QLoggingCategory::setFilterRules(u"quillorent.decisions.info=false\nquillorent.decisions.debug=false"_s);
     prepareProcess(parsed.options->passwordFile == u"-");
     QuillorentAppDelegate delegate;
     delegate.verifiesTools = false; // for a table that nobody sees; "tools" looks for itself

@@ -3,6 +3,8 @@
 #include <cstring>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 Secret::Secret(QByteArrayView bytes) : m_bytes(bytes.begin(), bytes.end()) {}
 
 Secret::~Secret() { wipeBytes(); }
@@ -37,7 +39,7 @@ QString Secret::text() const
     if (!bytes().isValidUtf8()) return {};
 
     // Empty is a password too, and not the same as none.
-    return m_bytes.empty() ? u""_qs : QString::fromUtf8(bytes());
+    return m_bytes.empty() ? u""_s : QString::fromUtf8(bytes());
 }
 
 QByteArrayView Secret::bytes() const { return {m_bytes.data(), static_cast<qsizetype>(m_bytes.size())}; }

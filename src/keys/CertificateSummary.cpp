@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QLocale>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -25,7 +27,7 @@ QString lineAfter(const QStringList &lines, const QString &label)
 /// Reads the tool's "Nov  1 09:00:00 2026 GMT"; invalid where it is something else.
 QDateTime readDate(const QString &text)
 {
-    QDateTime date = QLocale::c().toDateTime(text.simplified().remove(u" GMT"_qs), u"MMM d hh:mm:ss yyyy"_qs);
+    QDateTime date = QLocale::c().toDateTime(text.simplified().remove(u" GMT"_s), u"MMM d hh:mm:ss yyyy"_s);
     date.setTimeSpec(Qt::UTC);
     return date;
 }
@@ -40,13 +42,13 @@ QString day(const QDateTime &date)
 std::optional<CertificateSummary> quillorentLibrary::readCertificateSummary(const QString &certificate)
 {
     const ToolResult result = runRegisteredTool(
-        u"OpenSSL"_qs, {u"x509"_qs, u"-in"_qs, certificate, u"-inform"_qs, u"PEM"_qs, u"-noout"_qs,
-                        u"-subject"_qs, u"-nameopt"_qs, u"RFC2253,-esc_msb,utf8"_qs, u"-dates"_qs});
+        u"OpenSSL"_s, {u"x509"_s, u"-in"_s, certificate, u"-inform"_s, u"PEM"_s, u"-noout"_s, u"-subject"_s,
+                       u"-nameopt"_s, u"RFC2253,-esc_msb,utf8"_s, u"-dates"_s});
     const QStringList lines = result.text().split(u'\n');
-    CertificateSummary summary{.subject = lineAfter(lines, u"subject="_qs),
+    CertificateSummary summary{.subject = lineAfter(lines, u"subject="_s),
                                .key = judgeCertificate(certificate).key,
-                               .notBefore = readDate(lineAfter(lines, u"notBefore="_qs)),
-                               .notAfter = readDate(lineAfter(lines, u"notAfter="_qs))};
+                               .notBefore = readDate(lineAfter(lines, u"notBefore="_s)),
+                               .notAfter = readDate(lineAfter(lines, u"notAfter="_s))};
     if (!summary.notBefore.isValid() || !summary.notAfter.isValid()) return std::nullopt;
     return summary;
 }
@@ -54,7 +56,7 @@ std::optional<CertificateSummary> quillorentLibrary::readCertificateSummary(cons
 QString quillorentLibrary::describeCertificate(const CertificateSummary &summary)
 {
     const QString subject = summary.subject.isEmpty() ? Words::tr("(no subject)") : summary.subject;
-    const QString key = summary.key.isEmpty() ? QString() : u" – "_qs + summary.key;
+    const QString key = summary.key.isEmpty() ? QString() : u" – "_s + summary.key;
     return Words::tr("%1%2 – valid from %3 to %4")
         .arg(subject, key, day(summary.notBefore), day(summary.notAfter));
 }

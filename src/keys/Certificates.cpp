@@ -2,12 +2,14 @@
 
 #include "tools/RegisteredTool.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 ToolResult dumpCertificate(const QString &certificate)
 {
-    return runRegisteredTool(u"OpenSSL"_qs, {u"x509"_qs, u"-in"_qs, certificate, u"-noout"_qs, u"-text"_qs,
-                                             u"-inform"_qs, u"PEM"_qs});
+    return runRegisteredTool(
+        u"OpenSSL"_s, {u"x509"_s, u"-in"_s, certificate, u"-noout"_s, u"-text"_s, u"-inform"_s, u"PEM"_s});
 }
 
 } // namespace
@@ -19,7 +21,7 @@ QString quillorentLibrary::showCert(const QString &certificate)
 
 std::optional<QString> quillorentLibrary::showKey(const QString &key)
 {
-    return runRegisteredTool(u"OpenSSL"_qs, {u"rsa"_qs, u"-in"_qs, key, u"-text"_qs}).output;
+    return runRegisteredTool(u"OpenSSL"_s, {u"rsa"_s, u"-in"_s, key, u"-text"_s}).output;
 }
 
 bool quillorentLibrary::testCert(const QString &certificate, const QString &text)
@@ -30,18 +32,18 @@ bool quillorentLibrary::testCert(const QString &certificate, const QString &text
 bool quillorentLibrary::testKey(const QString &certificate, const QString &key)
 {
     const auto ofCertificate =
-        trimPubKey(runRegisteredTool(u"OpenSSL"_qs, {u"x509"_qs, u"-in"_qs, certificate, u"-pubkey"_qs,
-                                                     u"-inform"_qs, u"PEM"_qs})
+        trimPubKey(runRegisteredTool(u"OpenSSL"_s,
+                                     {u"x509"_s, u"-in"_s, certificate, u"-pubkey"_s, u"-inform"_s, u"PEM"_s})
                        .output);
     const auto ofKey =
-        trimPubKey(runRegisteredTool(u"OpenSSL"_qs, {u"rsa"_qs, u"-in"_qs, key, u"-pubout"_qs}).output);
+        trimPubKey(runRegisteredTool(u"OpenSSL"_s, {u"rsa"_s, u"-in"_s, key, u"-pubout"_s}).output);
     return ofCertificate && ofKey && *ofCertificate == *ofKey;
 }
 
 std::optional<QString> quillorentLibrary::trimPubKey(const std::optional<QString> &text)
 {
-    static const QString begin = u"-----BEGIN PUBLIC KEY-----"_qs;
-    static const QString end = u"-----END PUBLIC KEY-----"_qs;
+    static const QString begin = u"-----BEGIN PUBLIC KEY-----"_s;
+    static const QString end = u"-----END PUBLIC KEY-----"_s;
     const qsizetype found = text ? text->indexOf(begin) : -1;
     if (found < 0) return std::nullopt;
     // A second block would be none of the first one's business.

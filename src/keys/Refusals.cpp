@@ -6,6 +6,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -96,13 +98,12 @@ QString quillorentLibrary::whyNoKey(const QString &certificate, const QString &k
     if (certificate.isEmpty())
         return Words::tr("No certificate is chosen yet. Choose it first: a private key is accepted only with "
                          "the certificate that it belongs to.");
-    if (!testCert(certificate, u"Validity"_qs))
+    if (!testCert(certificate, u"Validity"_s))
         return Words::tr("The certificate itself can't be used any more. ") + whyNoCertificate(certificate);
     const KeyFile file = examineKeyFile(key);
     const QString plain = whyNothing(key, file);
     if (!plain.isEmpty()) return plain;
-    const QString output =
-        runRegisteredTool(u"OpenSSL"_qs, {u"rsa"_qs, u"-in"_qs, key, u"-pubout"_qs}).text();
+    const QString output = runRegisteredTool(u"OpenSSL"_s, {u"rsa"_s, u"-in"_s, key, u"-pubout"_s}).text();
     const QString why = whyNotMatching(output, file.kind);
     return why.contains(u"%2") ? why.arg(key, certificate) : why.arg(key);
 }

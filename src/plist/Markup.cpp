@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace plist {
 
 namespace {
@@ -74,7 +76,7 @@ std::optional<Refusal> forbiddenCharacter(QStringView text)
         if (isPair)
             ++index;
         else if (isControl || unit.isSurrogate() || unit >= QChar(0xFFFE))
-            return Refusal{index, u"U+"_qs + hexadecimal(unit)};
+            return Refusal{index, u"U+"_s + hexadecimal(unit)};
     }
     return std::nullopt;
 }

@@ -10,6 +10,8 @@
 #include <QXmlStreamReader>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace plist {
 
 namespace {
@@ -107,7 +109,7 @@ bool Reader::toNextTag()
 void Reader::checkEncoding()
 {
     const QString encoding = m_xml.documentEncoding().toString();
-    const QStringList readable{u""_qs, u"UTF-8"_qs, u"US-ASCII"_qs};
+    const QStringList readable{u""_s, u"UTF-8"_s, u"US-ASCII"_s};
     if (!readable.contains(encoding, Qt::CaseInsensitive))
         refuse(Words::tr("its encoding is %1, not UTF-8").arg(encoding));
 }
@@ -174,8 +176,8 @@ Value Reader::readValue(int depth)
 Value Reader::readScalar()
 {
     const QString element = m_xml.qualifiedName().toString();
-    const QStringList known{u"string"_qs, u"integer"_qs, u"real"_qs, u"true"_qs,
-                            u"false"_qs,  u"data"_qs,    u"date"_qs};
+    const QStringList known{u"string"_s, u"integer"_s, u"real"_s, u"true"_s,
+                            u"false"_s,  u"data"_s,    u"date"_s};
     if (!known.contains(element)) return refuse(Words::tr("the element <%1> is unknown").arg(element));
     checkAttributes();
     if (m_xml.hasError()) return {};
@@ -191,7 +193,7 @@ Value Reader::readScalar()
 
 Value Reader::readInteger(const QString &text)
 {
-    static const QRegularExpression form(uR"(\A[+-]?[0-9]+\z)"_qs);
+    static const QRegularExpression form(uR"(\A[+-]?[0-9]+\z)"_s);
     if (!form.match(text).hasMatch()) return refuse(Words::tr("“%1” is not an integer").arg(text.left(40)));
     bool fits = false;
     const qint64 number = text.toLongLong(&fits);
@@ -205,7 +207,7 @@ Value Reader::readReal(const QString &text)
     if (text == u"+infinity") return std::numeric_limits<double>::infinity();
     if (text == u"-infinity") return -std::numeric_limits<double>::infinity();
 
-    static const QRegularExpression form(uR"(\A[+-]?([0-9]+\.?[0-9]*|\.[0-9]+)([eE][+-]?[0-9]+)?\z)"_qs);
+    static const QRegularExpression form(uR"(\A[+-]?([0-9]+\.?[0-9]*|\.[0-9]+)([eE][+-]?[0-9]+)?\z)"_s);
     bool fits = form.match(text).hasMatch();
     const double number = fits ? text.toDouble(&fits) : 0;
     if (!fits) return refuse(Words::tr("“%1” is not a real number").arg(text.left(40)));
@@ -214,7 +216,7 @@ Value Reader::readReal(const QString &text)
 
 Value Reader::readData(const QString &text)
 {
-    static const QRegularExpression space(u"[ \t\r\n]+"_qs);
+    static const QRegularExpression space(u"[ \t\r\n]+"_s);
     const QByteArray encoded = QString(text).remove(space).toUtf8();
     auto decoded = QByteArray::fromBase64Encoding(encoded, QByteArray::AbortOnBase64DecodingErrors);
     if (!decoded) return refuse(Words::tr("the data is not Base64"));
@@ -223,7 +225,7 @@ Value Reader::readData(const QString &text)
 
 Value Reader::readDate(const QString &text)
 {
-    static const QRegularExpression form(uR"(\A[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9]{2}:[0-9]{2}:[0-9]{2}Z\z)"_qs);
+    static const QRegularExpression form(uR"(\A[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9]{2}:[0-9]{2}:[0-9]{2}Z\z)"_s);
     const QDateTime date = QDateTime::fromString(text, Qt::ISODate);
     if (!form.match(text).hasMatch() || !date.isValid())
         return refuse(Words::tr("“%1” is not a date like 2001-12-31T23:59:59Z").arg(text.left(40)));
@@ -266,7 +268,7 @@ Bytes readBytes(const QString &path)
 FileContent readFile(const QString &path)
 {
     const Bytes content = readBytes(path);
-    if (!content.reason.isEmpty()) return {{}, u"%1: %2"_qs.arg(path, content.reason)};
+    if (!content.reason.isEmpty()) return {{}, u"%1: %2"_s.arg(path, content.reason)};
 
     // Decoded here, as the XML reader puts replacement characters for some of the bytes that are not UTF-8.
     QStringDecoder decoder(QStringDecoder::Utf8);
@@ -275,12 +277,12 @@ FileContent readFile(const QString &path)
 
     if (const auto refusal = refusedMarkup(document)) {
         const qsizetype line = QStringView(document).first(refusal->index).count(u'\n') + 1;
-        return {{}, u"%1:%2: %3"_qs.arg(path, QString::number(line), refusal->reason)};
+        return {{}, u"%1:%2: %3"_s.arg(path, QString::number(line), refusal->reason)};
     }
 
     Reader reader(document);
     Dictionary dictionary = reader.readDocument();
-    if (!dictionary) return {{}, u"%1:%2: %3"_qs.arg(path, QString::number(reader.line()), reader.error())};
+    if (!dictionary) return {{}, u"%1:%2: %3"_s.arg(path, QString::number(reader.line()), reader.error())};
     return {std::move(dictionary), {}};
 }
 

@@ -8,6 +8,8 @@
 #include <QXmlStreamWriter>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace plist {
 
 namespace {
@@ -18,8 +20,8 @@ struct Words {
 
 QString realText(double number)
 {
-    if (std::isnan(number)) return u"nan"_qs;
-    if (std::isinf(number)) return number > 0 ? u"+infinity"_qs : u"-infinity"_qs;
+    if (std::isnan(number)) return u"nan"_s;
+    if (std::isinf(number)) return number > 0 ? u"+infinity"_s : u"-infinity"_s;
     return QString::number(number, 'g', QLocale::FloatingPointShortest);
 }
 
@@ -54,7 +56,7 @@ private:
 
 void Writer::refuse(const QString &reason)
 {
-    if (m_reason.isEmpty()) m_reason = reason.arg(m_keys.join(u"/"_qs));
+    if (m_reason.isEmpty()) m_reason = reason.arg(m_keys.join(u"/"_s));
 }
 
 void Writer::refuseDepth()
@@ -66,9 +68,9 @@ void Writer::writeDocument(const Dictionary &root)
 {
     m_xml.writeStartDocument();
     m_xml.writeDTD(u"<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
-                   "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">"_qs);
-    m_xml.writeStartElement(u"plist"_qs);
-    m_xml.writeAttribute(u"version"_qs, u"1.0"_qs);
+                   "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">"_s);
+    m_xml.writeStartElement(u"plist"_s);
+    m_xml.writeAttribute(u"version"_s, u"1.0"_s);
     writeDictionary(root, 1);
     m_xml.writeEndDocument();
     if (m_xml.hasError() && m_reason.isEmpty()) m_reason = Words::tr("it can't be put into XML");
@@ -81,14 +83,13 @@ void Writer::writeValue(const Value &value, int depth)
     const Value::Content &content = value.content();
     if (const auto *dictionary = std::get_if<Dictionary>(&content)) writeDictionary(*dictionary, depth);
     if (const auto *array = std::get_if<Array>(&content)) writeArray(*array, depth);
-    if (const auto *text = std::get_if<QString>(&content)) writeText(u"string"_qs, *text);
-    if (const auto *number = std::get_if<qint64>(&content))
-        writeText(u"integer"_qs, QString::number(*number));
-    if (const auto *number = std::get_if<double>(&content)) writeText(u"real"_qs, realText(*number));
+    if (const auto *text = std::get_if<QString>(&content)) writeText(u"string"_s, *text);
+    if (const auto *number = std::get_if<qint64>(&content)) writeText(u"integer"_s, QString::number(*number));
+    if (const auto *number = std::get_if<double>(&content)) writeText(u"real"_s, realText(*number));
     if (const auto *truth = std::get_if<bool>(&content))
-        m_xml.writeEmptyElement(*truth ? u"true"_qs : u"false"_qs);
+        m_xml.writeEmptyElement(*truth ? u"true"_s : u"false"_s);
     if (const auto *data = std::get_if<QByteArray>(&content))
-        writeText(u"data"_qs, QString::fromLatin1(data->toBase64()));
+        writeText(u"data"_s, QString::fromLatin1(data->toBase64()));
     if (const auto *date = std::get_if<QDateTime>(&content)) writeDate(*date);
 }
 
@@ -96,11 +97,11 @@ void Writer::writeDictionary(const Dictionary &dictionary, int depth)
 {
     // Also what ends the writing of a container that came to lie in itself.
     if (depth > maximumDepth) return refuseDepth();
-    m_xml.writeStartElement(u"dict"_qs);
+    m_xml.writeStartElement(u"dict"_s);
     const QList<Dictionary::Entry> entries = dictionary.entries();
     for (const Dictionary::Entry &entry : entries) {
         m_keys.append(entry.key);
-        writeText(u"key"_qs, entry.key);
+        writeText(u"key"_s, entry.key);
         writeValue(entry.value, depth + 1);
         m_keys.removeLast();
     }
@@ -110,7 +111,7 @@ void Writer::writeDictionary(const Dictionary &dictionary, int depth)
 void Writer::writeArray(const Array &array, int depth)
 {
     if (depth > maximumDepth) return refuseDepth();
-    m_xml.writeStartElement(u"array"_qs);
+    m_xml.writeStartElement(u"array"_s);
     const QList<Value> values = array.values();
     for (const Value &value : values)
         writeValue(value, depth + 1);
@@ -122,7 +123,7 @@ void Writer::writeDate(const QDateTime &date)
     const QDateTime utc = date.toUTC();
     if (!utc.isValid() || utc.date().year() < 1 || utc.date().year() > 9999)
         return refuse(Words::tr("the value under “%1” is a date that the file can't hold"));
-    writeText(u"date"_qs, utc.toString(u"yyyy-MM-ddTHH:mm:ssZ"_qs));
+    writeText(u"date"_s, utc.toString(u"yyyy-MM-ddTHH:mm:ssZ"_s));
 }
 
 void Writer::writeText(const QString &element, const QString &text)
@@ -136,7 +137,7 @@ void Writer::writeText(const QString &element, const QString &text)
     const QStringList parts = text.split(u'\r');
     for (qsizetype part = 0; part < parts.size(); ++part) {
         // A bare carriage return would be read back as a line feed.
-        if (part > 0) m_xml.writeEntityReference(u"#13"_qs);
+        if (part > 0) m_xml.writeEntityReference(u"#13"_s);
         m_xml.writeCharacters(parts[part]);
     }
     m_xml.writeEndElement();
@@ -155,7 +156,7 @@ Document toDocument(const Dictionary &dictionary)
 QString writeFile(const QString &path, const Dictionary &dictionary)
 {
     const Document document = toDocument(dictionary);
-    if (!document.reason.isEmpty()) return u"%1: %2"_qs.arg(path, document.reason);
+    if (!document.reason.isEmpty()) return u"%1: %2"_s.arg(path, document.reason);
     return replacePrivateFile(path, document.bytes);
 }
 

@@ -8,7 +8,8 @@
 {
     const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(time).count();
     const QChar zero = u'0';
-    return u"%1:%2:%3"_qs.arg(seconds / 3600)
+    return QStringLiteral("%1:%2:%3")
+        .arg(seconds / 3600)
         .arg(seconds / 60 % 60, 2, 10, zero)
         .arg(seconds % 60, 2, 10, zero);
 }

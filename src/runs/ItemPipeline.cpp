@@ -8,6 +8,8 @@
 #include <QFile>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -64,7 +66,7 @@ bool ItemPipeline::isKnown(const QString &path, const FileIdentity &identity) co
 
 QString ItemPipeline::moveAway(const QString &path)
 {
-    const auto plan = planAside({path}, u"kept"_qs);
+    const auto plan = planAside({path}, u"kept"_s);
     if (!plan) return Words::tr("no other name is free for it");
     const QString to = plan->first().to;
     // A run that was killed may have left it in clear: it is to be named as long as it is there, also where
@@ -209,7 +211,7 @@ void ItemPipeline::runForLines(const QString &tool, const QStringList &arguments
 bool ItemPipeline::judge(const QString &line, const ToolResult &result, bool isMade, const QString &product)
 {
     m_succeeded = result.isSilent();
-    m_log += line + (m_succeeded ? u" OK - "_qs : u" ERROR - "_qs) + m_item;
+    m_log += line + (m_succeeded ? u" OK - "_s : u" ERROR - "_s) + m_item;
     if (!m_succeeded) return false;
     const QString stage = line.trimmed();
     QString wrong;
@@ -233,7 +235,7 @@ void ItemPipeline::succeed(quint64 bytes)
 
 void ItemPipeline::fail(const QString &explanation, const QString &reason)
 {
-    m_log += u"\n *** ERROR! *** "_qs + m_item;
+    m_log += u"\n *** ERROR! *** "_s + m_item;
     m_run.monitor().logged(explanation + m_log);
     m_run.state().setFailure(m_item, reason);
     m_run.journal().changeItem(m_index, [&](ItemRecord &item) { item.reason = reason; });

@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -38,6 +40,6 @@ QString whyOtherOpenSsl()
 
 bool isWholeArchive(const QString &archiver, const QString &archive)
 {
-    const ToolResult result = runTool(archiver, {u"t"_qs, u"-idq"_qs, archive});
+    const ToolResult result = runTool(archiver, {u"t"_s, u"-idq"_s, archive});
     return result.isSilent() && result.exitStatus == 0;
 }

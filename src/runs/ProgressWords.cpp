@@ -4,6 +4,8 @@
 #include <QHash>
 #include <QLocale>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -16,17 +18,17 @@ struct Words {
 const QHash<QString, const char *> &stages()
 {
     static const QHash<QString, const char *> words{
-        {u"storing"_qs, QT_TRANSLATE_NOOP("runs", "Collecting")},
-        {u"encrypting"_qs, QT_TRANSLATE_NOOP("runs", "Encrypting")},
-        {u"packing"_qs, QT_TRANSLATE_NOOP("runs", "Packing")},
-        {u"finishing"_qs, QT_TRANSLATE_NOOP("runs", "Finishing")},
-        {u"testing"_qs, QT_TRANSLATE_NOOP("runs", "Testing")},
-        {u"unpacking"_qs, QT_TRANSLATE_NOOP("runs", "Unpacking")},
-        {u"decrypting"_qs, QT_TRANSLATE_NOOP("runs", "Decrypting")},
-        {u"extracting"_qs, QT_TRANSLATE_NOOP("runs", "Restoring")},
-        {u"placing"_qs, QT_TRANSLATE_NOOP("runs", "Putting in place")},
-        {u"copying"_qs, QT_TRANSLATE_NOOP("runs", "Copying")},
-        {u"comparing"_qs, QT_TRANSLATE_NOOP("runs", "Comparing")},
+        {u"storing"_s, QT_TRANSLATE_NOOP("runs", "Collecting")},
+        {u"encrypting"_s, QT_TRANSLATE_NOOP("runs", "Encrypting")},
+        {u"packing"_s, QT_TRANSLATE_NOOP("runs", "Packing")},
+        {u"finishing"_s, QT_TRANSLATE_NOOP("runs", "Finishing")},
+        {u"testing"_s, QT_TRANSLATE_NOOP("runs", "Testing")},
+        {u"unpacking"_s, QT_TRANSLATE_NOOP("runs", "Unpacking")},
+        {u"decrypting"_s, QT_TRANSLATE_NOOP("runs", "Decrypting")},
+        {u"extracting"_s, QT_TRANSLATE_NOOP("runs", "Restoring")},
+        {u"placing"_s, QT_TRANSLATE_NOOP("runs", "Putting in place")},
+        {u"copying"_s, QT_TRANSLATE_NOOP("runs", "Copying")},
+        {u"comparing"_s, QT_TRANSLATE_NOOP("runs", "Comparing")},
     };
     return words;
 }

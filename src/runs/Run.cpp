@@ -10,6 +10,8 @@
 #include <thread>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -24,7 +26,7 @@ QStringList describe(const std::vector<RunState::Item> &items)
 {
     QStringList names;
     for (const RunState::Item &item : items)
-        names.append(u"%1 (%2)"_qs.arg(quillorentLibrary::lastPathComponent(item.path), item.stage));
+        names.append(u"%1 (%2)"_s.arg(quillorentLibrary::lastPathComponent(item.path), item.stage));
     return names;
 }
 

@@ -10,6 +10,8 @@
 #include <atomic>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -46,7 +48,7 @@ bool isDoneWith(const RunRecord &record)
 QString nameFor(const RunRecord &record)
 {
     static std::atomic<int> count = 0;
-    return u"%1-%2-%3.json"_qs.arg(record.began.toUTC().toString(u"yyyyMMdd'T'hhmmsszzz"_qs))
+    return u"%1-%2-%3.json"_s.arg(record.began.toUTC().toString(u"yyyyMMdd'T'hhmmsszzz"_s))
         .arg(QCoreApplication::applicationPid())
         .arg(++count);
 }
@@ -57,17 +59,17 @@ QString recordsFolder()
 {
     const QString configured = QFile::decodeName(qgetenv("XDG_STATE_HOME"));
     const QString state =
-        QDir::isAbsolutePath(configured) ? configured : QDir::home().filePath(u".local/state"_qs);
-    return QDir::cleanPath(state + u"/quillorent/runs"_qs);
+        QDir::isAbsolutePath(configured) ? configured : QDir::home().filePath(u".local/state"_s);
+    return QDir::cleanPath(state + u"/quillorent/runs"_s);
 }
 
 QString whyNoRecords()
 {
     const QString folder = recordsFolder();
     if (!QDir().mkpath(folder)) return Words::tr("the folder \"%1\" can't be made").arg(folder);
-    QSaveFile probe(folder + u"/probe"_qs);
+    QSaveFile probe(folder + u"/probe"_s);
     if (probe.open(QIODevice::WriteOnly)) return {};
-    return u"\"%1\": %2"_qs.arg(folder, probe.errorString());
+    return u"\"%1\": %2"_s.arg(folder, probe.errorString());
 }
 
 RunJournal::RunJournal(RunRecord record)
@@ -120,7 +122,7 @@ QList<KeptRecord> keptRecords()
 {
     QList<KeptRecord> records;
     // The names begin with the time.
-    const QDir folder(recordsFolder(), u"*.json"_qs, QDir::Name, QDir::Files);
+    const QDir folder(recordsFolder(), u"*.json"_s, QDir::Name, QDir::Files);
     for (const QString &name : folder.entryList()) {
         QFile file(folder.filePath(name));
         if (!file.open(QIODevice::ReadOnly)) continue;

@@ -6,6 +6,8 @@
 #include <array>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::array outcomeNames{
@@ -61,16 +63,13 @@ QList<T> listOf(const QJsonValue &value, Read read)
 QJsonValue fromText(const QString &text) { return text; }
 QString readText(const QJsonValue &value) { return value.toString(); }
 
-QJsonValue fromAside(const Aside &aside)
-{
-    return QJsonObject{{u"from"_qs, aside.from}, {u"to"_qs, aside.to}};
-}
+QJsonValue fromAside(const Aside &aside) { return QJsonObject{{u"from"_s, aside.from}, {u"to"_s, aside.to}}; }
 
 Aside readAside(const QJsonValue &value) { return {value[u"from"].toString(), value[u"to"].toString()}; }
 
 QJsonValue fromLeft(const LeftFile &left)
 {
-    QJsonObject object{{u"path"_qs, left.path}, {u"clear"_qs, left.isClear}};
+    QJsonObject object{{u"path"_s, left.path}, {u"clear"_s, left.isClear}};
     if (!left.identity) return object;
     object[u"device"] = number(left.identity->device);
     object[u"inode"] = number(left.identity->inode);
@@ -92,15 +91,15 @@ LeftFile readLeft(const QJsonValue &value)
 
 QJsonValue fromItem(const ItemRecord &item)
 {
-    QJsonObject object{{u"path"_qs, item.path},
-                       {u"outcome"_qs, nameOf(item.outcome)},
-                       {u"bytes"_qs, qint64(item.bytes)},
-                       {u"archives"_qs, arrayOf(item.archives, fromText)},
-                       {u"between"_qs, arrayOf(item.between, fromText)},
-                       {u"left"_qs, arrayOf(item.left, fromLeft)},
-                       {u"former"_qs, arrayOf(item.former, fromAside)},
-                       {u"final"_qs, arrayOf(item.final, fromText)},
-                       {u"kept"_qs, arrayOf(item.kept, fromAside)}};
+    QJsonObject object{{u"path"_s, item.path},
+                       {u"outcome"_s, nameOf(item.outcome)},
+                       {u"bytes"_s, qint64(item.bytes)},
+                       {u"archives"_s, arrayOf(item.archives, fromText)},
+                       {u"between"_s, arrayOf(item.between, fromText)},
+                       {u"left"_s, arrayOf(item.left, fromLeft)},
+                       {u"former"_s, arrayOf(item.former, fromAside)},
+                       {u"final"_s, arrayOf(item.final, fromText)},
+                       {u"kept"_s, arrayOf(item.kept, fromAside)}};
     if (!item.reason.isEmpty()) object[u"reason"] = item.reason;
     if (!item.clear.isEmpty()) object[u"clear"] = item.clear;
     if (!item.contents.isEmpty()) object[u"contents"] = item.contents;
@@ -131,11 +130,11 @@ namespace {
 
 QJsonObject objectOf(const RunRecord &record)
 {
-    QJsonObject object{{u"kind"_qs, record.kind},
-                       {u"profile"_qs, record.profile},
-                       {u"folder"_qs, record.folder},
-                       {u"began"_qs, textOf(record.began)},
-                       {u"items"_qs, arrayOf(record.items, fromItem)}};
+    QJsonObject object{{u"kind"_s, record.kind},
+                       {u"profile"_s, record.profile},
+                       {u"folder"_s, record.folder},
+                       {u"began"_s, textOf(record.began)},
+                       {u"items"_s, arrayOf(record.items, fromItem)}};
     if (record.ended.isValid()) {
         object[u"ended"] = textOf(record.ended);
         object[u"outcome"] = nameOf(record.outcome);
@@ -168,7 +167,7 @@ QByteArray recordLine(const RunRecord &record)
 
 QByteArray itemLine(qsizetype index, const ItemRecord &item)
 {
-    const QJsonObject change{{u"index"_qs, index}, {u"item"_qs, fromItem(item)}};
+    const QJsonObject change{{u"index"_s, index}, {u"item"_s, fromItem(item)}};
     return QJsonDocument(change).toJson(QJsonDocument::Compact) + '\n';
 }
 

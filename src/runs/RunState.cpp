@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 template <class T>
@@ -152,7 +154,7 @@ void RunState::setFailure(const QString &path, const QString &reason)
 {
     const std::lock_guard lock(m_mutex);
     // Tools that a person has ended complain of that.
-    if (m_failure.isEmpty() && !m_cancelledByUser) m_failure = path + u": "_qs + reason;
+    if (m_failure.isEmpty() && !m_cancelledByUser) m_failure = path + u": "_s + reason;
 }
 
 bool RunState::tryBeginRun()

@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace quillorentLibrary {
 
 namespace {
@@ -25,7 +27,7 @@ QString newPlaceOf(const QString &path)
 QStringList findCompanionsAgain(const plist::Dictionary &settings)
 {
     QStringList found;
-    const plist::Dictionary tools = settings.dictionary(u"external"_qs);
+    const plist::Dictionary tools = settings.dictionary(u"external"_s);
     const QList<plist::Dictionary::Entry> entries = tools.entries();
     for (const auto &[name, value] : entries) {
         const QString place = value.isString() ? newPlaceOf(value.string().value_or(QString())) : QString();

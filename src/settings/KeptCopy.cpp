@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace quillorentLibrary {
 
 namespace {
@@ -37,7 +39,7 @@ bool isTaken(const QString &path)
 
 QString numbered(const QString &path, int number)
 {
-    return number == 0 ? path : u"%1.%2"_qs.arg(path, QString::number(number));
+    return number == 0 ? path : u"%1.%2"_s.arg(path, QString::number(number));
 }
 
 /// Where `content` lies already, or else the first free place.
@@ -57,7 +59,7 @@ Place placeFor(const QString &content, const QString &path)
 
 QString nameFor(const QString &path, KeptAs as)
 {
-    return path + (as == KeptAs::Damaged ? u".damaged"_qs : u".kept"_qs);
+    return path + (as == KeptAs::Damaged ? u".damaged"_s : u".kept"_s);
 }
 
 KeptCopy kept(const QString &path, const QString &place)

@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace quillorentLibrary {
 
 namespace {
@@ -19,35 +21,35 @@ QString &resourceFolderOverride()
 QString preferencesFolder()
 {
 #ifdef Q_OS_MACOS
-    return QDir::cleanPath(QDir::home().filePath(u"Library/Preferences"_qs));
+    return QDir::cleanPath(QDir::home().filePath(u"Library/Preferences"_s));
 #else
     const QString configured = QFile::decodeName(qgetenv("XDG_CONFIG_HOME"));
     return QDir::cleanPath(QDir::isAbsolutePath(configured) ? configured
-                                                            : QDir::home().filePath(u".config"_qs));
+                                                            : QDir::home().filePath(u".config"_s));
 #endif
 }
 
 QString settingsPath()
 {
-    return QDir(preferencesFolder()).filePath(u"com.brolvanek.Quillorent.config.plist"_qs);
+    return QDir(preferencesFolder()).filePath(u"com.brolvanek.Quillorent.config.plist"_s);
 }
 
 QString profilesPath()
 {
-    return QDir(preferencesFolder()).filePath(u"com.brolvanek.Quillorent.profiles.plist"_qs);
+    return QDir(preferencesFolder()).filePath(u"com.brolvanek.Quillorent.profiles.plist"_s);
 }
 
 QString resourceFolder()
 {
     if (!resourceFolderOverride().isEmpty()) return resourceFolderOverride();
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../share/quillorent"_qs);
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../share/quillorent"_s);
 }
 
-QString settingsTemplatePath() { return QDir(resourceFolder()).filePath(u"config.plist"_qs); }
+QString settingsTemplatePath() { return QDir(resourceFolder()).filePath(u"config.plist"_s); }
 
-QString profilesTemplatePath() { return QDir(resourceFolder()).filePath(u"profiles.plist"_qs); }
+QString profilesTemplatePath() { return QDir(resourceFolder()).filePath(u"profiles.plist"_s); }
 
-QString companionFolder() { return QDir::cleanPath(resourceFolder() + u"/../../libexec/quillorent"_qs); }
+QString companionFolder() { return QDir::cleanPath(resourceFolder() + u"/../../libexec/quillorent"_s); }
 
 bool makePrivateFolder(const QString &folder)
 {

@@ -10,6 +10,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace quillorentLibrary {
 
 namespace {
@@ -36,7 +38,7 @@ plist::Dictionary readSettings()
         settingsFile().notice(
             Words::tr(
                 "The program has been moved. Its own tools are used from where they are now, in “%1”: %2.")
-                .arg(companionFolder(), found.join(u", "_qs)));
+                .arg(companionFolder(), found.join(u", "_s)));
     return settings;
 }
 

@@ -6,11 +6,13 @@
 
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace quillorentLibrary {
 
 namespace {
 
-const QString versionKey = u"version"_qs;
+const QString versionKey = u"version"_s;
 
 /// Whether this merge comes for the first time. Settings without a version are merged at every start.
 enum class Merge { Once, AtEachStart };
@@ -60,7 +62,7 @@ void mergeSettings(const plist::Dictionary &user, const plist::Dictionary &newDi
 
 void mergeProfile(const plist::Dictionary &record, const plist::Dictionary &newDict, Merge merge)
 {
-    const QList<plist::Dictionary::Entry> entries = newDict.dictionary(u"Default profile"_qs).entries();
+    const QList<plist::Dictionary::Entry> entries = newDict.dictionary(u"Default profile"_s).entries();
     for (const auto &[key, value] : entries) {
         if (value.isString()) addMissing(record, key, value);
         if (value.isArray()) mergeList(record, key, value.array(), merge);
@@ -113,7 +115,7 @@ void checkVersion()
     };
     settingsFile().change(
         [&](const plist::Dictionary &settings) {
-            mergeData(settings, settingsTemplate, *newVersion, u"config"_qs);
+            mergeData(settings, settingsTemplate, *newVersion, u"config"_s);
         },
         mergeTheProfiles);
 }

@@ -11,6 +11,8 @@
 #include <QFileInfo>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace quillorentLibrary {
 
 Q_LOGGING_CATEGORY(logSettings, "quillorent.settings")
@@ -176,7 +178,7 @@ bool UserFile::change(const std::function<void(const plist::Dictionary &)> &work
 
     const plist::Document document = plist::toDocument(dictionary);
     if (!document.reason.isEmpty()) {
-        logReason(m_path() + u": "_qs + document.reason);
+        logReason(m_path() + u": "_s + document.reason);
         return false;
     }
     plist::PendingFile pending(m_path(), document.bytes);

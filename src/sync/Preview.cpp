@@ -7,6 +7,8 @@
 #include <optional>
 #include <set>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -124,12 +126,12 @@ QString summarize(const Preview &preview)
                                 Change::MakeFolder, Change::Adjust}) {
         const qsizetype count = counts[static_cast<std::size_t>(change)];
         if (count > 0)
-            parts.append(describeChange(change, preview.removesSources) + u": "_qs +
+            parts.append(describeChange(change, preview.removesSources) + u": "_s +
                          QLocale().toString(count));
     }
     if (parts.isEmpty()) return Words::tr("Nothing would be copied or deleted.");
     return Words::tr("%1. %2 would be copied.")
-        .arg(parts.join(u"; "_qs), QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat));
+        .arg(parts.join(u"; "_s), QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat));
 }
 
 bool deletesMore(const Preview &preview, const Preview &shown)

@@ -2,6 +2,8 @@
 
 #include "files/Names.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// "/" of "/" and of what lies in it; empty of a name alone.
@@ -16,11 +18,11 @@ QString parentOf(const QString &path)
     skip(false);
     skip(true);
     if (end > 0) return path.left(end);
-    return path.startsWith(u'/') ? u"/"_qs : QString();
+    return path.startsWith(u'/') ? u"/"_s : QString();
 }
 
 // rsync takes some argument in each place, so a switch that is off becomes an option without an effect here.
-const QString noOption = u"-h"_qs;
+const QString noOption = u"-h"_s;
 
 } // namespace
 
@@ -64,7 +66,7 @@ QByteArray syncArguments::list(const QStringList &entries)
 QString syncArguments::destination(const SyncOrder &order)
 {
     if (!order.isRemote) return order.destination;
-    const QString user = order.user.isEmpty() ? u"@"_qs : QString();
+    const QString user = order.user.isEmpty() ? u"@"_s : QString();
     const QString port = order.port.isEmpty() ? QString() : order.port + u':';
     return user + order.server + u':' + port + order.destination;
 }
@@ -72,20 +74,20 @@ QString syncArguments::destination(const SyncOrder &order)
 QStringList syncArguments::transfer(const SyncOrder &order, const QString &listFile)
 {
     if (!order.parameters) return {};
-    QStringList arguments{*order.parameters, order.mode == u"0"_qs ? u"-u"_qs : u"-c"_qs};
+    QStringList arguments{*order.parameters, order.mode == u"0"_s ? u"-u"_s : u"-c"_s};
     if (!order.excludes) return arguments;
-    return arguments << *order.excludes << (order.deletesExtra ? u"--delete"_qs : noOption)
-                     << (order.removesSources ? u"--remove-source-files"_qs : noOption)
-                     << u"--files-from="_qs + listFile << rootOf(order.entries) << destination(order);
+    return arguments << *order.excludes << (order.deletesExtra ? u"--delete"_s : noOption)
+                     << (order.removesSources ? u"--remove-source-files"_s : noOption)
+                     << u"--files-from="_s + listFile << rootOf(order.entries) << destination(order);
 }
 
 QStringList syncArguments::preview(const SyncOrder &order, const QString &listFile)
 {
     constexpr qsizetype behindOptions = 5;
     QStringList arguments = transfer(order, listFile);
-    QStringList added{u"--dry-run"_qs, u"--itemize-changes"_qs, u"--out-format=%i\t%l\t%n"_qs};
+    QStringList added{u"--dry-run"_s, u"--itemize-changes"_s, u"--out-format=%i\t%l\t%n"_s};
     // A file that is at the destination already is removed as well; said twice, the option shows it.
-    if (order.removesSources) added.insert(1, u"--itemize-changes"_qs);
+    if (order.removesSources) added.insert(1, u"--itemize-changes"_s);
     for (const QString &argument : added)
         arguments.insert(std::min(behindOptions, arguments.size()), argument);
     return arguments;

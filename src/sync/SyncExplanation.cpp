@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -129,7 +131,7 @@ QString explainSync(const QString &output, const SyncOrder &order)
     QString text =
         known == explanations.end()
             ? Words::tr("rsync, the program that copies, reported a problem; its own words follow.")
-            : Words::tr(known->meaning).replace(u"%1"_qs, order.server).replace(u"%2"_qs, order.destination);
+            : Words::tr(known->meaning).replace(u"%1"_s, order.server).replace(u"%2"_s, order.destination);
     if (output.contains(u"skipping file deletion"))
         text += Words::tr(" Nothing was deleted at the destination.");
     return text;

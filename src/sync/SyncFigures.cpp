@@ -15,6 +15,8 @@
 #include <atomic>
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 /// Shared with the thread that measures, which may be in the midst of a large folder when the run ends.
@@ -66,7 +68,7 @@ void SyncFigures::Growth::measure()
 SyncFigures::SyncFigures(const SyncOrder &order, RunState &state)
     : m_state(state), m_growth(std::make_shared<Growth>(order))
 {
-    if (!order.isRemote) detachThread(u"sync-size"_qs, [growth = m_growth] { growth->measure(); });
+    if (!order.isRemote) detachThread(u"sync-size"_s, [growth = m_growth] { growth->measure(); });
 }
 
 SyncFigures::~SyncFigures() { m_growth->isWanted = false; }
@@ -81,14 +83,14 @@ void SyncFigures::watch(const std::function<void(const QString &)> &tell) const
         if (const auto now = m_state.elapsed(); now - shown >= interval) {
             QString text = Words::tr("Time: %1").arg(clockText(now));
             const auto read = double(bytesReadByTools());
-            if (read > 0) text += u", "_qs + Words::tr("read: %1").arg(progressWords::size(read));
+            if (read > 0) text += u", "_s + Words::tr("read: %1").arg(progressWords::size(read));
             pace.note(std::chrono::steady_clock::now(), read);
             figures.bytesPerSecond = pace.perSecond();
-            if (figures.bytesPerSecond) text += u", "_qs + progressWords::pace(figures);
+            if (figures.bytesPerSecond) text += u", "_s + progressWords::pace(figures);
             m_state.setSizeDone(double(m_growth->bytes));
             if (m_growth->bytes > 0)
-                text += u", "_qs + Words::tr("more at the destination: %1")
-                                       .arg(progressWords::size(double(m_growth->bytes)));
+                text += u", "_s + Words::tr("more at the destination: %1")
+                                      .arg(progressWords::size(double(m_growth->bytes)));
             tell(text);
             shown = now;
         }

@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -13,7 +15,7 @@ struct Words {
 
 QString whatIsCopied(const SyncOrder &order)
 {
-    if (order.mode == u"0"_qs)
+    if (order.mode == u"0"_s)
         return Words::tr("Copies what is new or was changed here. Files that are newer at the destination "
                          "stay as they are.");
     return Words::tr("Copies every file whose content differs, also over a newer one at the destination. All "

@@ -10,6 +10,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -38,11 +40,11 @@ private:
     const Kind m_kind;
 };
 
-const QString item = u"rsync"_qs;
+const QString item = u"rsync"_s;
 
 RunRecord recordOf(const SyncOrder &order, SyncRun::Kind kind)
 {
-    return {.kind = kind == SyncRun::Kind::Preview ? QString() : u"sync"_qs,
+    return {.kind = kind == SyncRun::Kind::Preview ? QString() : u"sync"_s,
             .profile = order.profile,
             .folder = syncArguments::destination(order),
             .began = QDateTime::currentDateTimeUtc(),
@@ -58,13 +60,13 @@ void SyncRun::work()
 {
     // Measuring the destination takes long, and may outlive the run by a moment.
     const SyncFigures figures(m_order, m_state);
-    if (!launchWorker(u"sync"_qs, item, [this] { runRsync(); })) return;
+    if (!launchWorker(u"sync"_s, item, [this] { runRsync(); })) return;
     figures.watch([this](const QString &text) { m_events.sawFigures(text); });
 }
 
 void SyncRun::runRsync()
 {
-    m_state.setStage(item, m_kind == Kind::Preview ? u"comparing"_qs : u"copying"_qs);
+    m_state.setStage(item, m_kind == Kind::Preview ? u"comparing"_s : u"copying"_s);
     const ToolResult result = rsync();
     if (m_kind == Kind::Preview)
         readPreviewFrom(result);
@@ -74,7 +76,7 @@ void SyncRun::runRsync()
         noteSilentFailure(result);
     const QStringList misnamed = syncArguments::misnamedEntries(m_order.entries);
     if (m_kind == Kind::Transfer && !misnamed.isEmpty())
-        m_state.setFailure(u"Not found"_qs, misnamed.join(u", "_qs));
+        m_state.setFailure(u"Not found"_s, misnamed.join(u", "_s));
     journal().changeItem(0, [this](ItemRecord &record) {
         record.outcome = m_state.failure().isEmpty() ? Outcome::Succeeded : Outcome::Failed;
         record.reason = m_state.failure();
@@ -103,7 +105,7 @@ void SyncRun::showFailure(const ToolResult &result)
         explanation = Words::tr("rsync's message is not readable text.");
     else if (result.wasStarted)
         explanation = explainSync(result.text(), m_order);
-    m_events.failed(explanation + u"\nRSync ERROR : \n"_qs + result.text() + u"\n *** ERROR! *** "_qs);
+    m_events.failed(explanation + u"\nRSync ERROR : \n"_s + result.text() + u"\n *** ERROR! *** "_s);
     m_state.setFailure(item, explanation.isEmpty() ? result.text().trimmed() : explanation);
 }
 

@@ -2,6 +2,8 @@
 
 #include "plist/Value.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::function<plist::Dictionary()> &toolSettings()
@@ -22,13 +24,13 @@ std::optional<QString> toolSetting(const QString &table, const QString &name)
 QStringList registeredTools()
 {
     QStringList names;
-    const QList<plist::Dictionary::Entry> entries = toolSettings()().dictionary(u"external"_qs).entries();
+    const QList<plist::Dictionary::Entry> entries = toolSettings()().dictionary(u"external"_s).entries();
     for (const auto &[name, value] : entries)
         if (value.isString()) names.append(name);
     return names;
 }
 
-QString registeredTool(const QString &name) { return toolSetting(u"external"_qs, name).value_or(QString()); }
+QString registeredTool(const QString &name) { return toolSetting(u"external"_s, name).value_or(QString()); }
 
 ToolResult runRegisteredTool(const QString &name, const QStringList &arguments)
 {

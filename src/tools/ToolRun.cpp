@@ -17,6 +17,8 @@
 #include <unistd.h>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -273,9 +275,9 @@ QString ToolResult::firstLine() const
 bool tellsThatNotStarted(const QString &text)
 {
     // In the user's language, where the path may come first or last.
-    const QString anything = u".+"_qs;
-    const QString pattern = QRegularExpression::escape(cannotStart()).replace(u"%1"_qs, anything);
-    return text.contains(QRegularExpression(QString(pattern).replace(u"%2"_qs, anything)));
+    const QString anything = u".+"_s;
+    const QString pattern = QRegularExpression::escape(cannotStart()).replace(u"%1"_s, anything);
+    return text.contains(QRegularExpression(QString(pattern).replace(u"%2"_s, anything)));
 }
 
 ToolResult runTool(const QString &tool, const QStringList &arguments, int inherited,

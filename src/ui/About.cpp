@@ -7,6 +7,8 @@
 #include <QStyle>
 #include <openssl/crypto.h>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 namespace {
 
@@ -17,18 +19,18 @@ struct Words {
 QString libraries()
 {
     const QStringList all{
-        u"Qt %1 – LGPL 3"_qs.arg(QString::fromLatin1(qVersion())),
-        u"%1 – Apache 2"_qs.arg(
+        u"Qt %1 – LGPL 3"_s.arg(QString::fromLatin1(qVersion())),
+        u"%1 – Apache 2"_s.arg(
             QString::fromLatin1(OpenSSL_version(OPENSSL_VERSION_STRING)).prepend(u"OpenSSL ")),
-        u"libsecret – LGPL 2.1"_qs,
-        u"zxcvbn – MIT"_qs,
-        u"Zstandard – BSD"_qs,
-        u"libarchive – BSD"_qs,
-        u"libdeflate – MIT"_qs,
-        u"zlib – Zlib"_qs,
-        u"libb2 – CC0"_qs,
+        u"libsecret – LGPL 2.1"_s,
+        u"zxcvbn – MIT"_s,
+        u"Zstandard – BSD"_s,
+        u"libarchive – BSD"_s,
+        u"libdeflate – MIT"_s,
+        u"zlib – Zlib"_s,
+        u"libb2 – CC0"_s,
     };
-    return u"<li>"_qs + all.join(u"</li><li>") + u"</li>"_qs;
+    return u"<li>"_s + all.join(u"</li><li>") + u"</li>"_s;
 }
 
 } // namespace
@@ -42,8 +44,8 @@ void showAbout(QWidget &window)
         themeIcon(applicationId).pixmap(box->style()->pixelMetric(QStyle::PM_LargeIconSize) * 2));
     box->setTextFormat(Qt::RichText);
     box->setText(
-        u"<h3>%1</h3>"_qs.arg(Words::tr("Quillorent %1").arg(QString::fromLatin1(QUILLORENT_VERSION))));
-    box->setInformativeText(u"<p>%1</p><p>%2</p><p>%3</p><ul>%4</ul>"_qs.arg(
+        u"<h3>%1</h3>"_s.arg(Words::tr("Quillorent %1").arg(QString::fromLatin1(QUILLORENT_VERSION))));
+    box->setInformativeText(u"<p>%1</p><p>%2</p><p>%3</p><ul>%4</ul>"_s.arg(
         Words::tr("Makes encrypted archives of your folders, and brings them back."),
         Words::tr(
             "© 2026 The Quillorent developers. Free software under the MIT licence: you may use, change and "

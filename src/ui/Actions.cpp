@@ -23,6 +23,8 @@
 #include <QTabWidget>
 #include <QUrl>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 namespace {
 
@@ -71,8 +73,8 @@ void copyConsole(const ActionCall &call)
 void showTools(const ActionCall &call)
 {
     call.controller.profileButton05ActionEnd();
-    auto &tabs = *call.window.findChild<QTabWidget *>(u"mainTabs"_qs);
-    tabs.setCurrentWidget(tabs.findChild<QWidget *>(u"toolsPage"_qs));
+    auto &tabs = *call.window.findChild<QTabWidget *>(u"mainTabs"_s);
+    tabs.setCurrentWidget(tabs.findChild<QWidget *>(u"toolsPage"_s));
 }
 
 FoldersPage &foldersPage(const ActionCall &call) { return *call.window.findChild<FoldersPage *>(); }
@@ -284,10 +286,10 @@ void connectPathList(Controller &controller, QMainWindow &window, const QString 
 // What the lists do beyond showing their outlets.
 void connectLists(Controller &controller, QMainWindow &window)
 {
-    connectPathList(controller, window, u"listTableView"_qs, u"folderButton02"_qs, &Controller::addFolders);
-    connectPathList(controller, window, u"extractTableView"_qs, u"extractButton02"_qs,
+    connectPathList(controller, window, u"listTableView"_s, u"folderButton02"_s, &Controller::addFolders);
+    connectPathList(controller, window, u"extractTableView"_s, u"extractButton02"_s,
                     &Controller::addArchives);
-    connectPathList(controller, window, u"syncTableView"_qs, u"syncButton02"_qs, &Controller::addSyncEntries);
+    connectPathList(controller, window, u"syncTableView"_s, u"syncButton02"_s, &Controller::addSyncEntries);
     for (auto *tools : window.findChildren<ToolTableView *>())
         QObject::connect(tools, &ToolTableView::chooseRequested, tools,
                          [&controller] { controller.selectFile(); });

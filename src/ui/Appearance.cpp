@@ -10,35 +10,37 @@
 #include <QGuiApplication>
 #include <QStyle>
 
+using namespace Qt::StringLiterals;
+
 // At global scope, as the macro asks: the icons lie in a static library, which would not load them by itself.
 static void loadIcons() { Q_INIT_RESOURCE(icons); }
 
 namespace ui {
 namespace {
 
-const QString ownIcons = u":/icons"_qs;
+const QString ownIcons = u":/icons"_s;
 
-QString drawingOf(const QString &name) { return u"%1/%2.svg"_qs.arg(ownIcons, name); }
+QString drawingOf(const QString &name) { return u"%1/%2.svg"_s.arg(ownIcons, name); }
 
 /// The forms ask the session's theme for their icons. It need not have one: what keeps their names is ours.
 void letFormsFindIcons()
 {
     QIcon::setFallbackSearchPaths(QIcon::fallbackSearchPaths() << ownIcons);
     // Where no theme has a name, the toolkit looks nowhere.
-    if (QIcon::themeName().isEmpty()) QIcon::setThemeName(u"hicolor"_qs);
+    if (QIcon::themeName().isEmpty()) QIcon::setThemeName(u"hicolor"_s);
 }
 
 QString fileOf(Sign sign)
 {
     switch (sign) {
     case Sign::Good:
-        return u"sign-good"_qs;
+        return u"sign-good"_s;
     case Sign::Bad:
-        return u"sign-bad"_qs;
+        return u"sign-bad"_s;
     case Sign::Pending:
         break;
     }
-    return u"sign-pending"_qs;
+    return u"sign-pending"_s;
 }
 
 } // namespace
@@ -49,8 +51,8 @@ void setUpAppearance()
     letFormsFindIcons();
     keepPlaceholdersReadable();
     QApplication::setStyle(new TextSizedStyle(QApplication::style()->name()));
-    QGuiApplication::setApplicationName(u"quillorent"_qs);
-    QGuiApplication::setApplicationDisplayName(u"Quillorent"_qs);
+    QGuiApplication::setApplicationName(u"quillorent"_s);
+    QGuiApplication::setApplicationDisplayName(u"Quillorent"_s);
     QGuiApplication::setDesktopFileName(applicationId);
     QGuiApplication::setWindowIcon(QIcon::fromTheme(applicationId, themeIcon(applicationId)));
 }
@@ -74,7 +76,7 @@ QIcon stateSign(Sign sign) { return QIcon(drawingOf(fileOf(sign))); }
 QString plainToolTip(const QString &text)
 {
     // A whole path stands on one line, however long it is.
-    return u"<span style='white-space:pre'>%1</span>"_qs.arg(text.toHtmlEscaped());
+    return u"<span style='white-space:pre'>%1</span>"_s.arg(text.toHtmlEscaped());
 }
 
 void setPlainToolTip(QWidget &widget, const QString &text)

@@ -7,11 +7,13 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 namespace {
 
-const QString pathColumn = u"c10"_qs;
-const QString stateCell = u"state"_qs;
+const QString pathColumn = u"c10"_s;
+const QString stateCell = u"state"_s;
 
 enum State { Missing, LaterVolume, LeftOut, Extracted };
 
@@ -54,7 +56,7 @@ QVariant ArchiveListModel::data(const QModelIndex &index, int role) const
     const State state = known.isValid() ? State(known.toInt()) : Extracted;
     switch (role) {
     case Qt::DecorationRole:
-        return themeIcon(u"package-x-generic"_qs);
+        return themeIcon(u"package-x-generic"_s);
     case Qt::ForegroundRole:
         return state == Extracted ? QVariant()
                                   : QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);

@@ -8,6 +8,8 @@
 #include <QSignalBlocker>
 #include <QTreeWidgetItemIterator>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 namespace {
 
@@ -65,7 +67,7 @@ void BackupList::add(const FoundBackup &backup, QTreeWidgetItem *newest)
     item->setText(Size, locale.formattedDataSize(backup.bytes, 1, QLocale::DataSizeSIFormat));
     item->setText(Note, describeState(backup));
     item->setTextAlignment(Size, Qt::AlignRight | Qt::AlignVCenter);
-    item->setIcon(Name, themeIcon(backup.missing.isEmpty() ? u"folder"_qs : u"dialog-warning"_qs));
+    item->setIcon(Name, themeIcon(backup.missing.isEmpty() ? u"folder"_s : u"dialog-warning"_s));
     item->setData(Name, archiveRole, backup.archive);
     for (int column = Name; column <= Note; ++column)
         item->setToolTip(column, plainToolTip(describeWhole(backup)));

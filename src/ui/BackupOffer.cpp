@@ -12,6 +12,8 @@
 #include <QEvent>
 #include <mutex>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 
 /// What the threads share with the offer, which may be gone before them.
@@ -84,7 +86,7 @@ void BackupOffer::look()
         m_shared->deliver(request, folder, {});
         return;
     }
-    detachThread(u"backups"_qs,
+    detachThread(u"backups"_s,
                  [shared = m_shared, request, folder, methods = quillorentLibrary::methodsOfSettings()] {
                      shared->deliver(request, folder,
                                      backupsIn(folder, methods, [&] { return shared->isNewest(request); }));
@@ -107,7 +109,7 @@ void BackupOffer::show()
     QString name =
         m_label.fontMetrics().elidedText(quillorentLibrary::lastPathComponent(folder), Qt::ElideMiddle, most);
     m_label.setTextFormat(Qt::PlainText);
-    m_label.setText(tr("Bac&kups in \"%1\": tick what you want back").arg(name.replace(u'&', u"&&"_qs)));
+    m_label.setText(tr("Bac&kups in \"%1\": tick what you want back").arg(name.replace(u'&', u"&&"_s)));
     setPlainToolTip(m_label, folder);
     m_label.setHidden(found.isEmpty());
     m_list.setHidden(found.isEmpty());

@@ -8,6 +8,8 @@
 
 #include <QWidget>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace ui {
@@ -23,13 +25,13 @@ BackupReadiness::BackupReadiness(QuillorentAppDelegate &controller, RefreshQueue
     , m_controller(controller)
     , m_page(page)
     , m_timer(controller, [this] { look(); })
-    , m_look(u"hindrances"_qs,
+    , m_look(u"hindrances"_s,
              [this](Hindrances found) {
                  m_hindrances = std::move(found);
                  if (m_verdict == PasswordTrial::Verdict::NotTried && !m_trial.isBusy()) m_trialSoon.start();
                  Q_EMIT changed();
              })
-    , m_trial(u"password-trial"_qs, [this](const PasswordTrial &trial) {
+    , m_trial(u"password-trial"_s, [this](const PasswordTrial &trial) {
         m_verdict = trial.verdict;
         Q_EMIT changed();
     })

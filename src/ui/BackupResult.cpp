@@ -13,6 +13,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 namespace {
 
@@ -53,18 +55,18 @@ QString headlineOf(const RunRecord &record)
         BackupResult::tr("%1 in %2", "48 GB in 11 min").arg(sizeText(bytesOf(record)), durationText(took));
     if (record.outcome == Outcome::Succeeded)
         return QStringList{BackupResult::tr("Backed up %1").arg(moment), shareOf(record), amount}.join(
-            u" · "_qs);
+            u" · "_s);
     if (record.outcome == Outcome::Cancelled)
-        return BackupResult::tr("Cancelled %1").arg(moment) + u" · "_qs +
+        return BackupResult::tr("Cancelled %1").arg(moment) + u" · "_s +
                BackupResult::tr("backed up by then: %1").arg(shareOf(record));
     if (!record.ended.isValid())
-        return BackupResult::tr("The backup that began %1 was interrupted").arg(moment) + u" · "_qs +
+        return BackupResult::tr("The backup that began %1 was interrupted").arg(moment) + u" · "_s +
                BackupResult::tr("backed up by then: %1").arg(shareOf(record));
     if (!isAnyFailed && countOf(record, Outcome::Skipped) > 0)
         return QStringList{BackupResult::tr("Backed up %1, but not everything").arg(moment), shareOf(record),
                            amount}
-            .join(u" · "_qs);
-    return BackupResult::tr("The backup failed %1").arg(moment) + u" · "_qs +
+            .join(u" · "_s);
+    return BackupResult::tr("The backup failed %1").arg(moment) + u" · "_s +
            BackupResult::tr("backed up: %1").arg(shareOf(record));
 }
 
@@ -138,11 +140,11 @@ QStringList firstFilesOf(const RunRecord &record)
 BackupResult::BackupResult(QWidget *parent)
     : QWidget(parent), m_sign(new QLabel(this)), m_headline(new QLabel(this)), m_details(new TextArea(this))
 {
-    m_headline->setObjectName(u"resultHeadline"_qs);
+    m_headline->setObjectName(u"resultHeadline"_s);
     m_headline->setTextFormat(Qt::PlainText);
     m_headline->setWordWrap(true);
     m_headline->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_details->setObjectName(u"resultDetails"_qs);
+    m_details->setObjectName(u"resultDetails"_s);
     m_details->setAccessibleName(tr("What failed, what to do and what was left"));
     m_details->setMaximumHeight(fontMetrics().lineSpacing() * 7);
 

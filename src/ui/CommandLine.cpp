@@ -7,6 +7,8 @@
 #include <QUrl>
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 namespace {
 
@@ -26,7 +28,7 @@ CommandLine::CommandLine(int argc, char **argv)
     m_parser.addOptions(
         {{{QStringLiteral("h"), QStringLiteral("help")}, Words::tr("Show this text.")},
          {{QStringLiteral("v"), QStringLiteral("version")}, Words::tr("Show the version.")},
-         {QStringLiteral("page"), Words::tr("Open this page: %1.").arg(Opening::pages().join(u", "_qs)),
+         {QStringLiteral("page"), Words::tr("Open this page: %1.").arg(Opening::pages().join(u", "_s)),
           Words::tr("page")}});
     m_parser.addPositionalArgument(QStringLiteral("archive"), Words::tr("Archives to bring back."),
                                    Words::tr("[archive...]"));

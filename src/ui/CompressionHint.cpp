@@ -4,6 +4,8 @@
 #include "backup/CompressionGain.h"
 #include "ui/RefreshQueue.h"
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace ui {
@@ -25,7 +27,7 @@ CompressionHint::CompressionHint(QuillorentAppDelegate &controller, RefreshQueue
     : QObject(&label)
     , m_controller(controller)
     , m_label(label)
-    , m_estimate(u"compression"_qs, [this](const Estimate &estimate) { show(estimate); })
+    , m_estimate(u"compression"_s, [this](const Estimate &estimate) { show(estimate); })
 {
     m_later.setSingleShot(true);
     m_later.setInterval(1s);
@@ -35,7 +37,7 @@ CompressionHint::CompressionHint(QuillorentAppDelegate &controller, RefreshQueue
 
 void CompressionHint::update()
 {
-    const QStringList paths = m_controller.currentRecord().array(u"folders"_qs).strings();
+    const QStringList paths = m_controller.currentRecord().array(u"folders"_s).strings();
     if (m_paths == paths) return;
     m_paths = paths;
     m_label.clear();

@@ -7,6 +7,8 @@
 #include <QLocale>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 
 ContentsModel::ContentsModel(QObject *parent)
@@ -99,7 +101,7 @@ QVariant ContentsModel::data(const QModelIndex &index, int role) const
     case Qt::DecorationRole: {
         const bool isFolder = entryOf(entry).kind == FileEntry::Kind::Folder;
         if (index.column() != Name) return {};
-        return themeIcon(isFolder ? u"folder"_qs : u"text-x-generic"_qs);
+        return themeIcon(isFolder ? u"folder"_s : u"text-x-generic"_s);
     }
     case Qt::CheckStateRole:
         return index.column() == Name ? QVariant(m_nodes[std::size_t(entry)].box) : QVariant();

@@ -16,10 +16,12 @@
 #include <QToolButton>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 namespace {
 
-QString seenFile() { return QFileInfo(recordsFolder()).path() + u"/first-steps-seen"_qs; }
+QString seenFile() { return QFileInfo(recordsFolder()).path() + u"/first-steps-seen"_s; }
 
 } // namespace
 
@@ -66,12 +68,12 @@ FirstSteps::Row FirstSteps::makeRow(int step, const QString &title, const QStrin
             new QToolButton(this)};
     row.text->setWordWrap(true);
     row.go->setAccessibleDescription(text);
-    row.go->setObjectName(u"firstStep%1"_qs.arg(step + 1));
+    row.go->setObjectName(u"firstStep%1"_s.arg(step + 1));
     row.skip->setText(tr("Skip"));
     row.skip->setAccessibleName(tr("Skip: %1").arg(title));
     row.skip->setFocusPolicy(Qt::StrongFocus);
     row.skip->setAutoRaise(true);
-    row.skip->setObjectName(u"skipStep%1"_qs.arg(step + 1));
+    row.skip->setObjectName(u"skipStep%1"_s.arg(step + 1));
     auto *words = new QVBoxLayout;
     words->setSpacing(0);
     words->addWidget(row.title);

@@ -8,19 +8,21 @@
 #include <QFont>
 #include <QHeaderView>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 namespace {
 
-const QString pathColumn = u"c10"_qs;
+const QString pathColumn = u"c10"_s;
 
 enum Column { Name, Place, Size, BackedUp };
 
 QList<OutletTableModel::Column> columns()
 {
     return {{pathColumn, FolderListModel::tr("Name")},
-            {u"place"_qs, FolderListModel::tr("Place")},
-            {u"size"_qs, FolderListModel::tr("Size")},
-            {u"backedUp"_qs, FolderListModel::tr("Last backed up")}};
+            {u"place"_s, FolderListModel::tr("Place")},
+            {u"size"_s, FolderListModel::tr("Size")},
+            {u"backedUp"_s, FolderListModel::tr("Last backed up")}};
 }
 
 QString shortly(SourceState state)
@@ -112,8 +114,8 @@ QVariant FolderListModel::data(const QModelIndex &index, int role) const
         return text(path, index.column());
     case Qt::DecorationRole:
         if (index.column() != Name) return {};
-        if (isWrong) return themeIcon(u"dialog-warning"_qs);
-        return themeIcon(fact.isFile ? u"text-x-generic"_qs : u"folder"_qs);
+        if (isWrong) return themeIcon(u"dialog-warning"_s);
+        return themeIcon(fact.isFile ? u"text-x-generic"_s : u"folder"_s);
     case Qt::FontRole: {
         QFont font;
         font.setItalic(fact.state == SourceState::Missing);

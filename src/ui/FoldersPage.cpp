@@ -15,6 +15,8 @@
 #include <QUrl>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 namespace {
 
@@ -24,7 +26,7 @@ QString volumeHint(const QString &size)
     const qint64 thousands = size.toLongLong(&isNumber);
     if (!isNumber || thousands <= 0) return FoldersPage::tr("not a size");
     if (thousands > std::numeric_limits<qint64>::max() / 1000) return {};
-    return u"= "_qs + sizeText(quint64(thousands) * 1000);
+    return u"= "_s + sizeText(quint64(thousands) * 1000);
 }
 
 } // namespace
@@ -107,9 +109,9 @@ void FoldersPage::offerVolumeSizes()
             if (!thousands.isEmpty()) m_all.prefStepper01Action(thousands);
         });
     };
-    offer(tr("700 MB – a CD"), u"700000"_qs);
-    offer(tr("4.7 GB – a DVD"), u"4700000"_qs);
-    offer(tr("25 GB – a Blu-ray disc"), u"25000000"_qs);
+    offer(tr("700 MB – a CD"), u"700000"_s);
+    offer(tr("4.7 GB – a DVD"), u"4700000"_s);
+    offer(tr("25 GB – a Blu-ray disc"), u"25000000"_s);
     menu->addSeparator();
     offer(tr("None – one file an archive"), {});
     m_form.volumeSizes->setMenu(menu);
@@ -199,14 +201,14 @@ void FoldersPage::offerFirstSteps()
     if (FirstSteps::wasSeen()) return;
     const QStringList names = profiles.keys();
     const bool isUsed = std::any_of(names.begin(), names.end(), [&](const QString &name) {
-        return profiles.dictionary(name).array(u"folders"_qs).count() > 0;
+        return profiles.dictionary(name).array(u"folders"_s).count() > 0;
     });
     if (isUsed) {
         FirstSteps::rememberSeen();
         return;
     }
     m_firstSteps = new FirstSteps(m_form.foldersContent);
-    m_firstSteps->setObjectName(u"firstSteps"_qs);
+    m_firstSteps->setObjectName(u"firstSteps"_s);
     m_form.foldersColumn->insertWidget(m_form.foldersColumn->indexOf(m_form.listArea), m_firstSteps, 1);
     m_form.listArea->hide();
     connect(m_firstSteps, &FirstSteps::wanted, this, &FoldersPage::takeFirstStep);
@@ -233,7 +235,7 @@ void FoldersPage::refreshFirstSteps()
 {
     if (!m_firstSteps) return;
     QString secret = m_all.passwordSelector();
-    m_firstSteps->setDone({m_all.currentRecord().array(u"folders"_qs).count() > 0,
+    m_firstSteps->setDone({m_all.currentRecord().array(u"folders"_s).count() > 0,
                            !m_all.fileText01.text().isEmpty(), !secret.isEmpty()});
     wipe(secret);
 }

@@ -11,6 +11,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 // At global scope, as the macro asks: the texts lie in a static library, which would not load them by itself.
 static void loadTexts() { Q_INIT_RESOURCE(help); }
 
@@ -25,22 +27,22 @@ struct Words {
 QString guideInOwnLanguage()
 {
     for (const QString &language : QLocale().uiLanguages()) {
-        const QString file = u":/help/guide-%1.md"_qs.arg(language.section(u'-', 0, 0));
+        const QString file = u":/help/guide-%1.md"_s.arg(language.section(u'-', 0, 0));
         if (QFile::exists(file)) return file;
     }
-    return u":/help/guide-en.md"_qs;
+    return u":/help/guide-en.md"_s;
 }
 
 QUrl addressOf(GuidePage page)
 {
-    return QUrl(u"qrc"_qs + (page == GuidePage::Guide ? guideInOwnLanguage() : u":/help/recovery.md"_qs));
+    return QUrl(u"qrc"_s + (page == GuidePage::Guide ? guideInOwnLanguage() : u":/help/recovery.md"_s));
 }
 
 std::unique_ptr<QDialog> makeDialog()
 {
     auto made = std::make_unique<QDialog>();
     QDialog *dialog = made.get();
-    dialog->setObjectName(u"guide"_qs);
+    dialog->setObjectName(u"guide"_s);
     dialog->setWindowTitle(Words::tr("Guide"));
     auto *text = new QTextBrowser(dialog);
     text->setAccessibleName(Words::tr("Guide"));

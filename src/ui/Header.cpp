@@ -7,6 +7,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 namespace {
 
@@ -18,9 +20,9 @@ struct Words {
 /// that the toolkit does not append it once more.
 QString titleOf(const QString &profile)
 {
-    if (profile.isEmpty() || profile == u"Quillorent") return u"[*]Quillorent"_qs;
+    if (profile.isEmpty() || profile == u"Quillorent") return u"[*]Quillorent"_s;
     // What the toolkit would take for the sign is doubled.
-    return QString(profile).replace(u"[*]"_qs, u"[*][*]"_qs) + u"[*] — Quillorent"_qs;
+    return QString(profile).replace(u"[*]"_s, u"[*][*]"_s) + u"[*] — Quillorent"_s;
 }
 
 /// Draws the eye to a button as to what is to be pressed next, or leaves it like others.

@@ -9,6 +9,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 namespace {
 
@@ -73,7 +75,7 @@ QToolButton *HindranceList::addLine(const Hindrance &hindrance)
     row->setContentsMargins(0, 0, 0, 0);
     auto *sign = new QLabel(line);
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
-    sign->setPixmap(themeIcon(u"dialog-warning"_qs).pixmap(size));
+    sign->setPixmap(themeIcon(u"dialog-warning"_s).pixmap(size));
     row->addWidget(sign, 0, Qt::AlignTop);
     auto *text = new QLabel(breakable(hindrance.text), line);
     text->setTextFormat(Qt::PlainText);

@@ -11,6 +11,8 @@
 #include <QStyleOption>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 namespace {
 
@@ -55,7 +57,7 @@ public:
             QPalette::Active, mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText);
         const bool isGrey = mode == QIcon::Disabled;
         const QString key =
-            u"ink-%1-%2-%3-%4"_qs.arg(m_name).arg(size.width()).arg(color.name()).arg(isGrey ? 1 : 0);
+            u"ink-%1-%2-%3-%4"_s.arg(m_name).arg(size.width()).arg(color.name()).arg(isGrey ? 1 : 0);
         QPixmap drawn;
         if (QPixmapCache::find(key, &drawn)) return drawn;
         drawn = draw(m_drawing, color, size);

@@ -13,6 +13,8 @@
 #include <QUrl>
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 namespace {
 
@@ -36,7 +38,7 @@ public:
 private:
     [[nodiscard]] QStringList typed() const
     {
-        const auto *field = findChild<QLineEdit *>(u"fileNameEdit"_qs);
+        const auto *field = findChild<QLineEdit *>(u"fileNameEdit"_s);
         if (!field || field->text().isEmpty()) return {};
         const QString path = QDir::cleanPath(directory().absoluteFilePath(field->text()));
         return QFileInfo::exists(path) ? QStringList{path} : QStringList{};
@@ -69,9 +71,9 @@ private:
 // A screen reader knows them by their labels only, and the toolkit doesn't say which those are.
 void nameCombos(const QFileDialog &dialog)
 {
-    for (const QString &name : {u"lookIn"_qs, u"fileType"_qs}) {
-        auto *label = dialog.findChild<QLabel *>(name + u"Label"_qs);
-        auto *combo = dialog.findChild<QComboBox *>(name + u"Combo"_qs);
+    for (const QString &name : {u"lookIn"_s, u"fileType"_s}) {
+        auto *label = dialog.findChild<QLabel *>(name + u"Label"_s);
+        auto *combo = dialog.findChild<QComboBox *>(name + u"Combo"_s);
         if (label && combo) label->setBuddy(combo);
     }
 }
@@ -118,7 +120,7 @@ QList<QUrl> places()
                             Location::DesktopLocation})
         paths.append(Location::standardLocations(each).value(0));
     const QString user = qEnvironmentVariable("USER");
-    for (const QString &folder : {u"/media/"_qs + user, u"/run/media/"_qs + user}) {
+    for (const QString &folder : {u"/media/"_s + user, u"/run/media/"_s + user}) {
         if (user.isEmpty()) break;
         for (const QString &name : QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
             paths.append(QDir(folder).filePath(name));

@@ -15,7 +15,8 @@ struct Opening {
     /// The names of the window's pages, in the order of its tabs.
     [[nodiscard]] static QStringList pages()
     {
-        return {u"backup"_qs, u"restore"_qs, u"password"_qs, u"synchronise"_qs, u"tools"_qs};
+        return {QStringLiteral("backup"), QStringLiteral("restore"), QStringLiteral("password"),
+                QStringLiteral("synchronise"), QStringLiteral("tools")};
     }
 };
 

@@ -26,6 +26,8 @@
 #include <QFontDatabase>
 #include <QScreen>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 namespace {
 
@@ -79,7 +81,7 @@ PanelDialog *makePreferences(const QuillorentAppDelegate &controller, QWidget &w
     Ui::PreferencesPanel01 form;
     PanelDialog *panel = makePanel(form, window);
     const auto showStartUp = [&controller, label = form.startUpProfile] {
-        const QString name = controller.setting(u"resources"_qs, u"selectedprofile"_qs).value_or(QString());
+        const QString name = controller.setting(u"resources"_s, u"selectedprofile"_s).value_or(QString());
         label->setText(name.isEmpty() ? Words::tr("now: the last one of the list")
                                       : Words::tr("now: %1").arg(name));
     };
@@ -116,8 +118,8 @@ PanelDialog *makeMessage(QWidget &window, const QString &panel, const QString &t
     dialog->setObjectName(panel);
     dialog->setWindowTitle(title);
     form.messageText->setObjectName(text);
-    form.messageCloseButton->setObjectName(panel + u"CloseButton"_qs);
-    showIcon(*form.messageIcon, u"dialog-warning"_qs);
+    form.messageCloseButton->setObjectName(panel + u"CloseButton"_s);
+    showIcon(*form.messageIcon, u"dialog-warning"_s);
     return dialog;
 }
 
@@ -136,7 +138,7 @@ PanelDialog *makeChoice(QWidget &window, const ChoiceSheet &sheet)
     dialog->setObjectName(sheet.panel);
     dialog->setWindowTitle(sheet.title);
     form.choiceText->setObjectName(sheet.text);
-    showIcon(*form.choiceIcon, u"dialog-warning"_qs);
+    showIcon(*form.choiceIcon, u"dialog-warning"_s);
     QList<QPushButton *> buttons{form.firstButton, form.secondButton, form.otherButton, form.stayButton};
     for (const auto &[name, title] : sheet.buttons) {
         buttons.first()->setObjectName(sheet.panel + name);
@@ -164,9 +166,9 @@ PanelDialog *makeNameSheet(QWidget &window, const NameSheet &sheet)
     dialog->setWindowTitle(sheet.title);
     form.profileText->setObjectName(sheet.profileText);
     form.nameEdit->setObjectName(sheet.nameEdit);
-    form.okButton->setObjectName(sheet.panel + u"Ok"_qs);
+    form.okButton->setObjectName(sheet.panel + u"Ok"_s);
     form.okButton->setText(sheet.okTitle);
-    form.cancelButton->setObjectName(sheet.panel + u"Cancel"_qs);
+    form.cancelButton->setObjectName(sheet.panel + u"Cancel"_s);
     form.nameAdvice->setText(sheet.advice);
     form.nameAdvice->setHidden(sheet.advice.isEmpty());
     const bool isNew = sheet.profileText.isEmpty();
@@ -179,56 +181,56 @@ PanelDialog *makeNameSheet(QWidget &window, const NameSheet &sheet)
 QList<QWidget *> makeMessages(QWidget &window)
 {
     return {
-        makeMessage(window, u"warningPanel01"_qs, u"warningText01"_qs, Words::tr("Can't start")),
-        makeMessage(window, u"warningPanel04"_qs, u"warningText04"_qs, Words::tr("Name not accepted")),
-        makeMessage(window, u"certPanel01"_qs, u"certPanelText01"_qs, Words::tr("Certificate not accepted")),
-        makeMessage(window, u"pkPanel01"_qs, u"pkPanelText01"_qs, Words::tr("Private key not accepted")),
-        makeMessage(window, u"savePanel01"_qs, u"saveText01"_qs, Words::tr("Can't save")),
-        makeMessage(window, u"settingsPanel01"_qs, u"settingsText01"_qs, Words::tr("Settings and profiles")),
-        makeMessage(window, u"noPathPanel01"_qs, u"noPathText01"_qs, Words::tr("Programs are missing"))};
+        makeMessage(window, u"warningPanel01"_s, u"warningText01"_s, Words::tr("Can't start")),
+        makeMessage(window, u"warningPanel04"_s, u"warningText04"_s, Words::tr("Name not accepted")),
+        makeMessage(window, u"certPanel01"_s, u"certPanelText01"_s, Words::tr("Certificate not accepted")),
+        makeMessage(window, u"pkPanel01"_s, u"pkPanelText01"_s, Words::tr("Private key not accepted")),
+        makeMessage(window, u"savePanel01"_s, u"saveText01"_s, Words::tr("Can't save")),
+        makeMessage(window, u"settingsPanel01"_s, u"settingsText01"_s, Words::tr("Settings and profiles")),
+        makeMessage(window, u"noPathPanel01"_s, u"noPathText01"_s, Words::tr("Programs are missing"))};
 }
 
 QList<QWidget *> makeQuestions(QWidget &window)
 {
     using namespace Ui;
     return {
-        makeWithIcon<WarningPanel02, &WarningPanel02::questionIcon>(window, u"dialog-question"_qs),
-        makeWithIcon<WarningPanel03, &WarningPanel03::questionIcon>(window, u"dialog-question"_qs),
-        makeWithIcon<ConcernsPanel01, &ConcernsPanel01::concernsIcon>(window, u"dialog-question"_qs),
-        makeWithIcon<ExtractPanel01, &ExtractPanel01::damageIcon>(window, u"dialog-warning"_qs),
-        makeChoice(window, {u"conflictPanel01"_qs,
-                            u"conflictText01"_qs,
+        makeWithIcon<WarningPanel02, &WarningPanel02::questionIcon>(window, u"dialog-question"_s),
+        makeWithIcon<WarningPanel03, &WarningPanel03::questionIcon>(window, u"dialog-question"_s),
+        makeWithIcon<ConcernsPanel01, &ConcernsPanel01::concernsIcon>(window, u"dialog-question"_s),
+        makeWithIcon<ExtractPanel01, &ExtractPanel01::damageIcon>(window, u"dialog-warning"_s),
+        makeChoice(window, {u"conflictPanel01"_s,
+                            u"conflictText01"_s,
                             Words::tr("Changed by others, too"),
-                            {{u"Mine"_qs, Words::tr("&Save what I changed")},
-                             {u"Theirs"_qs, Words::tr("&Take what is in the file")},
-                             {u"Stop"_qs, Words::tr("&Cancel")}}}),
-        makeChoice(window, {u"quitPanel01"_qs,
-                            u"quitText01"_qs,
+                            {{u"Mine"_s, Words::tr("&Save what I changed")},
+                             {u"Theirs"_s, Words::tr("&Take what is in the file")},
+                             {u"Stop"_s, Words::tr("&Cancel")}}}),
+        makeChoice(window, {u"quitPanel01"_s,
+                            u"quitText01"_s,
                             Words::tr("Can't save"),
-                            {{u"Again"_qs, Words::tr("&Try again")},
-                             {u"Copy"_qs, Words::tr("&Save a copy...")},
-                             {u"Leave"_qs, Words::tr("&Quit without saving")},
-                             {u"Stay"_qs, Words::tr("&Cancel")}}}),
+                            {{u"Again"_s, Words::tr("&Try again")},
+                             {u"Copy"_s, Words::tr("&Save a copy...")},
+                             {u"Leave"_s, Words::tr("&Quit without saving")},
+                             {u"Stay"_s, Words::tr("&Cancel")}}}),
     };
 }
 
 QList<QWidget *> makeProfileSheets(QWidget &window)
 {
-    return {makeNameSheet(window, {.panel = u"profilePanel01"_qs,
-                                   .profileText = u"panel01text01"_qs,
-                                   .nameEdit = u"panel01text02"_qs,
+    return {makeNameSheet(window, {.panel = u"profilePanel01"_s,
+                                   .profileText = u"panel01text01"_s,
+                                   .nameEdit = u"panel01text02"_s,
                                    .title = Words::tr("Rename a profile"),
                                    .okTitle = Words::tr("&Rename")}),
-            makeNameSheet(window, {.panel = u"profilePanel02"_qs,
+            makeNameSheet(window, {.panel = u"profilePanel02"_s,
                                    .profileText = {},
-                                   .nameEdit = u"panel02text01"_qs,
+                                   .nameEdit = u"panel02text01"_s,
                                    .title = Words::tr("New profile"),
                                    .okTitle = Words::tr("C&reate")}),
             makeNameSheet(
                 window,
-                {.panel = u"profilePanel03"_qs,
-                 .profileText = u"panel03text01"_qs,
-                 .nameEdit = u"panel03text02"_qs,
+                {.panel = u"profilePanel03"_s,
+                 .profileText = u"panel03text01"_s,
+                 .nameEdit = u"panel03text02"_s,
                  .title = Words::tr("Duplicate a profile"),
                  .okTitle = Words::tr("D&uplicate"),
                  .advice = Words::tr(

@@ -5,12 +5,14 @@
 #include "plist/Array.h"
 #include "ui/RefreshQueue.h"
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace ui {
 namespace {
 
-const QString key = u"folders"_qs;
+const QString key = u"folders"_s;
 constexpr auto saidFor = 20s; // time enough to read it and to reach the button by the keyboard
 
 } // namespace
@@ -18,7 +20,7 @@ constexpr auto saidFor = 20s; // time enough to read it and to reach the button 
 RemovalUndo::RemovalUndo(QuillorentAppDelegate &controller, RefreshQueue &queue, const Widgets &widgets)
     : QObject(&widgets.page), m_controller(controller), m_widgets(widgets)
 {
-    m_action.setObjectName(u"undoRemoveAction"_qs);
+    m_action.setObjectName(u"undoRemoveAction"_s);
     m_action.setText(tr("Undo removing from the list"));
     m_action.setShortcut(QKeySequence::Undo);
     m_action.setShortcutContext(Qt::WidgetWithChildrenShortcut);

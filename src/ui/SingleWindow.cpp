@@ -8,6 +8,8 @@
 #include <QStandardPaths>
 #include <chrono>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace ui {
@@ -20,7 +22,7 @@ QString socketFor(const QString &folder)
     const QString place = info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
     const QByteArray hash = QCryptographicHash::hash(place.toUtf8(), QCryptographicHash::Sha256).toHex();
     return QDir(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation))
-        .filePath(u"quillorent-"_qs + QString::fromLatin1(hash.left(16)));
+        .filePath(u"quillorent-"_s + QString::fromLatin1(hash.left(16)));
 }
 
 /// Whether a window answers that it comes to the front; it is told then what was asked for.
@@ -47,7 +49,7 @@ SingleWindow::SingleWindow(const QString &folder) : m_path(socketFor(folder))
 bool SingleWindow::take(const Opening &opening)
 {
     // Of two that start at once, the second looks when the first listens.
-    QLockFile turn(m_path + u".lock"_qs);
+    QLockFile turn(m_path + u".lock"_s);
     turn.setStaleLockTime(0);
     turn.tryLock(10'000);
 

@@ -6,6 +6,8 @@
 #include <array>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 namespace {
 
@@ -42,7 +44,7 @@ SizeEdit::SizeEdit(QWidget *parent) : QLineEdit(parent)
 QString SizeEdit::thousands() const
 {
     // French bytes are "octets".
-    static const QRegularExpression form(u"^\\s*([0-9][0-9.,']*)\\s*([kKmMgGtT])?[bBoO]?\\s*$"_qs);
+    static const QRegularExpression form(u"^\\s*([0-9][0-9.,']*)\\s*([kKmMgGtT])?[bBoO]?\\s*$"_s);
     const QRegularExpressionMatch match = form.match(text());
     const auto number = match.hasMatch() ? numberOf(match.captured(1)) : std::nullopt;
     if (!number) return text();

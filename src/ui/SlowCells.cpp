@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QEvent>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 
 struct SlowCells::Shared {
@@ -66,7 +68,7 @@ void SlowCells::fetch(const outlets::TableDataSource &source, const QList<Cell> 
     ++m_shared->request;
     if (m_shared->working || cells.isEmpty()) return;
     m_shared->working = true;
-    detachThread(u"table-cells"_qs, [shared = m_shared] { shared->work(); });
+    detachThread(u"table-cells"_s, [shared = m_shared] { shared->work(); });
 }
 
 void SlowCells::customEvent(QEvent *)

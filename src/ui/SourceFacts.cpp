@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace ui {
@@ -21,8 +23,8 @@ SourceFacts::SourceFacts(QuillorentAppDelegate &controller, RefreshQueue &queue,
     : QObject(parent)
     , m_controller(controller)
     , m_timer(controller, [this] { look(); })
-    , m_look(u"folder-facts"_qs, [this](Look found) { take(std::move(found)); })
-    , m_measure(u"folder-sizes"_qs, [this](const Size &size) { takeSize(size); })
+    , m_look(u"folder-facts"_s, [this](Look found) { take(std::move(found)); })
+    , m_measure(u"folder-sizes"_s, [this](const Size &size) { takeSize(size); })
 {
     queue.watch({&controller.listTableView, &controller.syncTableView, &controller.fileText01,
                  &controller.outputText01, &controller.progressPanel01},
@@ -39,12 +41,12 @@ SourceFacts::SourceFacts(QuillorentAppDelegate &controller, RefreshQueue &queue,
 
 QStringList SourceFacts::backedUpPaths() const
 {
-    return m_controller.currentRecord().array(u"folders"_qs).strings();
+    return m_controller.currentRecord().array(u"folders"_s).strings();
 }
 
 QStringList SourceFacts::paths() const
 {
-    QStringList all = backedUpPaths() + m_controller.currentRecord().array(u"sync"_qs).strings();
+    QStringList all = backedUpPaths() + m_controller.currentRecord().array(u"sync"_s).strings();
     all.removeDuplicates();
     return all;
 }

@@ -6,13 +6,15 @@
 #include <QPushButton>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 namespace {
 
-const QString nameColumn = u"c10"_qs;
-const QString pathColumn = u"c20"_qs;
-const QString stateColumn = u"c30"_qs;
-const QString buttonColumn = u"c40"_qs;
+const QString nameColumn = u"c10"_s;
+const QString pathColumn = u"c20"_s;
+const QString stateColumn = u"c30"_s;
+const QString buttonColumn = u"c40"_s;
 
 } // namespace
 

@@ -8,6 +8,8 @@
 #include <QPushButton>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace ui {
@@ -38,7 +40,7 @@ void UnsavedChanges::look()
 
 bool UnsavedChanges::savesByItself() const
 {
-    return m_controller.configPlist().dictionary(u"resources"_qs).isOn(u"autosave"_qs);
+    return m_controller.configPlist().dictionary(u"resources"_s).isOn(u"autosave"_s);
 }
 
 void UnsavedChanges::closeAnyhow()

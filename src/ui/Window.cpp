@@ -23,6 +23,8 @@
 #include <QDesktopServices>
 #include <QShortcut>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 
 Window::Window(QuillorentAppDelegate &controller)
@@ -124,7 +126,7 @@ void Window::askToCancel(const PanelDialog &sheet)
 {
     if (m_question || m_controller.isCancelledByUser()) return;
     // "progressPanel01" has "buttonCancel01".
-    auto *cancel = sheet.findChild<QAbstractButton *>(u"buttonCancel"_qs + sheet.objectName().last(2));
+    auto *cancel = sheet.findChild<QAbstractButton *>(u"buttonCancel"_s + sheet.objectName().last(2));
     m_question = ui::askToStop(*this, m_panels->progressSheets(), StopFor::Itself,
                                !m_controller.lookedInto().isEmpty(), [cancel] { cancel->click(); });
 }

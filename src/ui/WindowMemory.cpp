@@ -8,13 +8,15 @@
 #include <QSettings>
 #include <QTabWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 namespace {
 
-const QString geometryKey = u"geometry"_qs;
-const QString tabKey = u"tab"_qs;
+const QString geometryKey = u"geometry"_s;
+const QString tabKey = u"tab"_s;
 
-QString file() { return QDir::cleanPath(recordsFolder() + u"/../window.ini"_qs); }
+QString file() { return QDir::cleanPath(recordsFolder() + u"/../window.ini"_s); }
 
 QSize usualSize(const QWidget &window)
 {

@@ -4,6 +4,8 @@
 #include <QGuiApplication>
 #include <QLocale>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 namespace {
 
@@ -15,7 +17,7 @@ QString clockText(QTime time)
 {
     // The shortest form of some locales has seconds, which nobody asks for.
     QString format = QLocale().timeFormat(QLocale::ShortFormat);
-    format.remove(u":ss"_qs);
+    format.remove(u":ss"_s);
     return QLocale().toString(time, format);
 }
 

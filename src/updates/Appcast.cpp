@@ -6,6 +6,8 @@
 #include <QVersionNumber>
 #include <QXmlStreamReader>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -29,14 +31,14 @@ QString cut(QString text, qsizetype longest)
 QString plainText(QString html)
 {
     html = cut(html, longestMarkup);
-    static const QRegularExpression lineBreaks(u"<\\s*(br|p|li|h[1-6]|div|tr)\\b[^>]*>"_qs,
+    static const QRegularExpression lineBreaks(u"<\\s*(br|p|li|h[1-6]|div|tr)\\b[^>]*>"_s,
                                                QRegularExpression::CaseInsensitiveOption);
-    static const QRegularExpression tags(u"<[^<>]*>"_qs);
-    static const QRegularExpression emptyLines(u"\\s*\\n\\s*"_qs);
-    html.replace(lineBreaks, u"\n"_qs).remove(tags);
-    html.replace(u"&nbsp;"_qs, u" "_qs).replace(u"&lt;"_qs, u"<"_qs).replace(u"&gt;"_qs, u">"_qs);
-    html.replace(u"&quot;"_qs, u"\""_qs).replace(u"&#39;"_qs, u"'"_qs).replace(u"&amp;"_qs, u"&"_qs);
-    return cut(html.replace(emptyLines, u"\n"_qs).trimmed(), longestNotes);
+    static const QRegularExpression tags(u"<[^<>]*>"_s);
+    static const QRegularExpression emptyLines(u"\\s*\\n\\s*"_s);
+    html.replace(lineBreaks, u"\n"_s).remove(tags);
+    html.replace(u"&nbsp;"_s, u" "_s).replace(u"&lt;"_s, u"<"_s).replace(u"&gt;"_s, u">"_s);
+    html.replace(u"&quot;"_s, u"\""_s).replace(u"&#39;"_s, u"'"_s).replace(u"&amp;"_s, u"&"_s);
+    return cut(html.replace(emptyLines, u"\n"_s).trimmed(), longestNotes);
 }
 
 /// Reads one item, and leaves the reader at its end.
@@ -46,7 +48,7 @@ public:
     {
         while (xml.readNextStartElement())
             readElement(xml);
-        static const QRegularExpression atEnd(u"\\d[\\w.-]*$"_qs);
+        static const QRegularExpression atEnd(u"\\d[\\w.-]*$"_s);
         m_release.version = firstFilled({m_versionForPeople, m_version, atEnd.match(m_title).captured()});
         for (const QString &address : {m_download, m_link})
             // Whatever else a feed might name, such as a file, is nothing to be opened.
@@ -127,7 +129,7 @@ AppcastContent readAppcast(const QByteArray &feed)
             content.newest = release;
     }
     if (xml.hasError())
-        return {std::nullopt, u"line %1: %2"_qs.arg(QString::number(xml.lineNumber()), xml.errorString())};
+        return {std::nullopt, u"line %1: %2"_s.arg(QString::number(xml.lineNumber()), xml.errorString())};
     return content;
 }
 

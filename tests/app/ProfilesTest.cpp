@@ -10,6 +10,8 @@
 #include <fstream>
 #include <sys/mount.h>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -23,21 +25,21 @@ class Profiles : public ProgramTest {};
 TEST_F(Profiles, TheSelectedOneOpensAtStartUpOrTheLast)
 {
     const QString first = delegate.currentProfile();
-    for (const QString &name : {u"b"_qs, u"a"_qs})
+    for (const QString &name : {u"b"_s, u"a"_s})
         delegate.listPlist().setValue(name, plist::Dictionary::make());
-    delegate.setterCurrentProfile(u"b"_qs);
+    delegate.setterCurrentProfile(u"b"_s);
     delegate.setterDefaultProfile();
     delegate.setterDefaultProfile(); // beside the first
     EXPECT_TRUE(delegate.indicator02.isAnimating() && delegate.indicator03.isAnimating());
     ASSERT_TRUE(waitForThreads(60s));
     EXPECT_FALSE(delegate.indicator02.isAnimating() || delegate.indicator03.isAnimating());
     EXPECT_TRUE(plist::readFile(quillorentLibrary::settingsPath()).dictionary == delegate.configPlist());
-    EXPECT_EQ(delegate.loadProfiles(), u"b"_qs) << "both files were written";
+    EXPECT_EQ(delegate.loadProfiles(), u"b"_s) << "both files were written";
 
-    delegate.configPlist().dictionary(u"resources"_qs).setValue(u"selectedprofile"_qs, u"gone"_qs);
-    EXPECT_EQ(delegate.loadProfiles(), u"a"_qs) << "the last one in the file's order";
-    EXPECT_EQ(delegate.profileCombo01.selectedTitle(), u"a"_qs);
-    EXPECT_EQ(delegate.profileCombo01.titles(), (QStringList{first, u"b"_qs, u"a"_qs}));
+    delegate.configPlist().dictionary(u"resources"_s).setValue(u"selectedprofile"_s, u"gone"_s);
+    EXPECT_EQ(delegate.loadProfiles(), u"a"_s) << "the last one in the file's order";
+    EXPECT_EQ(delegate.profileCombo01.selectedTitle(), u"a"_s);
+    EXPECT_EQ(delegate.profileCombo01.titles(), (QStringList{first, u"b"_s, u"a"_s}));
 }
 
 TEST(Saving, LeavesTheOldFilesOnAFullDiskAndTellsOfBoth)
@@ -53,7 +55,7 @@ TEST(Saving, LeavesTheOldFilesOnAFullDiskAndTellsOfBoth)
     const TreeSnapshot before = snapshotTree(config);
     C &delegate = program.delegate();
     delegate.addFolders({QString(10'000, u'x')});
-    delegate.configPlist().setValue(u"new"_qs, u"");
+    delegate.configPlist().setValue(u"new"_s, u"");
     QString told;
     delegate.savePanel01.observe([&] {
         if (delegate.savePanel01.place() == outlets::Panel::Place::Hidden) return;

@@ -8,6 +8,8 @@
 #include <sys/stat.h>
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 TEST(RunState, LosesNoUpdate)
@@ -21,17 +23,17 @@ TEST(RunState, LosesNoUpdate)
                 for (int i = 0; i < times; ++i) {
                     state.addToDo(2);
                     state.addDone(1);
-                    state.beginItem(u"/same"_qs);
-                    state.setStage(u"/same"_qs, u"working"_qs);
-                    if (i > 0) state.endItem(u"/same"_qs);
+                    state.beginItem(u"/same"_s);
+                    state.setStage(u"/same"_s, u"working"_s);
+                    if (i > 0) state.endItem(u"/same"_s);
                 }
             });
     }
     EXPECT_EQ(state.foldersToDo() + state.foldersDone(), 4 * times);
     EXPECT_EQ(state.sizeToDo(), 4 * times);
     EXPECT_EQ(state.sizeDone(), 2 * times);
-    state.endItem(u"/same"_qs); // one of the two that are left
-    EXPECT_EQ(state.threadsRunning(), QStringList{u"/same"_qs});
+    state.endItem(u"/same"_s); // one of the two that are left
+    EXPECT_EQ(state.threadsRunning(), QStringList{u"/same"_s});
 }
 
 TEST(RunState, KeepsTheFlagUpWhileQuitting)
@@ -61,14 +63,14 @@ TEST(RunProgress, FollowsWhatToolsReadAndNeverGoesBack)
     for (const bool isHidden : {false, true}) {
         ASSERT_TRUE(state.tryBeginRun());
         EXPECT_EQ(progress.look().done(), 0) << "it is another run's";
-        state.planItem(u"/a"_qs, 1000);
-        state.planItem(u"/b"_qs, 3000);
-        state.beginItem(u"/b"_qs);
-        state.setStage(u"/b"_qs, u"storing"_qs, {.share = 0.4, .bytes = 1e6});
+        state.planItem(u"/a"_s, 1000);
+        state.planItem(u"/b"_s, 3000);
+        state.beginItem(u"/b"_s);
+        state.setStage(u"/b"_s, u"storing"_s, {.share = 0.4, .bytes = 1e6});
         std::jthread tool([&] {
-            static_cast<void>(runTool(u"/bin/cat"_qs, {QString::fromStdString(pipe)}, -1,
-                                      [&](int id) { state.setTool(u"/b"_qs, id); }));
-            state.setTool(u"/b"_qs, -1);
+            static_cast<void>(runTool(u"/bin/cat"_s, {QString::fromStdString(pipe)}, -1,
+                                      [&](int id) { state.setTool(u"/b"_s, id); }));
+            state.setTool(u"/b"_s, -1);
         });
         std::ofstream input(pipe, std::ios::binary);
         input << std::string(500'000, 'x') << std::flush;
@@ -79,14 +81,14 @@ TEST(RunProgress, FollowsWhatToolsReadAndNeverGoesBack)
         tool.join();
         EXPECT_EQ(progress.look().bytesDone, 1200);
 
-        state.setStage(u"/b"_qs, u"encrypting"_qs, {.share = 0.6, .bytes = 1e6});
+        state.setStage(u"/b"_s, u"encrypting"_s, {.share = 0.6, .bytes = 1e6});
         EXPECT_EQ(progress.look().bytesDone, 1200);
-        state.setTool(u"/b"_qs, isHidden ? 999'999'999 : getpid());
+        state.setTool(u"/b"_s, isHidden ? 999'999'999 : getpid());
         const double later = progress.look(std::chrono::steady_clock::now() + 1h).bytesDone;
         EXPECT_TRUE(later > 1200 && later < 3000) << later;
-        state.setTool(u"/b"_qs, 0);
+        state.setTool(u"/b"_s, 0);
         EXPECT_EQ(progress.look().bytesDone, later);
-        state.endItem(u"/b"_qs);
+        state.endItem(u"/b"_s);
         EXPECT_EQ(progress.look().bytesDone, 3000);
         state.endRun();
     }

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 TEST(StartUp, DoesNothingWithDamagedFilesButSay)
 {
     TestProgram program;
@@ -18,8 +20,8 @@ TEST(StartUp, DoesNothingWithDamagedFilesButSay)
     EXPECT_FALSE(delegate.checkBox04.isOn());
 
     // Every control still works, and none of it reaches the files.
-    delegate.addFolders({u"/a"_qs});
-    delegate.prefStepper01Action(u"1"_qs);
+    delegate.addFolders({u"/a"_s});
+    delegate.prefStepper01Action(u"1"_s);
     delegate.profileButton02Action();
     delegate.setterDefaultProfile();
     delegate.profileButton04Action();
@@ -38,7 +40,7 @@ TEST(Quitting, SavesWhatIsChangedWhereTheSettingsSaySo)
             TestProgram program;
             program.start();
             QuillorentAppDelegate &delegate = program.delegate();
-            delegate.configPlist().dictionary(u"resources"_qs).setSwitch(u"autosave"_qs, autosave);
+            delegate.configPlist().dictionary(u"resources"_s).setSwitch(u"autosave"_s, autosave);
             delegate.saveSettings1Action();
             ASSERT_TRUE(waitForThreads(std::chrono::seconds(60)));
             // Another window has made a profile, and changed this one.
@@ -46,13 +48,13 @@ TEST(Quitting, SavesWhatIsChangedWhereTheSettingsSaySo)
             std::string text = readFile(file);
             text.replace(text.find("10000"), 5, "20000");
             writeFile(file, text.insert(text.rfind("</dict>"), other));
-            if (isChanged) delegate.addFolders({u"/remember/me"_qs});
+            if (isChanged) delegate.addFolders({u"/remember/me"_s});
             delegate.applicationWillTerminate();
 
             const bool isSaved = autosave && isChanged;
             EXPECT_EQ(readFile(isSaved ? file.string() + ".kept" : file.string()), text);
             EXPECT_EQ(quillorentLibrary::readProfiles() == delegate.listPlist(), isSaved);
-            EXPECT_TRUE(quillorentLibrary::readProfiles().contains(u"Other"_qs));
+            EXPECT_TRUE(quillorentLibrary::readProfiles().contains(u"Other"_s));
         }
 }
 
@@ -62,7 +64,7 @@ TEST(Panel, WaitsOnAnotherThreadAndWakesForQuitting)
     outlets::Panel &panel = program.delegate().progressPanel01;
     const std::function<void()> endings[] = {[&] { panel.close(); }, [&] { program.delegate().endRuns(); }};
     for (const auto &end : endings) {
-        detachThread(u"asks"_qs, [&] { panel.runModal(); });
+        detachThread(u"asks"_s, [&] { panel.runModal(); });
         ASSERT_TRUE(TestProgram::waitUntil([&] { return panel.place() == outlets::Panel::Place::Sheet; }));
         EXPECT_FALSE(waitForThreads(std::chrono::milliseconds(20)));
         end();

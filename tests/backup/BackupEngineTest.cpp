@@ -2,6 +2,8 @@
 
 #include "runs/Run.h"
 
+using namespace Qt::StringLiterals;
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -37,38 +39,38 @@ TEST_F(BackupEngine, SaysWhichStageFailed)
     };
     for (const auto &[stage, body, console, reason] : std::vector<Case>{
              {first, "printf 'warning: odd\nand more'", "\n   RAR 1st ERROR - SOURCE\nwarning: odd\nand more",
-              u"RAR 1st: warning: odd"_qs},
-             {first, "printf 'caf\\351'", "\n   RAR 1st ERROR - SOURCE\n", u"not readable"_qs},
+              u"RAR 1st: warning: odd"_s},
+             {first, "printf 'caf\\351'", "\n   RAR 1st ERROR - SOURCE\n", u"not readable"_s},
              {first, "",
               "\n   RAR 1st ERROR - SOURCE\nCan't start \"/nowhere/tool\": No such file or directory. Choose "
               "the tool's path on the Tools tab.\n",
-              u"No such file"_qs},
+              u"No such file"_s},
              {encoder, "echo bad magic >&2", stored + "\n   Encoder ERROR - SOURCE",
-              u"docs.rar\" is left and is not encrypted"_qs},
+              u"docs.rar\" is left and is not encrypted"_s},
              {second, "echo oh", stored + "\n   Encoder OK - SOURCE\n   RAR 2nd ERROR - SOURCE",
-              u"RAR 2nd: oh"_qs},
+              u"RAR 2nd: oh"_s},
              // Silence lets the later stages run, and the console stay empty; but nobody is told that all is
              // well.
-             {first, "exit 1", stored + "\n   Encoder ERROR - SOURCE", u"Encoder: openssl: cannot open"_qs},
-             {first, "$real \"$@\"; exit 1", "", u"RAR 1st: the tool ended with status 1"_qs},
-             {encoder, "$real \"$@\"; exit 1", "", u"Encoder: the tool ended with status 1"_qs},
-             {second, "exit 1", "", u"RAR 2nd: the tool ended with status 1"_qs},
-             {second, "exit 0", "", u"RAR 2nd: the tool said nothing, and did not make"_qs},
-             {second, "$real \"$@\"; exit 1", "", u"RAR 2nd: the tool ended with status 1"_qs},
+             {first, "exit 1", stored + "\n   Encoder ERROR - SOURCE", u"Encoder: openssl: cannot open"_s},
+             {first, "$real \"$@\"; exit 1", "", u"RAR 1st: the tool ended with status 1"_s},
+             {encoder, "$real \"$@\"; exit 1", "", u"Encoder: the tool ended with status 1"_s},
+             {second, "exit 1", "", u"RAR 2nd: the tool ended with status 1"_s},
+             {second, "exit 0", "", u"RAR 2nd: the tool said nothing, and did not make"_s},
+             {second, "$real \"$@\"; exit 1", "", u"RAR 2nd: the tool ended with status 1"_s},
          }) {
         SCOPED_TRACE(reason.toStdString() + " | " + console);
         BackupOrder order = backupOrder({source});
         QString &tool = stage == encoder ? order.encoder : order.archiver;
-        tool = body.empty() ? u"/nowhere/tool"_qs : fake(tool, stage, body);
+        tool = body.empty() ? u"/nowhere/tool"_s : fake(tool, stage, body);
         run(std::move(order));
-        const std::string shown = monitor->console.replace(text(source), u"SOURCE"_qs).toStdString();
+        const std::string shown = monitor->console.replace(text(source), u"SOURCE"_s).toStdString();
         const bool isSilent = console.empty();
         const std::string whole = "\nSTART processing fileSOURCE" + console + "\n *** ERROR! *** SOURCE";
         EXPECT_EQ(shown, isSilent ? "" : whole);
         EXPECT_EQ(monitor->state.foldersDone(), isSilent ? 1 : 0);
         EXPECT_EQ(monitor->record.outcome, Outcome::Failed);
         EXPECT_EQ(monitor->record.items.first().outcome, Outcome::Failed);
-        EXPECT_TRUE(monitor->record.summary.startsWith(u"Failed: "_qs)) << summary();
+        EXPECT_TRUE(monitor->record.summary.startsWith(u"Failed: "_s)) << summary();
         EXPECT_TRUE(monitor->record.summary.contains(reason)) << summary();
         EXPECT_EQ(readFile(archives / "docs.rar.aes.rar"), former) << namesIn(archives);
     }
@@ -85,7 +87,7 @@ TEST_F(BackupEngine, AFailureStopsTheOthers)
     BackupOrder order = backupOrder(sources);
     order.archiver = fake(realRar, first, "echo no");
     run(std::move(order));
-    EXPECT_LE(monitor->console.count(u"START processing"_qs), workerLimit());
+    EXPECT_LE(monitor->console.count(u"START processing"_s), workerLimit());
 
     backUp(sources);
     expectSuccess();

@@ -5,6 +5,8 @@
 
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -20,8 +22,8 @@ protected:
         const Findings found = lookAtBackup(order, lock, [] { return true; });
         QStringList lines = found.concerns;
         for (const QString &obstacle : found.obstacles)
-            lines.append(u"! "_qs + obstacle);
-        if (!found.overwrites.isEmpty()) lines.append(u"? "_qs + found.overwrites);
+            lines.append(u"! "_s + obstacle);
+        if (!found.overwrites.isEmpty()) lines.append(u"? "_s + found.overwrites);
         return lines.join(u'\n');
     }
 
@@ -47,7 +49,7 @@ TEST_F(BackupFindings, TellWhatIsWrongAndWhatToDo)
         return [secret](BackupOrder &o) { o.password = Secret::fromText(secret); };
     };
     const auto volumes = [](const QString &size) {
-        return [size](BackupOrder &o) { o.split = u"-v"_qs + size, o.volumeSize = size; };
+        return [size](BackupOrder &o) { o.split = u"-v"_s + size, o.volumeSize = size; };
     };
     const auto sources = [this](const Paths &paths) {
         return [this, paths](BackupOrder &o) { o = backupOrder(paths); };
@@ -61,49 +63,49 @@ TEST_F(BackupFindings, TellWhatIsWrongAndWhatToDo)
     };
     for (const Case &c : std::vector<Case>{
              {[](BackupOrder &) {}, {}},
-             {[](BackupOrder &o) { o.destination = u"/no/such"_qs; }, u"!|/no/such|does not exist"_qs},
-             {[](BackupOrder &o) { o.showsOtherDestination = true; }, u"!|not this profile's own"_qs},
+             {[](BackupOrder &o) { o.destination = u"/no/such"_s; }, u"!|/no/such|does not exist"_s},
+             {[](BackupOrder &o) { o.showsOtherDestination = true; }, u"!|not this profile's own"_s},
              {[](BackupOrder &o) { o.items.clear(), o.destination.clear(); },
-              u"!|no folders|No destination"_qs},
-             {[](BackupOrder &o) { o.archiveExtension.clear(); }, u"!|extensions / RAR"_qs},
-             {[](BackupOrder &o) { o.methodExtension.clear(); }, u"!|OpenSSL-AES"_qs},
-             {[](BackupOrder &o) { o.cipher.clear(); }, u"!|encparam / "_qs},
-             {[](BackupOrder &o) { o.archiver.clear(); }, u"!|external / RAR"_qs},
-             {[](BackupOrder &o) { o.encoder.clear(); }, u"!|external / OpenSSL"_qs},
-             {password({}), u"!|password"_qs},
+              u"!|no folders|No destination"_s},
+             {[](BackupOrder &o) { o.archiveExtension.clear(); }, u"!|extensions / RAR"_s},
+             {[](BackupOrder &o) { o.methodExtension.clear(); }, u"!|OpenSSL-AES"_s},
+             {[](BackupOrder &o) { o.cipher.clear(); }, u"!|encparam / "_s},
+             {[](BackupOrder &o) { o.archiver.clear(); }, u"!|external / RAR"_s},
+             {[](BackupOrder &o) { o.encoder.clear(); }, u"!|external / OpenSSL"_s},
+             {password({}), u"!|password"_s},
              {password(QString(1023, u'x')), {}},
              {by("rsa.pem"), {}},
-             {by("small.pem"), u"|small.pem|1024"_qs},
-             {by("gone.pem"), u"!|gone.pem"_qs},
-             {by("docs/file"), u"!|docs/file|no certificate"_qs},
-             {by("rsa-key.pem"), u"!|rsa-key.pem"_qs},
-             {by("ec.pem"), u"!|ec.pem|RSA"_qs},
-             {volumes(u"many"_qs), u"!|\"many\""_qs},
-             {volumes({}), u"!|olume"_qs},
-             {volumes(u"0"_qs), u"!|\"0\""_qs},
-             {volumes(u"1"_qs), {}},
-             {[&](auto &o) { volumes(u"many"_qs)(o), password(u"a\nb"_qs)(o); }, u"!|many|line break"_qs},
-             {sources({folder / "a/x", folder / "b/x", folder / "c/x-1"}), u"!|x-1|both need"_qs},
-             {sources({folder / "x.rar.aes", folder / "x"}), u"!|both need|x.rar.aes"_qs},
-             {sources({docs, archives / "docs.rar"}), u"!|is on the list|docs.rar"_qs},
-             {sources({folder / std::string(240, 'x')}), u"!|too long"_qs},
+             {by("small.pem"), u"|small.pem|1024"_s},
+             {by("gone.pem"), u"!|gone.pem"_s},
+             {by("docs/file"), u"!|docs/file|no certificate"_s},
+             {by("rsa-key.pem"), u"!|rsa-key.pem"_s},
+             {by("ec.pem"), u"!|ec.pem|RSA"_s},
+             {volumes(u"many"_s), u"!|\"many\""_s},
+             {volumes({}), u"!|olume"_s},
+             {volumes(u"0"_s), u"!|\"0\""_s},
+             {volumes(u"1"_s), {}},
+             {[&](auto &o) { volumes(u"many"_s)(o), password(u"a\nb"_s)(o); }, u"!|many|line break"_s},
+             {sources({folder / "a/x", folder / "b/x", folder / "c/x-1"}), u"!|x-1|both need"_s},
+             {sources({folder / "x.rar.aes", folder / "x"}), u"!|both need|x.rar.aes"_s},
+             {sources({docs, archives / "docs.rar"}), u"!|is on the list|docs.rar"_s},
+             {sources({folder / std::string(240, 'x')}), u"!|too long"_s},
              {sources({docs, sample("docs-1"), sample("docs.aes"), sample(std::string(200, 'n'))}), {}},
-             {sources({folder / "sparse"}), u"|room"_qs},
-             {sources({docs, folder / "gone"}), u"|gone\" is not there"_qs},
-             {sources({folder / "link"}), u"|only the link itself"_qs},
+             {sources({folder / "sparse"}), u"|room"_s},
+             {sources({docs, folder / "gone"}), u"|gone\" is not there"_s},
+             {sources({folder / "link"}), u"|only the link itself"_s},
              {sources({folder / "link/"}), {}},
-             {sources({docs, folder / "pipe"}), u"|pipe\" is a pipe"_qs},
-             {sources({docs, docs}), u"|more than once"_qs},
-             {sources({folder}), u"|lies in"_qs},
-             {there("docs.rar"), u"|docs.rar\"|kept-docs.rar"_qs},
-             {there("docs.rar.aes/x"), u"|is a folder|Rename it"_qs},
-             {there("docs.rar.aes.part2.rar"), u"?|docs.rar.aes.part2.rar|replaced"_qs},
-             {there("holiday.jpg"), u"?|not empty|stay as they are"_qs},
+             {sources({docs, folder / "pipe"}), u"|pipe\" is a pipe"_s},
+             {sources({docs, docs}), u"|more than once"_s},
+             {sources({folder}), u"|lies in"_s},
+             {there("docs.rar"), u"|docs.rar\"|kept-docs.rar"_s},
+             {there("docs.rar.aes/x"), u"|is a folder|Rename it"_s},
+             {there("docs.rar.aes.part2.rar"), u"?|docs.rar.aes.part2.rar|replaced"_s},
+             {there("holiday.jpg"), u"?|not empty|stay as they are"_s},
          }) {
         fs::remove_all(archives);
         fs::create_directories(archives);
         const QString found = look(c.change);
-        SCOPED_TRACE((c.expected + u" in: "_qs + found).toStdString());
+        SCOPED_TRACE((c.expected + u" in: "_s + found).toStdString());
         const QStringList parts = c.expected.split(u'|');
         EXPECT_EQ(found.isEmpty(), c.expected.isEmpty());
         EXPECT_TRUE(found.isEmpty() || found.startsWith(parts.first()));
@@ -121,34 +123,34 @@ TEST_F(BackupFindings, TellAMistypedPassword)
                               const std::optional<QString> &repetition) {
         return look([&](BackupOrder &o) {
             o.cipher = cipher;
-            o.items = {backupItem(text(docs), o.destination, u"docs"_qs, u".rar"_qs, extension)};
+            o.items = {backupItem(text(docs), o.destination, u"docs"_s, u".rar"_s, extension)};
             o.asksBeforeReplacing = false;
             o.password = Secret::fromText(password);
             if (repetition) o.repetition = Secret::fromText(*repetition);
         });
     };
-    const QString right = u"correct horse"_qs;
-    for (const auto &[cipher, extension, volume] : {std::tuple{u"aes-256-cbc"_qs, u".aes"_qs, 0},
-                                                    {u"bf-cbc"_qs, u".bf"_qs, 0},
-                                                    {u"des-ede3-cbc"_qs, u".3d"_qs, 2},
-                                                    {u"aes-256-cbc"_qs, u".aes"_qs, 1}}) {
+    const QString right = u"correct horse"_s;
+    for (const auto &[cipher, extension, volume] : {std::tuple{u"aes-256-cbc"_s, u".aes"_s, 0},
+                                                    {u"bf-cbc"_s, u".bf"_s, 0},
+                                                    {u"des-ede3-cbc"_s, u".3d"_s, 2},
+                                                    {u"aes-256-cbc"_s, u".aes"_s, 1}}) {
         SCOPED_TRACE(cipher.toStdString() + " " + std::to_string(volume));
         fs::remove_all(archives);
         fs::create_directories(archives);
         EXPECT_EQ(lookWith(cipher, extension, right, {}), QString());
         EXPECT_EQ(lookWith(cipher, extension, right, right), QString());
-        EXPECT_TRUE(lookWith(cipher, extension, right, u""_qs).contains(u"only once"));
-        EXPECT_TRUE(lookWith(cipher, extension, right, u"correct house"_qs).contains(u"differ"));
+        EXPECT_TRUE(lookWith(cipher, extension, right, u""_s).contains(u"only once"));
+        EXPECT_TRUE(lookWith(cipher, extension, right, u"correct house"_s).contains(u"differ"));
 
         BackupOrder order = backupOrder({docs}, volume);
         order.cipher = cipher;
-        order.items = {backupItem(text(docs), order.destination, u"docs"_qs, u".rar"_qs, extension)};
+        order.items = {backupItem(text(docs), order.destination, u"docs"_s, u".rar"_s, extension)};
         run(std::move(order));
         expectSuccess();
-        EXPECT_EQ(lookWith(cipher, extension, right, u""_qs), QString());
-        for (const auto &repetition : {std::optional<QString>(), std::optional(u"correct house"_qs)}) {
-            const QString found = lookWith(cipher, extension, u"correct house"_qs, repetition);
-            EXPECT_TRUE(found.startsWith(u"\"docs.rar"_qs + extension) &&
+        EXPECT_EQ(lookWith(cipher, extension, right, u""_s), QString());
+        for (const auto &repetition : {std::optional<QString>(), std::optional(u"correct house"_s)}) {
+            const QString found = lookWith(cipher, extension, u"correct house"_s, repetition);
+            EXPECT_TRUE(found.startsWith(u"\"docs.rar"_s + extension) &&
                         found.contains(u"does not open with this"))
                 << qPrintable(found);
             EXPECT_FALSE(found.contains(u'\n')) << "one thing is wrong";
@@ -158,8 +160,8 @@ TEST_F(BackupFindings, TellAMistypedPassword)
     const QString first = text(archives / "docs.rar.aes.part1.rar");
     ASSERT_TRUE(QFile::exists(first)) << namesIn(archives);
     QFile::remove(first);
-    EXPECT_EQ(lookWith(u"aes-256-cbc"_qs, u".aes"_qs, u"correct house"_qs, {}), QString());
-    EXPECT_TRUE(lookWith(u"aes-256-cbc"_qs, u".aes"_qs, right, u""_qs).contains(u"only once"));
+    EXPECT_EQ(lookWith(u"aes-256-cbc"_s, u".aes"_s, u"correct house"_s, {}), QString());
+    EXPECT_TRUE(lookWith(u"aes-256-cbc"_s, u".aes"_s, right, u""_s).contains(u"only once"));
 }
 
 TEST_F(BackupFindings, KeepRunsApart)
@@ -175,7 +177,7 @@ TEST_F(BackupFindings, KeepRunsApart)
     while (!fs::exists(here))
         std::this_thread::yield();
     held.reset();
-    EXPECT_TRUE(look([](BackupOrder &) {}).startsWith(u"! Another run"_qs));
+    EXPECT_TRUE(look([](BackupOrder &) {}).startsWith(u"! Another run"_s));
     writeFile(go, "");
     runner.join();
     EXPECT_EQ(look([](BackupOrder &) {}), QString());

@@ -11,6 +11,8 @@
 #include <csignal>
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -25,8 +27,8 @@ protected:
         delegate.checkBox04.setOn(false);
         keyring.start();
         setKeychain(nullptr);
-        EMGenericKeychainItem::addGenericKeychainItemForService(u"com.brolvanek.Quillorent.encrypt"_qs,
-                                                                u"anna"_qs, u"correct horse"_qs);
+        EMGenericKeychainItem::addGenericKeychainItemForService(u"com.brolvanek.Quillorent.encrypt"_s,
+                                                                u"anna"_s, u"correct horse"_s);
     }
 
     [[nodiscard]] std::string made() const { return namesIn(program.folder() / "archives"); }
@@ -40,8 +42,8 @@ protected:
 
     void switchProfile()
     {
-        delegate.listPlist().setValue(u"other"_qs, delegate.defaultProfile());
-        delegate.setterCurrentProfile(u"other"_qs);
+        delegate.listPlist().setValue(u"other"_s, delegate.defaultProfile());
+        delegate.setterCurrentProfile(u"other"_s);
     }
 
     /// A tool that waits until `go` is there, once it has said that it runs.
@@ -81,14 +83,14 @@ TEST_F(BackupStart, NothingReachesARunThatHasBegun)
         for (const fs::path &path : {out, program.folder() / "archives"})
             fs::create_directories(path);
         delegate.setterCurrentProfile(profile);
-        delegate.currentRecord().array(u"folders"_qs).clear();
+        delegate.currentRecord().array(u"folders"_s).clear();
         program.setUpBackup(sources);
         delegate.checkBox04.setOn(false);
-        delegate.currentRecord().setValue(u"symencryption"_qs, u"OpenSSL-AES");
-        program.useTool(u"RAR"_qs, realRar.toStdString());
-        program.useTool(tool == realRar ? u"RAR"_qs : u"OpenSSL"_qs, gate(tool).toStdString());
+        delegate.currentRecord().setValue(u"symencryption"_s, u"OpenSSL-AES");
+        program.useTool(u"RAR"_s, realRar.toStdString());
+        program.useTool(tool == realRar ? u"RAR"_s : u"OpenSSL"_s, gate(tool).toStdString());
         const auto fetch = [&](bool isKnown) {
-            fetchFromKeychain(isKnown ? u"anna"_qs : u"nobody"_qs);
+            fetchFromKeychain(isKnown ? u"anna"_s : u"nobody"_s);
             return TestProgram::waitUntil([&] { return !delegate.keychainIndicator01.isAnimating(); });
         };
         ASSERT_TRUE(!isFetched || fetch(true));
@@ -97,19 +99,19 @@ TEST_F(BackupStart, NothingReachesARunThatHasBegun)
 
         ASSERT_TRUE(fetch(false)); // the answer empties the field
         delegate.secureText01a.setText({});
-        program.useTool(u"RAR"_qs, "/nowhere/rar");
-        program.useTool(u"OpenSSL"_qs, "/nowhere/openssl");
-        delegate.currentRecord().setValue(u"symencryption"_qs, u"OpenSSL-BF");
-        delegate.prefStepper01Action(u"none"_qs);
+        program.useTool(u"RAR"_s, "/nowhere/rar");
+        program.useTool(u"OpenSSL"_s, "/nowhere/openssl");
+        delegate.currentRecord().setValue(u"symencryption"_s, u"OpenSSL-BF");
+        delegate.prefStepper01Action(u"none"_s);
         delegate.checkBox04.setOn(true);
-        delegate.currentRecord().setValue(u"path"_qs, u"/nowhere");
-        delegate.addFolders({u"/nowhere"_qs});
+        delegate.currentRecord().setValue(u"path"_s, u"/nowhere");
+        delegate.addFolders({u"/nowhere"_s});
         delegate.buttonLaunch01b();
         switchProfile();
         writeFile(go, "");
         program.waitForEnd();
         const QString count = QString::number(sources.size());
-        EXPECT_TRUE(delegate.outputText01.text().startsWith(u"Backed up %1 of %1 "_qs.arg(count)));
+        EXPECT_TRUE(delegate.outputText01.text().startsWith(u"Backed up %1 of %1 "_s.arg(count)));
         extract(made);
         expectSuccess();
     }
@@ -120,7 +122,7 @@ TEST_F(BackupStart, AwaitsTheKeychain)
     for (const bool isSwitched : {true, false}) {
         keyring.freeze();
         const auto profile = delegate.currentProfile();
-        fetchFromKeychain(u"anna"_qs);
+        fetchFromKeychain(u"anna"_s);
         delegate.buttonLaunch01b();
         EXPECT_TRUE(delegate.isRunActive());
         EXPECT_EQ(made(), "");
@@ -134,8 +136,8 @@ TEST_F(BackupStart, AwaitsTheKeychain)
     expectSuccess();
 
     fs::remove(program.folder() / "archives/docs.rar.aes.rar");
-    fetchFromKeychain(u"anna"_qs);
-    delegate.keychainUser.setText(u"nobody"_qs);
+    fetchFromKeychain(u"anna"_s);
+    delegate.keychainUser.setText(u"nobody"_s);
     delegate.buttonLaunch01b();
     ASSERT_TRUE(TestProgram::waitUntil(
         [&] { return delegate.concernsPanel01.place() != outlets::Panel::Place::Hidden; }));
@@ -143,7 +145,7 @@ TEST_F(BackupStart, AwaitsTheKeychain)
     delegate.concernsPanel01Stop();
     program.waitForEnd();
 
-    fetchFromKeychain(u"nobody"_qs);
+    fetchFromKeychain(u"nobody"_s);
     delegate.buttonLaunch01b();
     program.waitForEnd();
     EXPECT_TRUE(program.lastWarning().contains(u"No password was fetched"))
@@ -153,7 +155,7 @@ TEST_F(BackupStart, AwaitsTheKeychain)
 
 TEST_F(BackupStart, ACancelIsNeverLost)
 {
-    program.useTool(u"RAR"_qs, writeScript(folder / "rar", ": > " + here.string()).toStdString());
+    program.useTool(u"RAR"_s, writeScript(folder / "rar", ": > " + here.string()).toStdString());
     for (int attempt = 0; attempt < 50; ++attempt) {
         delegate.buttonLaunch01();
         // A little later each time, up to where the sheet is there and the sizes are measured.
@@ -172,14 +174,14 @@ TEST_F(BackupStart, TellsWhichToolsOfAFailedRunStillWork)
     if (workerLimit() < 2) GTEST_SKIP() << "nothing runs side by side here";
     delegate.addFolders({toQString(sample("bad"))});
     const std::string pid = here.string();
-    program.useTool(u"RAR"_qs,
+    program.useTool(u"RAR"_s,
                     writeScript(folder / "rar", "case \"$*\" in *docs) echo $$ > " + pid + ".new; mv " + pid +
                                                     ".new " + pid + "; exec sleep 1000;; esac; until [ -e " +
                                                     pid + " ]; do sleep 0.01; done; echo no")
                         .toStdString());
     delegate.buttonLaunch01b();
     ASSERT_TRUE(TestProgram::waitUntil([&] { return !delegate.toolsText01.text().isEmpty(); }));
-    EXPECT_EQ(delegate.toolsText01.text(), u"Still at work: docs (storing)."_qs);
+    EXPECT_EQ(delegate.toolsText01.text(), u"Still at work: docs (storing)."_s);
     EXPECT_FALSE(delegate.toolsText01.isHidden() || delegate.toolsCancel01.isHidden());
     EXPECT_EQ(delegate.progressPanel01.place(), outlets::Panel::Place::Hidden);
     EXPECT_EQ(delegate.consolePanel01.place(), outlets::Panel::Place::Window);
@@ -190,23 +192,23 @@ TEST_F(BackupStart, TellsWhichToolsOfAFailedRunStillWork)
     EXPECT_NE(kill(process, 0), 0);
     EXPECT_EQ(toolsRunning(), 0);
     EXPECT_TRUE(delegate.toolsText01.isHidden() && delegate.toolsCancel01.isHidden());
-    EXPECT_TRUE(delegate.outputText01.text().endsWith(u"RAR 1st: no"_qs)) << "not \"Cancelled\"";
+    EXPECT_TRUE(delegate.outputText01.text().endsWith(u"RAR 1st: no"_s)) << "not \"Cancelled\"";
 }
 
 TEST_F(BackupStart, CompressesBeforeItEncryptsWhereTheProfileSaysSo)
 {
-    program.useTool(u"RAR"_qs, writeScript(folder / "rar", "echo \"$@\"").toStdString());
+    program.useTool(u"RAR"_s, writeScript(folder / "rar", "echo \"$@\"").toStdString());
     const plist::Dictionary record = delegate.currentRecord();
-    for (const auto &[value, method] : {std::pair{u"1"_qs, u" -m3 -s "_qs}, {u"0"_qs, u" -m0 "_qs}}) {
-        record.setValue(u"compress"_qs, value);
-        record.setValue(u"keepdate"_qs, u"0");
+    for (const auto &[value, method] : {std::pair{u"1"_s, u" -m3 -s "_s}, {u"0"_s, u" -m0 "_s}}) {
+        record.setValue(u"compress"_s, value);
+        record.setValue(u"keepdate"_s, u"0");
         delegate.setterCurrentProfile(delegate.currentProfile());
-        delegate.secureText01a.setText(u"correct horse"_qs);
+        delegate.secureText01a.setText(u"correct horse"_s);
         delegate.buttonLaunch01b();
         program.waitForEnd();
         const QString said = delegate.consoleTextView01.text();
-        EXPECT_TRUE(said.contains(u"a -r -ol -o+"_qs + method + u" -t -idq "_qs + program.path("archives") +
-                                  u"/docs.rar "_qs + toQString(docs)))
+        EXPECT_TRUE(said.contains(u"a -r -ol -o+"_s + method + u" -t -idq "_s + program.path("archives") +
+                                  u"/docs.rar "_s + toQString(docs)))
             << qPrintable(said);
     }
 }
@@ -215,13 +217,13 @@ TEST_F(BackupStart, FollowsTheProfileAndTheSettings)
 {
     using namespace quillorentLibrary;
     for (const auto &[source, method, cipher, extension] :
-         {std::tuple{0, u"OpenSSL-AES"_qs, std::optional(u"aes-256-cbc"_qs), std::optional(u".aes"_qs)},
-          {-1, u"OpenSSL-BF"_qs, u"bf-cbc"_qs, u".bf"_qs},
-          {1, u"OpenSSL-3D"_qs, u"des-ede3-cbc"_qs, u".3d"_qs},
-          {2, u"OpenSSL-AES"_qs, u"smime"_qs, u".smime"_qs},
-          {0, u"unknown"_qs, std::nullopt, std::nullopt}}) {
+         {std::tuple{0, u"OpenSSL-AES"_s, std::optional(u"aes-256-cbc"_s), std::optional(u".aes"_s)},
+          {-1, u"OpenSSL-BF"_s, u"bf-cbc"_s, u".bf"_s},
+          {1, u"OpenSSL-3D"_s, u"des-ede3-cbc"_s, u".3d"_s},
+          {2, u"OpenSSL-AES"_s, u"smime"_s, u".smime"_s},
+          {0, u"unknown"_s, std::nullopt, std::nullopt}}) {
         delegate.passCombo01.selectIndex(source);
-        delegate.currentRecord().setValue(u"symencryption"_qs, method);
+        delegate.currentRecord().setValue(u"symencryption"_s, method);
         EXPECT_EQ(decideEncryption(), cipher) << qPrintable(method);
         EXPECT_EQ(decideExtension(), extension) << qPrintable(method);
     }

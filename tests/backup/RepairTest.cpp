@@ -6,6 +6,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -15,7 +17,7 @@ protected:
     /// The record that a backup of `docs` leaves when it is killed while it packs.
     void writeKilledRecord(const QList<Aside> &former, const QDateTime &packingSince)
     {
-        RunJournal({.kind = u"backup"_qs,
+        RunJournal({.kind = u"backup"_s,
                     .folder = text(archives),
                     .began = packingSince,
                     .items = {{.path = text(docs),
@@ -63,7 +65,7 @@ TEST_F(Repair, FindsTheFormerArchiveOrTheNewOneWhole)
                 for (const fs::path &path : {archives, folder / "state"})
                     fs::remove_all(path);
                 fs::copy(folder / "old", archives);
-                const QList<Aside> plan = *planAside(filesOfArchive(final), u"former"_qs);
+                const QList<Aside> plan = *planAside(filesOfArchive(final), u"former"_s);
                 writeKilledRecord(plan, QDateTime::currentDateTimeUtc());
                 for (const Aside &aside : plan) {
                     const fs::path from = aside.from.toStdString();
@@ -91,10 +93,10 @@ TEST_F(Repair, OldRecordsGoUnlessTheyAreNeeded)
     backUp({docs});
     writeFile(archives / "left", "x");
     for (int i = 0; i < 210; ++i) {
-        RunRecord record{.kind = u"backup"_qs, .folder = text(archives)};
+        RunRecord record{.kind = u"backup"_s, .folder = text(archives)};
         record.began = QDateTime::fromSecsSinceEpoch(1'000'000 + i).toUTC();
         if (i != 3) record.ended = record.began;
-        if (i == 4) record.items = {{.path = u"x"_qs, .left = {{text(archives / "left"), true}}}};
+        if (i == 4) record.items = {{.path = u"x"_s, .left = {{text(archives / "left"), true}}}};
         RunJournal(record).begin();
     }
     writeFile(fs::path(recordsFolder().toStdString()) / "0.json", "no record");
@@ -150,7 +152,7 @@ TEST_F(Repair, WhatAKilledRunLeftInClearStaysNamed)
 TEST_F(Repair, OtherNamesAreFreeAndShortEnough)
 {
     const auto named = [this](const std::string &name) { return text(archives / name); };
-    const auto plan = [&](const QStringList &names) { return planAside(names, u"former"_qs); };
+    const auto plan = [&](const QStringList &names) { return planAside(names, u"former"_s); };
     const QStringList set{named("a.part1.rar"), named("a.part2.rar")};
     for (const QString &path : set)
         writeFile(path.toStdString(), "old");

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class Candidates : public testing::Test {
@@ -20,11 +22,10 @@ TEST_F(Candidates, ComeAndGo)
 {
     const auto shown = [&] { return delegate.extractFullList.strings(); };
     const auto taken = [&] { return delegate.extractList.strings(); };
-    const QStringList volumes{u"/x/a.part1.rar"_qs, u"/x/a.part2.rar"_qs, u"/x/a.part10.rar"_qs,
-                              u"/x/b.rar"_qs};
+    const QStringList volumes{u"/x/a.part1.rar"_s, u"/x/a.part2.rar"_s, u"/x/a.part10.rar"_s, u"/x/b.rar"_s};
     delegate.openPanel = [&](const outlets::OpenPanel &panel) {
         EXPECT_TRUE(panel.canChooseFiles && panel.allowsMultipleSelection && !panel.canChooseDirectories);
-        EXPECT_EQ(panel.allowedFileTypes, QStringList{u"rar"_qs});
+        EXPECT_EQ(panel.allowedFileTypes, QStringList{u"rar"_s});
         return std::optional(volumes);
     };
     delegate.extractButton01Action();
@@ -32,7 +33,7 @@ TEST_F(Candidates, ComeAndGo)
     EXPECT_EQ(shown(), volumes + volumes);
     EXPECT_EQ(taken(), (QStringList{volumes[0], volumes[3], volumes[0], volumes[3]}));
     const auto *table = dynamic_cast<extractTable *>(delegate.extractTableView.dataSource());
-    EXPECT_EQ(table->objectValue(u"c10"_qs, 1), volumes[1]);
+    EXPECT_EQ(table->objectValue(u"c10"_s, 1), volumes[1]);
     EXPECT_TRUE(table->isExtracted(0) && !table->isExtracted(1));
 
     delegate.extractTableView.setSelectedRows({1, 3});
@@ -54,12 +55,12 @@ TEST_F(Candidates, AFolderStandsForItsArchivesAndWhatIsLeftOutIsTold)
                            program.path("drop/a.part10.rar")}));
     EXPECT_EQ(delegate.outputText02.text(), QString());
     for (const auto &[path, said] :
-         {std::pair{program.path("drop/notes.txt"), u"no archive"_qs},
-          {u"/x/b.part2.rar"_qs, u"first volume is missing"_qs},
-          {u"/x/b%2%1.part7.rar"_qs, u"\"b%2%1.part7.rar\" is volume 7 of its set"_qs},
-          {u"/x/b.part1.rar"_qs, QString()},
-          {u"/Apartment/a.rar"_qs, QString()},
-          {u"/Departments/report2.rar"_qs, u"Move or rename"_qs}}) {
+         {std::pair{program.path("drop/notes.txt"), u"no archive"_s},
+          {u"/x/b.part2.rar"_s, u"first volume is missing"_s},
+          {u"/x/b%2%1.part7.rar"_s, u"\"b%2%1.part7.rar\" is volume 7 of its set"_s},
+          {u"/x/b.part1.rar"_s, QString()},
+          {u"/Apartment/a.rar"_s, QString()},
+          {u"/Departments/report2.rar"_s, u"Move or rename"_s}}) {
         delegate.addArchives({path});
         EXPECT_TRUE(delegate.outputText02.text().contains(said)) << qPrintable(said);
         EXPECT_EQ(delegate.outputText02.text().isEmpty(), said.isEmpty());
@@ -69,17 +70,17 @@ TEST_F(Candidates, AFolderStandsForItsArchivesAndWhatIsLeftOutIsTold)
 TEST_F(Candidates, AreDecryptedByChoiceOrByName)
 {
     using quillorentLibrary::decideDecryption;
-    const QString archive = u"/x/a.rar.bf.part01.rar"_qs;
+    const QString archive = u"/x/a.rar.bf.part01.rar"_s;
     for (const auto &[choice, expected] :
-         std::vector<std::pair<int, QString>>{{-1, u"aes-256-cbc"_qs},
-                                              {0, u"aes-256-cbc"_qs},
-                                              {1, u"bf-cbc"_qs},
-                                              {2, u"des-ede3-cbc"_qs},
-                                              {3, u"smime"_qs},
-                                              {5, u"aes-256-cbc"_qs},
-                                              {ExtractTab::automaticDecryption, u"bf-cbc"_qs}}) {
+         std::vector<std::pair<int, QString>>{{-1, u"aes-256-cbc"_s},
+                                              {0, u"aes-256-cbc"_s},
+                                              {1, u"bf-cbc"_s},
+                                              {2, u"des-ede3-cbc"_s},
+                                              {3, u"smime"_s},
+                                              {5, u"aes-256-cbc"_s},
+                                              {ExtractTab::automaticDecryption, u"bf-cbc"_s}}) {
         delegate.decryptionCombo01.selectIndex(choice);
         EXPECT_EQ(decideDecryption(archive), expected) << choice;
     }
-    EXPECT_EQ(decideDecryption(u"/x/holiday.rar"_qs), std::nullopt);
+    EXPECT_EQ(decideDecryption(u"/x/holiday.rar"_s), std::nullopt);
 }

@@ -6,6 +6,8 @@
 #include <set>
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -18,7 +20,7 @@ protected:
         BackupOrder order = backupOrder({source}, volume);
         for (BackupItem &item : order.items)
             item = backupItem(item.source, order.destination,
-                              quillorentLibrary::lastPathComponent(item.source), u".rar"_qs, extension);
+                              quillorentLibrary::lastPathComponent(item.source), u".rar"_s, extension);
         order.cipher = cipher;
         order.byCertificate = cipher == u"smime";
         order.certificate = text(keys.certificate);
@@ -71,10 +73,10 @@ TEST_F(ExtractEngine, BringsBackWhatWasBackedUp)
 {
     const fs::path tree = folder / "odd tree";
     makeSampleTree(tree);
-    for (const auto &[extension, cipher] : {std::pair{u".aes"_qs, u"aes-256-cbc"_qs},
-                                            {u".bf"_qs, u"bf-cbc"_qs},
-                                            {u".3d"_qs, u"des-ede3-cbc"_qs},
-                                            {u".smime"_qs, u"smime"_qs}})
+    for (const auto &[extension, cipher] : {std::pair{u".aes"_s, u"aes-256-cbc"_s},
+                                            {u".bf"_s, u"bf-cbc"_s},
+                                            {u".3d"_s, u"des-ede3-cbc"_s},
+                                            {u".smime"_s, u"smime"_s}})
         for (const int volume : {0, 300}) {
             SCOPED_TRACE(extension.toStdString() + (volume ? " split" : " whole"));
             startAnew();
@@ -100,7 +102,7 @@ TEST_F(ExtractEngine, TakesSetsOfAnyNumberOfVolumesUnderAnyName)
                                              {8, 3, "with*[x]?.rar.bf"}}) {
         SCOPED_TRACE(name);
         startAnew();
-        backUpBy(file, u".bf"_qs, u"bf-cbc"_qs, size);
+        backUpBy(file, u".bf"_s, u"bf-cbc"_s, size);
         Paths renamed;
         for (const fs::path &volume : volumes("data.rar.bf.rar")) {
             const std::string number = volume.stem().extension();
@@ -133,7 +135,7 @@ TEST_F(ExtractEngine, NoArchiveReplacesWhatAnotherBroughtBack)
         startAnew();
         writeFile(docs / "file", date);
         writeFile(docs / ("only " + std::string(date)), date);
-        backUpBy(docs, u".aes"_qs, u"aes-256-cbc"_qs);
+        backUpBy(docs, u".aes"_s, u"aes-256-cbc"_s);
         fs::remove(docs / ("only " + std::string(date)));
         dated.push_back(folder / ("docs " + std::string(date) + ".rar.aes.rar"));
         fs::rename(archives / "docs.rar.aes.rar", dated.back());
@@ -158,7 +160,7 @@ TEST_F(ExtractEngine, NoArchiveReplacesWhatAnotherBroughtBack)
             EXPECT_EQ(namesIn(entry.path().parent_path()), "file\nonly " + readFile(entry.path()));
         }
         EXPECT_EQ(contents.size(), listed.size());
-        EXPECT_EQ(monitor->record.summary.count(u"would have replaced"_qs), int(listed.size()) - 1)
+        EXPECT_EQ(monitor->record.summary.count(u"would have replaced"_s), int(listed.size()) - 1)
             << summary();
     }
     // What can't meet stays together.
@@ -166,15 +168,15 @@ TEST_F(ExtractEngine, NoArchiveReplacesWhatAnotherBroughtBack)
     const fs::path other = sample("other");
     backUp({other});
     extract({dated.front(), archives / "other.rar.aes.rar"});
-    EXPECT_EQ(monitor->record.summary.count(u"would have replaced"_qs), 0) << summary();
+    EXPECT_EQ(monitor->record.summary.count(u"would have replaced"_s), 0) << summary();
     EXPECT_TRUE(fs::exists(extracted(docs)) && fs::exists(extracted(other)));
 }
 
 TEST_F(ExtractEngine, EachCauseReadsDifferently)
 {
-    const QStringList stages{u"unRAR 1st"_qs, u"DECODE"_qs, u"unRAR 2nd"_qs};
+    const QStringList stages{u"unRAR 1st"_s, u"DECODE"_s, u"unRAR 2nd"_s};
     backUp({sample("docs")});
-    backUpBy(folder / "docs", u".smime"_qs, u"smime"_qs);
+    backUpBy(folder / "docs", u".smime"_s, u"smime"_s);
     const Credentials others = makeCredentials(folder, "berta");
     const fs::path archive = archives / "docs.rar.aes.rar";
     const fs::path message = archives / "docs.rar.smime.rar";
@@ -195,22 +197,21 @@ TEST_F(ExtractEngine, EachCauseReadsDifferently)
         std::function<void(ExtractOrder &)> change;
     };
     for (const auto &[sentence, stage, change] : std::vector<Case>{
-             {u"is damaged: .*checksum"_qs, 0, [&](auto &o) { o.archiver = blind, damage(archive); }},
-             {u"docs.rar.aes\" is a folder"_qs, 0, [&](auto &) { writeFile(encrypted + "/x", "x"); }},
-             {u"docs.rar\" is a folder"_qs, 1, [&](auto &) { writeFile(out / "docs.rar/x", "x"); }},
-             {u"replaced by a pipe"_qs, 1, [&](auto &o) { o.archiver = plant("mkfifo"); }},
-             {u"holds a link where"_qs, 1, [&](auto &o) { o.archiver = plant("ln -s " + archive.string()); }},
-             {u"Can't start \"/nowhere/openssl\""_qs, 1, [](auto &o) { o.decoder = u"/nowhere/openssl"_qs; }},
-             {u"private key can't be read"_qs, 1, [&](auto &o) { o = extractOrder({message}); }},
-             {u"is taken by something else"_qs, 2,
+             {u"is damaged: .*checksum"_s, 0, [&](auto &o) { o.archiver = blind, damage(archive); }},
+             {u"docs.rar.aes\" is a folder"_s, 0, [&](auto &) { writeFile(encrypted + "/x", "x"); }},
+             {u"docs.rar\" is a folder"_s, 1, [&](auto &) { writeFile(out / "docs.rar/x", "x"); }},
+             {u"replaced by a pipe"_s, 1, [&](auto &o) { o.archiver = plant("mkfifo"); }},
+             {u"holds a link where"_s, 1, [&](auto &o) { o.archiver = plant("ln -s " + archive.string()); }},
+             {u"Can't start \"/nowhere/openssl\""_s, 1, [](auto &o) { o.decoder = u"/nowhere/openssl"_s; }},
+             {u"private key can't be read"_s, 1, [&](auto &o) { o = extractOrder({message}); }},
+             {u"is taken by something else"_s, 2,
               [&](auto &) { writeFile(out / *folder.relative_path().begin(), "x"); }},
-             {u"password is probably wrong"_qs, 2,
+             {u"password is probably wrong"_s, 2,
               [&](auto &o) { o.decoder = rubbish, o.archiver = blindest; }},
-             {u"its name tells another one|password is probably wrong"_qs, -1,
-              [](auto &o) { o.items[0].command = u"bf-cbc"_qs; }},
-             {u"password is (probably )?wrong"_qs, -1,
-              [](auto &o) { o.password = Secret::fromText(u"x"_qs); }},
-             {u"with this private key|The private key is wrong"_qs, -1,
+             {u"its name tells another one|password is probably wrong"_s, -1,
+              [](auto &o) { o.items[0].command = u"bf-cbc"_s; }},
+             {u"password is (probably )?wrong"_s, -1, [](auto &o) { o.password = Secret::fromText(u"x"_s); }},
+             {u"with this private key|The private key is wrong"_s, -1,
               [&](auto &o) {
                   o = extractOrder({message}), o.key = text(others.key);
                   o.certificate = text(others.certificate);
@@ -221,16 +222,16 @@ TEST_F(ExtractEngine, EachCauseReadsDifferently)
         writeFile(archive, whole);
         ExtractOrder order = extractOrder({archive});
         change(order);
-        const QString end = u" - "_qs + order.items.first().archive;
+        const QString end = u" - "_s + order.items.first().archive;
         run(std::move(order));
         QStringList shown = monitor->console.split(u'\n');
         ASSERT_GE(shown.size(), 3) << qPrintable(monitor->console) << summary();
         EXPECT_TRUE(shown[0].isEmpty() && QRegularExpression(sentence).match(shown[1]).hasMatch())
             << qPrintable(shown[1]);
         for (int done = 0; done < stage; ++done)
-            EXPECT_EQ(shown.takeAt(2), stages[done] + u" OK"_qs + end);
-        EXPECT_TRUE(stage < 0 || shown.takeAt(2) == stages[stage] + u" ERROR"_qs + end);
-        EXPECT_EQ(shown.last(), u" *** ERROR! *** "_qs + end.mid(3));
+            EXPECT_EQ(shown.takeAt(2), stages[done] + u" OK"_s + end);
+        EXPECT_TRUE(stage < 0 || shown.takeAt(2) == stages[stage] + u" ERROR"_s + end);
+        EXPECT_EQ(shown.last(), u" *** ERROR! *** "_s + end.mid(3));
         EXPECT_TRUE(stage < 0 || shown.size() == 3);
         EXPECT_EQ(monitor->record.outcome, Outcome::Failed);
         EXPECT_EQ(summary().find("Failed: "), 0U) << summary();
@@ -265,10 +266,10 @@ TEST_F(ExtractEngine, ADamagedArchiveKeepsTheOthersBack)
         std::function<void(const Paths &)> spoil;
     };
     for (const auto &[reason, concern, spoil] : std::vector<Case>{
-             {"A volume is missing", u"may not be the last"_qs, [](auto &set) { fs::remove(set[3]); }},
-             {"A volume is missing", u"volume 3 is missing"_qs, [](auto &set) { fs::remove(set[2]); }},
+             {"A volume is missing", u"may not be the last"_s, [](auto &set) { fs::remove(set[3]); }},
+             {"A volume is missing", u"volume 3 is missing"_s, [](auto &set) { fs::remove(set[2]); }},
              {"is cut short", {}, [](auto &set) { fs::resize_file(set[3], 5000); }},
-             {"is cut short", u"from volume 3 on are leftovers"_qs,
+             {"is cut short", u"from volume 3 on are leftovers"_s,
               [](auto &set) { fs::resize_file(set[1], 5000); }},
              {"is damaged", {}, [](auto &set) { damage(set[1]); }},
          }) {

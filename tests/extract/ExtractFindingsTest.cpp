@@ -3,6 +3,8 @@
 
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -48,37 +50,37 @@ TEST_F(ExtractFindings, TellWhatIsWrongAndWhatToDo)
     };
     for (const Case &c : std::vector<Case>{
              {[](ExtractOrder &) {}, {}},
-             {[](ExtractOrder &o) { o.folder = u"/no/such"_qs; }, {u"!/no/such\" does not exist"_qs}},
+             {[](ExtractOrder &o) { o.folder = u"/no/such"_s; }, {u"!/no/such\" does not exist"_s}},
              {[&](ExtractOrder &o) {
                   o = extractOrder({archive, copy(inThere)});
               },
-              {u"!docs.rar\" is one of the archives"_qs, u"!comes out of"_qs}},
+              {u"!docs.rar\" is one of the archives"_s, u"!comes out of"_s}},
              {[&](ExtractOrder &o) { o.shown.append(text(copy(out / "docs.rar.aes.aes"))); },
-              {u"!docs.rar.aes.aes\" is one of the archives"_qs}},
-             {there("docs.rar"), {u"docs.rar\" is there, and its name"_qs, u"?not empty"_qs}},
-             {there("docs.rar.aes"), {u"docs.rar.aes\" is there"_qs, u"?not empty"_qs}},
-             {there("docs.rar.aes.aes"), {u"docs.rar.aes.aes\" is there"_qs, u"?not empty"_qs}},
-             {there("docs.rar.aes/x"), {u"is a folder"_qs, u"?not empty"_qs}},
+              {u"!docs.rar.aes.aes\" is one of the archives"_s}},
+             {there("docs.rar"), {u"docs.rar\" is there, and its name"_s, u"?not empty"_s}},
+             {there("docs.rar.aes"), {u"docs.rar.aes\" is there"_s, u"?not empty"_s}},
+             {there("docs.rar.aes.aes"), {u"docs.rar.aes.aes\" is there"_s, u"?not empty"_s}},
+             {there("docs.rar.aes/x"), {u"is a folder"_s, u"?not empty"_s}},
              {[&](ExtractOrder &o) {
                   writeFile(out / "an edited fil\u00e9", "x"), o.asksBeforeReplacing = false;
               },
               {}},
-             {there("an edited fil\u00e9"), {u"?not empty"_qs}},
+             {there("an edited fil\u00e9"), {u"?not empty"_s}},
              {[](ExtractOrder &o) { o.password = Secret::fromText(QString(1100, u'x')); }, {}},
-             {[](ExtractOrder &o) { o.isCertificateChosen = true; }, {u"was encrypted by a password"_qs}},
-             {list({message}), {u"No private key"_qs, u"No certificate"_qs}},
+             {[](ExtractOrder &o) { o.isCertificateChosen = true; }, {u"was encrypted by a password"_s}},
+             {list({message}), {u"No private key"_s, u"No certificate"_s}},
              {[&](ExtractOrder &o) {
                   o = extractOrder({message});
-                  o.key = u"/no/key"_qs, o.certificate = text(message);
+                  o.key = u"/no/key"_s, o.certificate = text(message);
               },
-              {u"\"/no/key\" can't be read"_qs}},
-             {list({unknown}), {u"does not tell how"_qs}},
+              {u"\"/no/key\" can't be read"_s}},
+             {list({unknown}), {u"does not tell how"_s}},
              {list({archive, other}),
-              {u"docs.rar.aes\" for a while"_qs, u"docs.rar\" for a while"_qs,
-               u"docs.rar.aes.aes\" for a while"_qs}},
-             {list({archive, folder / "gone.rar"}), {u"is not there any more"_qs}},
+              {u"docs.rar.aes\" for a while"_s, u"docs.rar\" for a while"_s,
+               u"docs.rar.aes.aes\" for a while"_s}},
+             {list({archive, folder / "gone.rar"}), {u"is not there any more"_s}},
              {list({archive, folder / "a.part2.rar", folder / "b.part3.rar"}),
-              {u"a.part2.rar"_qs, u"b.part3.rar"_qs}},
+              {u"a.part2.rar"_s, u"b.part3.rar"_s}},
          }) {
         fs::remove_all(out);
         fs::create_directories(out);
@@ -90,7 +92,7 @@ TEST_F(ExtractFindings, TellWhatIsWrongAndWhatToDo)
         for (const QString &obstacle : found.obstacles)
             lines.append(u'!' + obstacle);
         if (!found.overwrites.isEmpty()) lines.append(u'?' + found.overwrites);
-        SCOPED_TRACE((c.expected.join(u'|') + u" in: "_qs + lines.join(u'\n')).toStdString());
+        SCOPED_TRACE((c.expected.join(u'|') + u" in: "_s + lines.join(u'\n')).toStdString());
         ASSERT_EQ(lines.size(), c.expected.size());
         for (qsizetype i = 0; i < lines.size(); ++i) {
             const QString part = c.expected[i];
@@ -144,19 +146,19 @@ TEST_F(ExtractFindings, AreShownAndMayBeOverruled)
         goesOn ? delegate.buttonLaunch02b() : delegate.buttonLaunch02Stop();
     });
     for (const auto &[expected, spoil] : std::vector<std::pair<QString, std::function<void()>>>{
-             {u"No extraction folder"_qs, [&] { delegate.extractPath.setText({}); }},
-             {u"not this profile's own"_qs, [&] { delegate.currentRecord().remove(u"extractpath"_qs); }},
-             {u"No archives"_qs, [&] { delegate.extractButton03Action(); }},
-             {u"No password"_qs, [&] { delegate.secureText01a.setText({}); }},
-             {u"line break"_qs, [&] { delegate.secureText01a.setText(u"correct\nhorse"_qs); }},
-             {u"No certificate"_qs, [&] { delegate.passCombo01.selectIndex(PasswordTab::Certificate); }},
+             {u"No extraction folder"_s, [&] { delegate.extractPath.setText({}); }},
+             {u"not this profile's own"_s, [&] { delegate.currentRecord().remove(u"extractpath"_s); }},
+             {u"No archives"_s, [&] { delegate.extractButton03Action(); }},
+             {u"No password"_s, [&] { delegate.secureText01a.setText({}); }},
+             {u"line break"_s, [&] { delegate.secureText01a.setText(u"correct\nhorse"_s); }},
+             {u"No certificate"_s, [&] { delegate.passCombo01.selectIndex(PasswordTab::Certificate); }},
              {text(out), [] {}},
              {text(out), [&] { goesOn = true; }},
          }) {
         SCOPED_TRACE(expected.toStdString());
         delegate.extractPath.setText(text(out));
-        delegate.currentRecord().setValue(u"extractpath"_qs, text(out));
-        delegate.secureText01a.setText(u"correct horse"_qs);
+        delegate.currentRecord().setValue(u"extractpath"_s, text(out));
+        delegate.secureText01a.setText(u"correct horse"_s);
         delegate.passCombo01.selectIndex(PasswordTab::TypedPassword);
         delegate.extractButton03Action();
         delegate.addArchives({text(archive)});

@@ -5,6 +5,8 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -132,7 +134,7 @@ TEST_F(Part, IsAskedOfOneArchive)
 
 TEST_F(Part, IsListedAndLeavesNothing)
 {
-    for (const QString &password : {u"correct horse"_qs, u"wrong"_qs}) {
+    for (const QString &password : {u"correct horse"_s, u"wrong"_s}) {
         const auto listing = std::make_shared<ArchiveListing>();
         ExtractOrder order = extractOrder({archive});
         order.listing = listing;

@@ -11,6 +11,8 @@
 #include <QDir>
 #include <QRegularExpression>
 
+using namespace Qt::StringLiterals;
+
 namespace fs = std::filesystem;
 using namespace quillorentLibrary;
 
@@ -24,19 +26,19 @@ TEST_F(Files, NamesakesAreToldApart)
         QString name;
     };
     for (const Case &c : {
-             Case{u"/a/docs"_qs, {u"/a/docs"_qs}, u"docs"_qs},
-             Case{u"/a/docs"_qs, {u"/a/docs"_qs, u"/b/docs"_qs}, u"docs-0"_qs},
-             Case{u"/b/docs/"_qs, {u"/a/docs"_qs, u"/b/docs/"_qs}, u"docs-1"_qs},
-             Case{u"/a/docs"_qs, {u"/x"_qs, u"/a/docs"_qs, u"/a/docs"_qs}, u"docs-1"_qs},
-             Case{u"/c/docs"_qs, {u"/a/docs"_qs, u"/b/docs"_qs}, u"docs--1"_qs},
-             Case{u"/c/docs"_qs, {u"/a/docs"_qs}, u"docs"_qs},
-             Case{u"/a/Docs"_qs, {u"/a/Docs"_qs, u"/b/docs"_qs}, u"Docs"_qs},
+             Case{u"/a/docs"_s, {u"/a/docs"_s}, u"docs"_s},
+             Case{u"/a/docs"_s, {u"/a/docs"_s, u"/b/docs"_s}, u"docs-0"_s},
+             Case{u"/b/docs/"_s, {u"/a/docs"_s, u"/b/docs/"_s}, u"docs-1"_s},
+             Case{u"/a/docs"_s, {u"/x"_s, u"/a/docs"_s, u"/a/docs"_s}, u"docs-1"_s},
+             Case{u"/c/docs"_s, {u"/a/docs"_s, u"/b/docs"_s}, u"docs--1"_s},
+             Case{u"/c/docs"_s, {u"/a/docs"_s}, u"docs"_s},
+             Case{u"/a/Docs"_s, {u"/a/Docs"_s, u"/b/docs"_s}, u"Docs"_s},
          })
         EXPECT_EQ(nameRepeated(c.path, c.paths), c.name) << qPrintable(c.path + c.paths.join(u' '));
-    for (const auto &[path, name] : {std::pair{u"/a/b.c"_qs, u"b.c"_qs},
-                                     {u"/a/b//"_qs, u"b"_qs},
-                                     {u"b"_qs, u"b"_qs},
-                                     {u"/"_qs, u"/"_qs},
+    for (const auto &[path, name] : {std::pair{u"/a/b.c"_s, u"b.c"_s},
+                                     {u"/a/b//"_s, u"b"_s},
+                                     {u"b"_s, u"b"_s},
+                                     {u"/"_s, u"/"_s},
                                      {QString(), QString()}})
         EXPECT_EQ(lastPathComponent(path), name);
 }
@@ -47,8 +49,7 @@ TEST_F(Files, TemporaryNamesCountMillisecondsFromTheReferenceDate)
     const qint64 before = reference.msecsTo(QDateTime::currentDateTimeUtc());
     const QString name = createTempFileName();
     const qint64 after = reference.msecsTo(QDateTime::currentDateTimeUtc());
-    const QRegularExpressionMatch match =
-        QRegularExpression(u"^(.*/)Quillorent_(\\d+)\\.txt$"_qs).match(name);
+    const QRegularExpressionMatch match = QRegularExpression(u"^(.*/)Quillorent_(\\d+)\\.txt$"_s).match(name);
     EXPECT_EQ(match.captured(1), QDir::tempPath() + u'/') << qPrintable(name);
     EXPECT_TRUE(before <= match.captured(2).toLongLong() && match.captured(2).toLongLong() <= after);
 }
@@ -81,12 +82,12 @@ TEST_F(Files, PathsAndLinksAreFollowedAsFarAsTheyMay)
                                        {QString(), false}})
         EXPECT_EQ(folderExists(path), exists) << qPrintable(path);
 
-    EXPECT_EQ(translatePath({u"~/Documents"_qs, program.path("home/../home//Documents/./file"),
-                             program.path("missing"), u"~"_qs}),
+    EXPECT_EQ(translatePath({u"~/Documents"_s, program.path("home/../home//Documents/./file"),
+                             program.path("missing"), u"~"_s}),
               (QStringList{program.path("home/Documents"), program.path("home/Documents/file"),
                            program.path("home")}));
 
-    EXPECT_EQ(stringByConditionallyResolvingSymlink(program.path("absolute")), u"/usr/bin/env"_qs);
+    EXPECT_EQ(stringByConditionallyResolvingSymlink(program.path("absolute")), u"/usr/bin/env"_s);
     EXPECT_EQ(stringByConditionallyResolvingSymlink(program.path("relative")), std::nullopt);
     EXPECT_EQ(stringByConditionallyResolvingSymlink(program.path("home")), program.path("home"));
     EXPECT_EQ(stringByConditionallyResolvingAlias(program.path("absolute")), std::nullopt);

@@ -8,6 +8,8 @@
 #include <future>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 using Generic = EMGenericKeychainItem;
 using Internet = EMInternetKeychainItem;
@@ -16,7 +18,7 @@ using Status = KeychainStatus;
 
 namespace {
 
-const QString service = u"com.brolvanek.Quillorent.encrypt"_qs;
+const QString service = u"com.brolvanek.Quillorent.encrypt"_s;
 
 class KeychainTest : public testing::Test {
 protected:
@@ -43,7 +45,7 @@ std::shared_ptr<Generic> add(const QString &account, const QString &password, St
 QString stored(const QString &account, const QString &ofService = service, Status *status = nullptr)
 {
     const auto item = Generic::genericKeychainItemForService(ofService, account, status);
-    return !item || item->password().isNull() ? u"none"_qs : u"it is "_qs + item->password();
+    return !item || item->password().isNull() ? u"none"_s : u"it is "_s + item->password();
 }
 
 Status statusOf(const QString &account)
@@ -53,7 +55,7 @@ Status statusOf(const QString &account)
     return status;
 }
 
-Status statusOfAdding(const QString &account, const QString &password = u"pw"_qs)
+Status statusOfAdding(const QString &account, const QString &password = u"pw"_s)
 {
     Status status{};
     add(account, password, &status);
@@ -62,13 +64,13 @@ Status statusOfAdding(const QString &account, const QString &password = u"pw"_qs
 
 std::shared_ptr<Internet> addInternet(const QString &server, const QString &path, int port, quint32 protocol)
 {
-    return Internet::addInternetKeychainItemForServer(server, u"alice"_qs, u"of "_qs + server, path, port,
+    return Internet::addInternetKeychainItemForServer(server, u"alice"_s, u"of "_s + server, path, port,
                                                       protocol);
 }
 
 std::shared_ptr<Internet> findInternet(const QString &server, const QString &path, int port, quint32 protocol)
 {
-    return Internet::internetKeychainItemForServer(server, u"alice"_qs, path, port, protocol);
+    return Internet::internetKeychainItemForServer(server, u"alice"_s, path, port, protocol);
 }
 
 /// The same characters in another place.
@@ -96,32 +98,32 @@ void keepLog(QtMsgType, const QMessageLogContext &, const QString &text) { logge
 
 TEST_F(KeychainTest, GivesBackWhatItKeepsAndOverwritesNothing)
 {
-    for (const QString &password : {u"correct horse"_qs, u""_qs, u"pâss wörd ✓ \U0001F511"_qs,
-                                    u" two\nlines\t"_qs, QString(5000, u'x')}) {
-        const QString account = u"account %1 ü"_qs.arg(password.size());
-        EXPECT_EQ(stored(account), u"none"_qs);
+    for (const QString &password :
+         {u"correct horse"_s, u""_s, u"pâss wörd ✓ \U0001F511"_s, u" two\nlines\t"_s, QString(5000, u'x')}) {
+        const QString account = u"account %1 ü"_s.arg(password.size());
+        EXPECT_EQ(stored(account), u"none"_s);
         const auto added = add(account, password);
         ASSERT_TRUE(added);
         EXPECT_EQ(added->username() + added->serviceName(), account + service);
         EXPECT_TRUE(added->label().isNull());
-        EXPECT_EQ(statusOfAdding(account, u"another"_qs), Status::DuplicateItem);
-        EXPECT_EQ(stored(account), u"it is "_qs + password);
-        EXPECT_EQ(stored(account, u"other"_qs), u"none"_qs);
+        EXPECT_EQ(statusOfAdding(account, u"another"_s), Status::DuplicateItem);
+        EXPECT_EQ(stored(account), u"it is "_s + password);
+        EXPECT_EQ(stored(account, u"other"_s), u"none"_s);
     }
     // Nor does a change make two of what can't be told apart.
-    const auto bob = add(u"bob"_qs, u"bob's"_qs);
-    ASSERT_TRUE(add(u"alice"_qs, u"pw"_qs) && bob);
-    bob->setUsername(u"alice"_qs);
-    EXPECT_EQ(stored(u"bob"_qs), u"it is bob's"_qs);
+    const auto bob = add(u"bob"_s, u"bob's"_s);
+    ASSERT_TRUE(add(u"alice"_s, u"pw"_s) && bob);
+    bob->setUsername(u"alice"_s);
+    EXPECT_EQ(stored(u"bob"_s), u"it is bob's"_s);
 }
 
 TEST_F(KeychainTest, FindsInternetPasswordsByAllTheirParts)
 {
     const quint32 ftp = keychainProtocol::ftp;
     const quint32 ftpAccount = keychainProtocol::ftpAccount;
-    const auto item = addInternet(u"host"_qs, {}, 70000, ftpAccount);
-    ASSERT_TRUE(item && addInternet(u"deep"_qs, u"/a b"_qs, 21, ftp));
-    EXPECT_FALSE(addInternet(u"host"_qs, u""_qs, 70000, ftpAccount)) << "a null path is the empty one";
+    const auto item = addInternet(u"host"_s, {}, 70000, ftpAccount);
+    ASSERT_TRUE(item && addInternet(u"deep"_s, u"/a b"_s, 21, ftp));
+    EXPECT_FALSE(addInternet(u"host"_s, u""_s, 70000, ftpAccount)) << "a null path is the empty one";
     struct Case {
         QString server;
         QString path;
@@ -130,13 +132,13 @@ TEST_F(KeychainTest, FindsInternetPasswordsByAllTheirParts)
         quint32 foundProtocol; ///< 0: not found
     };
     for (const Case &c : {
-             Case{u"host"_qs, {}, 70000, ftpAccount, ftpAccount},
-             Case{u"host"_qs, u""_qs, 70000 & 0xFFFF, ftp, ftpAccount},
-             Case{u"host"_qs, {}, 21, ftp, 0},
-             Case{u"host"_qs, u"/"_qs, 70000, ftp, 0},
-             Case{u"deep"_qs, u"/a b"_qs, 21 + 65536, ftp, ftp},
-             Case{u"deep"_qs, {}, 21, ftp, 0},
-             Case{u"deep"_qs, u"/a b"_qs, 21, ftpAccount, 0},
+             Case{u"host"_s, {}, 70000, ftpAccount, ftpAccount},
+             Case{u"host"_s, u""_s, 70000 & 0xFFFF, ftp, ftpAccount},
+             Case{u"host"_s, {}, 21, ftp, 0},
+             Case{u"host"_s, u"/"_s, 70000, ftp, 0},
+             Case{u"deep"_s, u"/a b"_s, 21 + 65536, ftp, ftp},
+             Case{u"deep"_s, {}, 21, ftp, 0},
+             Case{u"deep"_s, u"/a b"_s, 21, ftpAccount, 0},
          }) {
         SCOPED_TRACE(testing::Message() << c.server.toStdString() << ' ' << c.port << ' ' << c.protocol);
         const auto found = findInternet(c.server, c.path, c.port, c.protocol);
@@ -145,64 +147,64 @@ TEST_F(KeychainTest, FindsInternetPasswordsByAllTheirParts)
         EXPECT_EQ(found->protocol(), c.foundProtocol);
         EXPECT_EQ(found->port(), c.port);
         EXPECT_EQ(found->path().isNull(), c.path.isNull());
-        EXPECT_EQ(found->password(), u"of "_qs + c.server);
+        EXPECT_EQ(found->password(), u"of "_s + c.server);
     }
-    item->setServer(u"server"_qs);
-    item->setPath(u"/path"_qs);
+    item->setServer(u"server"_s);
+    item->setPath(u"/path"_s);
     item->setPort(2121);
     item->setProtocol(fourCharacterCode("ftps"));
-    EXPECT_TRUE(findInternet(u"server"_qs, u"/path"_qs, 2121, fourCharacterCode("ftps")));
+    EXPECT_TRUE(findInternet(u"server"_s, u"/path"_s, 2121, fourCharacterCode("ftps")));
 }
 
 TEST_F(KeychainTest, WritesEachPropertyAtOnce)
 {
-    const auto item = add(u"alice"_qs, u"old"_qs);
+    const auto item = add(u"alice"_s, u"old"_s);
     ASSERT_TRUE(item);
     session.start(); // it knows its items by their attributes
-    item->setUsername(u"bob"_qs);
-    item->setServiceName(u"elsewhere"_qs);
-    item->setPassword(u"new"_qs);
-    EXPECT_EQ(stored(u"bob"_qs, u"elsewhere"_qs), u"it is new"_qs);
-    EXPECT_EQ(stored(u"alice"_qs), u"none"_qs);
+    item->setUsername(u"bob"_s);
+    item->setServiceName(u"elsewhere"_s);
+    item->setPassword(u"new"_s);
+    EXPECT_EQ(stored(u"bob"_s, u"elsewhere"_s), u"it is new"_s);
+    EXPECT_EQ(stored(u"alice"_s), u"none"_s);
     item->setPassword({});
-    EXPECT_EQ(stored(u"bob"_qs, u"elsewhere"_qs), u"it is new"_qs);
+    EXPECT_EQ(stored(u"bob"_s, u"elsewhere"_s), u"it is new"_s);
     EXPECT_TRUE(item->password().isNull());
 
     // The same object says that nothing changed; an equal one is written.
-    const auto one = add(equalCopy(u"carol"_qs), u"pw"_qs);
-    const auto other = Generic::genericKeychainItemForService(service, u"carol"_qs);
+    const auto one = add(equalCopy(u"carol"_s), u"pw"_s);
+    const auto other = Generic::genericKeychainItemForService(service, u"carol"_s);
     ASSERT_TRUE(one && other);
-    other->setUsername(u"dave"_qs);
+    other->setUsername(u"dave"_s);
     one->setUsername(one->username());
-    EXPECT_EQ(stored(u"carol"_qs), u"none"_qs);
+    EXPECT_EQ(stored(u"carol"_s), u"none"_s);
     one->setUsername(equalCopy(one->username()));
-    EXPECT_EQ(stored(u"carol"_qs), u"it is pw"_qs);
+    EXPECT_EQ(stored(u"carol"_s), u"it is pw"_s);
 }
 
 TEST_F(KeychainTest, RemovesAnItemOnceAndNoneWhileItIsLocked)
 {
-    const auto item = add(u"alice"_qs, u"pw"_qs);
+    const auto item = add(u"alice"_s, u"pw"_s);
     ASSERT_TRUE(item);
     ASSERT_EQ(Generic::lockKeychain(), Status::Success);
-    item->setUsername(u"carol"_qs);
+    item->setUsername(u"carol"_s);
     item->removeFromKeychain();
-    EXPECT_EQ(item->username(), u"carol"_qs);
-    EXPECT_EQ(failureOf([&] { item->setUsername(u"alice"_qs); }), "none") << "the item is not gone";
+    EXPECT_EQ(item->username(), u"carol"_s);
+    EXPECT_EQ(failureOf([&] { item->setUsername(u"alice"_s); }), "none") << "the item is not gone";
     session.start();
-    EXPECT_EQ(stored(u"alice"_qs), u"it is pw"_qs);
+    EXPECT_EQ(stored(u"alice"_s), u"it is pw"_s);
 
     item->removeFromKeychain();
-    EXPECT_EQ(statusOf(u"alice"_qs), Status::ItemNotFound);
+    EXPECT_EQ(statusOf(u"alice"_s), Status::ItemNotFound);
     EXPECT_EQ(
         failureOf([&] { item->removeFromKeychain(); }),
         "EMKeychainItem: Core keychain item is nil. You cannot remove a keychain item that is not in the "
         "keychain already.");
-    for (const QString &name : {u"bob"_qs, u"carol"_qs}) // twice: the failure must not leave it locked
+    for (const QString &name : {u"bob"_s, u"carol"_s}) // twice: the failure must not leave it locked
         EXPECT_EQ(
             failureOf([&] { item->setUsername(name); }),
             "EMKeychainItem: Core keychain item is nil. You cannot modify a keychain item that is not in "
             "the keychain.");
-    EXPECT_EQ(failureOf([&] { item->setPassword(u"new"_qs); }), "none");
+    EXPECT_EQ(failureOf([&] { item->setPassword(u"new"_s); }), "none");
 }
 
 TEST_F(KeychainTest, RefusesWhatNoItemHasAndSaysWhy)
@@ -211,15 +213,15 @@ TEST_F(KeychainTest, RefusesWhatNoItemHasAndSaysWhy)
     logged().clear();
     const QtMessageHandler before = qInstallMessageHandler(keepLog);
     EXPECT_EQ(statusOf({}), Status::InvalidValue);
-    EXPECT_EQ(statusOfAdding(u"alice"_qs, {}), Status::InvalidValue);
+    EXPECT_EQ(statusOfAdding(u"alice"_s, {}), Status::InvalidValue);
     EXPECT_FALSE(findInternet({}, {}, 0, 0));
     EXPECT_TRUE(logged().isEmpty()) << "an argument that is missing is no error";
-    EXPECT_EQ(statusOf(u"alice"_qs), Status::ItemNotFound);
-    EXPECT_EQ(statusOf(u"nul\0l"_qs), Status::InvalidValue);
-    EXPECT_EQ(statusOfAdding(u"nul\0l"_qs, u"sesame"_qs), Status::InvalidValue);
+    EXPECT_EQ(statusOf(u"alice"_s), Status::ItemNotFound);
+    EXPECT_EQ(statusOf(u"nul\0l"_s), Status::InvalidValue);
+    EXPECT_EQ(statusOfAdding(u"nul\0l"_s, u"sesame"_s), Status::InvalidValue);
     qInstallMessageHandler(before);
     ASSERT_EQ(logged().size(), 3);
-    EXPECT_EQ(logged().first(), u"Error (genericKeychainItemForService:withUsername:) - %1"_qs.arg(
+    EXPECT_EQ(logged().first(), u"Error (genericKeychainItemForService:withUsername:) - %1"_s.arg(
                                     keychain()->statusText(Status::ItemNotFound)));
     EXPECT_FALSE(logged().join(u' ').contains(u"sesame"));
 
@@ -252,8 +254,8 @@ TEST_F(KeychainTest, SaysInWhichStateTheServiceIs)
          }) {
         SCOPED_TRACE(c.name);
         c.enter();
-        EXPECT_EQ(statusOf(u"alice"_qs), c.find);
-        EXPECT_EQ(statusOfAdding(u"alice"_qs), c.add);
+        EXPECT_EQ(statusOf(u"alice"_s), c.find);
+        EXPECT_EQ(statusOfAdding(u"alice"_s), c.add);
         EXPECT_EQ(keychain()->unlock(), c.unlock);
     }
     setenv("DBUS_SESSION_BUS_ADDRESS", bus.c_str(), 1);
@@ -265,20 +267,19 @@ TEST_F(KeychainTest, DoesNotWaitForAServiceThatIsSilent)
     const auto item = keychain()->addGenericPassword({"service", "bob"}, Secret("pw")).item;
     session.freeze();
     for (const Status status :
-         {statusOf(u"alice"_qs), statusOfAdding(u"alice"_qs), keychain()->deleteItem(item),
+         {statusOf(u"alice"_s), statusOfAdding(u"alice"_s), keychain()->deleteItem(item),
           keychain()->modifyAttributesAndData(item, {}, Secret("new")), keychain()->lock(),
           keychain()->unlock()})
         EXPECT_EQ(status, Status::NotAnswering);
     session.thaw();
     setKeychain(std::make_shared<SecretServiceKeychain>());
-    EXPECT_EQ(statusOf(u"alice"_qs), Status::ItemNotFound)
-        << "what was given up has been stored all the same";
-    EXPECT_EQ(stored(u"bob"_qs, u"service"_qs), u"it is pw"_qs);
+    EXPECT_EQ(statusOf(u"alice"_s), Status::ItemNotFound) << "what was given up has been stored all the same";
+    EXPECT_EQ(stored(u"bob"_s, u"service"_s), u"it is pw"_s);
 
     // Nor is it waited for when the program quits.
     setKeychain(std::make_shared<SecretServiceKeychain>(10min));
     session.freeze();
-    auto asked = std::async(std::launch::async, [] { return statusOf(u"alice"_qs); });
+    auto asked = std::async(std::launch::async, [] { return statusOf(u"alice"_s); });
     while (asked.wait_for(10ms) != std::future_status::ready)
         keychain()->giveUp();
     EXPECT_EQ(asked.get(), Status::Cancelled);

@@ -9,6 +9,8 @@
 #include "keys/CertificateSummary.h"
 #include "tools/Threads.h"
 
+using namespace Qt::StringLiterals;
+
 using namespace quillorentLibrary;
 using namespace std::chrono_literals;
 namespace fs = std::filesystem;
@@ -54,7 +56,7 @@ protected:
     {
         delegate.openPanel = [&](const outlets::OpenPanel &panel) {
             EXPECT_EQ(panel.allowedFileTypes.join(u' '),
-                      u"cer p12 p15 crt der pem pfx cert txt rtf pk12 pk15 pkcs12"_qs);
+                      u"cer p12 p15 crt der pem pfx cert txt rtf pk12 pk15 pkcs12"_s);
             return name == u"-" ? QStringList() : QStringList{file(name)};
         };
         action(delegate);
@@ -105,14 +107,14 @@ TEST_F(Certificates, AreKeptWhereTheyAreOfUseAndRefusedWithTheReason)
           Case{"damaged.pem", "damaged"}, Case{"notes.txt", "no PEM certificate"}}) {
         EXPECT_TRUE(isJudged(chooseCertificate(QLatin1String(name)), words)) << name;
         if (!*words) last = file(QLatin1String(name));
-        EXPECT_EQ(kept(u"lastcertfile"_qs), last);
+        EXPECT_EQ(kept(u"lastcertfile"_s), last);
         EXPECT_EQ(delegate.certFile01.text(), last);
     }
 }
 
 TEST_F(Certificates, TakeTheKeyThatBelongsToThem)
 {
-    EXPECT_TRUE(chooseKey(u"anna-key.pem"_qs).contains(u"No certificate is chosen yet"));
+    EXPECT_TRUE(chooseKey(u"anna-key.pem"_s).contains(u"No certificate is chosen yet"));
     QString last;
     using Case = std::tuple<const char *, const char *, const char *>;
     for (const auto &[certificate, key, words] :
@@ -130,34 +132,34 @@ TEST_F(Certificates, TakeTheKeyThatBelongsToThem)
         delegate.certFile01.setText(file(QLatin1String(certificate)));
         EXPECT_TRUE(isJudged(chooseKey(QLatin1String(key)), words)) << certificate << ' ' << key;
         if (!*words) last = file(QLatin1String(key));
-        EXPECT_EQ(kept(u"lastpkfile"_qs), last);
+        EXPECT_EQ(kept(u"lastpkfile"_s), last);
         EXPECT_EQ(delegate.pkFile01.text(), last);
     }
 
     const Stub stub(program.folder(), "openssl", "bad-bytes");
-    program.useTool(u"OpenSSL"_qs, stub.path());
-    EXPECT_FALSE(showKey(file(u"anna-key.pem"_qs)));
-    EXPECT_EQ(showCert(file(u"anna.pem"_qs)), QString());
-    EXPECT_FALSE(testKey(file(u"anna.pem"_qs), file(u"anna-key.pem"_qs)));
+    program.useTool(u"OpenSSL"_s, stub.path());
+    EXPECT_FALSE(showKey(file(u"anna-key.pem"_s)));
+    EXPECT_EQ(showCert(file(u"anna.pem"_s)), QString());
+    EXPECT_FALSE(testKey(file(u"anna.pem"_s), file(u"anna-key.pem"_s)));
 }
 
 TEST_F(Certificates, AnAnswerThatComesLateStaysWithItsProfile)
 {
     const QString first = delegate.currentProfile();
-    delegate.listPlist().setValue(u"other"_qs, plist::Dictionary::make());
-    delegate.openPanel = [](const outlets::OpenPanel &) { return QStringList{file(u"anna.pem"_qs)}; };
+    delegate.listPlist().setValue(u"other"_s, plist::Dictionary::make());
+    delegate.openPanel = [](const outlets::OpenPanel &) { return QStringList{file(u"anna.pem"_s)}; };
     // The file is looked at while the other profile is opened.
     const fs::path tool = program.folder() / "openssl";
     writeFile(tool, "#!/bin/sh\ncase \"$*\" in *anna*) until [ -e \"$0.go-on\" ]; do sleep 0.01; done;; "
                     "esac\nexec openssl \"$@\"\n");
     fs::permissions(tool, fs::perms::owner_all);
-    program.useTool(u"OpenSSL"_qs, tool);
+    program.useTool(u"OpenSSL"_s, tool);
     delegate.certButton01Action();
-    delegate.setterCurrentProfile(u"other"_qs);
+    delegate.setterCurrentProfile(u"other"_s);
     writeFile(tool.string() + ".go-on", "");
     ASSERT_TRUE(waitForThreads(60s));
     EXPECT_EQ(delegate.certFile01.text(), QString());
-    EXPECT_EQ(delegate.listPlist().dictionary(first).string(u"lastcertfile"_qs), file(u"anna.pem"_qs));
+    EXPECT_EQ(delegate.listPlist().dictionary(first).string(u"lastcertfile"_s), file(u"anna.pem"_s));
 
     // Nor does a choice come back that another one has followed.
     struct Choice {
@@ -166,14 +168,14 @@ TEST_F(Certificates, AnAnswerThatComesLateStaysWithItsProfile)
         outlets::TextField *field;
     };
     for (const Choice &choice :
-         {Choice{[&] { delegate.certButton01Action(); }, u".pem"_qs, &delegate.certFile01},
-          Choice{[&] { delegate.pkButton01Action(); }, u"-key.pem"_qs, &delegate.pkFile01}}) {
+         {Choice{[&] { delegate.certButton01Action(); }, u".pem"_s, &delegate.certFile01},
+          Choice{[&] { delegate.pkButton01Action(); }, u"-key.pem"_s, &delegate.pkFile01}}) {
         const auto chosen = [&](const QString &name) { return file(name + choice.extension); };
         fs::remove(tool.string() + ".go-on");
-        QString name = u"anna"_qs;
+        QString name = u"anna"_s;
         delegate.openPanel = [&](const outlets::OpenPanel &) { return QStringList{chosen(name)}; };
         choice.action();
-        name = u"bert"_qs;
+        name = u"bert"_s;
         choice.action();
         EXPECT_TRUE(TestProgram::waitUntil([&] { return choice.field->text() == chosen(name); }));
         writeFile(tool.string() + ".go-on", "");
@@ -188,7 +190,7 @@ TEST_F(Certificates, TellWhomTheyAreForAndHowLong)
     const auto warning = [&](const char *name) {
         return validityWarning(summary(name), QDateTime::currentDateTimeUtc());
     };
-    EXPECT_EQ(summary("same-key.pem").subject, u"CN=Grüße,O=Other"_qs);
+    EXPECT_EQ(summary("same-key.pem").subject, u"CN=Grüße,O=Other"_s);
     EXPECT_TRUE(describeCertificate(summary("old.pem")).contains(u"1 Jan 2021"));
     EXPECT_EQ(warning("anna.pem"), QString());
     EXPECT_TRUE(warning("soon.pem").contains(u"in 4 days") || warning("soon.pem").contains(u"in 5 days"));
@@ -196,21 +198,21 @@ TEST_F(Certificates, TellWhomTheyAreForAndHowLong)
     EXPECT_TRUE(validityWarning(anna, anna.notBefore.addSecs(-1)).contains(u"not valid before"));
     EXPECT_TRUE(validityWarning(anna, anna.notAfter.addSecs(-1)).contains(u"today"));
     // A name that makes the tool's complaint look like a certificate's text.
-    for (const QString &none : {u"anna.der"_qs, u"Validity.txt"_qs})
+    for (const QString &none : {u"anna.der"_s, u"Validity.txt"_s})
         EXPECT_FALSE(readCertificateSummary(file(none))) << qPrintable(none);
 
-    chooseCertificate(u"anna.pem"_qs);
+    chooseCertificate(u"anna.pem"_s);
     EXPECT_TRUE(delegate.certWarning01.isHidden());
     EXPECT_TRUE(delegate.pkWarning01.text().contains(u"No private key"));
-    chooseKey(u"anna-key.pem"_qs);
+    chooseKey(u"anna-key.pem"_s);
     EXPECT_TRUE(delegate.pkWarning01.isHidden());
-    chooseCertificate(u"bert.pem"_qs);
+    chooseCertificate(u"bert.pem"_s);
     EXPECT_TRUE(delegate.pkWarning01.text().contains(u"does not belong"));
     EXPECT_TRUE(delegate.certSummary01.text().contains(u"RSA, 2048 bits"));
-    chooseCertificate(u"ec.pem"_qs);
+    chooseCertificate(u"ec.pem"_s);
     EXPECT_TRUE(delegate.certSummary01.text().contains(u"EC, 256 bits"));
     EXPECT_TRUE(delegate.certWarning01.text().contains(u"another kind than RSA"));
-    delegate.pkFile01.setText(file(u"missing.pem"_qs));
+    delegate.pkFile01.setText(file(u"missing.pem"_s));
     delegate.describeKeys();
     ASSERT_TRUE(waitForThreads(60s));
     EXPECT_TRUE(delegate.pkWarning01.text().contains(u"not where it was"));
@@ -218,15 +220,15 @@ TEST_F(Certificates, TellWhomTheyAreForAndHowLong)
 
 TEST_F(Certificates, AreShownInTheConsole)
 {
-    delegate.consoleTextView01.setText(u"before"_qs);
+    delegate.consoleTextView01.setText(u"before"_s);
     delegate.certInfo01();
     delegate.certInfo02();
-    EXPECT_EQ(delegate.consoleTextView01.text(), u"before"_qs);
-    delegate.certFile01.setText(file(u"anna.pem"_qs));
-    delegate.pkFile01.setText(file(u"anna-key.pem"_qs));
+    EXPECT_EQ(delegate.consoleTextView01.text(), u"before"_s);
+    delegate.certFile01.setText(file(u"anna.pem"_s));
+    delegate.pkFile01.setText(file(u"anna-key.pem"_s));
     using Show = std::pair<std::function<void(QuillorentAppDelegate &)>, QString>;
-    for (const auto &[action, words] : {Show{&QuillorentAppDelegate::certInfo01, u"Certificate:"_qs},
-                                        {&QuillorentAppDelegate::certInfo02, u"PRIVATE KEY-----"_qs}}) {
+    for (const auto &[action, words] : {Show{&QuillorentAppDelegate::certInfo01, u"Certificate:"_s},
+                                        {&QuillorentAppDelegate::certInfo02, u"PRIVATE KEY-----"_s}}) {
         action(delegate);
         ASSERT_TRUE(waitForThreads(60s));
         EXPECT_TRUE(delegate.consoleTextView01.text().contains(words));

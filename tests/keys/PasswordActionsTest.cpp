@@ -5,11 +5,13 @@
 #include "keys/Strength.h"
 #include "tools/Threads.h"
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
 
-const QString service = u"com.brolvanek.Quillorent.encrypt"_qs;
+const QString service = u"com.brolvanek.Quillorent.encrypt"_s;
 
 /// The program beside a keychain.
 class PasswordActions : public ProgramTest {
@@ -39,19 +41,19 @@ protected:
 // Which of the keychain's fields counts follows the typed password's switch, storing and fetching their own.
 TEST_F(PasswordActions, EachSourceHasItsText)
 {
-    delegate.secureText01a.setText(u"typed, masked"_qs);
-    delegate.secureText01b.setText(u"typed, clear"_qs);
-    delegate.keychainPass.setText(u"keychain, masked"_qs);
-    delegate.keychainClear.setText(u"keychain, clear"_qs);
+    delegate.secureText01a.setText(u"typed, masked"_s);
+    delegate.secureText01b.setText(u"typed, clear"_s);
+    delegate.keychainPass.setText(u"keychain, masked"_s);
+    delegate.keychainClear.setText(u"keychain, clear"_s);
     struct Case {
         int source;
         bool isMasked;
         QString password;
     };
     for (const auto &[source, isMasked, password] :
-         {Case{-1, true, u"typed, masked"_qs}, Case{0, true, u"typed, masked"_qs},
-          Case{0, false, u"typed, clear"_qs}, Case{1, true, u"keychain, masked"_qs},
-          Case{1, false, u"keychain, clear"_qs}, Case{2, true, QString()}, Case{3, true, QString()}}) {
+         {Case{-1, true, u"typed, masked"_s}, Case{0, true, u"typed, masked"_s},
+          Case{0, false, u"typed, clear"_s}, Case{1, true, u"keychain, masked"_s},
+          Case{1, false, u"keychain, clear"_s}, Case{2, true, QString()}, Case{3, true, QString()}}) {
         delegate.passCombo01.selectIndex(source);
         delegate.checkBox01.setOn(isMasked);
         delegate.checkBox02.setOn(!isMasked);
@@ -59,49 +61,49 @@ TEST_F(PasswordActions, EachSourceHasItsText)
         EXPECT_EQ(delegate.pkeySelector(), source != 2) << source;
     }
     delegate.passCombo01.selectIndex(PasswordTab::Certificate);
-    delegate.certFile01.setText(u"/keys/anna.pem"_qs);
-    EXPECT_EQ(delegate.passwordSelector(), u"/keys/anna.pem"_qs);
+    delegate.certFile01.setText(u"/keys/anna.pem"_s);
+    EXPECT_EQ(delegate.passwordSelector(), u"/keys/anna.pem"_s);
 }
 
 TEST_F(PasswordActions, StoresAndFetchesByTheShownField)
 {
-    delegate.keychainUser.setText(u"holiday"_qs);
-    delegate.keychainPass.setText(u"fjord ¤ 7"_qs);
+    delegate.keychainUser.setText(u"holiday"_s);
+    delegate.keychainPass.setText(u"fjord ¤ 7"_s);
     answerTo(storing);
-    EXPECT_EQ(kept(u"lastkeychainuser"_qs), u"holiday"_qs);
+    EXPECT_EQ(kept(u"lastkeychainuser"_s), u"holiday"_s);
     delegate.checkBox02.setOn(false);
     delegate.checkBox02Action();
     EXPECT_TRUE(delegate.keychainPass.isHidden() && !delegate.keychainClear.isHidden());
-    EXPECT_EQ(delegate.keychainOrigin.text(), u"holiday"_qs);
-    EXPECT_EQ(delegate.keychainClear.text(), u"fjord ¤ 7"_qs);
-    delegate.keychainClear.setText(u"another one"_qs);
+    EXPECT_EQ(delegate.keychainOrigin.text(), u"holiday"_s);
+    EXPECT_EQ(delegate.keychainClear.text(), u"fjord ¤ 7"_s);
+    delegate.keychainClear.setText(u"another one"_s);
     EXPECT_TRUE(answerTo(storing).contains(u"already"));
     answerTo(fetching);
-    EXPECT_EQ(delegate.keychainClear.text(), u"fjord ¤ 7"_qs) << "an add must never replace";
+    EXPECT_EQ(delegate.keychainClear.text(), u"fjord ¤ 7"_s) << "an add must never replace";
 
-    delegate.keychainUser.setText(u"nobody"_qs);
+    delegate.keychainUser.setText(u"nobody"_s);
     EXPECT_TRUE(answerTo(fetching).contains(u"no password of \"nobody\""));
     EXPECT_EQ(delegate.keychainClear.text(), QString());
-    EXPECT_EQ(kept(u"lastkeychainuser"_qs), u"nobody"_qs);
+    EXPECT_EQ(kept(u"lastkeychainuser"_s), u"nobody"_s);
 }
 
 TEST_F(PasswordActions, OpeningAProfileFetchesItsPassword)
 {
-    store(u"holiday"_qs, u"fjord"_qs);
+    store(u"holiday"_s, u"fjord"_s);
     const QString first = delegate.currentProfile();
     const plist::Dictionary record = delegate.currentRecord().deepCopy();
-    record.setValue(u"passtype"_qs, PasswordTab::KeychainPassword);
-    record.setValue(u"lastkeychainuser"_qs, u"holiday"_qs);
-    delegate.listPlist().setValue(u"Second"_qs, record);
-    delegate.setterCurrentProfile(u"Second"_qs);
+    record.setValue(u"passtype"_s, PasswordTab::KeychainPassword);
+    record.setValue(u"lastkeychainuser"_s, u"holiday"_s);
+    delegate.listPlist().setValue(u"Second"_s, record);
+    delegate.setterCurrentProfile(u"Second"_s);
     EXPECT_TRUE(delegate.keychainIndicator01.isAnimating());
     ASSERT_TRUE(waitForThreads(60s));
     EXPECT_FALSE(delegate.keychainIndicator01.isAnimating());
-    EXPECT_EQ(delegate.passwordSelector(), u"fjord"_qs);
+    EXPECT_EQ(delegate.passwordSelector(), u"fjord"_s);
 
     // What was asked for the profile before must not come out in the next.
     session.freeze();
-    delegate.setterCurrentProfile(u"Second"_qs);
+    delegate.setterCurrentProfile(u"Second"_s);
     delegate.setterCurrentProfile(first);
     session.thaw();
     ASSERT_TRUE(waitForThreads(60s));
@@ -112,12 +114,12 @@ TEST_F(PasswordActions, OpeningAProfileFetchesItsPassword)
 TEST_F(PasswordActions, SaysWhatIsTheMatterWithTheKeychain)
 {
     using Keyring = SecretService::Keyring;
-    store(u"holiday"_qs, u"fjord"_qs);
-    delegate.keychainUser.setText(u"holiday"_qs);
+    store(u"holiday"_s, u"fjord"_s);
+    delegate.keychainUser.setText(u"holiday"_s);
     for (const auto &[action, typed, unlocked, password] :
-         {std::tuple(fetching, u""_qs, u"was fetched"_qs, u"fjord"_qs),
-          {fetching, u"typed"_qs, u"is unlocked"_qs, u"typed"_qs},
-          {storing, u"typed"_qs, u"is unlocked"_qs, u"typed"_qs}}) {
+         {std::tuple(fetching, u""_s, u"was fetched"_s, u"fjord"_s),
+          {fetching, u"typed"_s, u"is unlocked"_s, u"typed"_s},
+          {storing, u"typed"_s, u"is unlocked"_s, u"typed"_s}}) {
         session.start(Keyring::Locked);
         delegate.keychainPass.setText(typed);
         delegate.keychainFieldEdited();
@@ -131,7 +133,7 @@ TEST_F(PasswordActions, SaysWhatIsTheMatterWithTheKeychain)
     }
     session.stop();
     EXPECT_TRUE(answerTo(fetching).contains(u"No keychain service runs"));
-    EXPECT_EQ(delegate.keychainPass.text(), u"typed"_qs);
+    EXPECT_EQ(delegate.keychainPass.text(), u"typed"_s);
 }
 
 // What is of no use neither takes the place of what is there, nor is it called fetched or stored.
@@ -144,22 +146,22 @@ TEST_F(PasswordActions, RefusesWhatNoArchiveCanBeEncryptedWith)
         bool isStored;
     };
     for (const auto &[secret, words, isFetched, isStored] :
-         {Case{"fjord", u"was fetched"_qs, true, true}, Case{"", u"No password is given"_qs, true, true},
-          Case{QByteArray("a\0b", 3), u"zero byte"_qs, false, false},
-          Case{"a\nb", u"line break"_qs, false, false}, Case{QByteArray(1024, 'x'), u"1023"_qs, false, false},
-          Case{"\xff", u"no text"_qs, false, true}}) {
+         {Case{"fjord", u"was fetched"_s, true, true}, Case{"", u"No password is given"_s, true, true},
+          Case{QByteArray("a\0b", 3), u"zero byte"_s, false, false},
+          Case{"a\nb", u"line break"_s, false, false}, Case{QByteArray(1024, 'x'), u"1023"_s, false, false},
+          Case{"\xff", u"no text"_s, false, true}}) {
         SCOPED_TRACE(words.toStdString());
-        const QString account = u"account of "_qs + words;
+        const QString account = u"account of "_s + words;
         ASSERT_EQ(keychain()->addGenericPassword({service.toUtf8(), account.toUtf8()}, Secret(secret)).status,
                   KeychainStatus::Success);
-        delegate.keychainPass.setText(u"former"_qs);
-        delegate.keychainOrigin.setText(u"other"_qs);
+        delegate.keychainPass.setText(u"former"_s);
+        delegate.keychainOrigin.setText(u"other"_s);
         delegate.keychainUser.setText(account);
         const QString answer = answerTo(fetching);
         EXPECT_TRUE(answer.contains(words)) << qPrintable(answer);
-        EXPECT_EQ(delegate.keychainPass.text(), isFetched ? QString::fromUtf8(secret) : u"former"_qs);
-        EXPECT_EQ(delegate.keychainOrigin.text(), !isFetched         ? u"other"_qs
-                                                  : secret.isEmpty() ? u""_qs
+        EXPECT_EQ(delegate.keychainPass.text(), isFetched ? QString::fromUtf8(secret) : u"former"_s);
+        EXPECT_EQ(delegate.keychainOrigin.text(), !isFetched         ? u"other"_s
+                                                  : secret.isEmpty() ? u""_s
                                                                      : account);
 
         delegate.keychainUser.setText(account + u'2');
@@ -171,9 +173,9 @@ TEST_F(PasswordActions, RefusesWhatNoArchiveCanBeEncryptedWith)
 TEST(Strength, TellsWhatIsGuessedFromWhatIsNot)
 {
     for (const auto &[password, strength] : {std::pair{QString(), Strength::None},
-                                             {u"Passw0rd!"_qs, Strength::Weak},
-                                             {QString(100'000, u'x') + u"w7#Kq9!vZp2$Lm"_qs, Strength::Weak},
-                                             {u"rain otter violin"_qs, Strength::Fair},
-                                             {u"žluťoučký kůň úpěl"_qs, Strength::Strong}})
+                                             {u"Passw0rd!"_s, Strength::Weak},
+                                             {QString(100'000, u'x') + u"w7#Kq9!vZp2$Lm"_s, Strength::Weak},
+                                             {u"rain otter violin"_s, Strength::Fair},
+                                             {u"žluťoučký kůň úpěl"_s, Strength::Strong}})
         EXPECT_EQ(estimateStrength(password), strength) << qPrintable(password.left(30));
 }

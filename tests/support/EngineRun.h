@@ -71,40 +71,41 @@ protected:
     /// Encrypted by "correct horse"; split into volumes of so many thousand bytes, or whole for 0.
     [[nodiscard]] BackupOrder backupOrder(const Paths &sources, int volume = 0) const
     {
-        BackupOrder order{.profile = u"test"_qs,
+        BackupOrder order{.profile = QStringLiteral("test"),
                           .destination = text(archives),
                           .archiver = realRar,
                           .encoder = realOpenSsl,
-                          .archiveExtension = u".rar"_qs,
-                          .methodExtension = u".aes"_qs,
-                          .method = u"OpenSSL-AES"_qs,
-                          .cipher = u"aes-256-cbc"_qs,
-                          .password = Secret::fromText(u"correct horse"_qs),
-                          .keepDate = u"-tl"_qs,
-                          .split = volume ? u"-v%1"_qs.arg(volume) : u""_qs,
+                          .archiveExtension = QStringLiteral(".rar"),
+                          .methodExtension = QStringLiteral(".aes"),
+                          .method = QStringLiteral("OpenSSL-AES"),
+                          .cipher = QStringLiteral("aes-256-cbc"),
+                          .password = Secret::fromText(QStringLiteral("correct horse")),
+                          .keepDate = QStringLiteral("-tl"),
+                          .split = volume ? QStringLiteral("-v%1").arg(volume) : QStringLiteral(""),
                           .volumeSize = QString::number(volume)};
         QStringList all;
         for (const auto &source : sources)
             all.append(text(source));
         for (const QString &source : all)
             order.items.append(backupItem(source, order.destination,
-                                          quillorentLibrary::nameRepeated(source, all), u".rar"_qs,
-                                          order.methodExtension));
+                                          quillorentLibrary::nameRepeated(source, all),
+                                          QStringLiteral(".rar"), order.methodExtension));
         return order;
     }
 
     /// The ciphers of all are told by their names.
     [[nodiscard]] ExtractOrder extractOrder(const Paths &listed) const
     {
-        ExtractOrder order{.folder = text(out),
-                           .archiver = realRar,
-                           .decoder = realOpenSsl,
-                           .methods = {{u".aes"_qs, u".aes"_qs, u"aes-256-cbc"_qs},
-                                       {u".bf"_qs, u".bf"_qs, u"bf-cbc"_qs},
-                                       {u".3d"_qs, u".3d"_qs, u"des-ede3-cbc"_qs},
-                                       {u".smime"_qs, u".smime"_qs, u"smime"_qs}},
-                           .choosesByName = true,
-                           .password = Secret::fromText(u"correct horse"_qs)};
+        ExtractOrder order{
+            .folder = text(out),
+            .archiver = realRar,
+            .decoder = realOpenSsl,
+            .methods = {{QStringLiteral(".aes"), QStringLiteral(".aes"), QStringLiteral("aes-256-cbc")},
+                        {QStringLiteral(".bf"), QStringLiteral(".bf"), QStringLiteral("bf-cbc")},
+                        {QStringLiteral(".3d"), QStringLiteral(".3d"), QStringLiteral("des-ede3-cbc")},
+                        {QStringLiteral(".smime"), QStringLiteral(".smime"), QStringLiteral("smime")}},
+            .choosesByName = true,
+            .password = Secret::fromText(QStringLiteral("correct horse"))};
         for (const auto &path : listed) {
             const QString archive = text(path);
             order.shown.append(archive);

@@ -6,21 +6,21 @@
 
 /// An order from "x" and "d" in `source` to `destination`, changed by words: "delete", "remove",
 /// "server=box", "dst=/other", "add=/entry", "no-excludes" and the like.
-inline SyncOrder orderOf(const QString &changes, const QString &source = u"/a"_qs,
-                         const QString &destination = u"/d"_qs)
+inline SyncOrder orderOf(const QString &changes, const QString &source = QStringLiteral("/a"),
+                         const QString &destination = QStringLiteral("/d"))
 {
-    SyncOrder order{.tool = u"/usr/bin/rsync"_qs,
-                    .entries = {source + u"/x"_qs, source + u"/d"_qs},
+    SyncOrder order{.tool = QStringLiteral("/usr/bin/rsync"),
+                    .entries = {source + QStringLiteral("/x"), source + QStringLiteral("/d")},
                     .destination = destination,
-                    .mode = u"0"_qs,
-                    .parameters = u"-ar"_qs,
-                    .excludes = u"--exclude=.DS_Store"_qs};
+                    .mode = QStringLiteral("0"),
+                    .parameters = QStringLiteral("-ar"),
+                    .excludes = QStringLiteral("--exclude=.DS_Store")};
     for (const QString &change : changes.split(u' ', Qt::SkipEmptyParts)) {
         const QString word = change.section(u'=', 0, 0);
         const QString value = change.section(u'=', 1);
         if (word == u"delete") order.deletesExtra = true;
         if (word == u"remove") order.removesSources = true;
-        if (word == u"checksum") order.mode = u"1"_qs;
+        if (word == u"checksum") order.mode = QStringLiteral("1");
         if (word == u"tool") order.tool = value;
         if (word == u"add") order.entries.append(value);
         if (word == u"only") order.entries = QStringList{value};

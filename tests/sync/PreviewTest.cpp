@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Rows as "change path size" lines.
@@ -9,8 +11,8 @@ QString text(const Preview &preview)
 {
     QString lines;
     for (const PreviewRow &row : preview.rows)
-        lines += u"%1: %2 %3\n"_qs.arg(describeChange(row.change, preview.removesSources), row.path,
-                                       QString::number(row.size));
+        lines += u"%1: %2 %3\n"_s.arg(describeChange(row.change, preview.removesSources), row.path,
+                                      QString::number(row.size));
     return lines;
 }
 
@@ -28,7 +30,7 @@ TEST(Preview, ReadsWhatRsyncItemizes)
                            ".f         \t9\ta/same\n"
                            "cd+++++++++\t4096\ta/dir/\n"
                            "rsync: [sender] opendir \"/x\" failed: Permission denied (13)\n"
-                           "*deleting  \t0\ta/tab\tname\n"_qs;
+                           "*deleting  \t0\ta/tab\tname\n"_s;
     const Preview kept = readPreview(output, false);
     EXPECT_EQ(text(kept).toStdString(), "deleted at the destination: a/tab\tname 0\n"
                                         "replaced: a/to server 5\n"
@@ -44,5 +46,5 @@ TEST(Preview, ReadsWhatRsyncItemizes)
     const Preview moved = readPreview(output, true);
     EXPECT_TRUE(text(moved).contains(u"there already, removed here: a/same 9\n")) << qPrintable(text(moved));
     EXPECT_TRUE(text(moved).contains(u"moved there: a/link")) << qPrintable(text(moved));
-    EXPECT_EQ(summarize(readPreview({}, true)), u"Nothing would be copied or deleted."_qs);
+    EXPECT_EQ(summarize(readPreview({}, true)), u"Nothing would be copied or deleted."_s);
 }

@@ -7,6 +7,8 @@
 #include <QFileInfo>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -23,21 +25,21 @@ TEST(SyncList, NamesEntriesBelowTheirCommonFolder)
         const char *list;
     };
     for (const Case &c : {
-             Case{{u"/a/b/x.txt"_qs, u"/a/c/y.txt"_qs}, "/a", "/b/x.txt\n/c/y.txt"},
-             Case{{u"/a/x"_qs, u"/a/b/a/c"_qs}, "/a", "/x\n/b/c"},
-             Case{{u"/usr/x"_qs, u"/etc/y"_qs}, "/", "/usr/x\n/etc/y"},
-             Case{{u"/"_qs}, "/", "/"},
-             Case{{u"/a/#x y"_qs, u"/a/*"_qs}, "/a", "/#x y\n/*"},
-             Case{{u"/a/ü/"_qs, u"/a/b"_qs}, "/a", "/ü/\n/b"},
-             Case{{u"/data/doc"_qs, u"/data2/x"_qs}, "/data", "/doc\n2/x"}, // a part of a name will do
+             Case{{u"/a/b/x.txt"_s, u"/a/c/y.txt"_s}, "/a", "/b/x.txt\n/c/y.txt"},
+             Case{{u"/a/x"_s, u"/a/b/a/c"_s}, "/a", "/x\n/b/c"},
+             Case{{u"/usr/x"_s, u"/etc/y"_s}, "/", "/usr/x\n/etc/y"},
+             Case{{u"/"_s}, "/", "/"},
+             Case{{u"/a/#x y"_s, u"/a/*"_s}, "/a", "/#x y\n/*"},
+             Case{{u"/a/ü/"_s, u"/a/b"_s}, "/a", "/ü/\n/b"},
+             Case{{u"/data/doc"_s, u"/data2/x"_s}, "/data", "/doc\n2/x"}, // a part of a name will do
              Case{{}, "", ""},
-             Case{{u"a"_qs, u"/b"_qs}, "", "a\n/b"},
+             Case{{u"a"_s, u"/b"_s}, "", "a\n/b"},
          }) {
         EXPECT_EQ(syncArguments::rootOf(c.entries).toStdString(), c.root) << joined(c.entries);
         EXPECT_EQ(syncArguments::list(c.entries).toStdString(), c.list) << joined(c.entries);
     }
     EXPECT_EQ(joined(syncArguments::misnamedEntries(
-                  {u"/data/doc"_qs, u"/data2/x"_qs, u"/data/in/data/y"_qs, u"/data/z"_qs})),
+                  {u"/data/doc"_s, u"/data2/x"_s, u"/data/in/data/y"_s, u"/data/z"_s})),
               "/data2/x|/data/in/data/y");
 }
 
@@ -45,15 +47,15 @@ TEST(SyncList, NamesEntriesBelowTheirCommonFolder)
 TEST(SyncArguments, StandInTheirOrder)
 {
     for (const auto &[changes, arguments] : {
-             std::pair(u"excludes=-x"_qs, "-ar|-u|-x|-h|-h|--files-from=/l|/a|/d"),
-             {u"excludes= checksum delete remove"_qs,
+             std::pair(u"excludes=-x"_s, "-ar|-u|-x|-h|-h|--files-from=/l|/a|/d"),
+             {u"excludes= checksum delete remove"_s,
               "-ar|-c||--delete|--remove-source-files|--files-from=/l|/a|/d"},
-             {u"no-excludes"_qs, "-ar|-u"},
-             {u"no-parameters"_qs, ""},
-             {u"server=h excludes=-x"_qs, "-ar|-u|-x|-h|-h|--files-from=/l|/a|@h:/d"},
+             {u"no-excludes"_s, "-ar|-u"},
+             {u"no-parameters"_s, ""},
+             {u"server=h excludes=-x"_s, "-ar|-u|-x|-h|-h|--files-from=/l|/a|@h:/d"},
          }) {
-        EXPECT_EQ(joined(syncArguments::transfer(orderOf(changes), u"/l"_qs)), arguments);
-        EXPECT_EQ(syncArguments::preview(orderOf(changes), u"/l"_qs).count(u"--dry-run"_qs), 1);
+        EXPECT_EQ(joined(syncArguments::transfer(orderOf(changes), u"/l"_s)), arguments);
+        EXPECT_EQ(syncArguments::preview(orderOf(changes), u"/l"_s).count(u"--dry-run"_s), 1);
     }
 }
 

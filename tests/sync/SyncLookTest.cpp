@@ -2,6 +2,8 @@
 
 #include "sync/SyncLook.h"
 
+using namespace Qt::StringLiterals;
+
 TEST(SyncLook, TellsBeforeAnythingIsTouched)
 {
     namespace fs = std::filesystem;
@@ -32,7 +34,7 @@ TEST(SyncLook, TellsBeforeAnythingIsTouched)
              {"server=", "No server", ""},
              {"server=-e", "no server's name", ""},
          }) {
-        const QString words = QString::fromLatin1(changes).replace(u"%1"_qs, toQString(sample.folder.path()));
+        const QString words = QString::fromLatin1(changes).replace(u"%1"_s, toQString(sample.folder.path()));
         Findings findings;
         lookAtSync(orderOf(words, sample.path("src"), sample.path("dst")), findings);
         for (const auto &[found, expected] :

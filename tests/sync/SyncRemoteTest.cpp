@@ -4,6 +4,8 @@
 
 #include "app/Process.h"
 
+using namespace Qt::StringLiterals;
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -21,8 +23,8 @@ struct RemoteSync : SyncSample {
         list({"d"});
         order.destination = path("there");
         order.isRemote = true;
-        order.user = u"somebody"_qs; // any name: it only keeps an empty one from being sent
-        order.server = u"server"_qs;
+        order.user = u"somebody"_s; // any name: it only keeps an empty one from being sent
+        order.server = u"server"_s;
         connectAs(Sshd::Client::Welcome);
     }
     ~RemoteSync() override
@@ -55,7 +57,7 @@ TEST(SyncRemote, CopiesAndDeletesWithAKey)
     sync.order.deletesExtra = true;
     writeFile(sync.folder / "there/d/extra", "x");
     EXPECT_EQ(sync.preview(), "");
-    EXPECT_EQ(sync.previewed(PreviewRow::Change::Delete), QStringList{u"d/extra"_qs});
+    EXPECT_EQ(sync.previewed(PreviewRow::Change::Delete), QStringList{u"d/extra"_s});
     EXPECT_EQ(sync.run(), "");
     EXPECT_FALSE(fs::exists(sync.folder / "there/d/extra"));
 }
@@ -70,16 +72,16 @@ TEST(SyncRemote, EndsWithASentenceAndWithoutAPrompt)
     };
     for (const Case &c : {
              Case{"no key", [](RemoteSync &s) { s.connectAs(Sshd::Client::WithoutKey); },
-                  u"The server \"server\" did not let you in. Nobody can type"_qs, u"Permission denied ("_qs},
+                  u"The server \"server\" did not let you in. Nobody can type"_s, u"Permission denied ("_s},
              Case{"unknown host", [](RemoteSync &s) { s.connectAs(Sshd::Client::NewToTheServer); },
-                  u"ssh does not know the server \"server\" yet"_qs, u"Host key verification failed"_qs},
+                  u"ssh does not know the server \"server\" yet"_s, u"Host key verification failed"_s},
              Case{"refused", [](RemoteSync &s) { s.connectAs(Sshd::Client::AtAClosedPort); },
-                  u"The server \"server\" refuses the connection"_qs, u"Connection refused"_qs},
+                  u"The server \"server\" refuses the connection"_s, u"Connection refused"_s},
              Case{"empty user", [](RemoteSync &s) { s.order.user.clear(); },
-                  u"since it was sent an empty user name"_qs, u"Permission denied ("_qs},
+                  u"since it was sent an empty user name"_s, u"Permission denied ("_s},
              Case{"unknown folder", [](RemoteSync &s) { s.order.destination = s.path("no/such"); },
-                  u"does not exist"_qs, u"No such file or directory"_qs},
-             Case{"port", [](RemoteSync &s) { s.order.port = u"22"_qs; }, u"took the port"_qs, u"22:"_qs},
+                  u"does not exist"_s, u"No such file or directory"_s},
+             Case{"port", [](RemoteSync &s) { s.order.port = u"22"_s; }, u"took the port"_s, u"22:"_s},
          }) {
         SCOPED_TRACE(c.name);
         RemoteSync sync;
@@ -89,7 +91,7 @@ TEST(SyncRemote, EndsWithASentenceAndWithoutAPrompt)
         for (int again = 0; console.isEmpty() && again < 5; ++again)
             console = QString::fromStdString(sync.run());
         EXPECT_TRUE(console.section(u'\n', 0, 0).contains(c.sentence)) << qPrintable(console);
-        EXPECT_TRUE(console.contains(u"\nRSync ERROR : \n"_qs) && console.contains(c.said))
+        EXPECT_TRUE(console.contains(u"\nRSync ERROR : \n"_s) && console.contains(c.said))
             << qPrintable(console);
         EXPECT_TRUE(fs::is_empty(sync.folder / "there"));
     }

@@ -3,6 +3,8 @@
 
 #include <csignal>
 
+using namespace Qt::StringLiterals;
+
 namespace fs = std::filesystem;
 using Change = PreviewRow::Change;
 
@@ -13,10 +15,10 @@ TEST(SyncRun, MakesTheFolderThatASingleFileGoesTo)
     sync.list({"x"});
     sync.preview();
     EXPECT_FALSE(fs::exists(sync.folder / "dst"));
-    EXPECT_EQ(sync.previewed(Change::Copy), QStringList{u"x"_qs});
+    EXPECT_EQ(sync.previewed(Change::Copy), QStringList{u"x"_s});
     EXPECT_EQ(sync.run(), "");
     EXPECT_EQ(filesIn(sync.folder / "dst"), "x=x");
-    EXPECT_TRUE(makeDestination(orderOf(u"dst=/sys/new"_qs)).contains(u"can't be made"));
+    EXPECT_TRUE(makeDestination(orderOf(u"dst=/sys/new"_s)).contains(u"can't be made"));
 }
 
 TEST(SyncRun, ComparesByDateOrByContent)
@@ -30,7 +32,7 @@ TEST(SyncRun, ComparesByDateOrByContent)
     sync.list({"d"});
     EXPECT_EQ(sync.run(), "");
     EXPECT_EQ(filesIn(sync.folder / "dst/d"), "hidden=d new=s newer=d older=s");
-    sync.order.mode = u"1"_qs;
+    sync.order.mode = u"1"_s;
     EXPECT_EQ(sync.run(), "");
     EXPECT_EQ(filesIn(sync.folder / "dst/d"), "hidden=s new=s newer=s older=s");
 }
@@ -46,12 +48,11 @@ TEST(SyncRun, DeletesWhatTheSwitchesSay)
     };
     const std::string merged = "d/a=1 d/extra=3 e/f=2 other=4";
     const std::string bare = "d/a=1 e/f=2 other=4";
-    const QStringList extra{u"d/extra"_qs};
-    for (const Case &c :
-         {Case{{}, "d/a=1 e/f=2", {merged, merged}, {{}, {}}},
-          Case{u"delete"_qs, "d/a=1 e/f=2", {bare, bare}, {extra, {}}},
-          Case{u"remove"_qs, "", {merged, merged}, {{}, {}}},
-          Case{u"delete remove"_qs, "", {bare, "other=4"}, {extra, {u"d/a"_qs, u"e/f"_qs}}}}) {
+    const QStringList extra{u"d/extra"_s};
+    for (const Case &c : {Case{{}, "d/a=1 e/f=2", {merged, merged}, {{}, {}}},
+                          Case{u"delete"_s, "d/a=1 e/f=2", {bare, bare}, {extra, {}}},
+                          Case{u"remove"_s, "", {merged, merged}, {{}, {}}},
+                          Case{u"delete remove"_s, "", {bare, "other=4"}, {extra, {u"d/a"_s, u"e/f"_s}}}}) {
         SyncSample sync;
         fill(sync.folder.path(), "src/d/a=1 src/e/f=2 dst/d/extra=3 dst/other=4");
         sync.order = orderOf(c.switches, sync.path("src"), sync.path("dst"));
@@ -74,16 +75,16 @@ TEST(SyncRun, DeletesWhatTheSwitchesSay)
 TEST(SyncRun, ExplainsWhatFails)
 {
     for (const auto &[change, words] : {
-             std::pair(u"add=%1/src/gone"_qs, "An entry of the list is not where it was"),
-             {u"dst=/sys"_qs, "You may not write to the destination \"/sys\""},
-             {u"dst=%1/no/such"_qs, "does not exist. Connect its"},
-             {u"no-excludes"_qs, "does not understand its arguments"},
-             {u"tool=/nowhere/rsync"_qs, "Can't start \"/nowhere/rsync\""},
-             {u"tool=/usr/bin/false"_qs, ""}, // which says nothing
+             std::pair(u"add=%1/src/gone"_s, "An entry of the list is not where it was"),
+             {u"dst=/sys"_s, "You may not write to the destination \"/sys\""},
+             {u"dst=%1/no/such"_s, "does not exist. Connect its"},
+             {u"no-excludes"_s, "does not understand its arguments"},
+             {u"tool=/nowhere/rsync"_s, "Can't start \"/nowhere/rsync\""},
+             {u"tool=/usr/bin/false"_s, ""}, // which says nothing
          }) {
         SyncSample sync;
         fill(sync.folder / "src", "x=x d/y=y");
-        sync.order = orderOf(QString(change).replace(u"%1"_qs, toQString(sync.folder.path())),
+        sync.order = orderOf(QString(change).replace(u"%1"_s, toQString(sync.folder.path())),
                              sync.path("src"), sync.path("dst"));
         const QString console = QString::fromStdString(sync.run());
         EXPECT_TRUE(console.contains(QString::fromLatin1(words))) << qPrintable(console);
@@ -100,7 +101,7 @@ TEST(SyncRun, TellsOfAFileThatVanishesUnderWay)
     writeFile(sync.folder / "src/d/a", randomBytes(300'000));
     writeFile(sync.folder / "src/d/b", "x");
     sync.list({"d"});
-    sync.order.excludes = u"--bwlimit=100"_qs; // some seconds for the first file
+    sync.order.excludes = u"--bwlimit=100"_s; // some seconds for the first file
     std::thread runner([&] { sync.run(); });
     // The first file is on its way: rsync knows all names by now.
     const fs::path there = sync.folder / "dst/d";

@@ -3,6 +3,8 @@
 
 #include "runs/RunJournal.h"
 
+using namespace Qt::StringLiterals;
+
 using Place = outlets::Panel::Place;
 
 namespace {
@@ -37,9 +39,9 @@ protected:
         delegate.addSyncEntries({program.path("src/e")});
         setDestination("elsewhere");
         setSwitches(!delegate.checkBoxSync1.isOn(), !delegate.checkBoxSync2.isOn());
-        delegate.syncServer.setText(u"nowhere"_qs);
+        delegate.syncServer.setText(u"nowhere"_s);
         delegate.syncCheck01.setOn(true);
-        program.useTool(u"RSync"_qs, "/usr/bin/false");
+        program.useTool(u"RSync"_s, "/usr/bin/false");
     }
     void launchUntil(const outlets::Panel &panel) const
     {

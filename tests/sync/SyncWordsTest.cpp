@@ -4,20 +4,22 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 TEST(SyncWords, SayWhatTheSwitchesDo)
 {
-    const QString remote = u"server=box user=me"_qs;
+    const QString remote = u"server=box user=me"_s;
     for (const auto &[usual, change, words] : {
-             std::tuple(u""_qs, u""_qs, "Deletes nothing"),
-             {u""_qs, u"checksum"_qs, "also over a newer one"},
-             {u""_qs, u"delete"_qs, "Deletes at the destination, inside the listed folders"},
-             {u""_qs, u"remove"_qs, "removed here"},
-             {u""_qs, u"delete remove"_qs, "a second run deletes there what the first one moved there"},
-             {u""_qs, u"dst=/a/d/copy"_qs, "lies inside \"/a/d\""},
-             {u""_qs, u"add=/x/a/y"_qs, "\"/x/a/y\" will not be found"},
-             {remote, u"user="_qs, "fill one in"},
-             {remote, u"port=22"_qs, "The port becomes"},
-             {remote, u"only=/a/d"_qs, "must exist on the server"},
+             std::tuple(u""_s, u""_s, "Deletes nothing"),
+             {u""_s, u"checksum"_s, "also over a newer one"},
+             {u""_s, u"delete"_s, "Deletes at the destination, inside the listed folders"},
+             {u""_s, u"remove"_s, "removed here"},
+             {u""_s, u"delete remove"_s, "a second run deletes there what the first one moved there"},
+             {u""_s, u"dst=/a/d/copy"_s, "lies inside \"/a/d\""},
+             {u""_s, u"add=/x/a/y"_s, "\"/x/a/y\" will not be found"},
+             {remote, u"user="_s, "fill one in"},
+             {remote, u"port=22"_s, "The port becomes"},
+             {remote, u"only=/a/d"_s, "must exist on the server"},
          }) {
         EXPECT_EQ(describeSync(orderOf(usual)).count(u'\n'), 1) << "a trap where there is none";
         const QString meaning = describeSync(orderOf(usual + u' ' + change));

@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 #include <semaphore>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 namespace fs = std::filesystem;
 
@@ -29,14 +31,14 @@ TEST(RunTool, JudgesByWhatTheToolSays)
     };
     const TemporaryFolder folder;
     for (const Case &c : {
-             Case{"nothing", true, u""_qs},
-             Case{"print hello", false, u"hello"_qs},
-             Case{"print \n", false, u"\n"_qs},
-             Case{"complain oh", false, u"oh"_qs},
+             Case{"nothing", true, u""_s},
+             Case{"print hello", false, u"hello"_s},
+             Case{"print \n", false, u"\n"_s},
+             Case{"complain oh", false, u"oh"_s},
              Case{"print " + std::string(1'000'000, 'x'), false, QString(1'000'000, u'x')},
              Case{"bad-bytes", false, std::nullopt},
-             Case{"helper", false, u"late"_qs},
-             Case{"terminal", false, u"none"_qs},
+             Case{"helper", false, u"late"_s},
+             Case{"terminal", false, u"none"_s},
          }) {
         const ToolResult result = runStub(Stub(folder.path(), "tool", c.behaviour));
         EXPECT_EQ(result.isSilent(), c.isSilent) << c.behaviour.substr(0, 20);
@@ -48,10 +50,10 @@ TEST(RunTool, JudgesByWhatTheToolSays)
 TEST(RunTool, PassesArgumentsAsTheyAre)
 {
     const TemporaryFolder folder;
-    const QStringList arguments{u""_qs,      u"a b"_qs, u"$HOME `id` \"'"_qs, u"*"_qs, u"line\nbreak"_qs,
-                                u"naïve"_qs, u""_qs};
+    const QStringList arguments{u""_s,      u"a b"_s, u"$HOME `id` \"'"_s, u"*"_s, u"line\nbreak"_s,
+                                u"naïve"_s, u""_s};
     EXPECT_EQ(runStub(Stub(folder.path(), "tool", "arguments"), arguments).output,
-              u'[' + arguments.join(u"]["_qs) + u']');
+              u'[' + arguments.join(u"]["_s) + u']');
 }
 
 TEST(RunTool, SaysWhyAToolCanNotStart)
@@ -71,14 +73,14 @@ TEST(RunTool, SaysWhyAToolCanNotStart)
     EXPECT_FALSE(runTool({}, {}).isSilent());
     // It would get the half of the second argument.
     const Stub stub(folder.path(), "tool", "arguments");
-    const ToolResult cut = runStub(stub, {u"a"_qs, u"sesame\0b"_qs});
+    const ToolResult cut = runStub(stub, {u"a"_s, u"sesame\0b"_s});
     EXPECT_TRUE(!cut.wasStarted && cut.text().contains(u"zero byte")) << qPrintable(cut.text());
     EXPECT_FALSE(cut.text().contains(u"sesame"));
 
     // Nor is a crash a success.
     const ToolResult crash = runStub(Stub(folder.path(), "tool", "crash"));
     EXPECT_FALSE(crash.isSilent());
-    EXPECT_TRUE(crash.text().contains(u"signal 9"_qs)) << qPrintable(crash.text());
+    EXPECT_TRUE(crash.text().contains(u"signal 9"_s)) << qPrintable(crash.text());
 }
 
 TEST(EndTools, LeavesNoToolBehind)
@@ -87,7 +89,7 @@ TEST(EndTools, LeavesNoToolBehind)
     const Stub one(folder.path(), "one", "hang");
     const Stub two(folder.path(), "two", "hang");
     for (const Stub *stub : {&one, &two})
-        detachThread(u"hanging"_qs, [stub] { EXPECT_FALSE(runStub(*stub).isSilent()); });
+        detachThread(u"hanging"_s, [stub] { EXPECT_FALSE(runStub(*stub).isSilent()); });
     const int processes[] = {one.processId(), two.processId()};
     endTools();
     EXPECT_TRUE(waitForThreads(30s));
@@ -99,9 +101,9 @@ TEST(EndTools, LeavesNoToolBehind)
 TEST(DetachThread, IsWaitedForAndSurvivesExceptions)
 {
     std::binary_semaphore mayEnd{0};
-    detachThread(u"waits"_qs, [&] { mayEnd.acquire(); });
-    detachThread(u"a name far longer than the system takes"_qs, [] { throw std::runtime_error("escaped"); });
-    detachThread(u"throws"_qs, [] { throw 42; });
+    detachThread(u"waits"_s, [&] { mayEnd.acquire(); });
+    detachThread(u"a name far longer than the system takes"_s, [] { throw std::runtime_error("escaped"); });
+    detachThread(u"throws"_s, [] { throw 42; });
     EXPECT_FALSE(waitForThreads(50ms)) << "one of them still waits";
     mayEnd.release();
     EXPECT_TRUE(waitForThreads(30s));

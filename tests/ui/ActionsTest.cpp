@@ -17,6 +17,8 @@
 #include <QTextBrowser>
 #include <QToolButton>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ActionsTest : public WindowTest {};
@@ -33,7 +35,7 @@ QTextBrowser &guideText()
 TEST_F(ActionsTest, EveryControlHasAnActionAndANameForThoseWhoDoNotSee)
 {
     // Read when something begins, kept nowhere.
-    QSet<QString> known{u"checkBox03"_qs, u"mustDos01"_qs, u"decryptionCombo01"_qs};
+    QSet<QString> known{u"checkBox03"_s, u"mustDos01"_s, u"decryptionCombo01"_s};
     for (const ui::ActionRow &row : ui::actionTable()) {
         EXPECT_EQ(ui::widgetsNamed(QString(row.control), window.roots()).size(), 1) << row.control.data();
         EXPECT_FALSE(known.contains(QString(row.control))) << row.control.data() << " stands twice";
@@ -63,15 +65,15 @@ TEST_F(ActionsTest, EveryControlHasAnActionAndANameForThoseWhoDoNotSee)
 
 TEST_F(ActionsTest, TheMenuDoesWhatTheControlsDo)
 {
-    for (const auto &[action, panel] : {std::pair{u"newAction"_qs, u"profilePanel02"_qs},
-                                        {u"duplicateAction"_qs, u"profilePanel03"_qs},
-                                        {u"renameAction"_qs, u"profilePanel01"_qs},
-                                        {u"optionsAction"_qs, u"preferencesPanel01"_qs},
-                                        {u"backUpAction"_qs, u"warningPanel01"_qs},
-                                        {u"restoreAction"_qs, u"warningPanel01"_qs},
-                                        {u"synchroniseAction"_qs, u"warningPanel01"_qs},
-                                        {u"previewAction"_qs, u"warningPanel01"_qs},
-                                        {u"consoleAction"_qs, u"consolePanel01"_qs}}) {
+    for (const auto &[action, panel] : {std::pair{u"newAction"_s, u"profilePanel02"_s},
+                                        {u"duplicateAction"_s, u"profilePanel03"_s},
+                                        {u"renameAction"_s, u"profilePanel01"_s},
+                                        {u"optionsAction"_s, u"preferencesPanel01"_s},
+                                        {u"backUpAction"_s, u"warningPanel01"_s},
+                                        {u"restoreAction"_s, u"warningPanel01"_s},
+                                        {u"synchroniseAction"_s, u"warningPanel01"_s},
+                                        {u"previewAction"_s, u"warningPanel01"_s},
+                                        {u"consoleAction"_s, u"consolePanel01"_s}}) {
         doAndAnswer([&] { window.findChild<QAction *>(action)->trigger(); }, panel,
                     [&] {
                         // Each sheet can be read about while it stands there.
@@ -87,29 +89,29 @@ TEST_F(ActionsTest, TheMenuDoesWhatTheControlsDo)
                     });
         EXPECT_TRUE(waitForThreads(std::chrono::seconds(60)));
     }
-    EXPECT_TRUE(widget(u"syncPage"_qs).isVisible()) << "what is done is seen";
+    EXPECT_TRUE(widget(u"syncPage"_s).isVisible()) << "what is done is seen";
 
     // While something runs, only what reads: not by a menu that was open before, nor by a shortcut.
     window.centralWidget()->setEnabled(false);
-    for (const QString &action : {u"newAction"_qs, u"startUpAction"_qs})
+    for (const QString &action : {u"newAction"_s, u"startUpAction"_s})
         window.findChild<QAction *>(action)->trigger();
-    EXPECT_FALSE(widget(u"profilePanel02"_qs).isVisible());
-    EXPECT_EQ(delegate.setting(u"resources"_qs, u"selectedprofile"_qs).value_or(QString()), QString());
-    window.findChild<QAction *>(u"guideAction"_qs)->trigger();
+    EXPECT_FALSE(widget(u"profilePanel02"_s).isVisible());
+    EXPECT_EQ(delegate.setting(u"resources"_s, u"selectedprofile"_s).value_or(QString()), QString());
+    window.findChild<QAction *>(u"guideAction"_s)->trigger();
     EXPECT_TRUE(guideText().toPlainText().contains(u"The first backup"));
-    window.findChild<QAction *>(u"aboutAction"_qs)->trigger();
+    window.findChild<QAction *>(u"aboutAction"_s)->trigger();
     EXPECT_TRUE(window.findChild<QMessageBox *>()->text().contains(QUILLORENT_VERSION));
 }
 
 TEST_F(ActionsTest, TheWindowComesBackAsItWasAndTheSettingsAreNotTouched)
 {
-    showTab(u"syncPage"_qs);
+    showTab(u"syncPage"_s);
     window.resize(1000, 740);
     settle();
-    ui::keepPlace(window, widget<QTabWidget>(u"mainTabs"_qs));
+    ui::keepPlace(window, widget<QTabWidget>(u"mainTabs"_s));
     const ui::Window second(delegate);
     EXPECT_EQ(second.size(), QSize(1000, 740));
-    EXPECT_EQ(second.findChild<QTabWidget *>()->currentWidget()->objectName(), u"syncPage"_qs);
+    EXPECT_EQ(second.findChild<QTabWidget *>()->currentWidget()->objectName(), u"syncPage"_s);
     EXPECT_TRUE(std::filesystem::exists(program.folder() / "state/quillorent/window.ini"));
 }
 
@@ -120,49 +122,49 @@ TEST_F(ActionsTest, WordsInEmptyFieldsAreReadableOnADarkPalette)
     dark.setColor(QPalette::Base, QColor(75, 75, 75));
     QApplication::setPalette(dark);
     settle();
-    const QColor words = widget(u"keychainUser"_qs).palette().color(QPalette::PlaceholderText);
+    const QColor words = widget(u"keychainUser"_s).palette().color(QPalette::PlaceholderText);
     EXPECT_TRUE(words.alpha() == 255 && words.red() > 185) << words.red() << ", half the text's light";
     QApplication::setPalette(usual);
 }
 
 TEST_F(ActionsTest, TheVolumeSizeIsTypedAndStepped)
 {
-    auto &size = widget<QLineEdit>(u"prefText01"_qs);
+    auto &size = widget<QLineEdit>(u"prefText01"_s);
     size.selectAll();
-    QTest::keyClicks(&size, u"50"_qs);
+    QTest::keyClicks(&size, u"50"_s);
     settle();
     size.setCursorPosition(1);
-    QTest::keyClicks(&size, u"0"_qs);
+    QTest::keyClicks(&size, u"0"_s);
     settle();
     EXPECT_EQ(size.cursorPosition(), 2) << "what comes back from the outlet moves it";
-    EXPECT_EQ(widget<QLabel>(u"volumeHint"_qs).text(), u"= 500.0 MB"_qs);
-    for (const auto &[typed, kept] : {std::pair{u"4.7GB"_qs, u"4700000"_qs},
-                                      {u"25 g"_qs, u"25000000"_qs},
-                                      {u"0.001TB"_qs, u"1000000"_qs},
-                                      {u"many"_qs, u"many"_qs},
-                                      {u"1e3"_qs, u"1e3"_qs},
-                                      {u"500kb"_qs, u"500"_qs}}) {
+    EXPECT_EQ(widget<QLabel>(u"volumeHint"_s).text(), u"= 500.0 MB"_s);
+    for (const auto &[typed, kept] : {std::pair{u"4.7GB"_s, u"4700000"_s},
+                                      {u"25 g"_s, u"25000000"_s},
+                                      {u"0.001TB"_s, u"1000000"_s},
+                                      {u"many"_s, u"many"_s},
+                                      {u"1e3"_s, u"1e3"_s},
+                                      {u"500kb"_s, u"500"_s}}) {
         size.selectAll();
         QTest::keyClicks(&size, typed);
         settle();
-        EXPECT_EQ(delegate.currentRecord().string(u"part"_qs), kept);
+        EXPECT_EQ(delegate.currentRecord().string(u"part"_s), kept);
         EXPECT_EQ(size.text(), typed) << "it is changed under the typing";
     }
-    for (const auto &[key, expected, shown] : {std::tuple{Qt::Key_Up, u"1500"_qs, u"1.5 MB"_qs},
-                                               {Qt::Key_Down, u"500"_qs, u"500 kB"_qs},
-                                               {Qt::Key_Down, u"1"_qs, u"1 kB"_qs}}) {
+    for (const auto &[key, expected, shown] : {std::tuple{Qt::Key_Up, u"1500"_s, u"1.5 MB"_s},
+                                               {Qt::Key_Down, u"500"_s, u"500 kB"_s},
+                                               {Qt::Key_Down, u"1"_s, u"1 kB"_s}}) {
         QTest::keyClick(&size, key);
         settle();
-        EXPECT_EQ(delegate.currentRecord().string(u"part"_qs), expected);
+        EXPECT_EQ(delegate.currentRecord().string(u"part"_s), expected);
         EXPECT_EQ(size.text(), shown);
     }
     // The usual ones by a menu, and none.
     for (const auto &[row, isSplit, part] :
-         {std::tuple{0, true, u"700000"_qs}, {4, false, u"700000"_qs}, {1, true, u"4700000"_qs}}) {
-        widget<QToolButton>(u"volumeSizes"_qs).menu()->actions().at(row)->trigger();
+         {std::tuple{0, true, u"700000"_s}, {4, false, u"700000"_s}, {1, true, u"4700000"_s}}) {
+        widget<QToolButton>(u"volumeSizes"_s).menu()->actions().at(row)->trigger();
         settle();
-        EXPECT_EQ(delegate.currentRecord().isOn(u"split"_qs), isSplit);
-        EXPECT_EQ(delegate.currentRecord().string(u"part"_qs), part);
+        EXPECT_EQ(delegate.currentRecord().isOn(u"split"_s), isSplit);
+        EXPECT_EQ(delegate.currentRecord().string(u"part"_s), part);
     }
 }
 
@@ -171,79 +173,79 @@ TEST_F(ActionsTest, TheGainOfCompressionIsToldOfWhatIsOnTheList)
     writeFile(program.folder() / "text/sub/a", std::string(300'000, 'a'));
     writeFile(program.folder() / "noise/b", randomBytes(300'000));
     const auto says = [&](const QString &words) {
-        return waitUntil([&] { return widget<QLabel>(u"compressionGain"_qs).text() == words; });
+        return waitUntil([&] { return widget<QLabel>(u"compressionGain"_s).text() == words; });
     };
-    auto &list = widget<ui::FolderListView>(u"listTableView"_qs);
+    auto &list = widget<ui::FolderListView>(u"listTableView"_s);
     const auto have = [&](const QStringList &names) {
         list.selectAll();
         settle();
-        click(u"folderButton02"_qs);
+        click(u"folderButton02"_s);
         for (const QString &name : names)
             delegate.addFolders({program.path(name.toStdString())});
     };
-    for (const auto &[names, words] : {std::pair{QStringList{u"text"_qs}, u"archives about 95 % smaller"_qs},
-                                       {{}, u""_qs},
-                                       {{u"noise/b"_qs, u"gone"_qs}, u"gains next to nothing here"_qs},
-                                       {{u"gone"_qs}, u""_qs}}) {
+    for (const auto &[names, words] : {std::pair{QStringList{u"text"_s}, u"archives about 95 % smaller"_s},
+                                       {{}, u""_s},
+                                       {{u"noise/b"_s, u"gone"_s}, u"gains next to nothing here"_s},
+                                       {{u"gone"_s}, u""_s}}) {
         have(names);
-        EXPECT_TRUE(says(words)) << widget<QLabel>(u"compressionGain"_qs).text().toStdString();
+        EXPECT_TRUE(says(words)) << widget<QLabel>(u"compressionGain"_s).text().toStdString();
     }
     // A run has the disk for itself; it is made up for afterwards.
     ASSERT_TRUE(delegate.tryBeginRun());
-    have({u"text"_qs});
+    have({u"text"_s});
     EXPECT_TRUE(waitForThreads(std::chrono::seconds(60)));
     EXPECT_TRUE(says({}));
     delegate.endRun();
-    EXPECT_TRUE(says(u"archives about 95 % smaller"_qs));
+    EXPECT_TRUE(says(u"archives about 95 % smaller"_s));
 }
 
 TEST_F(ActionsTest, PasswordsAreTypedAndShown)
 {
-    const auto &protection = widget<QLabel>(u"protectionText"_qs);
-    click(u"protectionButton"_qs);
-    EXPECT_TRUE(widget(u"passwordsPage"_qs).isVisible());
+    const auto &protection = widget<QLabel>(u"protectionText"_s);
+    click(u"protectionButton"_s);
+    EXPECT_TRUE(widget(u"passwordsPage"_s).isVisible());
     EXPECT_TRUE(protection.text().contains(u"none typed"));
-    type(window, u"se<cret"_qs);
-    EXPECT_EQ(delegate.passwordSelector(), u"se<cret"_qs);
-    EXPECT_TRUE(widget<QLabel>(u"strengthHint"_qs).text().startsWith(u"Easy to guess"));
+    type(window, u"se<cret"_s);
+    EXPECT_EQ(delegate.passwordSelector(), u"se<cret"_s);
+    EXPECT_TRUE(widget<QLabel>(u"strengthHint"_s).text().startsWith(u"Easy to guess"));
     EXPECT_FALSE(protection.text().contains(u"not entered") || protection.text().contains(u"se<cret"));
-    click(u"checkBox01"_qs);
-    EXPECT_FALSE(widget(u"secureText01a"_qs).isVisible());
-    EXPECT_TRUE(widget(u"secureText01b"_qs).isVisible());
-    EXPECT_EQ(widget<QLineEdit>(u"secureText01b"_qs).text(), u"se<cret"_qs);
+    click(u"checkBox01"_s);
+    EXPECT_FALSE(widget(u"secureText01a"_s).isVisible());
+    EXPECT_TRUE(widget(u"secureText01b"_s).isVisible());
+    EXPECT_EQ(widget<QLineEdit>(u"secureText01b"_s).text(), u"se<cret"_s);
 }
 
 TEST_F(ActionsTest, TheKeychainIsAskedWhileTheWindowGoesOn)
 {
     SecretService session;
     session.start();
-    showTab(u"passwordsPage"_qs);
-    QTest::keyClick(&widget(u"passCombo01"_qs), Qt::Key_Down);
+    showTab(u"passwordsPage"_s);
+    QTest::keyClick(&widget(u"passCombo01"_s), Qt::Key_Down);
     settle();
     const auto says = [&](const QString &words) {
-        return waitUntil([&] { return widget<QLabel>(u"keychainText01"_qs).text().contains(words); });
+        return waitUntil([&] { return widget<QLabel>(u"keychainText01"_s).text().contains(words); });
     };
-    EXPECT_FALSE(widget(u"passButton01"_qs).isEnabled()) << "without an account there is nothing to fetch";
-    QTest::keyClicks(&widget(u"keychainUser"_qs), u"holiday"_qs);
-    QTest::keyClicks(&widget(u"keychainPass"_qs), u"fjord & 7"_qs);
+    EXPECT_FALSE(widget(u"passButton01"_s).isEnabled()) << "without an account there is nothing to fetch";
+    QTest::keyClicks(&widget(u"keychainUser"_s), u"holiday"_s);
+    QTest::keyClicks(&widget(u"keychainPass"_s), u"fjord & 7"_s);
     settle();
-    click(u"passButton02"_qs);
-    EXPECT_TRUE(says(u"was stored"_qs));
+    click(u"passButton02"_s);
+    EXPECT_TRUE(says(u"was stored"_s));
     session.freeze();
-    click(u"passButton01"_qs);
-    QTest::keyClicks(&widget(u"keychainUser"_qs), u" typed meanwhile"_qs);
-    EXPECT_EQ(delegate.keychainUser.text(), u"holiday typed meanwhile"_qs);
+    click(u"passButton01"_s);
+    QTest::keyClicks(&widget(u"keychainUser"_s), u" typed meanwhile"_s);
+    EXPECT_EQ(delegate.keychainUser.text(), u"holiday typed meanwhile"_s);
     session.thaw();
-    EXPECT_TRUE(says(u"was fetched"_qs));
-    const auto &protection = widget<QLabel>(u"protectionText"_qs);
+    EXPECT_TRUE(says(u"was fetched"_s));
+    const auto &protection = widget<QLabel>(u"protectionText"_s);
     EXPECT_TRUE(protection.text().endsWith(u"account holiday")) << "the chosen one holds nothing";
 
     // Seen, changed, and then not the text that counts: nobody may overlook that.
-    click(u"checkBox02"_qs);
-    EXPECT_FALSE(widget(u"keychainConflict"_qs).isVisible());
-    QTest::keyClicks(&widget(u"keychainClear"_qs), u"!"_qs);
+    click(u"checkBox02"_s);
+    EXPECT_FALSE(widget(u"keychainConflict"_s).isVisible());
+    QTest::keyClicks(&widget(u"keychainClear"_s), u"!"_s);
     settle();
-    EXPECT_TRUE(widget(u"keychainConflict"_qs).isVisible());
+    EXPECT_TRUE(widget(u"keychainConflict"_s).isVisible());
     EXPECT_TRUE(protection.text().contains(u"look at the Password tab"));
 }
 
@@ -252,17 +254,17 @@ TEST_F(ActionsTest, ChoosersTakeFilesAndFoldersTogetherAndToolsWithoutExtension)
     for (const char *name : {"pick/tool", "pick/notes.txt", "pick/folder.d/inside"})
         writeFile(program.folder() / name, "x");
     const auto names = [](const QFileDialog &dialog) {
-        const auto *list = dialog.findChild<QAbstractItemView *>(u"listView"_qs);
+        const auto *list = dialog.findChild<QAbstractItemView *>(u"listView"_s);
         QStringList found;
         for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row)
             found.append(list->model()->index(row, 0, list->rootIndex()).data().toString());
         return found;
     };
     const auto tools =
-        ui::makeOpenPanelDialog({.directory = program.path("pick"), .allowedFileTypes = {u""_qs}}, &window);
+        ui::makeOpenPanelDialog({.directory = program.path("pick"), .allowedFileTypes = {u""_s}}, &window);
     tools->show();
     EXPECT_TRUE(waitUntil([&] {
-        return names(*tools) == QStringList{u"folder.d"_qs, u"tool"_qs};
+        return names(*tools) == QStringList{u"folder.d"_s, u"tool"_s};
     })) << names(*tools).join(u' ').toStdString();
 
     const auto all = ui::makeOpenPanelDialog(
@@ -270,7 +272,7 @@ TEST_F(ActionsTest, ChoosersTakeFilesAndFoldersTogetherAndToolsWithoutExtension)
         &window);
     all->show();
     ASSERT_TRUE(waitUntil([&] { return names(*all).size() == 3; }));
-    all->findChild<QAbstractItemView *>(u"listView"_qs)->selectAll();
+    all->findChild<QAbstractItemView *>(u"listView"_s)->selectAll();
     settle();
     QTest::keyClick(all.get(), Qt::Key_Return);
     EXPECT_EQ(all->result(), QDialog::Accepted);

@@ -21,6 +21,8 @@
 #include <QTabWidget>
 #include <QWindow>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class BackupTest : public WindowTest {
@@ -32,23 +34,23 @@ protected:
         delegate.openPanel = [this](const outlets::OpenPanel &panel) {
             return QStringList{program.path(panel.canChooseFiles ? "docs" : "archives")};
         };
-        click(u"folderButton01"_qs);
-        click(u"fileButton01"_qs);
-        showTab(u"passwordsPage"_qs);
-        type(u"correct horse"_qs, u"correct horse"_qs);
+        click(u"folderButton01"_s);
+        click(u"fileButton01"_s);
+        showTab(u"passwordsPage"_s);
+        type(u"correct horse"_s, u"correct horse"_s);
     }
 
     void type(const QString &password, const QString &repetition)
     {
-        showTab(u"passwordsPage"_qs);
+        showTab(u"passwordsPage"_s);
         for (const auto &[name, text] :
-             {std::pair{u"secureText01a"_qs, password}, {u"secureText02"_qs, repetition}}) {
+             {std::pair{u"secureText01a"_s, password}, {u"secureText02"_s, repetition}}) {
             widget<QLineEdit>(name).selectAll();
             QTest::keyClick(&widget(name), Qt::Key_Delete);
             QTest::keyClicks(&widget(name), text);
         }
         settle();
-        showTab(u"foldersPage"_qs);
+        showTab(u"foldersPage"_s);
     }
 
     QStringList archives() const
@@ -75,37 +77,37 @@ protected:
 
 TEST_F(BackupTest, AWholeBackupByClicks)
 {
-    auto &size = widget<QLineEdit>(u"prefText01"_qs);
+    auto &size = widget<QLineEdit>(u"prefText01"_s);
     size.selectAll();
-    QTest::keyClicks(&size, u"30 kB"_qs);
+    QTest::keyClicks(&size, u"30 kB"_s);
 
-    const auto &bar = widget<ui::RunBar>(u"view01progressIndicator01"_qs);
+    const auto &bar = widget<ui::RunBar>(u"view01progressIndicator01"_s);
     std::vector<int> shown;
     QObject::connect(&bar, &QProgressBar::valueChanged, &bar, [&](int value) { shown.push_back(value); });
-    click(u"buttonLaunch01"_qs);
+    click(u"buttonLaunch01"_s);
     waitForEnd();
     EXPECT_TRUE(std::any_of(shown.begin(), shown.end(), [&](int value) {
         return value > 0 && value < bar.maximum();
     })) << "one folder is more than one step";
     EXPECT_TRUE(std::is_sorted(shown.begin(), shown.end())) << "it goes back";
-    EXPECT_FALSE(widget(u"consolePanel01"_qs).isVisible()) << delegate.consoleTextView01.text().toStdString();
+    EXPECT_FALSE(widget(u"consolePanel01"_s).isVisible()) << delegate.consoleTextView01.text().toStdString();
     const QStringList volumes = archives();
     EXPECT_GE(volumes.size(), 2);
-    EXPECT_TRUE(widget<ui::TextArea>(u"outputText01"_qs).text().contains(u"1 of 1"));
-    const auto &protection = widget<QLabel>(u"protectionText"_qs);
+    EXPECT_TRUE(widget<ui::TextArea>(u"outputText01"_s).text().contains(u"1 of 1"));
+    const auto &protection = widget<QLabel>(u"protectionText"_s);
     EXPECT_TRUE(waitUntil([&] { return protection.text().contains(u"it opens the archives"); }));
-    EXPECT_TRUE(widget<QLabel>(u"resultHeadline"_qs).text().contains(u"· 1 folder · 6"));
-    EXPECT_FALSE(widget(u"outputText01"_qs).isVisible()) << "said twice";
+    EXPECT_TRUE(widget<QLabel>(u"resultHeadline"_s).text().contains(u"· 1 folder · 6"));
+    EXPECT_FALSE(widget(u"outputText01"_s).isVisible()) << "said twice";
 
-    type(u"correct house"_qs, u"correct house"_qs);
+    type(u"correct house"_s, u"correct house"_s);
     EXPECT_FALSE(protection.text().contains(u"opens"));
     EXPECT_TRUE(waitUntil([&] { return protection.text().contains(u"does not open the archives"); }));
-    type(u"correct horse"_qs, u"correct horse"_qs);
+    type(u"correct horse"_s, u"correct horse"_s);
 
     // What is to be replaced is asked about first; the question is not answered by closing it.
-    clickAndAnswer(u"buttonLaunch01"_qs, u"warningPanel03"_qs, [this] {
-        EXPECT_EQ(widget<QLineEdit>(u"folderNotEmptyText02"_qs).text(), program.path("archives"));
-        QTest::keyClick(&widget(u"warningPanel03"_qs), Qt::Key_Escape);
+    clickAndAnswer(u"buttonLaunch01"_s, u"warningPanel03"_s, [this] {
+        EXPECT_EQ(widget<QLineEdit>(u"folderNotEmptyText02"_s).text(), program.path("archives"));
+        QTest::keyClick(&widget(u"warningPanel03"_s), Qt::Key_Escape);
     });
     waitForEnd();
     EXPECT_EQ(archives(), volumes);
@@ -113,11 +115,11 @@ TEST_F(BackupTest, AWholeBackupByClicks)
     // One that is mistyped, too, where nothing is there to try it on.
     for (const QString &volume : volumes)
         QFile::remove(program.path("archives/" + volume.toStdString()));
-    type(u"correct horse"_qs, u"correct house"_qs);
-    EXPECT_FALSE(widget(u"repetitionHint"_qs).isHidden());
-    clickAndAnswer(u"buttonLaunch01"_qs, u"concernsPanel01"_qs, [this] {
-        EXPECT_TRUE(widget<ui::TextArea>(u"concernsText01"_qs).text().contains(u"differ"));
-        QTest::keyClick(&widget(u"concernsPanel01"_qs), Qt::Key_Escape);
+    type(u"correct horse"_s, u"correct house"_s);
+    EXPECT_FALSE(widget(u"repetitionHint"_s).isHidden());
+    clickAndAnswer(u"buttonLaunch01"_s, u"concernsPanel01"_s, [this] {
+        EXPECT_TRUE(widget<ui::TextArea>(u"concernsText01"_s).text().contains(u"differ"));
+        QTest::keyClick(&widget(u"concernsPanel01"_s), Qt::Key_Escape);
     });
     waitForEnd();
     EXPECT_EQ(archives(), QStringList());
@@ -128,45 +130,45 @@ TEST_F(BackupTest, ManyConcernsStayOnTheScreen)
     const std::string unbroken(200, 'x');
     for (int number = 0; number < 14; ++number)
         delegate.addFolders({program.path(unbroken + "/is gone " + std::to_string(number))});
-    const auto &panel = widget(u"concernsPanel01"_qs);
-    auto &text = widget<ui::TextArea>(u"concernsText01"_qs);
-    clickAndAnswer(u"buttonLaunch01"_qs, u"concernsPanel01"_qs, [&] {
+    const auto &panel = widget(u"concernsPanel01"_s);
+    auto &text = widget<ui::TextArea>(u"concernsText01"_s);
+    clickAndAnswer(u"buttonLaunch01"_s, u"concernsPanel01"_s, [&] {
         EXPECT_TRUE(text.text().contains(u"more.")) << text.text().toStdString();
         EXPECT_TRUE(panel.screen()->availableGeometry().contains(panel.frameGeometry()));
         EXPECT_GT(text.verticalScrollBar()->maximum(), 0);
         EXPECT_EQ(text.horizontalScrollBar()->maximum(), 0) << "a path is cut off";
-        QTest::keyClick(&widget(u"concernsPanel01"_qs), Qt::Key_Escape);
+        QTest::keyClick(&widget(u"concernsPanel01"_s), Qt::Key_Escape);
     });
     waitForEnd();
     EXPECT_EQ(archives(), QStringList());
 
-    delegate.concernsText01.setText(u"Short."_qs);
+    delegate.concernsText01.setText(u"Short."_s);
     delegate.concernsPanel01.beginSheet();
     settle();
     EXPECT_LT(text.height(), 100) << "a short text takes the room of the long one";
-    click(u"concernsPanel01GoOn"_qs);
+    click(u"concernsPanel01GoOn"_s);
 }
 
 TEST_F(BackupTest, WhatIsLeftInClearIsShownUntilItIsRemoved)
 {
-    const int heightBefore = widget<QTabWidget>(u"mainTabs"_qs).height();
-    EXPECT_GT(heightBefore, window.centralWidget()->height() - 80 - widget(u"mainTabs"_qs).y());
+    const int heightBefore = widget<QTabWidget>(u"mainTabs"_s).height();
+    EXPECT_GT(heightBefore, window.centralWidget()->height() - 80 - widget(u"mainTabs"_s).y());
     const Stub failing(program.folder(), "openssl", "complain no");
-    program.useTool(u"OpenSSL"_qs, failing.path());
-    click(u"buttonLaunch01"_qs);
+    program.useTool(u"OpenSSL"_s, failing.path());
+    click(u"buttonLaunch01"_s);
     waitForEnd();
-    click(u"consoleCloseButton"_qs);
-    EXPECT_EQ(archives(), QStringList{u"docs.rar"_qs});
+    click(u"consoleCloseButton"_s);
+    EXPECT_EQ(archives(), QStringList{u"docs.rar"_s});
     EXPECT_TRUE(waitUntil(
-        [this] { return widget<ui::TextArea>(u"resultDetails"_qs).text().startsWith(u"What failed"); }));
-    EXPECT_TRUE(widget(u"clearText01"_qs).isVisible());
-    EXPECT_TRUE(widget<ui::TextArea>(u"clearText01"_qs).text().contains(program.path("archives/docs.rar")));
-    EXPECT_LT(widget(u"mainTabs"_qs).height(), heightBefore);
-    click(u"clearRemove01"_qs);
-    EXPECT_TRUE(waitUntil([this] { return !widget(u"clearText01"_qs).isVisible(); }));
+        [this] { return widget<ui::TextArea>(u"resultDetails"_s).text().startsWith(u"What failed"); }));
+    EXPECT_TRUE(widget(u"clearText01"_s).isVisible());
+    EXPECT_TRUE(widget<ui::TextArea>(u"clearText01"_s).text().contains(program.path("archives/docs.rar")));
+    EXPECT_LT(widget(u"mainTabs"_s).height(), heightBefore);
+    click(u"clearRemove01"_s);
+    EXPECT_TRUE(waitUntil([this] { return !widget(u"clearText01"_s).isVisible(); }));
     settle();
     EXPECT_EQ(archives(), QStringList());
-    EXPECT_EQ(widget(u"mainTabs"_qs).height(), heightBefore);
+    EXPECT_EQ(widget(u"mainTabs"_s).height(), heightBefore);
 }
 
 // By a real service of notices, whose buttons a script presses.
@@ -182,13 +184,13 @@ TEST_F(BackupTest, WhoLooksElsewhereIsToldOfTheEnd)
     // In front, whoever works with the window sees it there.
     window.activateWindow();
     ASSERT_TRUE(waitUntil([] { return QApplication::activeWindow() != nullptr; }));
-    click(u"buttonLaunch01"_qs);
+    click(u"buttonLaunch01"_s);
     waitForEnd();
 
     QWindow other;
     other.show();
-    clickAndAnswer(u"buttonLaunch01"_qs, u"warningPanel03"_qs, [this] { click(u"buttonLaunch01b"_qs); });
-    ASSERT_TRUE(waitUntil([this] { return widget(u"progressPanel01"_qs).isVisible(); }));
+    clickAndAnswer(u"buttonLaunch01"_s, u"warningPanel03"_s, [this] { click(u"buttonLaunch01b"_s); });
+    ASSERT_TRUE(waitUntil([this] { return widget(u"progressPanel01"_s).isVisible(); }));
     other.requestActivate();
     ASSERT_TRUE(waitUntil([] { return !QApplication::activeWindow(); }));
     waitForEnd();
@@ -198,7 +200,7 @@ TEST_F(BackupTest, WhoLooksElsewhereIsToldOfTheEnd)
     ASSERT_TRUE(waitUntil([&] { return displayed().startsWith(u"1"); })) << displayed().toStdString();
     EXPECT_EQ(runCommand({"dunstctl", "action", "0"}).status, 0);
     EXPECT_TRUE(waitUntil([&] { return !opened.isEmpty(); }));
-    EXPECT_EQ(opened, QStringList{u"file://"_qs + program.path("archives")});
+    EXPECT_EQ(opened, QStringList{u"file://"_s + program.path("archives")});
     runCommand({"dunstctl", "close-all"});
     const std::string history = runCommand({"dunstctl", "history"}).output;
     EXPECT_NE(history.find("Backed up 1 of 1"), std::string::npos) << history;
@@ -207,13 +209,13 @@ TEST_F(BackupTest, WhoLooksElsewhereIsToldOfTheEnd)
     window.activateWindow();
     ASSERT_TRUE(waitUntil([] { return QApplication::activeWindow() != nullptr; }));
     const Stub failing(program.folder(), "openssl", "complain no");
-    program.useTool(u"OpenSSL"_qs, failing.path());
-    clickAndAnswer(u"buttonLaunch01"_qs, u"warningPanel03"_qs, [this] { click(u"buttonLaunch01b"_qs); });
-    ASSERT_TRUE(waitUntil([this] { return widget(u"progressPanel01"_qs).isVisible(); }));
+    program.useTool(u"OpenSSL"_s, failing.path());
+    clickAndAnswer(u"buttonLaunch01"_s, u"warningPanel03"_s, [this] { click(u"buttonLaunch01b"_s); });
+    ASSERT_TRUE(waitUntil([this] { return widget(u"progressPanel01"_s).isVisible(); }));
     other.requestActivate();
     ASSERT_TRUE(waitUntil([] { return !QApplication::activeWindow(); }));
     waitForEnd();
-    EXPECT_TRUE(waitUntil([this] { return widget(u"consolePanel01"_qs).isVisible(); }));
+    EXPECT_TRUE(waitUntil([this] { return widget(u"consolePanel01"_s).isVisible(); }));
     EXPECT_TRUE(waitUntil([&] { return displayed().startsWith(u"1"); })) << "who is elsewhere is not told";
     EXPECT_EQ(QGuiApplication::focusWindow(), &other);
 }
@@ -221,40 +223,39 @@ TEST_F(BackupTest, WhoLooksElsewhereIsToldOfTheEnd)
 TEST_F(BackupTest, StoppingAsks)
 {
     const Stub hanging(program.folder(), "rar", "hang");
-    program.useTool(u"RAR"_qs, hanging.path());
-    click(u"buttonLaunch01"_qs);
-    ASSERT_TRUE(
-        waitUntil([this] { return widget(u"progressPanel01"_qs).isVisible() && toolsRunning() > 0; }));
-    for (const QString &answer : {u"&Keep running"_qs, QString()}) {
-        QTest::keyClick(&widget(u"progressPanel01"_qs), Qt::Key_Escape);
+    program.useTool(u"RAR"_s, hanging.path());
+    click(u"buttonLaunch01"_s);
+    ASSERT_TRUE(waitUntil([this] { return widget(u"progressPanel01"_s).isVisible() && toolsRunning() > 0; }));
+    for (const QString &answer : {u"&Keep running"_s, QString()}) {
+        QTest::keyClick(&widget(u"progressPanel01"_s), Qt::Key_Escape);
         settle();
-        ASSERT_TRUE(button(u"&Stop"_qs));
+        ASSERT_TRUE(button(u"&Stop"_s));
         EXPECT_FALSE(delegate.cancelFlag());
         if (QPushButton *given = button(answer)) given->click();
         settle();
     }
     endTools();
     waitForEnd();
-    EXPECT_FALSE(button(u"&Stop"_qs)) << "there is nothing left to stop";
-    click(u"consoleCloseButton"_qs);
-    click(u"buttonLaunch01"_qs);
+    EXPECT_FALSE(button(u"&Stop"_s)) << "there is nothing left to stop";
+    click(u"consoleCloseButton"_s);
+    click(u"buttonLaunch01"_s);
     ASSERT_TRUE(waitUntil([] { return toolsRunning() > 0; }));
     const QSignalSpy closed(&window, &ui::Window::closed);
     // Closing must get past the sheet, which blocks the rest of the window.
-    EXPECT_FALSE(widget(u"progressPanel01"_qs).isModal());
-    EXPECT_FALSE(widget(u"buttonLaunch01"_qs).isEnabled());
+    EXPECT_FALSE(widget(u"progressPanel01"_s).isModal());
+    EXPECT_FALSE(widget(u"buttonLaunch01"_s).isEnabled());
 
     EXPECT_FALSE(window.close());
     settle();
-    ASSERT_TRUE(button(u"&Keep running"_qs));
-    button(u"&Keep running"_qs)->click();
+    ASSERT_TRUE(button(u"&Keep running"_s));
+    button(u"&Keep running"_s)->click();
     settle();
-    EXPECT_FALSE(button(u"&Keep running"_qs));
+    EXPECT_FALSE(button(u"&Keep running"_s));
     EXPECT_TRUE(window.isVisible() && delegate.isRunActive());
     EXPECT_FALSE(window.close());
     settle();
-    ASSERT_TRUE(button(u"&Stop and quit"_qs));
-    button(u"&Stop and quit"_qs)->click();
+    ASSERT_TRUE(button(u"&Stop and quit"_s));
+    button(u"&Stop and quit"_s)->click();
     EXPECT_TRUE(waitUntil([&] { return closed.count() == 1; }));
     delegate.applicationWillTerminate();
     EXPECT_EQ(toolsRunning(), 0);

@@ -7,6 +7,8 @@
 #include <QLineEdit>
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class BindingTest : public WindowTest {};
@@ -36,7 +38,7 @@ TEST_F(BindingTest, EveryOutletHasOneWidget)
 TEST_F(BindingTest, ManyChangesAreShownOnceAndByTheLastValue)
 {
     outlets::Registry registry;
-    outlets::TextField field(registry, u"field"_qs);
+    outlets::TextField field(registry, u"field"_s);
     QStringList shown;
     {
         ui::RefreshQueue queue;
@@ -46,10 +48,10 @@ TEST_F(BindingTest, ManyChangesAreShownOnceAndByTheLastValue)
                 field.setText(QString::number(number));
         }).join();
         settle();
-        EXPECT_EQ(shown, (QStringList{QString(), u"1000"_qs}));
-        field.setText(u"queued when the window goes"_qs);
+        EXPECT_EQ(shown, (QStringList{QString(), u"1000"_s}));
+        field.setText(u"queued when the window goes"_s);
     }
-    field.setText(u"later still"_qs);
+    field.setText(u"later still"_s);
     settle();
     EXPECT_EQ(shown.size(), 2);
 }
@@ -78,8 +80,8 @@ TEST_F(BindingTest, EscapeAsksThePanelsClosingAction)
 
 TEST_F(BindingTest, WhatIsMaskedIsNotSpoken)
 {
-    auto &field = widget<QLineEdit>(u"secureText01a"_qs);
-    const QString secret = u"sesame"_qs;
+    auto &field = widget<QLineEdit>(u"secureText01a"_s);
+    const QString secret = u"sesame"_s;
     const QAccessibleTextUpdateEvent update(&field, 0, secret, secret);
     const QAccessibleTextInsertEvent insert(&field, 0, secret);
     const QAccessibleTextRemoveEvent remove(&field, 0, secret);
@@ -88,7 +90,7 @@ TEST_F(BindingTest, WhatIsMaskedIsNotSpoken)
         const auto told = ui::withoutSecret(*event);
         ASSERT_TRUE(told && told->type() == event->type());
         for (const QString &text : textsOf(*told))
-            EXPECT_EQ(text, u"******"_qs);
+            EXPECT_EQ(text, u"******"_s);
         field.setEchoMode(QLineEdit::Normal);
         EXPECT_FALSE(ui::withoutSecret(*event)) << "it is shown";
         field.setEchoMode(QLineEdit::Password);

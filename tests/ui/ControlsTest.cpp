@@ -15,6 +15,8 @@
 #include <fstream>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Control {
@@ -27,41 +29,41 @@ struct Control {
 
 QList<Control> controls()
 {
-    const QStringList paths{u"/one"_qs, u"/two"_qs};
-    const QStringList lists{u"/a /b"_qs, u"/c"_qs};
-    const QStringList truths{u"1"_qs, u"0"_qs};
+    const QStringList paths{u"/one"_s, u"/two"_s};
+    const QStringList lists{u"/a /b"_s, u"/c"_s};
+    const QStringList truths{u"1"_s, u"0"_s};
     return {
-        {u"folders"_qs, u"listTableView"_qs, u"folderButton01"_qs, lists, u""_qs},
-        {u"sync"_qs, u"syncTableView"_qs, u"syncButton01"_qs, lists, u""_qs},
-        {u"part"_qs, u"prefText01"_qs, {}, {u"2500"_qs, u"10"_qs}, {}}, // enabled by the next one
-        {u"split"_qs, u"checkBox04"_qs, {}, {u"0"_qs, u"1"_qs}, u"0"_qs},
-        {u"keepdate"_qs, u"checkBox05"_qs, {}, truths, u"0"_qs},
-        {u"emptydir"_qs, u"prefCheck02"_qs, {}, truths, u"1"_qs},
-        {u"compress"_qs, u"checkBox06"_qs, {}, truths, u"0"_qs},
-        {u"compress"_qs, u"prefCheck03"_qs, {}, truths, u"0"_qs},
-        {u"rsyncdelete1"_qs, u"checkBoxSync1"_qs, {}, truths, u"0"_qs},
-        {u"rsyncdelete2"_qs, u"checkBoxSync2"_qs, {}, truths, u"0"_qs},
-        {u"isremotesync"_qs, u"syncCheck01"_qs, {}, {u"0"_qs, u"1"_qs}, u"0"_qs},
-        {u"symencryption"_qs,
-         u"prefSelector01"_qs,
+        {u"folders"_s, u"listTableView"_s, u"folderButton01"_s, lists, u""_s},
+        {u"sync"_s, u"syncTableView"_s, u"syncButton01"_s, lists, u""_s},
+        {u"part"_s, u"prefText01"_s, {}, {u"2500"_s, u"10"_s}, {}}, // enabled by the next one
+        {u"split"_s, u"checkBox04"_s, {}, {u"0"_s, u"1"_s}, u"0"_s},
+        {u"keepdate"_s, u"checkBox05"_s, {}, truths, u"0"_s},
+        {u"emptydir"_s, u"prefCheck02"_s, {}, truths, u"1"_s},
+        {u"compress"_s, u"checkBox06"_s, {}, truths, u"0"_s},
+        {u"compress"_s, u"prefCheck03"_s, {}, truths, u"0"_s},
+        {u"rsyncdelete1"_s, u"checkBoxSync1"_s, {}, truths, u"0"_s},
+        {u"rsyncdelete2"_s, u"checkBoxSync2"_s, {}, truths, u"0"_s},
+        {u"isremotesync"_s, u"syncCheck01"_s, {}, {u"0"_s, u"1"_s}, u"0"_s},
+        {u"symencryption"_s,
+         u"prefSelector01"_s,
          {},
-         {u"OpenSSL-AES"_qs, u"OpenSSL-BF"_qs, u"OpenSSL-3D"_qs},
+         {u"OpenSSL-AES"_s, u"OpenSSL-BF"_s, u"OpenSSL-3D"_s},
          {}},
-        {u"rsyncmode"_qs, u"syncSelector01"_qs, {}, {u"0"_qs, u"1"_qs}, u"1"_qs},
-        {u"passtype"_qs, u"passCombo01"_qs, {}, {u"0"_qs, u"1"_qs, u"2"_qs}, {}},
-        {u"path"_qs, u"fileText01"_qs, u"fileButton01"_qs, paths, {}},
-        {u"extractpath"_qs, u"extractPath"_qs, u"extractPathButton"_qs, paths, {}},
-        {u"rsyncsrc"_qs, u"syncTextSourcePath"_qs, u"syncButtoSrc"_qs, paths, u""_qs},
-        {u"rsyncdst"_qs, u"syncTextDestPath"_qs, u"syncButtoDest"_qs, paths, u""_qs},
-        {u"rsyncdst"_qs, u"syncTextDestPath"_qs, {}, paths, u""_qs},
-        {u"remotesyncuser"_qs, u"syncUser"_qs, {}, paths, u""_qs},
-        {u"remotesyncserver"_qs, u"syncServer"_qs, {}, paths, u""_qs},
-        {u"remotesyncport"_qs, u"syncPort"_qs, {}, paths, u""_qs},
-        {u"lastkeychainuser"_qs, u"keychainUser"_qs, u"-"_qs, paths, u""_qs},
-        {u"lastcertfile"_qs, u"certFile01"_qs, u"-"_qs, paths, u""_qs},
-        {u"lastpkfile"_qs, u"pkFile01"_qs, u"-"_qs, paths, u""_qs},
-        {u"resources/autosave"_qs, u"autosaveCheck01"_qs, {}, {u"0"_qs, u"1"_qs}, {}},
-        {u"updates/automatic"_qs, u"updatesCheck01"_qs, {}, {u"1"_qs, u"0"_qs}, {}},
+        {u"rsyncmode"_s, u"syncSelector01"_s, {}, {u"0"_s, u"1"_s}, u"1"_s},
+        {u"passtype"_s, u"passCombo01"_s, {}, {u"0"_s, u"1"_s, u"2"_s}, {}},
+        {u"path"_s, u"fileText01"_s, u"fileButton01"_s, paths, {}},
+        {u"extractpath"_s, u"extractPath"_s, u"extractPathButton"_s, paths, {}},
+        {u"rsyncsrc"_s, u"syncTextSourcePath"_s, u"syncButtoSrc"_s, paths, u""_s},
+        {u"rsyncdst"_s, u"syncTextDestPath"_s, u"syncButtoDest"_s, paths, u""_s},
+        {u"rsyncdst"_s, u"syncTextDestPath"_s, {}, paths, u""_s},
+        {u"remotesyncuser"_s, u"syncUser"_s, {}, paths, u""_s},
+        {u"remotesyncserver"_s, u"syncServer"_s, {}, paths, u""_s},
+        {u"remotesyncport"_s, u"syncPort"_s, {}, paths, u""_s},
+        {u"lastkeychainuser"_s, u"keychainUser"_s, u"-"_s, paths, u""_s},
+        {u"lastcertfile"_s, u"certFile01"_s, u"-"_s, paths, u""_s},
+        {u"lastpkfile"_s, u"pkFile01"_s, u"-"_s, paths, u""_s},
+        {u"resources/autosave"_s, u"autosaveCheck01"_s, {}, {u"0"_s, u"1"_s}, {}},
+        {u"updates/automatic"_s, u"updatesCheck01"_s, {}, {u"1"_s, u"0"_s}, {}},
     };
 }
 
@@ -101,8 +103,8 @@ protected:
     /// Opens a profile with this record.
     void open(const plist::Dictionary &record)
     {
-        delegate.listPlist().setValue(u"opened"_qs, record);
-        delegate.setterCurrentProfile(u"opened"_qs);
+        delegate.listPlist().setValue(u"opened"_s, record);
+        delegate.setterCurrentProfile(u"opened"_s);
         settle();
     }
     /// Opens a profile in which each control has the value of that round.
@@ -117,8 +119,7 @@ protected:
     QString shown(const Control &control)
     {
         QWidget &shownBy = widget(control.name);
-        if (const auto *box = qobject_cast<QCheckBox *>(&shownBy))
-            return box->isChecked() ? u"1"_qs : u"0"_qs;
+        if (const auto *box = qobject_cast<QCheckBox *>(&shownBy)) return box->isChecked() ? u"1"_s : u"0"_s;
         if (const auto *chooser = qobject_cast<QComboBox *>(&shownBy))
             return control.values.value(chooser->currentIndex());
         if (const auto *size = qobject_cast<ui::SizeEdit *>(&shownBy)) return size->thousands();
@@ -126,7 +127,7 @@ protected:
         const ui::OutletTableModel &model = widget<ui::OutletTableView>(control.name).outletModel();
         QStringList rows;
         for (int row = 0; row < model.rowCount(); ++row)
-            rows.append(model.cell(row, u"c10"_qs).toString());
+            rows.append(model.cell(row, u"c10"_s).toString());
         return rows.join(u' ');
     }
 
@@ -149,7 +150,7 @@ protected:
             }
         } else if (auto *field = qobject_cast<QLineEdit *>(&pressed)) {
             field->selectAll();
-            QTest::keyClicks(field, qobject_cast<ui::SizeEdit *>(field) ? value + u" kB"_qs : value);
+            QTest::keyClicks(field, qobject_cast<ui::SizeEdit *>(field) ? value + u" kB"_s : value);
         } else if (qobject_cast<QComboBox *>(&pressed)) {
             QTest::keyClick(&pressed, Qt::Key_Home);
             for (qsizetype row = control.values.indexOf(value); row > 0; --row)
@@ -205,12 +206,12 @@ TEST_F(ControlsTest, KeepTheirStateUnderTheirOwnKeyAtOnce)
 {
     const plist::Dictionary settings = delegate.configPlist();
     const auto kept = [&] {
-        return textsOf(delegate.currentRecord()) + textsOf(settings.dictionary(u"resources"_qs)) +
-               textsOf(settings.dictionary(u"updates"_qs));
+        return textsOf(delegate.currentRecord()) + textsOf(settings.dictionary(u"resources"_s)) +
+               textsOf(settings.dictionary(u"updates"_s));
     };
     const plist::Dictionary other = delegate.currentRecord().deepCopy();
     const std::string untouched = textsOf(other);
-    delegate.listPlist().setValue(u"other"_qs, other);
+    delegate.listPlist().setValue(u"other"_s, other);
     open(0);
     for (const Control &control : controls())
         for (const QString &value : control.values) {
@@ -236,7 +237,7 @@ TEST_F(ControlsTest, ShowTheirKeyOrItsAbsence)
         open(round);
         for (const Control &control : controls())
             EXPECT_EQ(shown(control), valueOf(control, round)) << qPrintable(control.key);
-        EXPECT_FALSE(widget<QComboBox>(u"prefSelector02"_qs).currentText().isEmpty());
+        EXPECT_FALSE(widget<QComboBox>(u"prefSelector02"_s).currentText().isEmpty());
         EXPECT_EQ(delegate.syncView.isHidden(), !delegate.syncCheck01.isOn());
         EXPECT_EQ(delegate.partSize(), delegate.prefText01.text());
         EXPECT_EQ(delegate.partSize(), QString::number(delegate.prefStepper01.value()));
@@ -247,10 +248,10 @@ TEST_F(ControlsTest, ShowTheirKeyOrItsAbsence)
             EXPECT_EQ(shown(control), control.without.value_or(valueOf(control, round)))
                 << qPrintable(control.key);
         EXPECT_TRUE(delegate.syncView.isHidden());
-        EXPECT_FALSE(delegate.currentRecord().contains(u"compress"_qs)) << "showing a profile changes it";
+        EXPECT_FALSE(delegate.currentRecord().contains(u"compress"_s)) << "showing a profile changes it";
     }
-    delegate.currentRecord().setValue(u"path"_qs, u"");
-    delegate.setterCurrentProfile(u"opened"_qs);
+    delegate.currentRecord().setValue(u"path"_s, u"");
+    delegate.setterCurrentProfile(u"opened"_s);
     EXPECT_EQ(delegate.fileText01.text(), QString()) << "an empty destination is a destination";
 }
 
@@ -260,7 +261,7 @@ TEST_F(ControlsTest, NoSecretIsSeenInTheNextProfile)
         &delegate.secureText01a, &delegate.secureText01b,  &delegate.secureText02,   &delegate.keychainPass,
         &delegate.keychainClear, &delegate.keychainText01, &delegate.keychainOrigin, &delegate.keychainUser};
     for (outlets::TextField *field : fields)
-        field->setText(u"secret"_qs);
+        field->setText(u"secret"_s);
     delegate.keychainUnlock01.setHidden(false);
     open(plist::Dictionary::make());
     for (const outlets::TextField *field : fields)
@@ -271,10 +272,10 @@ TEST_F(ControlsTest, NoSecretIsSeenInTheNextProfile)
 // In none of the program's memory: not in what was freed, nor in the room that a field has.
 TEST_F(ControlsTest, NoSecretStaysInMemory)
 {
-    showTab(u"passwordsPage"_qs);
+    showTab(u"passwordsPage"_s);
     const QByteArray scrambled = "insrd6c`uudsx"; // the test must not find its own copy
     for (const char character : scrambled) {
-        for (const QString &name : {u"secureText01a"_qs, u"secureText02"_qs, u"keychainPass"_qs})
+        for (const QString &name : {u"secureText01a"_s, u"secureText02"_s, u"keychainPass"_s})
             QTest::keyClick(&widget(name), static_cast<char>(character ^ 1));
         settle();
     }

@@ -13,6 +13,8 @@
 #include <QLabel>
 #include <QTreeView>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ExtractTest : public WindowTest {
@@ -22,12 +24,12 @@ protected:
     {
         writeFile(program.folder() / "docs" / "data", std::string(1000, 'x') + std::string(9000, 'y'));
         program.setUpBackup({program.path("docs")});
-        delegate.prefStepper01Action(u"4"_qs);
+        delegate.prefStepper01Action(u"4"_s);
         program.backUp();
         std::filesystem::create_directories(program.folder() / "out");
         delegate.openPanel = [this](const outlets::OpenPanel &) { return QStringList{program.path("out")}; };
-        showTab(u"extractPage"_qs);
-        click(u"extractPathButton"_qs);
+        showTab(u"extractPage"_s);
+        click(u"extractPathButton"_s);
     }
 
     void dropOnList(const QString &path) { drop(list, {QUrl::fromLocalFile(path)}); }
@@ -39,7 +41,7 @@ protected:
                brush.value<QBrush>() == QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
     }
 
-    ui::ArchiveListView &list = widget<ui::ArchiveListView>(u"extractTableView"_qs);
+    ui::ArchiveListView &list = widget<ui::ArchiveListView>(u"extractTableView"_s);
 };
 
 } // namespace
@@ -47,9 +49,9 @@ protected:
 TEST_F(ExtractTest, AWholeExtractionByHand)
 {
     dropOnList(program.path("archives/docs.rar.aes.part2.rar"));
-    EXPECT_TRUE(widget<ui::TextArea>(u"outputText02"_qs).text().contains(u"first volume is missing"));
-    EXPECT_FALSE(widget(u"openFolderButton"_qs).isEnabled());
-    click(u"extractButton03"_qs);
+    EXPECT_TRUE(widget<ui::TextArea>(u"outputText02"_s).text().contains(u"first volume is missing"));
+    EXPECT_FALSE(widget(u"openFolderButton"_s).isEnabled());
+    click(u"extractButton03"_s);
     EXPECT_EQ(list.outletModel().rowCount(), 0);
 
     dropOnList(program.path("archives"));
@@ -57,25 +59,25 @@ TEST_F(ExtractTest, AWholeExtractionByHand)
     EXPECT_TRUE(waitUntil([&] { return isGrey(1); }));
     EXPECT_FALSE(isGrey(0));
 
-    click(u"buttonLaunch02"_qs);
+    click(u"buttonLaunch02"_s);
     program.waitForEnd();
     settle();
     EXPECT_EQ(delegate.consoleTextView01.text(), QString());
-    EXPECT_TRUE(widget(u"openFolderButton"_qs).isEnabled());
+    EXPECT_TRUE(widget(u"openFolderButton"_s).isEnabled());
     EXPECT_TRUE(
         std::filesystem::exists(program.folder() / "out" / program.folder().relative_path() / "docs/data"));
 }
 
 TEST_F(ExtractTest, BackupsAreOfferedAndTakenByOneClick)
 {
-    auto &found = widget<ui::BackupList>(u"backupsFound"_qs);
+    auto &found = widget<ui::BackupList>(u"backupsFound"_s);
     ASSERT_TRUE(waitUntil([&] { return found.topLevelItemCount() == 1; }));
     const auto tick = [&] {
         found.setCurrentItem(found.topLevelItem(0));
         QTest::keyClick(&found, Qt::Key_Space);
         settle();
     };
-    EXPECT_EQ(found.topLevelItem(0)->text(0), u"docs"_qs);
+    EXPECT_EQ(found.topLevelItem(0)->text(0), u"docs"_s);
     EXPECT_EQ(list.outletModel().rowCount(), 0) << "nothing is taken unasked";
     for (const int rows : {1, 0, 1}) {
         tick();
@@ -85,18 +87,18 @@ TEST_F(ExtractTest, BackupsAreOfferedAndTakenByOneClick)
     // Others add to it, and volumes go.
     writeFile(program.folder() / "archives/old.rar.aes.part2.rar", "x");
     std::filesystem::remove(program.folder() / "archives/docs.rar.aes.part2.rar");
-    showTab(u"passwordsPage"_qs);
-    showTab(u"extractPage"_qs);
+    showTab(u"passwordsPage"_s);
+    showTab(u"extractPage"_s);
     ASSERT_TRUE(waitUntil([&] { return found.topLevelItemCount() == 2; }));
-    EXPECT_EQ(found.topLevelItem(0)->text(3), u"its first part is missing"_qs);
-    EXPECT_EQ(found.topLevelItem(1)->text(3), u"incomplete"_qs);
+    EXPECT_EQ(found.topLevelItem(0)->text(3), u"its first part is missing"_s);
+    EXPECT_EQ(found.topLevelItem(1)->text(3), u"incomplete"_s);
 
-    EXPECT_FALSE(widget(u"restoredFolderButton01"_qs).isVisible()) << "a place is chosen";
+    EXPECT_FALSE(widget(u"restoredFolderButton01"_s).isVisible()) << "a place is chosen";
     delegate.extractPath.setText({});
     settle();
-    click(u"restoredFolderButton01"_qs);
-    EXPECT_EQ(delegate.extractPath.text(), QDir::home().filePath(u"Restored"_qs));
-    EXPECT_TRUE(QDir(delegate.currentRecord().string(u"extractpath"_qs).value_or(QString())).exists());
+    click(u"restoredFolderButton01"_s);
+    EXPECT_EQ(delegate.extractPath.text(), QDir::home().filePath(u"Restored"_s));
+    EXPECT_TRUE(QDir(delegate.currentRecord().string(u"extractpath"_s).value_or(QString())).exists());
 }
 
 TEST_F(ExtractTest, OneFileIsFoundAndComesBackAlone)
@@ -106,19 +108,19 @@ TEST_F(ExtractTest, OneFileIsFoundAndComesBackAlone)
     settle();
     dropOnList(program.path("archives"));
     const auto look = [&] {
-        click(u"contentsButton01"_qs);
-        EXPECT_TRUE(waitUntil([&] { return widget(u"contentsPanel01"_qs).isVisible(); }))
+        click(u"contentsButton01"_s);
+        EXPECT_TRUE(waitUntil([&] { return widget(u"contentsPanel01"_s).isVisible(); }))
             << delegate.outputText02.text().toStdString();
         settle();
     };
     look();
-    EXPECT_FALSE(widget(u"contentsPanel01RestoreButton"_qs).isEnabled());
-    QTest::keyClicks(&widget(u"contentsSearch"_qs), u"DAT"_qs);
-    QTest::keyClick(&widget(u"contentsTree"_qs), Qt::Key_Space);
+    EXPECT_FALSE(widget(u"contentsPanel01RestoreButton"_s).isEnabled());
+    QTest::keyClicks(&widget(u"contentsSearch"_s), u"DAT"_s);
+    QTest::keyClick(&widget(u"contentsTree"_s), Qt::Key_Space);
     settle();
-    EXPECT_TRUE(widget<QLabel>(u"contentsChoice"_qs).text().contains(u"1 file"))
-        << widget<QLabel>(u"contentsChoice"_qs).text().toStdString();
-    click(u"contentsPanel01RestoreButton"_qs);
+    EXPECT_TRUE(widget<QLabel>(u"contentsChoice"_s).text().contains(u"1 file"))
+        << widget<QLabel>(u"contentsChoice"_s).text().toStdString();
+    click(u"contentsPanel01RestoreButton"_s);
     program.waitForEnd();
     settle();
     const std::filesystem::path place =
@@ -131,40 +133,40 @@ TEST_F(ExtractTest, OneFileIsFoundAndComesBackAlone)
         1);
 
     // What is known needs no password, and what has changed since is not known.
-    delegate.secureText01a.setText(u"wrong"_qs);
+    delegate.secureText01a.setText(u"wrong"_s);
     look();
-    QTest::keyClick(&widget(u"contentsPanel01"_qs), Qt::Key_Escape);
+    QTest::keyClick(&widget(u"contentsPanel01"_s), Qt::Key_Escape);
     settle();
-    delegate.secureText01a.setText(u"correct horse"_qs);
+    delegate.secureText01a.setText(u"correct horse"_s);
     program.backUp();
     settle();
-    delegate.secureText01a.setText(u"wrong"_qs);
-    click(u"contentsButton01"_qs);
+    delegate.secureText01a.setText(u"wrong"_s);
+    click(u"contentsButton01"_s);
     program.waitForEnd();
     EXPECT_TRUE(waitForThreads(std::chrono::seconds(60)));
     settle();
-    EXPECT_FALSE(widget(u"contentsPanel01"_qs).isVisible());
-    EXPECT_TRUE(widget<ui::TextArea>(u"outputText02"_qs).text().contains(u"password"));
+    EXPECT_FALSE(widget(u"contentsPanel01"_s).isVisible());
+    EXPECT_TRUE(widget<ui::TextArea>(u"outputText02"_s).text().contains(u"password"));
 }
 
 TEST_F(ExtractTest, LookingIntoAnArchiveSaysSoAndStops)
 {
     const Stub hanging(program.folder(), "rar", "hang");
-    program.useTool(u"RAR"_qs, hanging.path());
+    program.useTool(u"RAR"_s, hanging.path());
     dropOnList(program.path("archives"));
-    for (const auto &[button, says] : {std::pair{u"contentsButton01"_qs, u"\"docs.rar.aes.part1.rar\""_qs},
-                                       {u"buttonLaunch02"_qs, u"archives"_qs}}) {
+    for (const auto &[button, says] : {std::pair{u"contentsButton01"_s, u"\"docs.rar.aes.part1.rar\""_s},
+                                       {u"buttonLaunch02"_s, u"archives"_s}}) {
         click(button);
         ASSERT_TRUE(waitUntil([] { return toolsRunning() > 0; }));
         settle();
-        EXPECT_TRUE(widget<QLabel>(u"progress02progressLabel01"_qs).text().contains(says));
-        click(u"buttonCancel02"_qs);
+        EXPECT_TRUE(widget<QLabel>(u"progress02progressLabel01"_s).text().contains(says));
+        click(u"buttonCancel02"_s);
         program.waitForEnd();
         EXPECT_TRUE(waitForThreads(std::chrono::seconds(60)));
         settle();
         EXPECT_EQ(toolsRunning(), 0);
-        EXPECT_TRUE(widget<ui::TextArea>(u"outputText02"_qs).text().startsWith(u"Cancelled"));
+        EXPECT_TRUE(widget<ui::TextArea>(u"outputText02"_s).text().startsWith(u"Cancelled"));
     }
-    EXPECT_FALSE(widget(u"contentsPanel01"_qs).isVisible());
+    EXPECT_FALSE(widget(u"contentsPanel01"_s).isVisible());
     EXPECT_TRUE(QDir(program.path("out")).isEmpty());
 }

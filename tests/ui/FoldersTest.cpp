@@ -18,6 +18,8 @@
 #include <QTabWidget>
 #include <QToolButton>
 
+using namespace Qt::StringLiterals;
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -29,7 +31,7 @@ protected:
         QApplication::setActiveWindow(&window); // no window manager does
     }
 
-    QStringList folders() const { return delegate.currentRecord().array(u"folders"_qs).strings(); }
+    QStringList folders() const { return delegate.currentRecord().array(u"folders"_s).strings(); }
 
     void haveDestination(const std::string &name)
     {
@@ -37,17 +39,17 @@ protected:
         delegate.openPanel = [this, name](const outlets::OpenPanel &) {
             return QStringList{program.path(name)};
         };
-        click(u"fileButton01"_qs);
+        click(u"fileButton01"_s);
     }
 
     /// What is shown of a row, in its columns.
     QString row(int index)
     {
-        const QAbstractItemModel &model = *widget<QAbstractItemView>(u"listTableView"_qs).model();
+        const QAbstractItemModel &model = *widget<QAbstractItemView>(u"listTableView"_s).model();
         QStringList cells;
         for (int column = 0; column < model.columnCount(); ++column)
             cells.append(model.index(index, column).data().toString().trimmed());
-        return cells.join(u'|').replace(toQString(program.folder()), u"."_qs);
+        return cells.join(u'|').replace(toQString(program.folder()), u"."_s);
     }
 
     /// Of the list of what is missing, the texts and the buttons.
@@ -55,7 +57,7 @@ protected:
     QList<W *> missing()
     {
         QList<W *> found;
-        const QWidget &list = widget(u"hindranceList"_qs);
+        const QWidget &list = widget(u"hindranceList"_s);
         for (W *each : list.findChildren<W *>())
             if (!list.isHidden() && each->isVisibleTo(&list) && !each->text().isEmpty()) found.append(each);
         return found;
@@ -82,15 +84,15 @@ TEST_F(FoldersTest, TheListTellsWhatIsKnownOfEachEntry)
         paths.append(program.path(name));
     haveDestination("inside/archives");
     delegate.addFolders(paths);
-    const QStringList expected{u"docs|./data|15"_qs, u"file|./data|2.0 kB|never"_qs,
-                               u"gone|.|not found|never"_qs, u"link|.|only a link|never"_qs,
-                               u"inside|.|holds the destination|never"_qs};
+    const QStringList expected{u"docs|./data|15"_s, u"file|./data|2.0 kB|never"_s,
+                               u"gone|.|not found|never"_s, u"link|.|only a link|never"_s,
+                               u"inside|.|holds the destination|never"_s};
     for (int index = 0; index < expected.size(); ++index)
         EXPECT_TRUE(waitUntil([&] { return row(index).startsWith(expected[index]); }))
             << qPrintable(row(index));
     // What a run has told is told after it, and by a window that opens later.
     const QDateTime now = QDateTime::currentDateTimeUtc();
-    RunJournal({.kind = u"backup"_qs,
+    RunJournal({.kind = u"backup"_s,
                 .profile = delegate.currentProfile(),
                 .folder = program.path("inside/archives"),
                 .began = now.addSecs(-60),
@@ -110,7 +112,7 @@ TEST_F(FoldersTest, WhatWasRemovedComesBack)
         all.append(program.path(name));
     delegate.addFolders(all);
     settle();
-    auto &list = widget<ui::FolderListView>(u"listTableView"_qs);
+    auto &list = widget<ui::FolderListView>(u"listTableView"_s);
     list.setFocus();
     for (const bool byKey : {true, false}) {
         list.selectRows({0, 2});
@@ -118,38 +120,38 @@ TEST_F(FoldersTest, WhatWasRemovedComesBack)
         QTest::keyClick(&list, Qt::Key_Delete);
         settle();
         EXPECT_EQ(folders(), (QStringList{all[1], all[3]}));
-        ASSERT_TRUE(widget(u"undoButton"_qs).isVisible());
-        EXPECT_EQ(widget<QLabel>(u"removedText"_qs).text(), u"2 entries are off the list."_qs);
-        byKey ? pressUndo() : click(u"undoButton"_qs);
+        ASSERT_TRUE(widget(u"undoButton"_s).isVisible());
+        EXPECT_EQ(widget<QLabel>(u"removedText"_s).text(), u"2 entries are off the list."_s);
+        byKey ? pressUndo() : click(u"undoButton"_s);
         settle();
         EXPECT_EQ(folders(), all);
-        EXPECT_FALSE(widget(u"undoButton"_qs).isVisible());
+        EXPECT_FALSE(widget(u"undoButton"_s).isVisible());
     }
     // In another profile it would put them where they never were.
     list.setFocus();
     list.selectRows({0});
     settle();
-    click(u"folderButton02"_qs);
-    ASSERT_TRUE(widget(u"undoButton"_qs).isVisible());
-    delegate.listPlist().setValue(u"other"_qs, delegate.defaultProfile().deepCopy());
-    delegate.setterCurrentProfile(u"other"_qs);
+    click(u"folderButton02"_s);
+    ASSERT_TRUE(widget(u"undoButton"_s).isVisible());
+    delegate.listPlist().setValue(u"other"_s, delegate.defaultProfile().deepCopy());
+    delegate.setterCurrentProfile(u"other"_s);
     settle();
-    EXPECT_FALSE(widget(u"undoButton"_qs).isVisible());
+    EXPECT_FALSE(widget(u"undoButton"_s).isVisible());
     pressUndo();
     EXPECT_EQ(folders(), QStringList());
 }
 
 TEST_F(FoldersTest, ListsSayThatTheyTakeADrop)
 {
-    for (const auto &[page, name] : {std::pair{u"foldersPage"_qs, u"listTableView"_qs},
-                                     {u"extractPage"_qs, u"extractTableView"_qs},
-                                     {u"synchronisationPage"_qs, u"syncTableView"_qs}}) {
+    for (const auto &[page, name] : {std::pair{u"foldersPage"_s, u"listTableView"_s},
+                                     {u"extractPage"_s, u"extractTableView"_s},
+                                     {u"synchronisationPage"_s, u"syncTableView"_s}}) {
         if (ui::widgetsNamed(page, window.roots()).size() == 1) showTab(page);
         auto &viewport = *widget<QAbstractItemView>(name).viewport();
         const QImage before = viewport.grab().toImage();
         for (const bool isFile : {true, false}) {
             QMimeData held;
-            held.setUrls({isFile ? QUrl::fromLocalFile(program.path("x")) : QUrl(u"http://localhost/x"_qs)});
+            held.setUrls({isFile ? QUrl::fromLocalFile(program.path("x")) : QUrl(u"http://localhost/x"_s)});
             QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &held, Qt::LeftButton, Qt::NoModifier);
             QCoreApplication::sendEvent(&viewport, &enter);
             EXPECT_EQ(viewport.grab().toImage() != before, isFile) << qPrintable(name);
@@ -158,8 +160,8 @@ TEST_F(FoldersTest, ListsSayThatTheyTakeADrop)
             EXPECT_EQ(viewport.grab().toImage(), before) << qPrintable(name);
         }
     }
-    drop(widget<QAbstractItemView>(u"listTableView"_qs),
-         {QUrl::fromLocalFile(program.path("home")), QUrl(u"http://localhost/page"_qs)});
+    drop(widget<QAbstractItemView>(u"listTableView"_s),
+         {QUrl::fromLocalFile(program.path("home")), QUrl(u"http://localhost/page"_s)});
     EXPECT_EQ(folders(), QStringList{program.path("home")});
 }
 
@@ -180,38 +182,38 @@ TEST_F(FoldersTest, WhatKeepsABackupFromStartingIsSaidBefore)
         return (isSaid ? testing::AssertionSuccess() : testing::AssertionFailure()) << qPrintable(all);
     };
     const auto leadsTo = [this](int index) {
-        showTab(u"foldersPage"_qs);
+        showTab(u"foldersPage"_s);
         missing<QToolButton>().at(index)->click();
         settle();
         return window.focusWidget() ? window.focusWidget()->objectName() : QString();
     };
-    const QStringList atFirst{u"has no folders"_qs, u"No destination"_qs, u"No password"_qs};
+    const QStringList atFirst{u"has no folders"_s, u"No destination"_s, u"No password"_s};
     ASSERT_TRUE(says(atFirst));
-    EXPECT_EQ(leadsTo(0), u"folderButton01"_qs);
-    EXPECT_EQ(leadsTo(1), u"fileButton01"_qs);
-    EXPECT_EQ(leadsTo(2), u"secureText01a"_qs);
-    showTab(u"foldersPage"_qs);
-    EXPECT_TRUE(widget(u"buttonLaunch01"_qs).isEnabled());
-    clickAndAnswer(u"buttonLaunch01"_qs, u"warningPanel01"_qs, [&] {
+    EXPECT_EQ(leadsTo(0), u"folderButton01"_s);
+    EXPECT_EQ(leadsTo(1), u"fileButton01"_s);
+    EXPECT_EQ(leadsTo(2), u"secureText01a"_s);
+    showTab(u"foldersPage"_s);
+    EXPECT_TRUE(widget(u"buttonLaunch01"_s).isEnabled());
+    clickAndAnswer(u"buttonLaunch01"_s, u"warningPanel01"_s, [&] {
         for (const QString &part : atFirst)
             EXPECT_TRUE(delegate.warningText01.text().contains(part)) << qPrintable(part);
-        click(u"warningPanel01CloseButton"_qs);
+        click(u"warningPanel01CloseButton"_s);
     });
     program.waitForEnd();
 
     haveDestination("archives");
     delegate.addFolders({program.path("home")});
-    delegate.secureText01a.setText(u"correct horse"_qs);
+    delegate.secureText01a.setText(u"correct horse"_s);
     EXPECT_TRUE(says({}));
     fs::remove(program.folder() / "archives");
-    delegate.prefStepper01Action(u"many"_qs);
-    EXPECT_TRUE(says({u"does not exist"_qs, u"\"many\""_qs}));
-    EXPECT_EQ(leadsTo(1), u"prefText01"_qs);
-    EXPECT_TRUE(widget(u"prefText01"_qs).isVisible()) << "it is folded in";
+    delegate.prefStepper01Action(u"many"_s);
+    EXPECT_TRUE(says({u"does not exist"_s, u"\"many\""_s}));
+    EXPECT_EQ(leadsTo(1), u"prefText01"_s);
+    EXPECT_TRUE(widget(u"prefText01"_s).isVisible()) << "it is folded in";
     delegate.passCombo01.selectIndex(PasswordTab::Certificate);
-    delegate.currentRecord().remove(u"path"_qs);
-    EXPECT_TRUE(says({u"not this profile's own"_qs, u"ertificate"_qs, u"\"many\""_qs}));
-    EXPECT_EQ(leadsTo(1), u"certButton01"_qs);
+    delegate.currentRecord().remove(u"path"_s);
+    EXPECT_TRUE(says({u"not this profile's own"_s, u"ertificate"_s, u"\"many\""_s}));
+    EXPECT_EQ(leadsTo(1), u"certButton01"_s);
 }
 
 TEST_F(FoldersTest, TheLastResultStaysAndIsThereAfterARestart)
@@ -219,15 +221,15 @@ TEST_F(FoldersTest, TheLastResultStaysAndIsThereAfterARestart)
     const QString folder = program.path("archives");
     const QDateTime ended = QDateTime::currentDateTimeUtc();
     const ItemRecord good{
-        .path = u"/home/anna/Docs"_qs,
+        .path = u"/home/anna/Docs"_s,
         .outcome = Outcome::Succeeded,
         .bytes = 24'100'000'000,
-        .archives = {folder + u"/Docs.rar.aes.part1.rar"_qs, folder + u"/Docs.rar.aes.part2.rar"_qs}};
+        .archives = {folder + u"/Docs.rar.aes.part1.rar"_s, folder + u"/Docs.rar.aes.part2.rar"_s}};
     const auto failed = [](const QString &reason) {
-        return ItemRecord{.path = u"/home/anna/Mail"_qs,
+        return ItemRecord{.path = u"/home/anna/Mail"_s,
                           .outcome = Outcome::Failed,
                           .reason = reason,
-                          .left = {{u"/x/Mail.rar"_qs, true}}};
+                          .left = {{u"/x/Mail.rar"_s, true}}};
     };
     struct Case {
         RunRecord record;
@@ -236,26 +238,26 @@ TEST_F(FoldersTest, TheLastResultStaysAndIsThereAfterARestart)
     };
     for (const Case &c : {
              Case{{.outcome = Outcome::Succeeded, .items = {good, good}},
-                  {u"Backed up today at "_qs, u"· 2 folders · 48.2 GB in 11 min"_qs},
+                  {u"Backed up today at "_s, u"· 2 folders · 48.2 GB in 11 min"_s},
                   {}},
              {{.outcome = Outcome::Failed,
-             .items = {good, {.path = u"/gone"_qs, .outcome = Outcome::Skipped, .reason = u"not there"_qs}}},
-              {u"but not everything · 1 of 2 folders · 24.1 GB"_qs},
-              {u"Left out: “gone” – not there"_qs}},
-             {{.outcome = Outcome::Failed, .items = {good, failed(u"RAR 1st: No space left on device"_qs)}},
-              {u"failed today at "_qs, u"1 of 2 folders"_qs},
-              {u"What failed: “Mail” – RAR 1st: No space left"_qs, u"What to do: Make room"_qs,
-               u"What was left: \"/x/Mail.rar\", which is not encrypted"_qs}},
-             {{.outcome = Outcome::Failed, .items = {failed(u"odd"_qs)}},
-              {u"0 of 1 folder"_qs},
-              {u"odd"_qs, u"What to do: Back up again."_qs}},
-             {{.outcome = Outcome::Cancelled, .items = {good, {.path = u"/x"_qs, .outcome = Outcome::Open}}},
-              {u"Cancelled today at "_qs, u"1 of 2 folders"_qs},
+             .items = {good, {.path = u"/gone"_s, .outcome = Outcome::Skipped, .reason = u"not there"_s}}},
+              {u"but not everything · 1 of 2 folders · 24.1 GB"_s},
+              {u"Left out: “gone” – not there"_s}},
+             {{.outcome = Outcome::Failed, .items = {good, failed(u"RAR 1st: No space left on device"_s)}},
+              {u"failed today at "_s, u"1 of 2 folders"_s},
+              {u"What failed: “Mail” – RAR 1st: No space left"_s, u"What to do: Make room"_s,
+               u"What was left: \"/x/Mail.rar\", which is not encrypted"_s}},
+             {{.outcome = Outcome::Failed, .items = {failed(u"odd"_s)}},
+              {u"0 of 1 folder"_s},
+              {u"odd"_s, u"What to do: Back up again."_s}},
+             {{.outcome = Outcome::Cancelled, .items = {good, {.path = u"/x"_s, .outcome = Outcome::Open}}},
+              {u"Cancelled today at "_s, u"1 of 2 folders"_s},
               {}},
          }) {
         fs::remove_all(recordsFolder().toStdString());
         RunRecord record = c.record;
-        record.kind = u"backup"_qs;
+        record.kind = u"backup"_s;
         record.profile = delegate.currentProfile();
         record.folder = folder;
         record.began = ended.addSecs(-660);
@@ -263,34 +265,34 @@ TEST_F(FoldersTest, TheLastResultStaysAndIsThereAfterARestart)
         RunJournal(record).begin();
         // As at the start: nothing but the record tells of it.
         delegate.listTableView.reloadData();
-        const auto &headline = widget<QLabel>(u"resultHeadline"_qs);
+        const auto &headline = widget<QLabel>(u"resultHeadline"_s);
         for (const QString &part : c.headline)
             EXPECT_TRUE(waitUntil([&] { return headline.text().contains(part); }))
-                << qPrintable(part + u" in: "_qs + headline.text());
-        const auto &details = widget<ui::TextArea>(u"resultDetails"_qs);
+                << qPrintable(part + u" in: "_s + headline.text());
+        const auto &details = widget<ui::TextArea>(u"resultDetails"_s);
         EXPECT_EQ(details.isVisible(), !c.details.isEmpty());
         qsizetype place = 0;
         for (const QString &part : c.details)
             EXPECT_GE(place = details.text().indexOf(part, place), 0) << qPrintable(details.text());
     }
     // Archives are offered by their first files, once.
-    click(u"tryRestoreButton"_qs);
-    EXPECT_TRUE(widget(u"extractPage"_qs).isVisible());
-    showTab(u"foldersPage"_qs);
-    click(u"tryRestoreButton"_qs);
+    click(u"tryRestoreButton"_s);
+    EXPECT_TRUE(widget(u"extractPage"_s).isVisible());
+    showTab(u"foldersPage"_s);
+    click(u"tryRestoreButton"_s);
     EXPECT_EQ(delegate.extractFullList.strings(), QStringList{good.archives.first()});
 
-    delegate.listPlist().setValue(u"other"_qs, delegate.defaultProfile().deepCopy());
-    delegate.setterCurrentProfile(u"other"_qs);
-    showTab(u"foldersPage"_qs);
-    EXPECT_FALSE(widget(u"backupResult"_qs).isVisible()) << "it is another profile's";
+    delegate.listPlist().setValue(u"other"_s, delegate.defaultProfile().deepCopy());
+    delegate.setterCurrentProfile(u"other"_s);
+    showTab(u"foldersPage"_s);
+    EXPECT_FALSE(widget(u"backupResult"_s).isVisible()) << "it is another profile's";
 }
 
 // Names are text, whatever is in them: markup of theirs would hide and change what is told of them.
 TEST_F(FoldersTest, NamesAreShownAsTheyAre)
 {
-    const QString name = u"<img src=x><b>a&b\n%1"_qs + QString(200, u'n'); // too long for an archive's
-    auto &scroll = *widget(u"foldersPage"_qs).findChild<QScrollArea *>();
+    const QString name = u"<img src=x><b>a&b\n%1"_s + QString(200, u'n'); // too long for an archive's
+    auto &scroll = *widget(u"foldersPage"_s).findChild<QScrollArea *>();
     const int leastWidth = scroll.widget()->minimumSizeHint().width();
     fs::create_directories((program.folder() / name.toStdString()));
     writeFile(program.folder() / name.toStdString() / "x.rar.aes.rar", "x");
@@ -305,8 +307,8 @@ TEST_F(FoldersTest, NamesAreShownAsTheyAre)
     EXPECT_TRUE(waitUntil([&] { return !missing<QLabel>().isEmpty(); }));
     settle();
     EXPECT_EQ(scroll.widget()->minimumSizeHint().width(), leastWidth) << "a name makes the page wide";
-    showTab(u"extractPage"_qs);
-    EXPECT_TRUE(waitUntil([&] { return widget<QLabel>(u"backupsFoundLabel"_qs).text().contains(u"<img"); }));
+    showTab(u"extractPage"_s);
+    EXPECT_TRUE(waitUntil([&] { return widget<QLabel>(u"backupsFoundLabel"_s).text().contains(u"<img"); }));
     int shown = 0;
     const auto expectPlain = [&](const QString &text, bool isPlain, const QString &where) {
         if (!text.contains(u"img src")) return;
@@ -331,30 +333,30 @@ TEST_F(FirstStartTest, LeadsThroughThreeStepsAndNeverComesAgain)
 {
     writeFile(program.folder() / "docs/a", "x");
     fs::create_directory(program.folder() / "archives");
-    ASSERT_TRUE(widget(u"firstSteps"_qs).isVisible());
-    EXPECT_FALSE(widget(u"listTableView"_qs).isVisible());
-    EXPECT_FALSE(widget(u"hindranceList"_qs).isVisible());
+    ASSERT_TRUE(widget(u"firstSteps"_s).isVisible());
+    EXPECT_FALSE(widget(u"listTableView"_s).isVisible());
+    EXPECT_FALSE(widget(u"hindranceList"_s).isVisible());
     delegate.openPanel = [this](const outlets::OpenPanel &) { return QStringList{program.path("docs")}; };
-    click(u"firstStep1"_qs);
+    click(u"firstStep1"_s);
     EXPECT_EQ(folders(), QStringList{program.path("docs")});
-    EXPECT_FALSE(widget(u"firstStep1"_qs).isVisible());
-    click(u"skipStep2"_qs);
+    EXPECT_FALSE(widget(u"firstStep1"_s).isVisible());
+    click(u"skipStep2"_s);
     EXPECT_EQ(delegate.fileText01.text(), QString());
-    click(u"firstStep3"_qs);
-    EXPECT_EQ(window.focusWidget(), &widget(u"secureText01a"_qs));
+    click(u"firstStep3"_s);
+    EXPECT_EQ(window.focusWidget(), &widget(u"secureText01a"_s));
     EXPECT_FALSE(ui::FirstSteps::wasSeen());
-    QTest::keyClicks(window.focusWidget(), u"correct horse"_qs);
+    QTest::keyClicks(window.focusWidget(), u"correct horse"_s);
     QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
     for (const char *typed : {"correct horsf", "\be"}) {
         for (; *typed; ++typed)
             *typed == '\b' ? QTest::keyClick(window.focusWidget(), Qt::Key_Backspace)
                            : QTest::keyClick(window.focusWidget(), *typed);
         settle();
-        EXPECT_FALSE(widget(u"foldersPage"_qs).isVisible()) << "a mistyped one leads nowhere";
+        EXPECT_FALSE(widget(u"foldersPage"_s).isVisible()) << "a mistyped one leads nowhere";
         QTest::keyClick(window.focusWidget(), Qt::Key_Return);
     }
     settle();
-    EXPECT_EQ(window.focusWidget(), &widget(u"buttonLaunch01"_qs));
-    EXPECT_TRUE(widget(u"listTableView"_qs).isVisible());
+    EXPECT_EQ(window.focusWidget(), &widget(u"buttonLaunch01"_s));
+    EXPECT_TRUE(widget(u"listTableView"_s).isVisible());
     EXPECT_TRUE(ui::FirstSteps::wasSeen());
 }

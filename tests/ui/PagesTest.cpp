@@ -17,6 +17,8 @@
 #include <QTranslator>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The program as one language, font or direction shows it.
@@ -28,14 +30,14 @@ struct Opened : WindowTest {
     /// shown.
     void forEachView(const std::function<void(const std::string &, const QList<QWidget *> &)> &look)
     {
-        auto &tabs = widget<QTabWidget>(u"mainTabs"_qs);
-        auto &passwords = widget<QStackedWidget>(u"passTabs"_qs);
+        auto &tabs = widget<QTabWidget>(u"mainTabs"_s);
+        auto &passwords = widget<QStackedWidget>(u"passTabs"_s);
         for (int page = 0; page < tabs.count(); ++page) {
             tabs.setCurrentIndex(page);
             for (int inner = 0; inner < (tabs.currentWidget()->isAncestorOf(&passwords) ? 3 : 1); ++inner) {
                 delegate.passTabs.selectIndex(inner);
                 settle();
-                look(QString(u"%1 %2"_qs).arg(tabs.tabText(page)).arg(inner).toStdString(), shownBy(window));
+                look(QString(u"%1 %2"_s).arg(tabs.tabText(page)).arg(inner).toStdString(), shownBy(window));
             }
         }
         for (QWidget *panel : window.roots()) {
@@ -51,8 +53,8 @@ struct Opened : WindowTest {
     /// Also what shows where it is asked for.
     void showAll()
     {
-        widget<QAbstractButton>(u"archivesToggle"_qs).setChecked(true);
-        for (const QString &name : {u"syncCheck01"_qs, u"checkBox04"_qs})
+        widget<QAbstractButton>(u"archivesToggle"_s).setChecked(true);
+        for (const QString &name : {u"syncCheck01"_s, u"checkBox04"_s})
             widget<QAbstractButton>(name).setChecked(true);
         settle();
     }
@@ -92,7 +94,7 @@ private:
 QStringList languages()
 {
     QStringList paths{QString()};
-    for (const QFileInfo &file : QDir(QStringLiteral(QUILLORENT_TRANSLATIONS)).entryInfoList({u"*.qm"_qs}))
+    for (const QFileInfo &file : QDir(QStringLiteral(QUILLORENT_TRANSLATIONS)).entryInfoList({u"*.qm"_s}))
         paths.append(file.filePath());
     EXPECT_GT(paths.size(), 5) << "no translations";
     return paths;
@@ -208,7 +210,7 @@ TEST(PagesTest, HaveIconsThatAreSeenInLightAndDark)
                     continue;
                 EXPECT_GE(contrast(button->icon(), background), 50) << name.toStdString();
             }
-        for (const auto &name : {u"folder"_qs, u"text-x-generic"_qs, u"package-x-generic"_qs})
+        for (const auto &name : {u"folder"_s, u"text-x-generic"_s, u"package-x-generic"_s})
             EXPECT_GE(contrast(ui::themeIcon(name), background), 50) << name.toStdString();
         for (const ui::Sign sign : {ui::Sign::Good, ui::Sign::Bad, ui::Sign::Pending})
             EXPECT_GE(contrast(ui::stateSign(sign), background), 50) << int(sign);

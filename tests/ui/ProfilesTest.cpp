@@ -15,6 +15,8 @@
 #include <QWindow>
 #include <csignal>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// One of the sheets that ask for a name.
@@ -23,9 +25,9 @@ struct Sheet {
     QString panel;
 };
 
-const Sheet renaming{u"profileButton03"_qs, u"profilePanel01"_qs};
-const Sheet making{u"profileButton04"_qs, u"profilePanel02"_qs};
-const Sheet duplicating{u"profileButton06"_qs, u"profilePanel03"_qs};
+const Sheet renaming{u"profileButton03"_s, u"profilePanel01"_s};
+const Sheet making{u"profileButton04"_s, u"profilePanel02"_s};
+const Sheet duplicating{u"profileButton06"_s, u"profilePanel03"_s};
 
 class ProfilesTest : public WindowTest {
 protected:
@@ -49,7 +51,7 @@ protected:
     }
     void answerDeletion(const QString &button)
     {
-        clickAndAnswer(u"profileButton07"_qs, u"profilePanel04"_qs, [&] { click(button); });
+        clickAndAnswer(u"profileButton07"_s, u"profilePanel04"_s, [&] { click(button); });
     }
     plist::Dictionary record(const QString &profile) { return delegate.listPlist().dictionary(profile); }
     QStringList names() { return delegate.listPlist().keys(); }
@@ -61,52 +63,51 @@ protected:
 TEST_F(ProfilesTest, AreMadeRenamedDuplicatedAndDeleted)
 {
     std::filesystem::create_directories(program.folder() / "home/Pictures");
-    EXPECT_FALSE(widget(u"profileButton07"_qs).isEnabled()) << "the last profile stays";
+    EXPECT_FALSE(widget(u"profileButton07"_s).isEnabled()) << "the last profile stays";
     delegate.passCombo01.selectIndex(PasswordTab::Certificate);
-    delegate.outputText01.setText(u"Backed up."_qs);
-    name(making, u"Second"_qs, [&] { click(u"mustDos01"_qs); });
-    EXPECT_EQ(delegate.currentProfile(), u"Second"_qs);
+    delegate.outputText01.setText(u"Backed up."_s);
+    name(making, u"Second"_s, [&] { click(u"mustDos01"_s); });
+    EXPECT_EQ(delegate.currentProfile(), u"Second"_s);
     EXPECT_EQ(delegate.outputText01.text(), QString()) << "how another profile's run ended";
     EXPECT_EQ(delegate.passCombo01.selectedIndex(), PasswordTab::TypedPassword);
-    EXPECT_EQ(record(u"Second"_qs).array(u"folders"_qs).strings(),
-              QStringList{program.path("home/Pictures")});
-    EXPECT_EQ(delegate.defaultProfile().array(u"folders"_qs).count(), 0) << "the copy is not deep";
+    EXPECT_EQ(record(u"Second"_s).array(u"folders"_s).strings(), QStringList{program.path("home/Pictures")});
+    EXPECT_EQ(delegate.defaultProfile().array(u"folders"_s).count(), 0) << "the copy is not deep";
 
-    widget<QPushButton>(u"defaultProfileButton"_qs).click();
+    widget<QPushButton>(u"defaultProfileButton"_s).click();
     settle();
-    const plist::Dictionary second = record(u"Second"_qs);
-    name(renaming, u"Renamed"_qs, [&] { EXPECT_EQ(delegate.panel01text01.text(), u"Second"_qs); });
-    EXPECT_EQ(names(), (QStringList{first, u"Renamed"_qs}));
+    const plist::Dictionary second = record(u"Second"_s);
+    name(renaming, u"Renamed"_s, [&] { EXPECT_EQ(delegate.panel01text01.text(), u"Second"_s); });
+    EXPECT_EQ(names(), (QStringList{first, u"Renamed"_s}));
     EXPECT_EQ(delegate.profileCombo01.titles(), names());
-    EXPECT_TRUE(record(u"Renamed"_qs).isSameObject(second));
-    name(duplicating, u"Twin"_qs);
-    EXPECT_EQ(widget<QLabel>(u"currentProfileTextView"_qs).text(), u"Twin"_qs);
-    EXPECT_TRUE(record(u"Twin"_qs).isSameObject(second)) << "one record until it is saved and read again";
-    name(renaming, u"Sibling"_qs);
-    EXPECT_EQ(delegate.setting(u"resources"_qs, u"selectedprofile"_qs), u"Renamed"_qs) << "at the next start";
+    EXPECT_TRUE(record(u"Renamed"_s).isSameObject(second));
+    name(duplicating, u"Twin"_s);
+    EXPECT_EQ(widget<QLabel>(u"currentProfileTextView"_s).text(), u"Twin"_s);
+    EXPECT_TRUE(record(u"Twin"_s).isSameObject(second)) << "one record until it is saved and read again";
+    name(renaming, u"Sibling"_s);
+    EXPECT_EQ(delegate.setting(u"resources"_s, u"selectedprofile"_s), u"Renamed"_s) << "at the next start";
 
     // The chooser may show another profile than the one in use; that one stays in use.
-    const auto accent = [&] { return widget(u"profileButton02"_qs).palette().color(QPalette::Button); };
+    const auto accent = [&] { return widget(u"profileButton02"_s).palette().color(QPalette::Button); };
     EXPECT_NE(accent(), window.palette().color(QPalette::Highlight));
-    delegate.profileCombo01.selectTitle(u"Renamed"_qs);
+    delegate.profileCombo01.selectTitle(u"Renamed"_s);
     settle();
     EXPECT_EQ(accent(), window.palette().color(QPalette::Highlight));
-    answerDeletion(u"panel04cancel"_qs);
+    answerDeletion(u"panel04cancel"_s);
     EXPECT_EQ(names().size(), 3);
-    answerDeletion(u"panel04ok"_qs);
-    EXPECT_EQ(names(), (QStringList{first, u"Sibling"_qs}));
-    EXPECT_EQ(delegate.currentProfile(), u"Sibling"_qs);
-    answerDeletion(u"panel04ok"_qs);
+    answerDeletion(u"panel04ok"_s);
+    EXPECT_EQ(names(), (QStringList{first, u"Sibling"_s}));
+    EXPECT_EQ(delegate.currentProfile(), u"Sibling"_s);
+    answerDeletion(u"panel04ok"_s);
     EXPECT_EQ(delegate.profileCombo01.selectedTitle(), first);
     EXPECT_EQ(delegate.currentProfile(), first);
 }
 
 TEST_F(ProfilesTest, AreNamedInTheTitleWithTheSignOfChanges)
 {
-    for (const auto &[name, title] : {std::pair{u"Home"_qs, u"Home* — Quillorent"_qs},
-                                      {u"a[*]b"_qs, u"a[*]b* — Quillorent"_qs},
-                                      {u"Quillorent"_qs, u"*Quillorent"_qs},
-                                      {u""_qs, u"*Quillorent"_qs}}) {
+    for (const auto &[name, title] : {std::pair{u"Home"_s, u"Home* — Quillorent"_s},
+                                      {u"a[*]b"_s, u"a[*]b* — Quillorent"_s},
+                                      {u"Quillorent"_s, u"*Quillorent"_s},
+                                      {u""_s, u"*Quillorent"_s}}) {
         delegate.currentProfileTextView.setText(name);
         settle();
         window.setWindowModified(true);
@@ -123,10 +124,9 @@ TEST_F(ProfilesTest, NamesThatAreEmptyOrTakenAreRefused)
         delegate.panelNoname();
     });
     for (const Sheet &sheet : {renaming, making, duplicating}) {
-        clickAndAnswer(sheet.button, sheet.panel, [&] { click(sheet.panel + u"Cancel"_qs); });
-        for (const auto &[typed, reason] : {std::pair{u""_qs, u"none was typed"_qs},
-                                            {u"  "_qs, u"none was typed"_qs},
-                                            {first, u"already"_qs}}) {
+        clickAndAnswer(sheet.button, sheet.panel, [&] { click(sheet.panel + u"Cancel"_s); });
+        for (const auto &[typed, reason] :
+             {std::pair{u""_s, u"none was typed"_s}, {u"  "_s, u"none was typed"_s}, {first, u"already"_s}}) {
             refusal.clear();
             name(sheet, typed);
             EXPECT_TRUE(refusal.contains(reason)) << refusal.toStdString();
@@ -138,18 +138,18 @@ TEST_F(ProfilesTest, NamesThatAreEmptyOrTakenAreRefused)
 
 TEST_F(ProfilesTest, WhatIsNotSavedShowsAndIsAskedFor)
 {
-    click(u"profileButton01"_qs);
-    click(u"settingsSaveButton"_qs);
+    click(u"profileButton01"_s);
+    click(u"settingsSaveButton"_s);
     ASSERT_TRUE(waitForThreads(std::chrono::seconds(60))); // a save takes the state of its own turn
-    ASSERT_TRUE(waitUntil([&] { return widget<QLabel>(u"unsavedText"_qs).text() == u"All changes saved"; }));
+    ASSERT_TRUE(waitUntil([&] { return widget<QLabel>(u"unsavedText"_s).text() == u"All changes saved"; }));
     EXPECT_FALSE(window.isWindowModified());
 
-    widget<QCheckBox>(u"autosaveCheck01"_qs).click();
+    widget<QCheckBox>(u"autosaveCheck01"_s).click();
     settle();
     ASSERT_FALSE(delegate.autosaveCheck01.isOn());
-    delegate.addFolders({u"/one more"_qs});
+    delegate.addFolders({u"/one more"_s});
     EXPECT_TRUE(waitUntil(
-        [&] { return widget<QLabel>(u"unsavedText"_qs).text() == u"Profiles and settings not saved yet"; }));
+        [&] { return widget<QLabel>(u"unsavedText"_s).text() == u"Profiles and settings not saved yet"; }));
     EXPECT_TRUE(window.isWindowModified());
 
     const QSignalSpy closed(&window, &ui::Window::closed);
@@ -177,20 +177,20 @@ TEST_F(ProfilesTest, QuittingTellsWhatItCanNotSave)
     const QString path = quillorentLibrary::profilesPath();
     const QDir copies(program.path("archives"));
     // Nobody may write where a folder stands in the file's place.
-    ASSERT_TRUE(QFile::remove(path) && QDir().mkpath(path + u"/taken"_qs));
-    delegate.addFolders({u"/one more"_qs});
+    ASSERT_TRUE(QFile::remove(path) && QDir().mkpath(path + u"/taken"_s));
+    delegate.addFolders({u"/one more"_s});
     delegate.openPanel = [&](const outlets::OpenPanel &) { return QStringList{copies.path()}; };
     const QSignalSpy closed(&window, &ui::Window::closed);
-    auto &panel = widget(u"quitPanel01"_qs);
+    auto &panel = widget(u"quitPanel01"_s);
     int endings = 0;
-    for (const QString &answer : {u"Again"_qs, u"Stay"_qs, u"Copy"_qs, u"Leave"_qs}) {
+    for (const QString &answer : {u"Again"_s, u"Stay"_s, u"Copy"_s, u"Leave"_s}) {
         SCOPED_TRACE(answer.toStdString());
         window.show();
         if (!panel.isVisible()) window.close();
         ASSERT_TRUE(waitUntil([&] { return panel.isVisible(); }));
         EXPECT_TRUE(window.isVisible() && panel.windowTitle() == u"Can't save");
         EXPECT_TRUE(delegate.quitText01.text().contains(path));
-        click(u"quitPanel01"_qs + answer);
+        click(u"quitPanel01"_s + answer);
         if (answer == u"Again") continue; // and it fails again
         ASSERT_TRUE(waitForThreads(std::chrono::seconds(60)));
         if (answer != u"Stay") ++endings;
@@ -209,29 +209,29 @@ TEST_F(ProfilesTest, QuittingTellsWhatItCanNotSave)
 TEST_F(ProfilesTest, WhatOthersChangedTooIsAskedFor)
 {
     const QString path = quillorentLibrary::profilesPath();
-    for (const QString &answer : {u"Stop"_qs, u"Mine"_qs, u"Theirs"_qs}) {
+    for (const QString &answer : {u"Stop"_s, u"Mine"_s, u"Theirs"_s}) {
         const plist::Dictionary theirs = plist::readFile(path).dictionary;
         const QString name = delegate.currentProfile();
-        theirs.dictionary(name).setValue(u"part"_qs, answer + u" of theirs"_qs);
-        theirs.setValue(u"New "_qs + answer, plist::Dictionary::make());
+        theirs.dictionary(name).setValue(u"part"_s, answer + u" of theirs"_s);
+        theirs.setValue(u"New "_s + answer, plist::Dictionary::make());
         ASSERT_EQ(plist::writeFile(path, theirs), QString());
-        delegate.prefStepper01Action(answer + u" of mine"_qs);
-        clickAndAnswer(u"profileButton01"_qs, u"conflictPanel01"_qs, [&] {
+        delegate.prefStepper01Action(answer + u" of mine"_s);
+        clickAndAnswer(u"profileButton01"_s, u"conflictPanel01"_s, [&] {
             EXPECT_TRUE(delegate.conflictText01.text().contains(name));
-            click(u"conflictPanel01"_qs + answer);
+            click(u"conflictPanel01"_s + answer);
         });
         ASSERT_TRUE(waitForThreads(std::chrono::seconds(60)));
         settle();
-        const QString expected = answer + (answer == u"Theirs" ? u" of theirs"_qs : u" of mine"_qs);
-        EXPECT_EQ(widget<QLineEdit>(u"prefText01"_qs).text(), expected);
+        const QString expected = answer + (answer == u"Theirs" ? u" of theirs"_s : u" of mine"_s);
+        EXPECT_EQ(widget<QLineEdit>(u"prefText01"_s).text(), expected);
         const bool isSaved = answer != u"Stop";
         EXPECT_EQ(plist::readFile(path).dictionary == delegate.listPlist(), isSaved);
-        EXPECT_EQ(delegate.profileCombo01.titles().contains(u"New "_qs + answer), isSaved);
-        const QString kept = path + (answer == u"Theirs" ? u".kept.1"_qs : u".kept"_qs);
+        EXPECT_EQ(delegate.profileCombo01.titles().contains(u"New "_s + answer), isSaved);
+        const QString kept = path + (answer == u"Theirs" ? u".kept.1"_s : u".kept"_s);
         EXPECT_EQ(delegate.settingsText01.text().contains(kept), isSaved);
         if (!isSaved) continue;
-        const QString lost = answer + (answer == u"Mine" ? u" of theirs"_qs : u" of mine"_qs);
-        EXPECT_EQ(plist::readFile(kept).dictionary.dictionary(name).string(u"part"_qs), lost);
+        const QString lost = answer + (answer == u"Mine" ? u" of theirs"_s : u" of mine"_s);
+        EXPECT_EQ(plist::readFile(kept).dictionary.dictionary(name).string(u"part"_s), lost);
     }
 }
 
@@ -270,7 +270,7 @@ TEST_F(ProfilesTest, ASecondStartRaisesTheFirstWindow)
     EXPECT_TRUE(waitUntil([&] { return !program.delegate().extractFullList.strings().isEmpty(); }));
     EXPECT_EQ(program.delegate().extractFullList.strings(), QStringList(QString::fromStdString(archive)));
     const auto third = start(config, {"--page", "password"});
-    auto *tabs = window.findChild<QTabWidget *>(u"mainTabs"_qs);
+    auto *tabs = window.findChild<QTabWidget *>(u"mainTabs"_s);
     EXPECT_TRUE(waitUntil([&] { return tabs->currentWidget()->objectName() == u"passwordsPage"; }));
     for (const std::vector<std::string> &wrong :
          {std::vector<std::string>{"--page", "nowhere"}, {"--nonsense"}})

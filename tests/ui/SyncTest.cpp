@@ -13,6 +13,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class SyncTest : public WindowTest {
@@ -22,12 +24,12 @@ protected:
     {
         qputenv("TMPDIR", program.folder().c_str());
         writeFile(program.folder() / "src/d/x", "x");
-        showTab(u"syncPage"_qs);
+        showTab(u"syncPage"_s);
         delegate.openPanel = [this](const outlets::OpenPanel &panel) {
             return QStringList{program.path(panel.canChooseFiles ? "src/d" : "archives")};
         };
-        click(u"syncButton01"_qs);
-        click(u"syncButtoDest"_qs);
+        click(u"syncButton01"_s);
+        click(u"syncButtoDest"_s);
     }
     ~SyncTest() override { qunsetenv("TMPDIR"); }
 };
@@ -38,19 +40,19 @@ TEST_F(SyncTest, ControlsSayWhatTheyDo)
 {
     delegate.addSyncEntries({program.path("gone")});
     const auto size = [&](int row) {
-        return widget<ui::FolderListView>(u"syncTableView"_qs).model()->index(row, 2).data().toString();
+        return widget<ui::FolderListView>(u"syncTableView"_s).model()->index(row, 2).data().toString();
     };
     EXPECT_TRUE(waitUntil([&] { return size(0).startsWith(u"1"); })) << qPrintable(size(0));
     EXPECT_TRUE(waitUntil([&] { return size(1) == u"not found"; })) << qPrintable(size(1));
-    const auto &meaning = widget<QLabel>(u"syncMeaning"_qs);
-    click(u"checkBoxSync1"_qs);
+    const auto &meaning = widget<QLabel>(u"syncMeaning"_s);
+    click(u"checkBoxSync1"_s);
     EXPECT_FALSE(meaning.font().bold());
-    click(u"checkBoxSync2"_qs);
+    click(u"checkBoxSync2"_s);
     EXPECT_TRUE(meaning.font().bold());
-    EXPECT_FALSE(widget(u"syncServer"_qs).isVisible());
-    click(u"syncCheck01"_qs);
+    EXPECT_FALSE(widget(u"syncServer"_s).isVisible());
+    click(u"syncCheck01"_s);
     EXPECT_TRUE(meaning.text().contains(u"fill one in"));
-    QTest::keyClicks(&widget(u"syncUser"_qs), u"me"_qs);
+    QTest::keyClicks(&widget(u"syncUser"_s), u"me"_s);
     settle();
     EXPECT_FALSE(meaning.text().contains(u"fill one in"));
 }
@@ -58,20 +60,20 @@ TEST_F(SyncTest, ControlsSayWhatTheyDo)
 TEST_F(SyncTest, ADeletionIsShownAndAskedAbout)
 {
     writeFile(program.folder() / "archives/d/extra", "x");
-    click(u"checkBoxSync1"_qs);
-    clickAndAnswer(u"buttonLaunch03"_qs, u"previewPanel01"_qs, [this] {
-        const ui::OutletTableModel &rows = widget<ui::PreviewTableView>(u"previewTableView"_qs).outletModel();
-        EXPECT_EQ(rows.cell(0, u"c10"_qs), u"deleted at the destination"_qs);
-        EXPECT_EQ(rows.cell(0, u"c30"_qs), u"d/extra"_qs);
-        EXPECT_TRUE(widget<ui::TextArea>(u"previewText01"_qs).text().startsWith(u"Delete 1 file there?"));
-        EXPECT_TRUE(widget<QPushButton>(u"previewPanel01CloseButton"_qs).isDefault());
+    click(u"checkBoxSync1"_s);
+    clickAndAnswer(u"buttonLaunch03"_s, u"previewPanel01"_s, [this] {
+        const ui::OutletTableModel &rows = widget<ui::PreviewTableView>(u"previewTableView"_s).outletModel();
+        EXPECT_EQ(rows.cell(0, u"c10"_s), u"deleted at the destination"_s);
+        EXPECT_EQ(rows.cell(0, u"c30"_s), u"d/extra"_s);
+        EXPECT_TRUE(widget<ui::TextArea>(u"previewText01"_s).text().startsWith(u"Delete 1 file there?"));
+        EXPECT_TRUE(widget<QPushButton>(u"previewPanel01CloseButton"_s).isDefault());
         EXPECT_TRUE(std::filesystem::exists(program.folder() / "archives/d/extra"));
-        click(u"previewPanel01LaunchButton"_qs);
+        click(u"previewPanel01LaunchButton"_s);
     });
     program.waitForEnd();
     settle();
-    EXPECT_FALSE(widget(u"previewPanel01"_qs).isVisible());
-    EXPECT_TRUE(widget<ui::TextArea>(u"outputText03"_qs).text().startsWith(u"Synchronised"));
+    EXPECT_FALSE(widget(u"previewPanel01"_s).isVisible());
+    EXPECT_TRUE(widget<ui::TextArea>(u"outputText03"_s).text().startsWith(u"Synchronised"));
     EXPECT_EQ(std::filesystem::exists(program.folder() / "archives/d/extra"), false);
 }
 
@@ -83,14 +85,14 @@ TEST_F(SyncTest, AHundredThousandRowsComeInOneStep)
     for (int row = 0; row < count; ++row)
         lines += ">f+++++++++\t1\td/" + std::to_string(row) + "\n";
     const Stub rsync(program.folder(), "rsync", "print " + lines);
-    program.useTool(u"RSync"_qs, rsync.path());
-    const auto &table = widget<ui::PreviewTableView>(u"previewTableView"_qs);
+    program.useTool(u"RSync"_s, rsync.path());
+    const auto &table = widget<ui::PreviewTableView>(u"previewTableView"_s);
     int announced = 0;
     QObject::connect(&table.outletModel(), &QAbstractItemModel::dataChanged, &table, [&] { ++announced; });
-    click(u"previewButton01"_qs);
+    click(u"previewButton01"_s);
     EXPECT_TRUE(waitUntil([&] { return table.isVisible() && table.outletModel().rowCount() == count; }));
     EXPECT_EQ(announced, 0);
-    EXPECT_EQ(table.outletModel().cell(count - 1, u"c30"_qs), u"d/99999"_qs);
+    EXPECT_EQ(table.outletModel().cell(count - 1, u"c30"_s), u"d/99999"_s);
 }
 
 TEST_F(SyncTest, NothingMovesForWhoWantsNoMotion)
@@ -103,7 +105,7 @@ TEST_F(SyncTest, NothingMovesForWhoWantsNoMotion)
     runCommand({"dbus-send", "--print-reply", "--dest=" + portal, "/org/freedesktop/portal/desktop",
                 "org.freedesktop.DBus.Mock.AddMethod", "string:" + settings, "string:Read", "string:ss",
                 "string:v", "string:ret = dbus.Boolean(args[1] != 'enable-animations', variant_level=2)"});
-    auto &bar = widget<ui::RunBar>(u"progress03progressIndicator01"_qs);
+    auto &bar = widget<ui::RunBar>(u"progress03progressIndicator01"_s);
     bar.setIndeterminate(true);
     EXPECT_EQ(bar.maximum(), 0) << "it runs to and fro";
     bar.setIndeterminate(false);

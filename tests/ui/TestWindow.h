@@ -77,7 +77,7 @@ protected:
 
     void showTab(const QString &page)
     {
-        widget<QTabWidget>(u"mainTabs"_qs).setCurrentWidget(&widget(page));
+        widget<QTabWidget>(QStringLiteral("mainTabs")).setCurrentWidget(&widget(page));
         settle();
     }
 

@@ -5,6 +5,8 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Answers every request with the same bytes, or sends it to another address, and counts them.
@@ -26,7 +28,7 @@ public:
             });
         });
     }
-    [[nodiscard]] QString address() const { return u"http://127.0.0.1:%1/feed.xml"_qs.arg(serverPort()); }
+    [[nodiscard]] QString address() const { return u"http://127.0.0.1:%1/feed.xml"_s.arg(serverPort()); }
 
     int requests = 0;
 
@@ -53,7 +55,7 @@ protected:
 
     void useFeed(const QString &address) const
     {
-        delegate.configPlist().dictionary(u"updates"_qs).setValue(u"feed"_qs, address);
+        delegate.configPlist().dictionary(u"updates"_s).setValue(u"feed"_s, address);
     }
     /// Checks, and lets the answer come in.
     bool showsNoteAfterCheck(const FeedServer &server)
@@ -79,11 +81,11 @@ TEST_F(Updater, ShowsANoteOfANewerVersionOnly)
     useFeed(server.address());
     EXPECT_TRUE(showsNoteAfterCheck(server));
     EXPECT_TRUE(delegate.updateText01.text().contains(u"999.1"));
-    EXPECT_EQ(delegate.updateNotes01.text(), u"Better"_qs);
+    EXPECT_EQ(delegate.updateNotes01.text(), u"Better"_s);
     QString opened;
     delegate.openAddress = [&](const QString &address) { opened = address; };
     delegate.openBrowserAt(delegate.downloadButton01);
-    EXPECT_EQ(opened, u"https://localhost/download"_qs);
+    EXPECT_EQ(opened, u"https://localhost/download"_s);
 }
 
 TEST_F(Updater, GoesWhereTheFeedWasMovedOnlyIfItMayAskThere)
@@ -91,7 +93,7 @@ TEST_F(Updater, GoesWhereTheFeedWasMovedOnlyIfItMayAskThere)
     const FeedServer server(feedOf("999.1"));
     for (const bool mayAsk : {false, true}) { // a name could be anybody's
         const QString target =
-            mayAsk ? server.address() : server.address().replace(u"127.0.0.1"_qs, u"localhost"_qs);
+            mayAsk ? server.address() : server.address().replace(u"127.0.0.1"_s, u"localhost"_s);
         const FeedServer moved({}, target);
         useFeed(moved.address());
         EXPECT_EQ(showsNoteAfterCheck(moved), mayAsk);
@@ -104,7 +106,7 @@ TEST_F(Updater, AsksOnlyWhereItMayAndShould)
     FeedServer server(feedOf("999.1"));
     useFeed(server.address());
     delegate.checkForUpdatesAtStart(); // off in the settings
-    useFeed(u"http://192.0.2.1/feed.xml"_qs);
+    useFeed(u"http://192.0.2.1/feed.xml"_s);
     SUUpdater::sharedUpdater().checkForUpdatesInBackground();
     useFeed({});
     SUUpdater::sharedUpdater().checkForUpdatesInBackground();
@@ -124,14 +126,14 @@ TEST_F(Updater, AsksOnlyWhereItMayAndShould)
 
 TEST(Appcast, VersionsAreComparedNumberByNumber)
 {
-    const QStringList ascending{u"0.9.9"_qs, u"1"_qs,       u"1.0.1"_qs,   u"1.9"_qs,
-                                u"1.10"_qs,  u"2.0-rc1"_qs, u"2.0-rc2"_qs, u"2.0"_qs};
+    const QStringList ascending{u"0.9.9"_s, u"1"_s,       u"1.0.1"_s,   u"1.9"_s,
+                                u"1.10"_s,  u"2.0-rc1"_s, u"2.0-rc2"_s, u"2.0"_s};
     for (int newer = 0; newer < ascending.size(); ++newer)
         for (int older = 0; older < newer; ++older)
             EXPECT_TRUE(compareVersions(ascending[older], ascending[newer]) < 0 &&
                         compareVersions(ascending[newer], ascending[older]) > 0)
                 << older << ' ' << newer;
-    EXPECT_TRUE(compareVersions(u"1.0"_qs, u"1"_qs) == 0);
+    EXPECT_TRUE(compareVersions(u"1.0"_s, u"1"_s) == 0);
 }
 
 TEST(Appcast, TheNewestOfItsItemsCounts)
@@ -148,9 +150,9 @@ TEST(Appcast, TheNewestOfItsItemsCounts)
              "<item><title>Anybody's 9.2</title><link>http://example.com/9.2</link></item>"
              "<item><enclosure url=\"https://localhost/1.2.tgz\" x:version=\"1.2\" length=\"1\"/></item>"));
     ASSERT_TRUE(content.newest) << qPrintable(content.reason);
-    EXPECT_EQ(content.newest->version, u"1.10"_qs);
-    EXPECT_EQ(content.newest->page, QUrl(u"https://localhost/110"_qs));
-    EXPECT_EQ(content.newest->notes, u"Faster & safer\nNew"_qs);
+    EXPECT_EQ(content.newest->version, u"1.10"_s);
+    EXPECT_EQ(content.newest->page, QUrl(u"https://localhost/110"_s));
+    EXPECT_EQ(content.newest->notes, u"Faster & safer\nNew"_s);
 }
 
 // A feed of a megabyte is read; what of it is shown must not keep the window busy.

@@ -10,6 +10,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -41,7 +43,7 @@ QString whatIsMissing(const QuillorentAppDelegate &delegate, const QString &miss
     if (folder.isEmpty())
         return Words::tr("No extraction folder is chosen. Choose the folder that the contents go to.");
     // A record without a folder leaves the one of the profile before it on screen.
-    if (delegate.currentRecord().string(u"extractpath"_qs) != folder)
+    if (delegate.currentRecord().string(u"extractpath"_s) != folder)
         return Words::tr("The extraction folder that is shown is not this profile's own. Choose it again.");
     if (!missingArchives.isEmpty()) return missingArchives;
     if (delegate.passCombo01.selectedIndex() == PasswordTab::Certificate && !delegate.pkeySelector())
@@ -155,7 +157,7 @@ RunStart prepareLook(QuillorentAppDelegate &delegate, const QStringList &archive
 
 void QuillorentAppDelegate::buttonLaunch02()
 {
-    startRun(u"extract-run"_qs, [this] { return prepare(*this, false); });
+    startRun(u"extract-run"_s, [this] { return prepare(*this, false); });
 }
 
 void QuillorentAppDelegate::buttonLaunch02b()
@@ -163,7 +165,7 @@ void QuillorentAppDelegate::buttonLaunch02b()
     if (warningPanel02.place() != outlets::Panel::Place::Hidden)
         answer(warningPanel02, true);
     else
-        startRun(u"extract-run"_qs, [this] { return prepare(*this, true); });
+        startRun(u"extract-run"_s, [this] { return prepare(*this, true); });
 }
 
 void QuillorentAppDelegate::buttonLaunch02Stop() { answer(warningPanel02, false); }

@@ -8,12 +8,13 @@
 
 #include <QRegularExpression>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString nameOfMethod(int choice)
 {
-    static const QStringList methods{u"OpenSSL-AES"_qs, u"OpenSSL-BF"_qs, u"OpenSSL-3D"_qs,
-                                     u"OpenSSL-SMIME"_qs};
+    static const QStringList methods{u"OpenSSL-AES"_s, u"OpenSSL-BF"_s, u"OpenSSL-3D"_s, u"OpenSSL-SMIME"_s};
     return methods.value(choice, methods.first());
 }
 
@@ -23,7 +24,7 @@ QStringList QuillorentAppDelegate::filterForExtraction(const QStringList &paths)
 {
     // Over the whole path, folders included.
     static const QRegularExpression laterVolume(
-        QRegularExpression::anchoredPattern(u".*part.*[2-9].*|.*part.*11.*|.*part.*10.*"_qs),
+        QRegularExpression::anchoredPattern(u".*part.*[2-9].*|.*part.*11.*|.*part.*10.*"_s),
         QRegularExpression::DotMatchesEverythingOption);
     QStringList candidates;
     for (const QString &path : paths)
@@ -33,7 +34,7 @@ QStringList QuillorentAppDelegate::filterForExtraction(const QStringList &paths)
 
 bool quillorentLibrary::testFileToExtract(const QString &archive)
 {
-    return runRegisteredTool(u"RAR"_qs, extractArguments::test(archive)).isSilent();
+    return runRegisteredTool(u"RAR"_s, extractArguments::test(archive)).isSilent();
 }
 
 std::optional<QString> quillorentLibrary::decideDecryption(const QString &archive)
@@ -41,5 +42,5 @@ std::optional<QString> quillorentLibrary::decideDecryption(const QString &archiv
     const QuillorentAppDelegate &delegate = theDelegate();
     const int choice = delegate.decryptionCombo01.selectedIndex();
     if (choice == ExtractTab::automaticDecryption) return decideEncryption(withoutVolumePart(archive));
-    return delegate.setting(u"encparam"_qs, nameOfMethod(choice));
+    return delegate.setting(u"encparam"_s, nameOfMethod(choice));
 }

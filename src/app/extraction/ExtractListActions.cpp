@@ -3,6 +3,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -24,7 +26,7 @@ void QuillorentAppDelegate::extractButton01Action()
 {
     const auto chosen = openPanel({.title = Words::tr("Add archives"),
                                    .allowsMultipleSelection = true,
-                                   .allowedFileTypes = {u"rar"_qs}});
+                                   .allowedFileTypes = {u"rar"_s}});
     addArchives(chosen.value_or(QStringList()));
 }
 
@@ -68,5 +70,5 @@ void QuillorentAppDelegate::extractButton03Action()
 
 void QuillorentAppDelegate::extractPathButtonAction()
 {
-    chooseFolder(Words::tr("Choose where the archives are extracted to"), extractPath, u"extractpath"_qs);
+    chooseFolder(Words::tr("Choose where the archives are extracted to"), extractPath, u"extractpath"_s);
 }

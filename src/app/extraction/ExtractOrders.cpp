@@ -6,11 +6,13 @@
 #include "extract/ExtractRun.h"
 #include "tools/RegisteredTool.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString extractionFolder(const QString &profile)
 {
-    return theDelegate().listPlist().dictionary(profile).string(u"extractpath"_qs).value_or(QString());
+    return theDelegate().listPlist().dictionary(profile).string(u"extractpath"_s).value_or(QString());
 }
 
 /// All but the items.
@@ -20,8 +22,8 @@ std::shared_ptr<ExtractOrder> readOptions(const QString &profile, const QString 
     auto order = std::make_shared<ExtractOrder>();
     order->profile = profile;
     order->folder = folder;
-    order->archiver = registeredTool(u"RAR"_qs);
-    order->decoder = registeredTool(u"OpenSSL"_qs);
+    order->archiver = registeredTool(u"RAR"_s);
+    order->decoder = registeredTool(u"OpenSSL"_s);
     order->methods = quillorentLibrary::methodsOfSettings();
     order->password = Secret::fromText(delegate.passwordSelector());
     order->isCertificateChosen = delegate.passCombo01.selectedIndex() == PasswordTab::Certificate;

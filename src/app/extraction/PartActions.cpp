@@ -6,6 +6,8 @@
 #include <QDir>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -34,25 +36,25 @@ QStringList archiveToLookInto(const QuillorentAppDelegate &delegate)
 
 void QuillorentAppDelegate::takeRestoredFolder()
 {
-    const QString folder = QDir::home().filePath(u"Restored"_qs);
+    const QString folder = QDir::home().filePath(u"Restored"_s);
     if (!QDir().mkpath(folder)) {
         warn(Words::tr("The folder \"%1\" can't be made. Choose another one.").arg(folder));
         return;
     }
     extractPath.setText(folder);
-    currentRecord().setValue(u"extractpath"_qs, folder);
+    currentRecord().setValue(u"extractpath"_s, folder);
 }
 
 void QuillorentAppDelegate::contentsButton01Action() { lookInto(archiveToLookInto(*this)); }
 
 void QuillorentAppDelegate::lookInto(const QStringList &archives)
 {
-    startRun(u"extract-look"_qs, [this, archives] { return prepareLook(*this, archives); });
+    startRun(u"extract-look"_s, [this, archives] { return prepareLook(*this, archives); });
 }
 
 void QuillorentAppDelegate::restoreChosen(const QStringList &archives, const std::vector<std::string> &chosen)
 {
-    startRun(u"extract-run"_qs, [this, archives, chosen] { return preparePart(*this, archives, chosen); });
+    startRun(u"extract-run"_s, [this, archives, chosen] { return preparePart(*this, archives, chosen); });
 }
 
 void QuillorentAppDelegate::showContents(const Listings::Listing &listing)

@@ -8,6 +8,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -60,7 +62,7 @@ RunSheet backupSheet(QuillorentAppDelegate &delegate)
 
 void QuillorentAppDelegate::buttonLaunch01()
 {
-    startRun(u"backup-run"_qs, [this] { return prepare(*this, false); });
+    startRun(u"backup-run"_s, [this] { return prepare(*this, false); });
 }
 
 void QuillorentAppDelegate::buttonLaunch01b()
@@ -68,7 +70,7 @@ void QuillorentAppDelegate::buttonLaunch01b()
     if (warningPanel03.place() != outlets::Panel::Place::Hidden)
         answer(warningPanel03, true);
     else
-        startRun(u"backup-run"_qs, [this] { return prepare(*this, true); });
+        startRun(u"backup-run"_s, [this] { return prepare(*this, true); });
 }
 
 void QuillorentAppDelegate::buttonLaunch01Stop() { answer(warningPanel03, false); }
@@ -81,6 +83,6 @@ void QuillorentAppDelegate::buttonKill01(outlets::Button &sender)
 
 void QuillorentAppDelegate::killer()
 {
-    const QString output = runTool(u"/usr/bin/killall"_qs, {u"-9"_qs, u"rar"_qs}).text();
-    consoleTextView01.append(output.isEmpty() ? u"\nkillall OK - "_qs : u"\nkillall ERROR : \n"_qs + output);
+    const QString output = runTool(u"/usr/bin/killall"_s, {u"-9"_s, u"rar"_s}).text();
+    consoleTextView01.append(output.isEmpty() ? u"\nkillall OK - "_s : u"\nkillall ERROR : \n"_s + output);
 }

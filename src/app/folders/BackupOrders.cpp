@@ -8,6 +8,8 @@
 #include "files/Names.h"
 #include "tools/RegisteredTool.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// All but the items.
@@ -17,9 +19,9 @@ std::shared_ptr<BackupOrder> readOptions(const QString &profile, const QString &
     auto order = std::make_shared<BackupOrder>();
     order->profile = profile;
     order->destination = destination;
-    order->archiver = registeredTool(u"RAR"_qs);
-    order->encoder = registeredTool(u"OpenSSL"_qs);
-    order->archiveExtension = delegate.setting(u"extensions"_qs, u"RAR"_qs).value_or(QString());
+    order->archiver = registeredTool(u"RAR"_s);
+    order->encoder = registeredTool(u"OpenSSL"_s);
+    order->archiveExtension = delegate.setting(u"extensions"_s, u"RAR"_s).value_or(QString());
     order->methodExtension = quillorentLibrary::decideExtension().value_or(QString());
     order->method = quillorentLibrary::decideMethod().value_or(QString());
     order->cipher = quillorentLibrary::decideEncryption().value_or(QString());
@@ -51,12 +53,12 @@ void addItem(BackupOrder &order, const QString &source, const QString &baseName)
 std::shared_ptr<BackupOrder> readBackupOrder(const QString &profile)
 {
     const plist::Dictionary record = theDelegate().listPlist().dictionary(profile);
-    const QString destination = record.string(u"path"_qs).value_or(QString());
+    const QString destination = record.string(u"path"_s).value_or(QString());
     auto order = readOptions(profile, destination);
     // A record without a destination leaves the one of the profile before it on screen.
     const QString shown = theDelegate().fileText01.text();
     order->showsOtherDestination = !shown.isEmpty() && shown != destination;
-    const QStringList folders = record.array(u"folders"_qs).strings();
+    const QStringList folders = record.array(u"folders"_s).strings();
     for (const QString &folder : folders)
         addItem(*order, folder, quillorentLibrary::nameRepeated(folder, folders));
     return order;

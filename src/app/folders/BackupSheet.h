@@ -6,15 +6,16 @@
 
 /// The sheet that stands over the window while a backup runs, and the question before it.
 struct BackupProgressSheet : virtual outlets::Registry {
-    outlets::Panel progressPanel01{*this, u"progressPanel01"_qs};
-    outlets::ProgressBar view01progressIndicator01{*this, u"view01progressIndicator01"_qs};
+    outlets::Panel progressPanel01{*this, QStringLiteral("progressPanel01")};
+    outlets::ProgressBar view01progressIndicator01{*this, QStringLiteral("view01progressIndicator01")};
     outlets::TextField view01progressLabel01{
-        *this, u"view01progressLabel01"_qs}; ///< shown while folders are processed
-    outlets::TextField view01progressLabel02{*this,
-                                             u"view01progressLabel02"_qs}; ///< shown while sizes are measured
-    outlets::Button buttonCancel01{*this, u"buttonCancel01"_qs};
+        *this, QStringLiteral("view01progressLabel01")}; ///< shown while folders are processed
+    outlets::TextField view01progressLabel02{
+        *this, QStringLiteral("view01progressLabel02")}; ///< shown while sizes are measured
+    outlets::Button buttonCancel01{*this, QStringLiteral("buttonCancel01")};
 
-    outlets::Panel warningPanel03{*this, u"warningPanel03"_qs}; ///< the destination holds something: go on?
-    outlets::TextField folderNotEmptyText02{*this, u"folderNotEmptyText02"_qs};
-    outlets::TextField overwritesText02{*this, u"overwritesText02"_qs}; ///< what becomes of that
+    outlets::Panel warningPanel03{
+        *this, QStringLiteral("warningPanel03")}; ///< the destination holds something: go on?
+    outlets::TextField folderNotEmptyText02{*this, QStringLiteral("folderNotEmptyText02")};
+    outlets::TextField overwritesText02{*this, QStringLiteral("overwritesText02")}; ///< what becomes of that
 };

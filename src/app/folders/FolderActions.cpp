@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -24,5 +26,5 @@ void QuillorentAppDelegate::folderButton02Action() { m_listTable.removeSelected(
 
 void QuillorentAppDelegate::fileButton01Action()
 {
-    chooseFolder(Words::tr("Choose the destination of the archives"), fileText01, u"path"_qs);
+    chooseFolder(Words::tr("Choose the destination of the archives"), fileText01, u"path"_s);
 }

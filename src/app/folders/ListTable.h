@@ -5,5 +5,5 @@
 /// The folder list of the current profile.
 class listTable : public PathListTable {
 public:
-    explicit listTable(outlets::TableView &view) : PathListTable(u"folders"_qs, view) {}
+    explicit listTable(outlets::TableView &view) : PathListTable(QStringLiteral("folders"), view) {}
 };

@@ -8,6 +8,8 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -17,8 +19,8 @@ struct Words {
 outlets::OpenPanel keyChooser(const QString &title)
 {
     return {.title = title,
-            .allowedFileTypes = {u"cer"_qs, u"p12"_qs, u"p15"_qs, u"crt"_qs, u"der"_qs, u"pem"_qs, u"pfx"_qs,
-                                 u"cert"_qs, u"txt"_qs, u"rtf"_qs, u"pk12"_qs, u"pk15"_qs, u"pkcs12"_qs}};
+            .allowedFileTypes = {u"cer"_s, u"p12"_s, u"p15"_s, u"crt"_s, u"der"_s, u"pem"_s, u"pfx"_s,
+                                 u"cert"_s, u"txt"_s, u"rtf"_s, u"pk12"_s, u"pk15"_s, u"pkcs12"_s}};
 }
 
 void showOrHide(outlets::TextField &field, const QString &text)
@@ -67,19 +69,17 @@ void QuillorentAppDelegate::certButton01Action()
     const auto chosen = openPanel(keyChooser(Words::tr("Choose a certificate")));
     if (!chosen) return;
     const QString path = chosen->value(0);
-    detachThread(u"check-cert"_qs,
-                 [this, path, record = currentRecord(), request = m_certificateChoices.begin()] {
-                     if (path.isEmpty() || !quillorentLibrary::testCert(path, u"Validity"_qs)) {
-                         const QString why = quillorentLibrary::whyNoCertificate(path);
-                         if (!m_certificateChoices.isNewest(request))
-                             return; // another one was chosen in the meantime
-                         certPanelText01.setText(why);
-                         certPanel01.runModal();
-                         return;
-                     }
-                     m_certificateChoices.apply(
-                         request, [&] { keepChoice(record, u"lastcertfile"_qs, certFile01, path); });
-                 });
+    detachThread(u"check-cert"_s, [this, path, record = currentRecord(),
+                                   request = m_certificateChoices.begin()] {
+        if (path.isEmpty() || !quillorentLibrary::testCert(path, u"Validity"_s)) {
+            const QString why = quillorentLibrary::whyNoCertificate(path);
+            if (!m_certificateChoices.isNewest(request)) return; // another one was chosen in the meantime
+            certPanelText01.setText(why);
+            certPanel01.runModal();
+            return;
+        }
+        m_certificateChoices.apply(request, [&] { keepChoice(record, u"lastcertfile"_s, certFile01, path); });
+    });
 }
 
 void QuillorentAppDelegate::pkButton01Action()
@@ -87,8 +87,8 @@ void QuillorentAppDelegate::pkButton01Action()
     const auto chosen = openPanel(keyChooser(Words::tr("Choose the private key")));
     if (!chosen) return;
     const QString path = chosen->value(0);
-    detachThread(u"check-key"_qs, [this, path, certificate = certFile01.text(), record = currentRecord(),
-                                   request = m_keyChoices.begin()] {
+    detachThread(u"check-key"_s, [this, path, certificate = certFile01.text(), record = currentRecord(),
+                                  request = m_keyChoices.begin()] {
         if (path.isEmpty() || !quillorentLibrary::testKey(certificate, path)) {
             const QString why = quillorentLibrary::whyNoKey(certificate, path);
             if (!m_keyChoices.isNewest(request)) return;
@@ -96,7 +96,7 @@ void QuillorentAppDelegate::pkButton01Action()
             pkPanel01.runModal();
             return;
         }
-        m_keyChoices.apply(request, [&] { keepChoice(record, u"lastpkfile"_qs, pkFile01, path); });
+        m_keyChoices.apply(request, [&] { keepChoice(record, u"lastpkfile"_s, pkFile01, path); });
     });
 }
 
@@ -119,7 +119,7 @@ void QuillorentAppDelegate::certInfo01()
     if (path.isEmpty()) return;
     consolePanel01.orderFront();
     consoleTextView01.setText({});
-    detachThread(u"show-cert"_qs,
+    detachThread(u"show-cert"_s,
                  [this, path] { consoleTextView01.setText(quillorentLibrary::showCert(path)); });
 }
 
@@ -128,7 +128,7 @@ void QuillorentAppDelegate::certInfo02()
     const QString path = pkFile01.text();
     if (path.isEmpty()) return;
     consolePanel01.orderFront();
-    detachThread(u"show-key"_qs, [this, path] {
+    detachThread(u"show-key"_s, [this, path] {
         consoleTextView01.setText(quillorentLibrary::showKey(path).value_or(QString()));
     });
 }
@@ -136,14 +136,13 @@ void QuillorentAppDelegate::certInfo02()
 void QuillorentAppDelegate::describeKeys()
 {
     const int request = m_keyDescriptions.begin();
-    detachThread(u"describe-keys"_qs,
-                 [this, request, certificate = certFile01.text(), key = pkFile01.text()] {
-                     const CertificateNotes notes = notesOn(certificate);
-                     const QString missing = certificate.isEmpty() ? QString() : keyWarning(certificate, key);
-                     m_keyDescriptions.apply(request, [&] {
-                         showOrHide(certSummary01, notes.summary);
-                         showOrHide(certWarning01, notes.warning);
-                         showOrHide(pkWarning01, missing);
-                     });
-                 });
+    detachThread(u"describe-keys"_s, [this, request, certificate = certFile01.text(), key = pkFile01.text()] {
+        const CertificateNotes notes = notesOn(certificate);
+        const QString missing = certificate.isEmpty() ? QString() : keyWarning(certificate, key);
+        m_keyDescriptions.apply(request, [&] {
+            showOrHide(certSummary01, notes.summary);
+            showOrHide(certWarning01, notes.warning);
+            showOrHide(pkWarning01, missing);
+        });
+    });
 }

@@ -5,16 +5,18 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
     Q_DECLARE_TR_FUNCTIONS(passwords)
 };
 
-QString service() { return u"com.brolvanek.Quillorent.encrypt"_qs; }
+QString service() { return u"com.brolvanek.Quillorent.encrypt"_s; }
 
 /// A field that nobody has written to holds an empty text, which is a name like any other to a keychain.
-QString textOf(const outlets::TextField &field) { return field.text().isNull() ? u""_qs : field.text(); }
+QString textOf(const outlets::TextField &field) { return field.text().isNull() ? u""_s : field.text(); }
 
 /// What a request to the keychain comes to.
 struct Answer {
@@ -131,7 +133,7 @@ void QuillorentAppDelegate::askKeychain(Ask ask)
     keychainText01.setText(Words::tr("Asking the keychain…"));
     keychainUnlock01.setHidden(true);
     keychainIndicator01.startAnimation();
-    detachThread(u"keychain"_qs, [this, request, ask] {
+    detachThread(u"keychain"_s, [this, request, ask] {
         const Answer answer = ask();
         m_keychainRequests.apply(request, [&] {
             keychainText01.setText(answer.text);
@@ -156,7 +158,7 @@ void QuillorentAppDelegate::passButton01Action()
 {
     const QString account = textOf(keychainUser);
     askKeychain([account] { return fetch(account); });
-    currentRecord().setValue(u"lastkeychainuser"_qs, account);
+    currentRecord().setValue(u"lastkeychainuser"_s, account);
 }
 
 void QuillorentAppDelegate::passButton02Action()
@@ -164,7 +166,7 @@ void QuillorentAppDelegate::passButton02Action()
     const QString account = textOf(keychainUser);
     const auto password = std::make_shared<Secret>(Secret::fromText(shownKeychainField().text()));
     askKeychain([account, password] { return store(account, *password); });
-    currentRecord().setValue(u"lastkeychainuser"_qs, account);
+    currentRecord().setValue(u"lastkeychainuser"_s, account);
 }
 
 void QuillorentAppDelegate::keychainUnlock01Action()

@@ -1,5 +1,7 @@
 #include "app/QuillorentAppDelegate.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Of a pair of fields for one password, shows the masked one or the clear one, with the text of the other.
@@ -38,7 +40,7 @@ bool QuillorentAppDelegate::pkeySelector() const
 void QuillorentAppDelegate::passCombo01Action()
 {
     const int source = passCombo01.selectedIndex();
-    currentRecord().setValue(u"passtype"_qs, source);
+    currentRecord().setValue(u"passtype"_s, source);
     passTabs.selectIndex(std::max(source, 0));
     pkView.setHidden(source != Certificate);
     if (source == KeychainPassword && !keychainUser.text().isEmpty()) passButton01Action();

@@ -6,6 +6,8 @@
 
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void show(outlets::TextField &field, const std::optional<QString> &text)
@@ -30,7 +32,7 @@ QString QuillorentAppDelegate::loadProfiles()
     profileCombo01.selectTitle(last);
 
     const QString chosen =
-        configPlist().dictionary(u"resources"_qs).string(u"selectedprofile"_qs).value_or(QString());
+        configPlist().dictionary(u"resources"_s).string(u"selectedprofile"_s).value_or(QString());
     return !chosen.isEmpty() && names.contains(chosen) ? chosen : last;
 }
 
@@ -68,39 +70,39 @@ void QuillorentAppDelegate::setterCurrentProfile(const QString &name)
 
 void QuillorentAppDelegate::showSwitches()
 {
-    updatesCheck01.setOn(configPlist().dictionary(u"updates"_qs).isOn(u"automatic"_qs));
-    autosaveCheck01.setOn(configPlist().dictionary(u"resources"_qs).isOn(u"autosave"_qs));
+    updatesCheck01.setOn(configPlist().dictionary(u"updates"_s).isOn(u"automatic"_s));
+    autosaveCheck01.setOn(configPlist().dictionary(u"resources"_s).isOn(u"autosave"_s));
 }
 
 void QuillorentAppDelegate::applyRecord(const plist::Dictionary &record)
 {
-    show(fileText01, record.string(u"path"_qs));
-    show(keychainUser, record.string(u"lastkeychainuser"_qs));
-    show(certFile01, record.string(u"lastcertfile"_qs));
-    if (const auto source = record.integer(u"passtype"_qs)) passCombo01.selectIndex(int(*source));
-    show(pkFile01, record.string(u"lastpkfile"_qs));
-    show(extractPath, record.string(u"extractpath"_qs));
+    show(fileText01, record.string(u"path"_s));
+    show(keychainUser, record.string(u"lastkeychainuser"_s));
+    show(certFile01, record.string(u"lastcertfile"_s));
+    if (const auto source = record.integer(u"passtype"_s)) passCombo01.selectIndex(int(*source));
+    show(pkFile01, record.string(u"lastpkfile"_s));
+    show(extractPath, record.string(u"extractpath"_s));
     const auto method =
-        quillorentLibrary::symmetricMethods().indexOf(record.string(u"symencryption"_qs).value_or(QString()));
+        quillorentLibrary::symmetricMethods().indexOf(record.string(u"symencryption"_s).value_or(QString()));
     if (method >= 0) prefSelector01.selectIndex(int(method));
-    if (const auto part = record.string(u"part"_qs)) showPartSize(*part);
-    checkBox04.setOn(record.isOn(u"split"_qs));
-    checkBox05.setOn(record.isOn(u"keepdate"_qs));
-    showCompression(record.isOn(u"compress"_qs));
+    if (const auto part = record.string(u"part"_s)) showPartSize(*part);
+    checkBox04.setOn(record.isOn(u"split"_s));
+    checkBox05.setOn(record.isOn(u"keepdate"_s));
+    showCompression(record.isOn(u"compress"_s));
 
     // A record without these two reads as "not 0", unlike every other switch.
-    syncSelector01.selectIndex(record.string(u"rsyncmode"_qs) == u"0"_qs ? 0 : 1);
-    checkBoxSync1.setOn(record.isOn(u"rsyncdelete1"_qs));
-    checkBoxSync2.setOn(record.isOn(u"rsyncdelete2"_qs));
-    show(syncTextSourcePath, record.string(u"rsyncsrc"_qs));
-    show(syncTextDestPath, record.string(u"rsyncdst"_qs));
-    prefCheck02.setOn(record.string(u"emptydir"_qs) != u"0"_qs);
+    syncSelector01.selectIndex(record.string(u"rsyncmode"_s) == u"0"_s ? 0 : 1);
+    checkBoxSync1.setOn(record.isOn(u"rsyncdelete1"_s));
+    checkBoxSync2.setOn(record.isOn(u"rsyncdelete2"_s));
+    show(syncTextSourcePath, record.string(u"rsyncsrc"_s));
+    show(syncTextDestPath, record.string(u"rsyncdst"_s));
+    prefCheck02.setOn(record.string(u"emptydir"_s) != u"0"_s);
 
-    syncCheck01.setOn(record.isOn(u"isremotesync"_qs));
+    syncCheck01.setOn(record.isOn(u"isremotesync"_s));
     syncView.setHidden(!syncCheck01.isOn());
-    showUnlessEmpty(syncPort, record.string(u"remotesyncport"_qs));
-    showUnlessEmpty(syncServer, record.string(u"remotesyncserver"_qs));
-    showUnlessEmpty(syncUser, record.string(u"remotesyncuser"_qs));
+    showUnlessEmpty(syncPort, record.string(u"remotesyncport"_s));
+    showUnlessEmpty(syncServer, record.string(u"remotesyncserver"_s));
+    showUnlessEmpty(syncUser, record.string(u"remotesyncuser"_s));
 }
 
 void QuillorentAppDelegate::showPartSize(const QString &size)
@@ -122,7 +124,7 @@ void QuillorentAppDelegate::profileButton02Action()
     if (chosen.isEmpty()) return;
     indicator02.startAnimation();
     setterCurrentProfile(chosen);
-    detachThread(u"load-profile"_qs, [this] {
+    detachThread(u"load-profile"_s, [this] {
         std::this_thread::sleep_for(pauses().profileLoaded);
         listTableView.reloadData();
         extractTableView.reloadData();

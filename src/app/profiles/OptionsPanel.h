@@ -5,9 +5,11 @@
 
 /// Processing options of a profile.
 struct OptionsPanel : virtual outlets::Registry {
-    outlets::Panel preferencesPanel01{*this, u"preferencesPanel01"_qs};
-    outlets::Selector prefSelector01{*this, u"prefSelector01"_qs}; ///< symmetric method
-    outlets::Selector prefSelector02{*this, u"prefSelector02"_qs}; ///< asymmetric method: there is one
-    outlets::CheckBox prefCheck02{*this, u"prefCheck02"_qs};       ///< treat every destination as empty
-    outlets::CheckBox prefCheck03{*this, u"prefCheck03"_qs}; ///< compress before encrypting, as `checkBox06`
+    outlets::Panel preferencesPanel01{*this, QStringLiteral("preferencesPanel01")};
+    outlets::Selector prefSelector01{*this, QStringLiteral("prefSelector01")}; ///< symmetric method
+    outlets::Selector prefSelector02{*this,
+                                     QStringLiteral("prefSelector02")};  ///< asymmetric method: there is one
+    outlets::CheckBox prefCheck02{*this, QStringLiteral("prefCheck02")}; ///< treat every destination as empty
+    outlets::CheckBox prefCheck03{
+        *this, QStringLiteral("prefCheck03")}; ///< compress before encrypting, as `checkBox06`
 };

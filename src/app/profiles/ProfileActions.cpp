@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 // Nothing here is written to disk before the profiles are saved.
 
 namespace {
@@ -74,8 +76,8 @@ void QuillorentAppDelegate::panel01ok()
     showProfile(name);
     listPlist().remove(former);
     // The profile that opens at start-up stays the one, under its new name.
-    const plist::Dictionary resources = configPlist().dictionary(u"resources"_qs);
-    if (resources.string(u"selectedprofile"_qs) == former) resources.setValue(u"selectedprofile"_qs, name);
+    const plist::Dictionary resources = configPlist().dictionary(u"resources"_s);
+    if (resources.string(u"selectedprofile"_s) == former) resources.setValue(u"selectedprofile"_s, name);
     showProfile(name);
     closeSheet(profilePanel01);
 }
@@ -99,8 +101,8 @@ void QuillorentAppDelegate::panel02ok()
     const plist::Dictionary record = quillorentLibrary::dictionaryByDeepCopy(defaultProfile());
     listPlist().setValue(name, record);
     if (mustDos01.isOn())
-        record.array(u"folders"_qs)
-            .append(quillorentLibrary::translatePath(configPlist().array(u"mustdo"_qs).strings()));
+        record.array(u"folders"_s)
+            .append(quillorentLibrary::translatePath(configPlist().array(u"mustdo"_s).strings()));
     closeSheet(profilePanel02);
     passCombo01.selectIndex(TypedPassword);
     showProfile(name);

@@ -5,21 +5,22 @@
 
 /// The sheets that rename, make, duplicate and delete a profile.
 struct ProfileSheets : virtual outlets::Registry {
-    outlets::Panel profilePanel01{*this, u"profilePanel01"_qs};
-    outlets::TextField panel01text01{*this, u"panel01text01"_qs}; ///< the profile to rename
-    outlets::TextField panel01text02{*this, u"panel01text02"_qs}; ///< its new name
+    outlets::Panel profilePanel01{*this, QStringLiteral("profilePanel01")};
+    outlets::TextField panel01text01{*this, QStringLiteral("panel01text01")}; ///< the profile to rename
+    outlets::TextField panel01text02{*this, QStringLiteral("panel01text02")}; ///< its new name
 
-    outlets::Panel profilePanel02{*this, u"profilePanel02"_qs};
-    outlets::TextField panel02text01{*this, u"panel02text01"_qs}; ///< the new profile's name
-    outlets::CheckBox mustDos01{*this, u"mustDos01"_qs}; ///< it begins with the folders that everybody has
+    outlets::Panel profilePanel02{*this, QStringLiteral("profilePanel02")};
+    outlets::TextField panel02text01{*this, QStringLiteral("panel02text01")}; ///< the new profile's name
+    outlets::CheckBox mustDos01{
+        *this, QStringLiteral("mustDos01")}; ///< it begins with the folders that everybody has
 
-    outlets::Panel profilePanel03{*this, u"profilePanel03"_qs};
-    outlets::TextField panel03text01{*this, u"panel03text01"_qs}; ///< the profile to duplicate
-    outlets::TextField panel03text02{*this, u"panel03text02"_qs}; ///< the duplicate's name
+    outlets::Panel profilePanel03{*this, QStringLiteral("profilePanel03")};
+    outlets::TextField panel03text01{*this, QStringLiteral("panel03text01")}; ///< the profile to duplicate
+    outlets::TextField panel03text02{*this, QStringLiteral("panel03text02")}; ///< the duplicate's name
 
-    outlets::Panel profilePanel04{*this, u"profilePanel04"_qs};
-    outlets::TextField panel04text01{*this, u"panel04text01"_qs}; ///< the profile to delete
+    outlets::Panel profilePanel04{*this, QStringLiteral("profilePanel04")};
+    outlets::TextField panel04text01{*this, QStringLiteral("panel04text01")}; ///< the profile to delete
 
-    outlets::Panel warningPanel04{*this, u"warningPanel04"_qs};
-    outlets::TextField warningText04{*this, u"warningText04"_qs}; ///< why a name can't be taken
+    outlets::Panel warningPanel04{*this, QStringLiteral("warningPanel04")};
+    outlets::TextField warningText04{*this, QStringLiteral("warningText04")}; ///< why a name can't be taken
 };

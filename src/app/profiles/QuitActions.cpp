@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -25,7 +27,7 @@ void QuillorentAppDelegate::saveForQuitting()
 {
     if (m_savesForQuitting.exchange(true)) return;
     m_leavesUnsaved = false;
-    detachThread(u"save-and-quit"_qs, [this] {
+    detachThread(u"save-and-quit"_s, [this] {
         m_mayQuit = saveOrAsk();
         m_savesForQuitting = false;
     });
@@ -39,7 +41,7 @@ bool QuillorentAppDelegate::saveOrAsk()
         if (!saved) return false;
         if (saved->isEmpty()) return true;
         failures += *saved;
-        quitText01.setText(failures.join(u"\n\n"_qs));
+        quitText01.setText(failures.join(u"\n\n"_s));
         m_quitChoice = QuitChoice::Stay;
         quitPanel01.runModal();
         failures.clear();

@@ -9,6 +9,8 @@
 #include <QLocale>
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 using quillorentLibrary::InConflict;
 using quillorentLibrary::Saved;
 
@@ -120,10 +122,10 @@ void QuillorentAppDelegate::tellOfFiles(const QStringList &notices)
     if (notices.isEmpty()) return;
     const std::lock_guard oneAfterAnother(m_fileNotices);
     const bool isShown = settingsPanel01.place() != outlets::Panel::Place::Hidden;
-    QStringList shown = isShown ? settingsText01.text().split(u"\n\n"_qs) : QStringList();
+    QStringList shown = isShown ? settingsText01.text().split(u"\n\n"_s) : QStringList();
     shown.append(notices);
     shown.removeDuplicates();
-    settingsText01.setText(shown.join(u"\n\n"_qs));
+    settingsText01.setText(shown.join(u"\n\n"_s));
     settingsPanel01.orderFront();
 }
 
@@ -135,7 +137,7 @@ void QuillorentAppDelegate::tellUnlessSaved(const QStringList &failures)
 {
     if (failures.isEmpty()) return;
     const std::lock_guard oneAfterAnother(m_saveQuestions);
-    saveText01.setText(failures.join(u"\n\n"_qs));
+    saveText01.setText(failures.join(u"\n\n"_s));
     savePanel01.runModal();
 }
 
@@ -144,7 +146,7 @@ void QuillorentAppDelegate::savePanel01Close() { closeSheet(savePanel01); }
 void QuillorentAppDelegate::saveSettings1Action()
 {
     indicator01.startAnimation();
-    detachThread(u"save-settings"_qs, [this] {
+    detachThread(u"save-settings"_s, [this] {
         const QStringList failures = failuresOf({save(settingsToSave())});
         std::this_thread::sleep_for(pauses().settingsSaved);
         quillorentLibrary::compliance();
@@ -157,7 +159,7 @@ void QuillorentAppDelegate::profileButton01Action()
 {
     indicator02.startAnimation();
     indicator03.startAnimation();
-    detachThread(u"save-profiles"_qs, [this] {
+    detachThread(u"save-profiles"_s, [this] {
         const QStringList failures = failuresOf({save(profilesToSave())});
         std::this_thread::sleep_for(pauses().profilesSaved);
         indicator02.stopAnimation();
@@ -170,8 +172,8 @@ void QuillorentAppDelegate::setterDefaultProfile()
 {
     indicator02.startAnimation();
     indicator03.startAnimation();
-    configPlist().dictionary(u"resources"_qs).setValue(u"selectedprofile"_qs, currentProfile());
-    detachThread(u"save-both"_qs, [this] {
+    configPlist().dictionary(u"resources"_s).setValue(u"selectedprofile"_s, currentProfile());
+    detachThread(u"save-both"_s, [this] {
         const QStringList failures = failuresOf({save(profilesToSave()), save(settingsToSave())});
         std::this_thread::sleep_for(pauses().profilesSaved);
         indicator02.stopAnimation();

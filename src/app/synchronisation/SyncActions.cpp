@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -26,42 +28,41 @@ void QuillorentAppDelegate::syncButton02Action() { m_syncTable.removeSelected();
 
 void QuillorentAppDelegate::syncButtoSrcAction()
 {
-    chooseFolder(Words::tr("Choose the source folder"), syncTextSourcePath, u"rsyncsrc"_qs);
+    chooseFolder(Words::tr("Choose the source folder"), syncTextSourcePath, u"rsyncsrc"_s);
 }
 
 void QuillorentAppDelegate::syncButtoDestAction()
 {
-    chooseFolder(Words::tr("Choose the destination of the synchronisation"), syncTextDestPath,
-                 u"rsyncdst"_qs);
+    chooseFolder(Words::tr("Choose the destination of the synchronisation"), syncTextDestPath, u"rsyncdst"_s);
 }
 
-void QuillorentAppDelegate::syncTextDestPathAction() { store(u"rsyncdst"_qs, syncTextDestPath.text()); }
+void QuillorentAppDelegate::syncTextDestPathAction() { store(u"rsyncdst"_s, syncTextDestPath.text()); }
 
 void QuillorentAppDelegate::syncSelector01Action()
 {
     const int row = syncSelector01.selectedIndex();
-    if (row == 0 || row == 1) store(u"rsyncmode"_qs, QString::number(row));
+    if (row == 0 || row == 1) store(u"rsyncmode"_s, QString::number(row));
 }
 
 void QuillorentAppDelegate::checkBoxSync1Action()
 {
-    currentRecord().setSwitch(u"rsyncdelete1"_qs, checkBoxSync1.isOn());
+    currentRecord().setSwitch(u"rsyncdelete1"_s, checkBoxSync1.isOn());
 }
 
 void QuillorentAppDelegate::checkBoxSync2Action()
 {
-    currentRecord().setSwitch(u"rsyncdelete2"_qs, checkBoxSync2.isOn());
+    currentRecord().setSwitch(u"rsyncdelete2"_s, checkBoxSync2.isOn());
 }
 
 void QuillorentAppDelegate::syncCheck01Action()
 {
     syncView.setHidden(!syncCheck01.isOn());
-    currentRecord().setSwitch(u"isremotesync"_qs, syncCheck01.isOn());
+    currentRecord().setSwitch(u"isremotesync"_s, syncCheck01.isOn());
 }
 
 void QuillorentAppDelegate::syncCheck02Action()
 {
-    store(u"remotesyncuser"_qs, syncUser.text());
-    store(u"remotesyncserver"_qs, syncServer.text());
-    store(u"remotesyncport"_qs, syncPort.text());
+    store(u"remotesyncuser"_s, syncUser.text());
+    store(u"remotesyncserver"_s, syncServer.text());
+    store(u"remotesyncport"_s, syncPort.text());
 }

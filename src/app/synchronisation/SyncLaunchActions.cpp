@@ -7,6 +7,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -106,12 +108,12 @@ RunStart QuillorentAppDelegate::prepareSync(bool isPreview)
 
 void QuillorentAppDelegate::buttonLaunch03()
 {
-    startRun(u"sync-run"_qs, [this] { return prepareSync(false); });
+    startRun(u"sync-run"_s, [this] { return prepareSync(false); });
 }
 
 void QuillorentAppDelegate::previewButton01Action()
 {
-    startRun(u"preview-run"_qs, [this] { return prepareSync(true); });
+    startRun(u"preview-run"_s, [this] { return prepareSync(true); });
 }
 
 void QuillorentAppDelegate::showPreview(const std::shared_ptr<const Preview> &preview)
@@ -127,5 +129,5 @@ void QuillorentAppDelegate::previewPanel01Close() { closeSheet(previewPanel01); 
 void QuillorentAppDelegate::previewPanel01Launch()
 {
     previewPanel01Close();
-    startRun(u"sync-run"_qs, [this] { return prepareConfirmed(m_previewedOrder()); });
+    startRun(u"sync-run"_s, [this] { return prepareConfirmed(m_previewedOrder()); });
 }

@@ -6,6 +6,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -19,18 +21,18 @@ SyncOrder readSyncOrder()
     const QuillorentAppDelegate &delegate = theDelegate();
     const plist::Dictionary record = delegate.currentRecord();
     return {.profile = delegate.currentProfile(),
-            .tool = registeredTool(u"RSync"_qs),
-            .entries = record.array(u"sync"_qs).strings(),
-            .destination = record.string(u"rsyncdst"_qs).value_or(QString()),
-            .mode = record.string(u"rsyncmode"_qs),
-            .deletesExtra = record.isOn(u"rsyncdelete1"_qs),
-            .removesSources = record.isOn(u"rsyncdelete2"_qs),
+            .tool = registeredTool(u"RSync"_s),
+            .entries = record.array(u"sync"_s).strings(),
+            .destination = record.string(u"rsyncdst"_s).value_or(QString()),
+            .mode = record.string(u"rsyncmode"_s),
+            .deletesExtra = record.isOn(u"rsyncdelete1"_s),
+            .removesSources = record.isOn(u"rsyncdelete2"_s),
             .isRemote = delegate.syncCheck01.isOn(),
             .user = delegate.syncUser.text(),
             .server = delegate.syncServer.text(),
             .port = delegate.syncPort.text(),
-            .parameters = delegate.setting(u"sync"_qs, u"rsyncparams"_qs),
-            .excludes = delegate.setting(u"sync"_qs, u"rsyncexcludes"_qs)};
+            .parameters = delegate.setting(u"sync"_s, u"rsyncparams"_s),
+            .excludes = delegate.setting(u"sync"_s, u"rsyncexcludes"_s)};
 }
 
 void quillorentLibrary::launchSync(const QString &)

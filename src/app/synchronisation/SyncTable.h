@@ -5,5 +5,5 @@
 /// The entries that the current profile synchronises.
 class syncTable : public PathListTable {
 public:
-    explicit syncTable(outlets::TableView &view) : PathListTable(u"sync"_qs, view) {}
+    explicit syncTable(outlets::TableView &view) : PathListTable(QStringLiteral("sync"), view) {}
 };

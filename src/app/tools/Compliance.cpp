@@ -8,6 +8,8 @@
 #include <QCoreApplication>
 #include <mutex>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -24,7 +26,7 @@ std::recursive_mutex &oneVerification()
 
 QString hintOnOpenSsl()
 {
-    if (!quillorentLibrary::warnsOfItsKeyDerivation(registeredTool(u"OpenSSL"_qs))) return {};
+    if (!quillorentLibrary::warnsOfItsKeyDerivation(registeredTool(u"OpenSSL"_s))) return {};
     return Words::tr(
         "This OpenSSL can't be used by itself: it makes something else of a password than archives "
         "of this program need, and complains of it. Choose Quillorent's own \"openssl\", which uses it.");
@@ -62,7 +64,7 @@ bool quillorentLibrary::compliance()
 
 void quillorentLibrary::updateCompliance()
 {
-    detachThread(u"verify-tools"_qs, [] {
+    detachThread(u"verify-tools"_s, [] {
         const std::lock_guard lock(oneVerification());
         theDelegate().compliance.set(compliance());
     });

@@ -7,13 +7,15 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
     Q_DECLARE_TR_FUNCTIONS(tools)
 };
 
-plist::Dictionary registry() { return theDelegate().configPlist().dictionary(u"external"_qs); }
+plist::Dictionary registry() { return theDelegate().configPlist().dictionary(u"external"_s); }
 
 } // namespace
 
@@ -39,7 +41,7 @@ void pathTable::setObjectValue(const QVariant &value, const QString &column, int
 void QuillorentAppDelegate::selectFile()
 {
     const auto chosen = openPanel(
-        {.title = Words::tr("Choose a tool"), .directory = u"/usr/bin"_qs, .allowedFileTypes = {u""_qs}});
+        {.title = Words::tr("Choose a tool"), .directory = u"/usr/bin"_s, .allowedFileTypes = {u""_s}});
     const QString tool = registeredTools().value(pathTableView.selectedRow());
     if (chosen && !chosen->isEmpty() && !tool.isNull()) registry().setValue(tool, chosen->first());
     quillorentLibrary::updateCompliance();

@@ -6,8 +6,8 @@
 
 /// The tab of the external tools.
 struct ToolsTab : virtual outlets::Registry {
-    outlets::TableView pathTableView{*this, u"pathTableView"_qs};
-    outlets::TextField toolsHint01{*this,
-                                   u"toolsHint01"_qs}; ///< what is wrong with a tool that passes its test
-    outlets::LevelIndicator level01{*this, u"level01"_qs};
+    outlets::TableView pathTableView{*this, QStringLiteral("pathTableView")};
+    outlets::TextField toolsHint01{
+        *this, QStringLiteral("toolsHint01")}; ///< what is wrong with a tool that passes its test
+    outlets::LevelIndicator level01{*this, QStringLiteral("level01")};
 };

@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Words {
@@ -14,14 +16,14 @@ struct Words {
 
 void QuillorentAppDelegate::updatesCheck01Action()
 {
-    configPlist().dictionary(u"updates"_qs).setSwitch(u"automatic"_qs, updatesCheck01.isOn());
+    configPlist().dictionary(u"updates"_s).setSwitch(u"automatic"_s, updatesCheck01.isOn());
     if (showsUpdates) SUUpdater::sharedUpdater().setAutomaticallyChecksForUpdates(updatesCheck01.isOn());
 }
 
 void QuillorentAppDelegate::checkForUpdatesAtStart()
 {
     SUUpdater::sharedUpdater().setClient(
-        {.feed = [this] { return setting(u"updates"_qs, u"feed"_qs).value_or(QString()); },
+        {.feed = [this] { return setting(u"updates"_s, u"feed"_s).value_or(QString()); },
          .showRelease =
              [this](const Release &release) {
                  updateText01.setText(Words::tr("Version %1 is there. You have version %2.")
@@ -30,7 +32,7 @@ void QuillorentAppDelegate::checkForUpdatesAtStart()
                  downloadButton01.setAlternateTitle(release.page.toString());
                  updatePanel01.orderFront();
              }});
-    if (!showsUpdates || !configPlist().dictionary(u"updates"_qs).isOn(u"automatic"_qs)) return;
+    if (!showsUpdates || !configPlist().dictionary(u"updates"_s).isOn(u"automatic"_s)) return;
     SUUpdater::sharedUpdater().setAutomaticallyChecksForUpdates(true);
     SUUpdater::sharedUpdater().checkForUpdatesInBackground();
 }
