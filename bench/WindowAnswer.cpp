@@ -1,7 +1,7 @@
 #include "app/QuillorentAppDelegate.h"
 #include "settings/Paths.h"
-#include "ui/Appearance.h"
 #include "ui/Window.h"
+#include "ui/look/Appearance.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -4,8 +4,8 @@
 #include "app/Process.h"
 #include "app/QuillorentAppDelegate.h"
 #include "app/Translations.h"
-#include "ui/Appearance.h"
 #include "ui/Window.h"
+#include "ui/look/Appearance.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,14 +1,14 @@
 #include "ui/Actions.h"
 
 #include "app/QuillorentAppDelegate.h"
-#include "ui/ArchiveList.h"
 #include "ui/Binding.h"
-#include "ui/FoldersPage.h"
-#include "ui/PanelDialog.h"
-#include "ui/PathList.h"
-#include "ui/SizeEdit.h"
-#include "ui/StepperButtons.h"
-#include "ui/ToolTable.h"
+#include "ui/lists/ArchiveList.h"
+#include "ui/lists/PathList.h"
+#include "ui/lists/ToolTable.h"
+#include "ui/pages/FoldersPage.h"
+#include "ui/widgets/PanelDialog.h"
+#include "ui/widgets/SizeEdit.h"
+#include "ui/widgets/StepperButtons.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>

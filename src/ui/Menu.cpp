@@ -1,8 +1,8 @@
 #include "ui/Menu.h"
 
-#include "ui/About.h"
-#include "ui/Guide.h"
-#include "ui/PanelDialog.h"
+#include "ui/sheets/About.h"
+#include "ui/sheets/Guide.h"
+#include "ui/widgets/PanelDialog.h"
 
 #include <QAbstractButton>
 #include <QAction>

@@ -1,8 +1,8 @@
 #include "ui/RunNotices.h"
 
 #include "app/QuillorentAppDelegate.h"
-#include "ui/Announcer.h"
-#include "ui/PanelDialog.h"
+#include "ui/widgets/Announcer.h"
+#include "ui/widgets/PanelDialog.h"
 
 #include <QCoreApplication>
 #include <QEvent>

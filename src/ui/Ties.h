@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/RefreshQueue.h"
+#include "ui/watching/RefreshQueue.h"
 
 #include <QWidget>
 

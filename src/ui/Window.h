@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/Motion.h"
 #include "ui/Opening.h"
+#include "ui/widgets/Motion.h"
 
 #include <QMainWindow>
 #include <QMessageBox>

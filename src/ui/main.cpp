@@ -3,10 +3,10 @@
 #include "app/TerminationSignals.h"
 #include "app/Translations.h"
 #include "settings/Paths.h"
-#include "ui/Appearance.h"
 #include "ui/CommandLine.h"
 #include "ui/SingleWindow.h"
 #include "ui/Window.h"
+#include "ui/look/Appearance.h"
 
 #include <QApplication>
 #include <cstdio>

@@ -10,8 +10,6 @@
 #include <fstream>
 #include <sys/mount.h>
 
-using namespace Qt::StringLiterals;
-
 using namespace std::chrono_literals;
 
 namespace {

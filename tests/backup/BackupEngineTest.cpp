@@ -2,8 +2,6 @@
 
 #include "runs/Run.h"
 
-using namespace Qt::StringLiterals;
-
 namespace fs = std::filesystem;
 
 namespace {

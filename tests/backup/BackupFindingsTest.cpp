@@ -5,8 +5,6 @@
 
 #include <thread>
 
-using namespace Qt::StringLiterals;
-
 namespace fs = std::filesystem;
 
 namespace {

@@ -11,8 +11,6 @@
 #include <csignal>
 #include <thread>
 
-using namespace Qt::StringLiterals;
-
 namespace fs = std::filesystem;
 
 namespace {

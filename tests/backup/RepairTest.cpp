@@ -6,8 +6,6 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-using namespace Qt::StringLiterals;
-
 namespace fs = std::filesystem;
 
 namespace {

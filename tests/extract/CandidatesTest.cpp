@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class Candidates : public testing::Test {

@@ -6,8 +6,6 @@
 #include <set>
 #include <sys/stat.h>
 
-using namespace Qt::StringLiterals;
-
 namespace fs = std::filesystem;
 
 namespace {

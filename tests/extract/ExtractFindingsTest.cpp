@@ -3,8 +3,6 @@
 
 #include <thread>
 
-using namespace Qt::StringLiterals;
-
 namespace fs = std::filesystem;
 
 namespace {

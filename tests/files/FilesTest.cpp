@@ -11,8 +11,6 @@
 #include <QDir>
 #include <QRegularExpression>
 
-using namespace Qt::StringLiterals;
-
 namespace fs = std::filesystem;
 using namespace quillorentLibrary;
 

@@ -9,8 +9,6 @@
 #include "keys/CertificateSummary.h"
 #include "tools/Threads.h"
 
-using namespace Qt::StringLiterals;
-
 using namespace quillorentLibrary;
 using namespace std::chrono_literals;
 namespace fs = std::filesystem;

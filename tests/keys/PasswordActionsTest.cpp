@@ -5,8 +5,6 @@
 #include "keys/Strength.h"
 #include "tools/Threads.h"
 
-using namespace Qt::StringLiterals;
-
 using namespace std::chrono_literals;
 
 namespace {

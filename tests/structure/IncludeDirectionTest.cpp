@@ -18,6 +18,14 @@ struct Include {
     std::string targetFolder;
 };
 
+/// The folder that a file counts to: the window has rooms of its own.
+std::string folderOf(const fs::path &file)
+{
+    const std::string folder = file.begin()->string();
+    const fs::path room = file.parent_path();
+    return folder == "ui" ? room.string() : folder;
+}
+
 std::vector<Include> allIncludes()
 {
     static const std::regex pattern(R"re(^\s*#\s*include\s*(["<])([^">]+)[">])re");
@@ -31,9 +39,8 @@ std::vector<Include> allIncludes()
             std::smatch match;
             if (!std::regex_search(line, match, pattern)) continue;
             const std::string target = match[2];
-            const std::string targetFolder = fs::path(target).begin()->string();
             includes.push_back(
-                {file, file.begin()->string(), target, fs::exists(sources / target), targetFolder});
+                {file, folderOf(file), target, fs::exists(sources / target), folderOf(target)});
         }
     }
     return includes;
@@ -41,10 +48,12 @@ std::vector<Include> allIncludes()
 
 /// The floors, from the ground up. A folder may include from floors below its own, and from its own floor
 /// only what `neighbours` names.
-const std::map<std::string, int> floors{{"plist", 1},    {"outlets", 1}, {"keychain", 1}, {"files", 1},
-                                        {"settings", 2}, {"keys", 2},    {"updates", 2},  {"tools", 2},
-                                        {"runs", 3},     {"backup", 4},  {"extract", 4},  {"sync", 4},
-                                        {"app", 5},      {"ui", 6},      {"headless", 6}};
+const std::map<std::string, int> floors{
+    {"plist", 1},       {"outlets", 1},    {"keychain", 1}, {"files", 1},    {"settings", 2},
+    {"keys", 2},        {"updates", 2},    {"tools", 2},    {"runs", 3},     {"backup", 4},
+    {"extract", 4},     {"sync", 4},       {"app", 5},      {"headless", 6}, {"ui/look", 6},
+    {"ui/watching", 6}, {"ui/widgets", 7}, {"ui/facts", 8}, {"ui/lists", 9}, {"ui/pages", 10},
+    {"ui/sheets", 10},  {"ui", 11}};
 const std::map<std::string, std::string> neighbours{{"keys", "tools"}, {"outlets", "keychain"}};
 
 bool pointsDown(const Include &include)
@@ -73,7 +82,7 @@ TEST(IncludeDirection, OnlyTheWindowKnowsWidgets)
     bool windowHasWidgets = false;
     for (const Include &include : allIncludes()) {
         if (include.isOurs || !std::regex_search(include.target, widgets)) continue;
-        EXPECT_EQ(include.folder, "ui") << include.file << " includes " << include.target;
+        EXPECT_TRUE(include.folder.starts_with("ui")) << include.file << " includes " << include.target;
         windowHasWidgets = true;
     }
     EXPECT_TRUE(windowHasWidgets) << "the pattern of widgets finds none even in the window";

@@ -18,6 +18,8 @@
 #include <mutex>
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
+
 /// Writes a shell script that stands in for a tool; gives its path.
 inline QString writeScript(const std::filesystem::path &path, const std::string &body)
 {

@@ -8,6 +8,8 @@
 #include <functional>
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 /// The whole program but its front end, in a home of its own, with the settings that a new user gets and
 /// short pauses. Its companions are those of the build tree. One at a time.
 class TestProgram {

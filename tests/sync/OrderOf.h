@@ -4,6 +4,8 @@
 
 #include <QString>
 
+using namespace Qt::StringLiterals;
+
 /// An order from "x" and "d" in `source` to `destination`, changed by words: "delete", "remove",
 /// "server=box", "dst=/other", "add=/entry", "no-excludes" and the like.
 inline SyncOrder orderOf(const QString &changes, const QString &source = QStringLiteral("/a"),

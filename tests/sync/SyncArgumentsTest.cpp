@@ -7,8 +7,6 @@
 #include <QFileInfo>
 #include <gtest/gtest.h>
 
-using namespace Qt::StringLiterals;
-
 namespace fs = std::filesystem;
 
 namespace {

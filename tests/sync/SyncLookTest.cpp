@@ -2,8 +2,6 @@
 
 #include "sync/SyncLook.h"
 
-using namespace Qt::StringLiterals;
-
 TEST(SyncLook, TellsBeforeAnythingIsTouched)
 {
     namespace fs = std::filesystem;

@@ -4,8 +4,6 @@
 
 #include "app/Process.h"
 
-using namespace Qt::StringLiterals;
-
 namespace fs = std::filesystem;
 
 namespace {

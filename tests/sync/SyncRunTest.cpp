@@ -3,8 +3,6 @@
 
 #include <csignal>
 
-using namespace Qt::StringLiterals;
-
 namespace fs = std::filesystem;
 using Change = PreviewRow::Change;
 

@@ -3,8 +3,6 @@
 
 #include "runs/RunJournal.h"
 
-using namespace Qt::StringLiterals;
-
 using Place = outlets::Panel::Place;
 
 namespace {

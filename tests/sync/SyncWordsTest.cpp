@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-using namespace Qt::StringLiterals;
-
 TEST(SyncWords, SayWhatTheSwitchesDo)
 {
     const QString remote = u"server=box user=me"_s;

@@ -8,8 +8,6 @@
 #include <gtest/gtest.h>
 #include <semaphore>
 
-using namespace Qt::StringLiterals;
-
 using namespace std::chrono_literals;
 namespace fs = std::filesystem;
 

@@ -4,8 +4,6 @@
 #include "Stub.h"
 #include "tools/Verification.h"
 
-using namespace Qt::StringLiterals;
-
 using namespace quillorentLibrary;
 
 namespace {

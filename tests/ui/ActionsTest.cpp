@@ -3,10 +3,10 @@
 #include "Tree.h"
 
 #include "ui/Actions.h"
-#include "ui/FolderList.h"
-#include "ui/OpenPanelDialog.h"
-#include "ui/StepperButtons.h"
 #include "ui/WindowMemory.h"
+#include "ui/lists/FolderList.h"
+#include "ui/widgets/OpenPanelDialog.h"
+#include "ui/widgets/StepperButtons.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -16,8 +16,6 @@
 #include <QMessageBox>
 #include <QTextBrowser>
 #include <QToolButton>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

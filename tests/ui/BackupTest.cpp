@@ -6,8 +6,8 @@
 #include "Tree.h"
 
 #include "tools/ToolRun.h"
-#include "ui/RunBar.h"
-#include "ui/TextArea.h"
+#include "ui/widgets/RunBar.h"
+#include "ui/widgets/TextArea.h"
 
 #include <QApplication>
 #include <QDir>
@@ -20,8 +20,6 @@
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QWindow>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,13 +1,11 @@
 #include "TestWindow.h"
 
-#include "ui/PanelDialog.h"
-#include "ui/RefreshQueue.h"
-#include "ui/SpokenSecrets.h"
+#include "ui/watching/RefreshQueue.h"
+#include "ui/widgets/PanelDialog.h"
+#include "ui/widgets/SpokenSecrets.h"
 
 #include <QLineEdit>
 #include <thread>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

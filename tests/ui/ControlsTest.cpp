@@ -3,8 +3,8 @@
 #include "TestWindow.h"
 
 #include "keychain/Secret.h"
-#include "ui/OutletTableView.h"
-#include "ui/SizeEdit.h"
+#include "ui/lists/OutletTableView.h"
+#include "ui/widgets/SizeEdit.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -14,8 +14,6 @@
 #include <fcntl.h>
 #include <fstream>
 #include <unistd.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

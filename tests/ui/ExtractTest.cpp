@@ -4,16 +4,14 @@
 
 #include "tools/Threads.h"
 #include "tools/ToolRun.h"
-#include "ui/ArchiveList.h"
-#include "ui/BackupList.h"
-#include "ui/TextArea.h"
+#include "ui/lists/ArchiveList.h"
+#include "ui/lists/BackupList.h"
+#include "ui/widgets/TextArea.h"
 
 #include <QDir>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QTreeView>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -6,9 +6,9 @@
 #include "Tree.h"
 
 #include "runs/RunJournal.h"
-#include "ui/BackupResult.h"
-#include "ui/FolderList.h"
-#include "ui/TextArea.h"
+#include "ui/lists/FolderList.h"
+#include "ui/pages/BackupResult.h"
+#include "ui/widgets/TextArea.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -17,8 +17,6 @@
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QToolButton>
-
-using namespace Qt::StringLiterals;
 
 namespace fs = std::filesystem;
 

@@ -1,4 +1,4 @@
-#include "ui/Appearance.h"
+#include "ui/look/Appearance.h"
 
 #include <QApplication>
 #include <gtest/gtest.h>

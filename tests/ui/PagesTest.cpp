@@ -2,8 +2,8 @@
 
 #include "TestWindow.h"
 
-#include "ui/Appearance.h"
-#include "ui/ElidedLabel.h"
+#include "ui/look/Appearance.h"
+#include "ui/widgets/ElidedLabel.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -16,8 +16,6 @@
 #include <QStackedWidget>
 #include <QTranslator>
 #include <vector>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

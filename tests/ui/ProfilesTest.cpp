@@ -15,8 +15,6 @@
 #include <QWindow>
 #include <csignal>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// One of the sheets that ask for a name.

@@ -4,16 +4,14 @@
 #include "SecretService.h"
 #include "Stub.h"
 
-#include "ui/FolderList.h"
-#include "ui/Motion.h"
-#include "ui/PreviewTableView.h"
-#include "ui/RunBar.h"
-#include "ui/TextArea.h"
+#include "ui/lists/FolderList.h"
+#include "ui/lists/PreviewTableView.h"
+#include "ui/widgets/Motion.h"
+#include "ui/widgets/RunBar.h"
+#include "ui/widgets/TextArea.h"
 
 #include <QLabel>
 #include <QPushButton>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,13 +1,11 @@
 #include "TestWindow.h"
 
-#include "ui/LevelBar.h"
-#include "ui/ToolTable.h"
+#include "ui/lists/ToolTable.h"
+#include "ui/widgets/LevelBar.h"
 
 #include <QLineEdit>
 #include <QPushButton>
 #include <semaphore>
-
-using namespace Qt::StringLiterals;
 
 using namespace std::chrono_literals;
 

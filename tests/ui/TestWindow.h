@@ -4,8 +4,8 @@
 
 #include "tools/Threads.h"
 #include "ui/Binding.h"
-#include "ui/FirstSteps.h"
 #include "ui/Window.h"
+#include "ui/pages/FirstSteps.h"
 
 #include <QAbstractItemView>
 #include <QDropEvent>

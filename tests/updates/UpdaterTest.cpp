@@ -5,8 +5,6 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// Answers every request with the same bytes, or sends it to another address, and counts them.
