@@ -18,22 +18,6 @@ void Stub::behave(const std::string &behaviour) const
     writeFile(m_path.string() + ".behaviour", behaviour);
 }
 
-std::vector<std::vector<std::string>> Stub::recordedArguments() const
-{
-    std::vector<std::vector<std::string>> runs;
-    const std::string bytes = readFile(m_path.string() + ".record");
-    for (std::size_t at = 0, end = 0; (end = bytes.find("--\n", at)) != std::string::npos; at = end + 3) {
-        std::vector<std::string> arguments;
-        for (std::size_t from = at; from < end;) {
-            const std::size_t zero = bytes.find('\0', from);
-            arguments.push_back(bytes.substr(from, zero - from));
-            from = zero + 1;
-        }
-        runs.push_back(std::move(arguments));
-    }
-    return runs;
-}
-
 int Stub::processId() const
 {
     const fs::path file = m_path.string() + ".pid";

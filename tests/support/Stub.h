@@ -2,7 +2,6 @@
 
 #include <filesystem>
 #include <string>
-#include <vector>
 
 /// A copy of the stub tool in a test's folder, under a name of its own; stub-tool.sh lists its behaviours.
 class Stub {
@@ -12,9 +11,6 @@ public:
     void behave(const std::string &behaviour) const;
 
     [[nodiscard]] const std::filesystem::path &path() const { return m_path; }
-
-    /// The argument lists of its runs, oldest first, as "relay" recorded them.
-    [[nodiscard]] std::vector<std::vector<std::string>> recordedArguments() const;
 
     /// Waits until it hangs, and gives its process id.
     [[nodiscard]] int processId() const;

@@ -1,37 +1,17 @@
 #!/bin/sh
 # A tool that does what the file beside it says, for what a real tool rarely does. "<program>.behaviour" holds a word,
-# and what the word needs after it. It becomes other programs by exec, so that its process id stays the one.
+# and what the word needs after it..
 
 self=$0
-read -r behaviour program < "$self.behaviour"
+read -r behaviour rest < "$self.behaviour"
 text() { tail -c +$((${#behaviour} + 2)) "$self.behaviour"; } # as it stands, with its line breaks
 
-# Whether one of the other arguments is the first.
-has() {
-    wanted=$1
-    shift
-    for argument; do
-        [ "$argument" = "$wanted" ] && return
-    done
-    return 1
-}
 hang() {
     echo $$ > "$self.pid.new"
     mv "$self.pid.new" "$self.pid"
     exec sleep infinity
 }
-# Its arguments, each followed by a zero byte, go at the end of "<program>.record" first.
-become() {
-    { [ $# = 0 ] || printf '%s\0' "$@"; printf -- '--\n'; } >> "$self.record"
-    exec "$program" "$@"
-}
-
 case $behaviour in
-    *-at) # WORD PROGRAM: hangs, or is mute, where the word is among its arguments, and becomes the program otherwise
-        word=${program%% *}
-        program=${program#* }
-        has "$word" "$@" || become "$@"
-        [ "$behaviour" = mute-at ] || hang ;;
     print) text ;;
     complain) text >&2 ;;
     bad-bytes) printf 'caf\351 \377\376' ;; # no UTF-8
@@ -43,5 +23,5 @@ case $behaviour in
     write) # the text goes into the file that is named after "-out"
         while [ $# -gt 1 ] && [ "$1" != -out ]; do shift; done
         if [ $# -gt 1 ]; then text > "$2"; fi ;;
-    relay) become "$@" ;;
+    tell) touch "$self.record" ;; # that it was run
 esac

@@ -10,7 +10,7 @@ namespace {
 
 /// An order whose destination is the folder "there", which exists, on the test's own server.
 struct RemoteSync : SyncSample {
-    RemoteSync() : server(folder / "ssh"), window(folder / "tools", "askpass", "relay /bin/true")
+    RemoteSync() : server(folder / "ssh"), window(folder / "tools", "askpass", "tell")
     {
         // A desktop on which ssh could ask in a window.
         prepareProcess();
