@@ -1,6 +1,6 @@
 #!/bin/sh
 # A tool that does what the file beside it says, for what a real tool rarely does. "<program>.behaviour" holds a word,
-# and what the word needs after it..
+# and what the word needs after it.
 
 self=$0
 read -r behaviour rest < "$self.behaviour"
