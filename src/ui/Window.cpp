@@ -11,6 +11,7 @@
 #include "ui/sheets/Panels.h"
 #include "ui/sheets/StopQuestion.h"
 #include "ui/sheets/UnsavedChanges.h"
+#include "ui/widgets/AccessibleApplication.h"
 #include "ui/widgets/Announcer.h"
 #include "ui/widgets/OpenPanelDialog.h"
 #include "ui/widgets/PanelDialog.h"
@@ -30,6 +31,7 @@ namespace ui {
 Window::Window(QuillorentAppDelegate &controller)
     : m_controller(controller), m_form(std::make_unique<Ui::MainWindow>())
 {
+    tellOfWindows();
     keepSecretsUnspoken();
     m_form->setupUi(this);
     finishForm();

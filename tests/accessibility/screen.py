@@ -112,7 +112,7 @@ class Screen:
             with contextlib.suppress(GLib.Error):  # what was looked at is gone: look again
                 if found := look():
                     return found
-            need(self.program.poll() is None, f"the program has ended; waited for {what}")
+            need(self.program.poll() is None, f"the program has ended ({self.program.poll()}); waited for {what}")
             if time.monotonic() > end:
                 raise Failure(f"waited in vain for {what}; there is\n{self.outline()}")
 

@@ -4,6 +4,7 @@
 #include "ui/widgets/PanelDialog.h"
 #include "ui/widgets/SpokenSecrets.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <thread>
 
@@ -93,4 +94,15 @@ TEST_F(BindingTest, WhatIsMaskedIsNotSpoken)
         EXPECT_FALSE(ui::withoutSecret(*event)) << "it is shown";
         field.setEchoMode(QLineEdit::Password);
     }
+}
+
+// Whoever counts windows asks for one after the other, and meanwhile one closes.
+TEST_F(BindingTest, AWindowThatHasClosedIsNoneForReaders)
+{
+    QAccessibleInterface &all = *QAccessible::queryAccessibleInterface(qApp);
+    ASSERT_GT(all.childCount(), 0);
+    for (int index = 0; index < all.childCount(); ++index)
+        EXPECT_EQ(all.indexOfChild(all.child(index)), index);
+    for (const int gone : {-1, all.childCount(), 10'000})
+        EXPECT_FALSE(all.child(gone));
 }

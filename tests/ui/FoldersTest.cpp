@@ -290,8 +290,7 @@ TEST_F(FoldersTest, TheLastResultStaysAndIsThereAfterARestart)
 TEST_F(FoldersTest, NamesAreShownAsTheyAre)
 {
     const QString name = u"<img src=x><b>a&b\n%1"_s + QString(200, u'n'); // too long for an archive's
-    auto &scroll = *widget(u"foldersPage"_s).findChild<QScrollArea *>();
-    const int leastWidth = scroll.widget()->minimumSizeHint().width();
+    const auto &scroll = *widget(u"foldersPage"_s).findChild<QScrollArea *>();
     fs::create_directories((program.folder() / name.toStdString()));
     writeFile(program.folder() / name.toStdString() / "x.rar.aes.rar", "x");
     haveDestination(name.toStdString());
@@ -304,7 +303,7 @@ TEST_F(FoldersTest, NamesAreShownAsTheyAre)
     delegate.warningText01.setText(name);
     EXPECT_TRUE(waitUntil([&] { return !missing<QLabel>().isEmpty(); }));
     settle();
-    EXPECT_EQ(scroll.widget()->minimumSizeHint().width(), leastWidth) << "a name makes the page wide";
+    EXPECT_LE(scroll.widget()->minimumSizeHint().width(), scroll.width()) << "a name makes the page wide";
     showTab(u"extractPage"_s);
     EXPECT_TRUE(waitUntil([&] { return widget<QLabel>(u"backupsFoundLabel"_s).text().contains(u"<img"); }));
     int shown = 0;
