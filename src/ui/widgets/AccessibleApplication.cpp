@@ -59,7 +59,12 @@ QAccessibleInterface *asApplication(const QString &kind, QObject *object)
 void tellOfWindows()
 {
     static std::once_flag once;
-    std::call_once(once, [] { QAccessible::installFactory(asApplication); });
+    std::call_once(once, [] {
+        // Where a reader is at work already, the toolkit has made its own.
+        const QAccessible::Id former = QAccessible::uniqueId(QAccessible::queryAccessibleInterface(qApp));
+        QAccessible::installFactory(asApplication);
+        QAccessible::deleteAccessibleInterface(former);
+    });
 }
 
 } // namespace ui

@@ -1,5 +1,6 @@
 #include "ui/widgets/PanelDialog.h"
 
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QHideEvent>
 #include <QLineEdit>
@@ -7,19 +8,45 @@
 #include <QPushButton>
 #include <QShowEvent>
 #include <QWindow>
+#include <chrono>
+#include <mutex>
+
+using namespace std::chrono_literals;
 
 namespace ui {
 
 using Place = outlets::Panel::Place;
 
-bool isProgramInFront()
+namespace {
+
+constexpr auto passing = 500ms; // from one window to the next
+
+QElapsedTimer &sinceTheKeyboardWent()
 {
-    // The toolkit's active window is none while one goes and the next has not got the keyboard yet.
-    const QWindow *focused = QGuiApplication::focusWindow();
-    return focused && QWidget::find(focused->winId());
+    static QElapsedTimer timer;
+    return timer;
 }
 
-PanelDialog::PanelDialog(QWidget *parent) : QDialog(parent) {}
+void watchTheKeyboard()
+{
+    static std::once_flag once;
+    std::call_once(once, [] {
+        QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, qGuiApp, [](const QWindow *focused) {
+            if (!focused) sinceTheKeyboardWent().start();
+        });
+    });
+}
+
+} // namespace
+
+bool isProgramInFront()
+{
+    if (const QWindow *focused = QGuiApplication::focusWindow()) return QWidget::find(focused->winId());
+    // One window may have given it up, and the next not have got it yet.
+    return sinceTheKeyboardWent().isValid() && !sinceTheKeyboardWent().hasExpired(passing.count());
+}
+
+PanelDialog::PanelDialog(QWidget *parent) : QDialog(parent) { watchTheKeyboard(); }
 
 void PanelDialog::setPlace(Place place)
 {
