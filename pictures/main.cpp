@@ -58,7 +58,8 @@ private:
     {
         QTest::qWait(50);
         const QString path = m_folder.filePath(u"%1.png"_s.arg(name));
-        if (!widget.grab().save(path, "PNG", 0)) std::fprintf(stderr, "%s can't be written\n", qUtf8Printable(path));
+        if (!widget.grab().save(path, "PNG", 0))
+            std::fprintf(stderr, "%s can't be written\n", qUtf8Printable(path));
     }
 
     /// The folder that was missing by now is there, as on a disk that comes back.

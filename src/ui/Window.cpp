@@ -11,7 +11,7 @@
 #include "ui/sheets/Panels.h"
 #include "ui/sheets/StopQuestion.h"
 #include "ui/sheets/UnsavedChanges.h"
-#include "ui/widgets/AccessibleApplication.h"
+#include "ui/widgets/AccessibleScrollArea.h"
 #include "ui/widgets/Announcer.h"
 #include "ui/widgets/OpenPanelDialog.h"
 #include "ui/widgets/PanelDialog.h"
@@ -31,7 +31,7 @@ namespace ui {
 Window::Window(QuillorentAppDelegate &controller)
     : m_controller(controller), m_form(std::make_unique<Ui::MainWindow>())
 {
-    tellOfWindows();
+    keepScrollAreasInBounds();
     keepSecretsUnspoken();
     m_form->setupUi(this);
     finishForm();
