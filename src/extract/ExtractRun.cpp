@@ -13,7 +13,9 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <chrono>
 #include <memory>
+#include <optional>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -22,6 +24,11 @@ namespace {
 
 struct Words {
     Q_DECLARE_TR_FUNCTIONS(extract)
+};
+
+struct Damage {
+    QString archive;
+    QString reason;
 };
 
 class ExtractRun : public Run {
@@ -35,7 +42,7 @@ protected:
 
 private:
     [[nodiscard]] QString success() const;
-    [[nodiscard]] bool allAreWhole();
+    [[nodiscard]] std::optional<Damage> findDamage();
     [[nodiscard]] ToolResult test(const QString &archive);
     void measure();
     void launchWorkers();
@@ -77,27 +84,34 @@ ExtractRun::ExtractRun(const ExtractOrder &order, RunState &state, RunMonitor &m
 
 void ExtractRun::work()
 {
-    std::this_thread::sleep_for(pauses().beforeMeasuring);
-    if (!allAreWhole()) return;
+    // The sheet stays for a moment, so that it is seen; that is time to test in.
+    const auto seen = std::chrono::steady_clock::now() + pauses().beforeMeasuring;
+    const std::optional<Damage> damage = findDamage();
+    if (isCancelled()) return;
+    std::this_thread::sleep_until(seen);
+    if (isCancelled()) return;
+
+    // One damaged archive, and nothing is extracted at all.
+    if (damage) {
+        m_state.setFailure(damage->archive, damage->reason);
+        m_foundDamage(damage->archive, damage->reason);
+        return;
+    }
     measure();
     launchWorkers();
 }
 
-// One damaged archive, and nothing is extracted at all.
-bool ExtractRun::allAreWhole()
+/// Of the first archive that fails its test; tests no more once the run is cancelled.
+std::optional<Damage> ExtractRun::findDamage()
 {
     for (const ExtractItem &item : m_order.items) {
-        if (isCancelled()) return false;
+        if (isCancelled()) break;
         const ToolResult result = test(item.archive);
-        if (isCancelled()) return false;
-        if (result.isSilent()) continue;
-        const QString reason =
-            explain({.kind = FailedStage::Kind::Test, .tool = result, .archive = item.archive});
-        m_state.setFailure(item.archive, reason);
-        m_foundDamage(item.archive, reason);
-        return false;
+        if (result.isSilent() || isCancelled()) continue;
+        return Damage{item.archive,
+                      explain({.kind = FailedStage::Kind::Test, .tool = result, .archive = item.archive})};
     }
-    return true;
+    return {};
 }
 
 /// On a thread of its own: testing a large archive takes long, and can be cancelled like any stage.
