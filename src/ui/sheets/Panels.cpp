@@ -53,6 +53,15 @@ PanelDialog *makePanel(Form &form, QWidget &window)
     return panel;
 }
 
+template <class Form>
+PanelDialog *makeNamedPanel(Form &form, QWidget &window, const QString &name, const QString &title)
+{
+    PanelDialog *panel = makePanel(form, window);
+    panel->setObjectName(name);
+    panel->setWindowTitle(title);
+    return panel;
+}
+
 /// A panel that nothing but its outlets and buttons belongs to.
 template <class Form>
 PanelDialog *makePlain(QWidget &window)
@@ -114,9 +123,7 @@ PanelDialog *makeContents(QuillorentAppDelegate &controller, QWidget &window)
 PanelDialog *makeMessage(QWidget &window, const QString &panel, const QString &text, const QString &title)
 {
     Ui::MessagePanel form;
-    PanelDialog *dialog = makePanel(form, window);
-    dialog->setObjectName(panel);
-    dialog->setWindowTitle(title);
+    PanelDialog *dialog = makeNamedPanel(form, window, panel, title);
     form.messageText->setObjectName(text);
     form.messageCloseButton->setObjectName(panel + u"CloseButton"_s);
     showIcon(*form.messageIcon, u"dialog-warning"_s);
@@ -134,9 +141,7 @@ struct ChoiceSheet {
 PanelDialog *makeChoice(QWidget &window, const ChoiceSheet &sheet)
 {
     Ui::ChoicePanel form;
-    PanelDialog *dialog = makePanel(form, window);
-    dialog->setObjectName(sheet.panel);
-    dialog->setWindowTitle(sheet.title);
+    PanelDialog *dialog = makeNamedPanel(form, window, sheet.panel, sheet.title);
     form.choiceText->setObjectName(sheet.text);
     showIcon(*form.choiceIcon, u"dialog-warning"_s);
     QList<QPushButton *> buttons{form.firstButton, form.secondButton, form.otherButton, form.stayButton};
@@ -161,9 +166,7 @@ struct NameSheet {
 PanelDialog *makeNameSheet(QWidget &window, const NameSheet &sheet)
 {
     Ui::NamePanel form;
-    PanelDialog *dialog = makePanel(form, window);
-    dialog->setObjectName(sheet.panel);
-    dialog->setWindowTitle(sheet.title);
+    PanelDialog *dialog = makeNamedPanel(form, window, sheet.panel, sheet.title);
     form.profileText->setObjectName(sheet.profileText);
     form.nameEdit->setObjectName(sheet.nameEdit);
     form.okButton->setObjectName(sheet.panel + u"Ok"_s);
