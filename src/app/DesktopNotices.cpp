@@ -2,6 +2,8 @@
 
 #include "app/DesktopNotices.h"
 
+#include "files/Printable.h"
+
 #include <QCoreApplication>
 
 namespace {
@@ -65,7 +67,8 @@ void DesktopNotices::send(const Notice &notice, bool takesMarkup)
 {
     const QByteArray title = notice.title.toUtf8();
     // A name may hold what would be taken for markup.
-    const QByteArray text = (takesMarkup ? notice.text.toHtmlEscaped() : notice.text).toUtf8();
+    const QString shown = printable(notice.text);
+    const QByteArray text = (takesMarkup ? shown.toHtmlEscaped() : shown).toUtf8();
     const auto add = [](GVariantBuilder &actions, const char *key, const QString &label) {
         g_variant_builder_add(&actions, "s", key);
         g_variant_builder_add(&actions, "s", label.toUtf8().constData());

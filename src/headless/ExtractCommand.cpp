@@ -9,6 +9,7 @@
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -72,12 +73,36 @@ std::vector<std::string> encoded(const QStringList &paths)
     return bytes;
 }
 
-/// A line break in a name would begin another line, and a backslash tell nothing.
+/// Whether a control character of UTF-8 begins there, and how many bytes it has; 0 where none does.
+std::size_t controlAt(const std::string &path, std::size_t at)
+{
+    const auto byte = [&](std::size_t index) { return static_cast<unsigned char>(path[index]); };
+    if (byte(at) < 0x20 || byte(at) == 0x7f) return 1;
+    const bool isSecondSet =
+        byte(at) == 0xc2 && at + 1 < path.size() && byte(at + 1) >= 0x80 && byte(at + 1) < 0xa0;
+    return isSecondSet ? 2 : 0;
+}
+
+/// A name can hold line breaks, which would begin another line, and what a terminal obeys: "\n", and "\ooo"
+/// for the bytes of other control characters. So a backslash has one before it.
 std::string inOneLine(const std::string &path)
 {
     std::string line;
-    for (const char c : path)
-        line += c == '\n' ? "\\n" : c == '\\' ? "\\\\" : std::string(1, c);
+    std::size_t controlEnd = 0;
+    for (std::size_t at = 0; at < path.size(); ++at) {
+        controlEnd = std::max(controlEnd, at + controlAt(path, at));
+        if (path[at] == '\n')
+            line += "\\n";
+        else if (path[at] == '\\')
+            line += "\\\\";
+        else if (at < controlEnd)
+            line += QByteArray::number(static_cast<unsigned char>(path[at]), 8)
+                        .rightJustified(3, '0')
+                        .prepend('\\')
+                        .toStdString();
+        else
+            line += path[at];
+    }
     return line;
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/QuillorentAppDelegate.h"
 #include "files/Names.h"
+#include "files/Printable.h"
 #include "runs/ProgressWords.h"
 
 #include <QLocale>
@@ -67,6 +68,6 @@ void ProgressLine::show()
     if (sign == m_last) return;
     m_last = sign;
     const QString line = words.join(u"  "_s);
-    std::fprintf(stderr, m_onTerminal ? "\r%s\033[K" : "%s\n", qUtf8Printable(line));
+    std::fprintf(stderr, m_onTerminal ? "\r%s\033[K" : "%s\n", qUtf8Printable(printableName(line)));
     std::fflush(stderr);
 }

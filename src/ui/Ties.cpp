@@ -1,5 +1,6 @@
 #include "ui/Ties.h"
 
+#include "files/Printable.h"
 #include "keychain/Secret.h"
 #include "outlets/Controls.h"
 #include "outlets/Panel.h"
@@ -84,7 +85,7 @@ void connectWidget(RefreshQueue &queue, outlets::TextField &field, QLabel &label
     if (field.text().isEmpty()) field.setText(label.text());
     queue.watch(field, [&field, &label] {
         const QString text = inUsersLanguage(field.text());
-        label.setText(label.wordWrap() ? breakable(text) : text);
+        label.setText(label.wordWrap() ? breakable(text) : printable(text));
     });
 }
 
@@ -137,7 +138,8 @@ void connectWidget(RefreshQueue &queue, outlets::Chooser &outlet, QComboBox &com
         if (const QStringList titles = outlet.titles(); titles != shown) {
             shown = titles;
             combo.clear();
-            combo.addItems(titles);
+            for (const QString &title : titles)
+                combo.addItem(printableName(title));
         }
         combo.setCurrentIndex(int(shown.indexOf(outlet.selectedTitle())));
     });

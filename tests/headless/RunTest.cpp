@@ -212,6 +212,25 @@ TEST(Run, BringsBackWhatItBackedUp)
     EXPECT_EQ(home.extract({unnamed}, {"--yes"}).status, 0);
 }
 
+// What a name holds, a terminal would obey.
+TEST(Run, ShowsNoControlCharactersOfNames)
+{
+    const ProgramHome home(QUILLORENT_RUN);
+    home.writeProfile();
+    writeFile(home / "docs" / "a\n\\\033[2J\302\233\u00e9", "x");
+    ASSERT_EQ(home.backUp().status, 0);
+    const std::string archive = home.text("a\033[2J\302\233\xe2\x80\xae.rar.aes.rar");
+    fs::rename(home / "archives/docs.rar.aes.rar", archive);
+    const CommandResult listed = home.run(
+        {"list", "Mine", "--password-file", home.text("password"), "--to", home.text("out"), "--", archive});
+    EXPECT_TRUE(contains(listed.output, "/docs/a\\n\\\\\\033[2J\\302\\233\u00e9\n")) << listed.output;
+    const CommandResult missing = home.extract({archive + "x"});
+    for (const std::string &told : {listed.output, listed.errors, missing.errors})
+        for (const std::string &obeyed : {"\033"s, "\302\233"s, "\xe2\x80\xae"s})
+            EXPECT_FALSE(contains(told, obeyed)) << told;
+    EXPECT_TRUE(contains(missing.errors, "a\xef\xbf\xbd[2J")) << missing.errors;
+}
+
 TEST(Run, TakesThePasswordFromTheProfilesSource)
 {
     ProgramHome home(QUILLORENT_RUN);

@@ -286,10 +286,10 @@ TEST_F(FoldersTest, TheLastResultStaysAndIsThereAfterARestart)
     EXPECT_FALSE(widget(u"backupResult"_s).isVisible()) << "it is another profile's";
 }
 
-// Names are text, whatever is in them: markup of theirs would hide and change what is told of them.
+// Names are text, whatever is in them: markup and turns of theirs would hide and change what is told of them.
 TEST_F(FoldersTest, NamesAreShownAsTheyAre)
 {
-    const QString name = u"<img src=x><b>a&b\n%1"_s + QString(200, u'n'); // too long for an archive's
+    const QString name = u"<img src=x><b>a&b\n\u202e%1"_s + QString(200, u'n'); // too long for an archive's
     const auto &scroll = *widget(u"foldersPage"_s).findChild<QScrollArea *>();
     fs::create_directories((program.folder() / name.toStdString()));
     writeFile(program.folder() / name.toStdString() / "x.rar.aes.rar", "x");
@@ -310,6 +310,7 @@ TEST_F(FoldersTest, NamesAreShownAsTheyAre)
     const auto expectPlain = [&](const QString &text, bool isPlain, const QString &where) {
         if (!text.contains(u"img src")) return;
         ++shown;
+        EXPECT_FALSE(text.contains(QChar(0x202e))) << where.toStdString();
         EXPECT_TRUE(isPlain || !Qt::mightBeRichText(text) || text.contains(u"&lt;img"))
             << where.toStdString() << ": " << text.toStdString();
     };
@@ -320,8 +321,9 @@ TEST_F(FoldersTest, NamesAreShownAsTheyAre)
                 expectPlain(label->text(), label->textFormat() == Qt::PlainText, label->objectName());
             const auto *view = qobject_cast<const QAbstractItemView *>(each);
             for (int row = 0; view && view->model() && row < view->model()->rowCount(); ++row)
-                expectPlain(view->model()->index(row, 0).data(Qt::ToolTipRole).toString(), false,
-                            view->objectName());
+                for (const int role : {int(Qt::ToolTipRole), int(Qt::DisplayRole)})
+                    expectPlain(view->model()->index(row, 0).data(role).toString(), role == Qt::DisplayRole,
+                                view->objectName());
         }
     EXPECT_GT(shown, 6) << "the names are seen nowhere";
 }

@@ -1,5 +1,6 @@
 #include "ui/lists/BackupList.h"
 
+#include "files/Printable.h"
 #include "ui/look/Appearance.h"
 
 #include <QHeaderView>
@@ -51,7 +52,7 @@ void BackupList::setBackups(const QList<FoundBackup> &backups)
     clear();
     QTreeWidgetItem *newest = nullptr;
     for (const FoundBackup &backup : backups) {
-        if (newest && newest->text(Name) != backup.name) newest = nullptr;
+        if (newest && newest->text(Name) != printableName(backup.name)) newest = nullptr;
         add(backup, newest);
         if (!newest) newest = topLevelItem(topLevelItemCount() - 1);
     }
@@ -62,7 +63,7 @@ void BackupList::add(const FoundBackup &backup, QTreeWidgetItem *newest)
 {
     auto *item = newest ? new QTreeWidgetItem(newest) : new QTreeWidgetItem(this);
     const QLocale locale;
-    item->setText(Name, backup.name);
+    item->setText(Name, printableName(backup.name));
     item->setText(Made, locale.toString(backup.made, QLocale::ShortFormat));
     item->setText(Size, locale.formattedDataSize(backup.bytes, 1, QLocale::DataSizeSIFormat));
     item->setText(Note, describeState(backup));

@@ -1,5 +1,6 @@
 #include "ui/lists/ContentsModel.h"
 
+#include "files/Printable.h"
 #include "ui/look/Appearance.h"
 
 #include <QDateTime>
@@ -83,7 +84,7 @@ QVariant ContentsModel::textOf(int index, int column) const
 {
     const ArchiveListing::Entry &entry = entryOf(index);
     const QLocale locale;
-    if (column == Name) return nameOf(index);
+    if (column == Name) return printableName(nameOf(index));
     if (column == Size) return locale.formattedDataSize(entry.bytes, 1, QLocale::DataSizeSIFormat);
     if (entry.modified == 0) return {};
     return locale.toString(QDateTime::fromSecsSinceEpoch(entry.modified), QLocale::ShortFormat);

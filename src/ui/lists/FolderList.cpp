@@ -1,6 +1,7 @@
 #include "ui/lists/FolderList.h"
 
 #include "files/Names.h"
+#include "files/Printable.h"
 #include "ui/look/Appearance.h"
 #include "ui/look/Wording.h"
 
@@ -80,7 +81,7 @@ QString FolderListModel::text(const QString &path, int column) const
     switch (column) {
     case Name: {
         const QString name = quillorentLibrary::lastPathComponent(path);
-        return name.isEmpty() ? path : name;
+        return printableName(name.isEmpty() ? path : name);
     }
     case Place:
         return pathText(QFileInfo(path.endsWith(u'/') ? path.chopped(1) : path).path());

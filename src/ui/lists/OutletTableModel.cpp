@@ -1,5 +1,6 @@
 #include "ui/lists/OutletTableModel.h"
 
+#include "files/Printable.h"
 namespace ui {
 
 OutletTableModel::OutletTableModel(QList<Column> columns, QObject *parent, SlowCells::Fetch fetch,
@@ -129,7 +130,9 @@ QVariant OutletTableModel::headerData(int section, Qt::Orientation orientation, 
 QVariant OutletTableModel::data(const QModelIndex &index, int role) const
 {
     if (role != Qt::DisplayRole && role != Qt::EditRole) return {};
-    return cell(index.row(), identifier(index.column()));
+    const QVariant value = cell(index.row(), identifier(index.column()));
+    const bool isText = value.userType() == QMetaType::QString;
+    return role == Qt::DisplayRole && isText ? printableName(value.toString()) : value;
 }
 
 bool OutletTableModel::setData(const QModelIndex &index, const QVariant &value, int role)

@@ -1,5 +1,6 @@
 #include "ui/look/Appearance.h"
 
+#include "files/Printable.h"
 #include "ui/look/InkIcon.h"
 #include "ui/look/Placeholders.h"
 #include "ui/look/TextSizedStyle.h"
@@ -76,13 +77,13 @@ QIcon stateSign(Sign sign) { return QIcon(drawingOf(fileOf(sign))); }
 QString plainToolTip(const QString &text)
 {
     // A whole path stands on one line, however long it is.
-    return u"<span style='white-space:pre'>%1</span>"_s.arg(text.toHtmlEscaped());
+    return u"<span style='white-space:pre'>%1</span>"_s.arg(printable(text).toHtmlEscaped());
 }
 
 void setPlainToolTip(QWidget &widget, const QString &text)
 {
     widget.setToolTip(plainToolTip(text));
-    widget.setAccessibleDescription(text);
+    widget.setAccessibleDescription(printable(text));
 }
 
 } // namespace ui

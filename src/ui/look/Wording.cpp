@@ -1,5 +1,7 @@
 #include "ui/look/Wording.h"
 
+#include "files/Printable.h"
+
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QLocale>
@@ -50,9 +52,10 @@ QString durationText(std::chrono::seconds duration)
 
 QString pathText(const QString &path)
 {
-    if (!QGuiApplication::isRightToLeft()) return path;
+    const QString shown = printableName(path);
+    if (!QGuiApplication::isRightToLeft()) return shown;
     constexpr char16_t isolate = 0x2066, end = 0x2069; // Unicode's left-to-right isolate
-    return isolate + path + end;
+    return isolate + shown + end;
 }
 
 QString breakable(const QString &text)
@@ -61,7 +64,7 @@ QString breakable(const QString &text)
     constexpr QChar maybeBreak(0x200b);
     QString all;
     int length = 0;
-    for (const QChar unit : text) {
+    for (const QChar unit : printable(text)) {
         length = unit.isSpace() || unit == u'/' ? 0 : length + 1;
         if (length > longest && !unit.isLowSurrogate() && !unit.isMark()) {
             all += maybeBreak;

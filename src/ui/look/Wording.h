@@ -15,11 +15,11 @@ namespace ui {
 /// "8 s", "11 min", "2 h 5 min": as exact as a person wants to know it.
 [[nodiscard]] QString durationText(std::chrono::seconds duration);
 
-/// The path, which reads from the left to the right among words of any language.
+/// The path as printableName() has it, which reads from the left to the right among words of any language.
 [[nodiscard]] QString pathText(const QString &path);
 
-/// The same to look at, but a name of 255 characters can go over several lines: a label would be as wide as
-/// it.
+/// The text as printable() has it, but a name of 255 characters can go over several lines: a label would be
+/// as wide as it.
 [[nodiscard]] QString breakable(const QString &text);
 
 } // namespace ui

@@ -3,6 +3,7 @@
 #include "app/QuillorentAppDelegate.h"
 #include "app/folders/Decisions.h"
 #include "files/Names.h"
+#include "files/Printable.h"
 #include "tools/Threads.h"
 #include "ui/lists/BackupList.h"
 #include "ui/look/Appearance.h"
@@ -106,8 +107,8 @@ void BackupOffer::show()
     }
     // A long name must not make the window wide.
     const int most = m_label.fontMetrics().averageCharWidth() * 40;
-    QString name =
-        m_label.fontMetrics().elidedText(quillorentLibrary::lastPathComponent(folder), Qt::ElideMiddle, most);
+    QString name = m_label.fontMetrics().elidedText(
+        printableName(quillorentLibrary::lastPathComponent(folder)), Qt::ElideMiddle, most);
     m_label.setTextFormat(Qt::PlainText);
     m_label.setText(tr("Bac&kups in \"%1\": tick what you want back").arg(name.replace(u'&', u"&&"_s)));
     setPlainToolTip(m_label, folder);

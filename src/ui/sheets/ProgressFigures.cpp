@@ -1,5 +1,6 @@
 #include "ui/sheets/ProgressFigures.h"
 
+#include "files/Printable.h"
 #include "runs/Clock.h"
 #include "runs/ProgressWords.h"
 #include "ui/look/Appearance.h"
@@ -57,7 +58,7 @@ void setText(QTreeWidgetItem &row, Column column, const QString &text)
 void setPath(QTreeWidgetItem &row, const QString &path)
 {
     // A path reads from the left also where the words do not.
-    const QString shown = QChar(0x200e) + path;
+    const QString shown = QChar(0x200e) + printableName(path);
     if (row.text(Name) == shown) return;
     row.setText(Name, shown);
     row.setToolTip(Name, plainToolTip(path));
