@@ -49,6 +49,7 @@ TEST_F(ExtractTest, AWholeExtractionByHand)
     dropOnList(program.path("archives/docs.rar.aes.part2.rar"));
     EXPECT_TRUE(widget<ui::TextArea>(u"outputText02"_s).text().contains(u"first volume is missing"));
     EXPECT_FALSE(widget(u"openFolderButton"_s).isEnabled());
+    settle();
     click(u"extractButton03"_s);
     EXPECT_EQ(list.outletModel().rowCount(), 0);
 

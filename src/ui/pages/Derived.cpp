@@ -64,6 +64,7 @@ void showExtraction(Controller &all, Ui::MainWindow &form, RefreshQueue &queue)
         const bool isAny = all.extractList.count() > 0;
         form.contentsButton01->setEnabled(isAny);
         form.contentsHint->setVisible(isAny);
+        form.extractButton03->setEnabled(all.extractFullList.count() > 0); // also of what is only shown
     });
     queue.watch(all.extractPath,
                 [&] { form.restoredFolderButton01->setVisible(all.extractPath.text().isEmpty()); });
