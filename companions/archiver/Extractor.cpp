@@ -6,7 +6,10 @@
 #include "StagedFile.h"
 
 #include <algorithm>
+#include <clocale>
+#include <cwctype>
 #include <mutex>
+#include <unordered_map>
 
 namespace archiver {
 
@@ -50,6 +53,14 @@ std::optional<std::vector<std::string>> usableComponents(const std::string &name
     const bool isUsable = !components.empty() && name.find('\0') == std::string::npos &&
                           std::ranges::count(components, "..") == 0;
     return isUsable ? std::optional(std::move(components)) : std::nullopt;
+}
+
+std::string joined(const std::vector<std::string> &components)
+{
+    std::string path;
+    for (const std::string &component : components)
+        path += (path.empty() ? "" : "/") + component;
+    return path;
 }
 
 /// The way from a folder, open as `root`, down to where entries are made, whatever their names say: every
@@ -104,10 +115,62 @@ private:
     FolderChain m_chain;
 };
 
+/// Found out by a file, for file systems don't tell.
+bool ignoresCase(int folder)
+{
+    const base::PassingNames names(".rar", "case");
+    base::StagedFile file = base::StagedFile::create(folder, names);
+    std::string other = file && file.giveName(names) ? file.passingName() : "";
+    std::ranges::transform(other, other.begin(), [](unsigned char letter) { return std::toupper(letter); });
+    return !other.empty() && faccessat(folder, other.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0;
+}
+
+/// Of entries whose names differ in upper and lower case only, the first has the name where the destination
+/// ignores that: any other would replace it. Paths are kept as hashes.
+class Names {
+public:
+    explicit Names(int folder)
+        : m_locale(folder >= 0 && ignoresCase(folder) ? newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr)
+                                                      : nullptr)
+    {
+    }
+    ~Names()
+    {
+        if (m_locale) freelocale(m_locale);
+    }
+    Names(const Names &) = delete;
+    Names &operator=(const Names &) = delete;
+
+    /// Whether no other entry has it.
+    [[nodiscard]] bool claim(const std::string &path)
+    {
+        if (!m_locale) return true;
+        const std::size_t own = std::hash<std::string>()(path);
+        const std::size_t common = std::hash<std::wstring>()(inUpperCase(path));
+        return m_owners.try_emplace(common, own).first->second == own;
+    }
+
+private:
+    [[nodiscard]] std::wstring inUpperCase(const std::string &path) const
+    {
+        const locale_t before = uselocale(m_locale);
+        std::wstring letters(path.size(), L'\0');
+        const std::size_t count = std::mbstowcs(letters.data(), path.c_str(), letters.size());
+        if (count == static_cast<std::size_t>(-1)) letters.assign(path.begin(), path.end());
+        std::ranges::transform(letters, letters.begin(), std::towupper);
+        uselocale(before);
+        return letters;
+    }
+
+    locale_t m_locale; ///< null: every name is free
+    std::unordered_map<std::size_t, std::size_t> m_owners{};
+};
+
 /// What the threads share.
 struct Extraction {
     base::FileDescriptor root;
     Paths paths;
+    Names names{root.get()};
     unsigned umask = readUmask();
     std::mutex mutex{};
     FolderAttributes folders{};
@@ -176,11 +239,7 @@ public:
     {
         const std::optional<std::vector<std::string>> components = usableComponents(header.name);
         if (!components) return {};
-        if (m_all.paths == Paths::Drop) return components->back();
-        std::string path;
-        for (const std::string &component : *components)
-            path += (path.empty() ? "" : "/") + component;
-        return path;
+        return m_all.paths == Paths::Drop ? components->back() : joined(*components);
     }
 
 private:
@@ -193,7 +252,15 @@ private:
     Spot find(const std::string &name)
     {
         const std::optional<std::vector<std::string>> components = way(name);
-        return components ? Spot{enter(*components, name), components->back()} : Spot();
+        if (!components) return {};
+        std::unique_lock lock(m_all.mutex);
+        const bool isFree = m_all.names.claim(joined(*components));
+        lock.unlock();
+        if (isFree) return {enter(*components, name), components->back()};
+        m_diagnostics.report("Cannot create " + printable(name) +
+                             ": upper and lower case are the same there, and another entry has the name; "
+                             "extract to a disk that tells them apart");
+        return {};
     }
 
     std::optional<std::vector<std::string>> way(const std::string &name)
@@ -239,7 +306,11 @@ private:
             isMade = symlinkat(target.c_str(), folder, made.c_str()) == 0;
         }
         if (!isMade) {
-            cannotCreate(header.name);
+            if (errno == EPERM || errno == ENOSYS || errno == EOPNOTSUPP)
+                m_diagnostics.report("Cannot create " + printable(header.name) +
+                                     ": links can't be made on this disk");
+            else
+                cannotCreate(header.name);
             return;
         }
         utimensat(folder, made.c_str(), fileTimes(header.modified).data(), AT_SYMLINK_NOFOLLOW);
