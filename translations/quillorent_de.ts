@@ -2164,6 +2164,13 @@ Ihre Datei bleibt, wie sie ist. Reparieren Sie sie, oder verschieben Sie sie: De
         <source>&quot;%1&quot; is a link</source>
         <translation>„%1“ ist eine Verknüpfung</translation>
     </message>
+    <message numerus="yes">
+        <source>%n file(s) of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there.</source>
+        <translation>
+            <numerusform>%n Datei aus „%1“ kann in „%2“ nicht angelegt werden, nämlich: %3. Alles andere ist da.</numerusform>
+            <numerusform>%n Dateien aus „%1“ können in „%2“ nicht angelegt werden, zuerst diese: %3. Alles andere ist da.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>extraction</name>
@@ -2431,10 +2438,6 @@ sollte nicht fortfahren (siehe --yes), 64 falscher Aufruf.</translation>
         <translation>Das Passwort wurde nicht zweimal gleich eingetippt. Es wurde nichts getan.</translation>
     </message>
     <message>
-        <source>Back up again, or remove them.</source>
-        <translation>Sichern Sie erneut, oder entfernen Sie die Dateien.</translation>
-    </message>
-    <message>
         <source>Say --yes to go on all the same.</source>
         <translation>Mit --yes geht es trotzdem weiter.</translation>
     </message>
@@ -2453,6 +2456,10 @@ sollte nicht fortfahren (siehe --yes), 64 falscher Aufruf.</translation>
     <message>
         <source>The two passwords are not the same. Type both again.</source>
         <translation>Die beiden Passwörter sind nicht gleich. Geben Sie beide noch einmal ein.</translation>
+    </message>
+    <message>
+        <source>Do the same again, or remove them.</source>
+        <translation>Wiederholen Sie den Vorgang, oder entfernen Sie sie.</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,13 @@
             <numerusform>Brought back what was chosen, %n files and folders, to &quot;%1&quot;.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n file(s) of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there.</source>
+        <translation>
+            <numerusform>%n file of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;: %3. All others are there.</numerusform>
+            <numerusform>%n files of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>keys</name>

@@ -2164,6 +2164,13 @@ Su archivo se queda como está. Repárelo o muévalo a otro lugar: en el próxim
         <source>&quot;%1&quot; is a link</source>
         <translation>“%1” es un enlace</translation>
     </message>
+    <message numerus="yes">
+        <source>%n file(s) of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there.</source>
+        <translation>
+            <numerusform>No se puede crear %n archivo de “%1” en “%2”: %3. Todo lo demás está ahí.</numerusform>
+            <numerusform>No se pueden crear %n archivos de “%1” en “%2”, empezando por este: %3. Todo lo demás está ahí.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>extraction</name>
@@ -2431,10 +2438,6 @@ continuar (véase --yes), 64 uso incorrecto.</translation>
         <translation>La contraseña no se escribió igual las dos veces. No se ha hecho nada.</translation>
     </message>
     <message>
-        <source>Back up again, or remove them.</source>
-        <translation>Vuelva a hacer la copia o elimínelos.</translation>
-    </message>
-    <message>
         <source>Say --yes to go on all the same.</source>
         <translation>Añada --yes para continuar de todos modos.</translation>
     </message>
@@ -2453,6 +2456,10 @@ continuar (véase --yes), 64 uso incorrecto.</translation>
     <message>
         <source>The two passwords are not the same. Type both again.</source>
         <translation>Las dos contraseñas no son iguales. Escriba las dos otra vez.</translation>
+    </message>
+    <message>
+        <source>Do the same again, or remove them.</source>
+        <translation>Repita la misma operación, o elimínelos.</translation>
     </message>
 </context>
 <context>

@@ -92,7 +92,7 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>Open this page: %1.</source>
-        <translation>Ouvrir cette page : %1.</translation>
+        <translation>Ouvrir cette page&#xa0;: %1.</translation>
     </message>
     <message>
         <source>page</source>
@@ -100,11 +100,11 @@ quillorent-run fait la même chose sans fenêtre.</translation>
     </message>
     <message>
         <source>There is no option &quot;%1&quot;.</source>
-        <translation>Il n’y a pas d’option « %1 ».</translation>
+        <translation>Il n’y a pas d’option «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>There is no page &quot;%1&quot;.</source>
-        <translation>Il n’y a pas de page « %1 ».</translation>
+        <translation>Il n’y a pas de page «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -2164,6 +2164,13 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le&#xa0;: un nouveau sera
         <source>&quot;%1&quot; is a link</source>
         <translation>« %1 » est un lien</translation>
     </message>
+    <message numerus="yes">
+        <source>%n file(s) of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there.</source>
+        <translation>
+            <numerusform>%n fichier de «&#xa0;%1&#xa0;» ne peut pas être créé dans «&#xa0;%2&#xa0;»&#xa0;: %3. Tout le reste est là.</numerusform>
+            <numerusform>%n fichiers de «&#xa0;%1&#xa0;» ne peuvent pas être créés dans «&#xa0;%2&#xa0;», à commencer par celui-ci&#xa0;: %3. Tout le reste est là.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>extraction</name>
@@ -2431,10 +2438,6 @@ ne devait pas continuer (voir --yes), 64 mauvaise utilisation.</translation>
         <translation>Le mot de passe n’a pas été saisi deux fois de la même façon. Rien n’a été fait.</translation>
     </message>
     <message>
-        <source>Back up again, or remove them.</source>
-        <translation>Relancez la sauvegarde, ou supprimez-les.</translation>
-    </message>
-    <message>
         <source>Say --yes to go on all the same.</source>
         <translation>Ajoutez --yes pour continuer malgré tout.</translation>
     </message>
@@ -2453,6 +2456,10 @@ ne devait pas continuer (voir --yes), 64 mauvaise utilisation.</translation>
     <message>
         <source>The two passwords are not the same. Type both again.</source>
         <translation>Les deux mots de passe ne sont pas identiques. Saisissez-les tous les deux à nouveau.</translation>
+    </message>
+    <message>
+        <source>Do the same again, or remove them.</source>
+        <translation>Recommencez la même opération, ou supprimez-les.</translation>
     </message>
 </context>
 <context>

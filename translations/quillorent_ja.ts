@@ -2162,6 +2162,12 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
         <source>&quot;%1&quot; is a link</source>
         <translation>「%1」はリンクです</translation>
     </message>
+    <message numerus="yes">
+        <source>%n file(s) of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there.</source>
+        <translation>
+            <numerusform>「%1」の %n 個のファイルを「%2」に作成できません。最初のもの: %3。ほかはすべてあります。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>extraction</name>
@@ -2429,10 +2435,6 @@ go on (see --yes), 64 wrong usage.</source>
         <translation>2回入力したパスワードが一致しませんでした。何も行われていません。</translation>
     </message>
     <message>
-        <source>Back up again, or remove them.</source>
-        <translation>もう一度バックアップするか、それらを削除してください。</translation>
-    </message>
-    <message>
         <source>Say --yes to go on all the same.</source>
         <translation>それでも続行するには、--yes を付けてください。</translation>
     </message>
@@ -2451,6 +2453,10 @@ go on (see --yes), 64 wrong usage.</source>
     <message>
         <source>The two passwords are not the same. Type both again.</source>
         <translation>2 つのパスワードが一致しません。両方とも入力し直してください。</translation>
+    </message>
+    <message>
+        <source>Do the same again, or remove them.</source>
+        <translation>同じ操作をもう一度行うか、それらを削除してください。</translation>
     </message>
 </context>
 <context>

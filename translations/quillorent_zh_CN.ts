@@ -2162,6 +2162,12 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
         <source>&quot;%1&quot; is a link</source>
         <translation>“%1”是链接</translation>
     </message>
+    <message numerus="yes">
+        <source>%n file(s) of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there.</source>
+        <translation>
+            <numerusform>“%1”中有 %n 个文件无法在“%2”中创建，首先是：%3。其余的都在。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>extraction</name>
@@ -2429,10 +2435,6 @@ go on (see --yes), 64 wrong usage.</source>
         <translation>两次输入的密码不同。未做任何操作。</translation>
     </message>
     <message>
-        <source>Back up again, or remove them.</source>
-        <translation>请重新备份，或将其删除。</translation>
-    </message>
-    <message>
         <source>Say --yes to go on all the same.</source>
         <translation>要继续进行，请使用 --yes。</translation>
     </message>
@@ -2451,6 +2453,10 @@ go on (see --yes), 64 wrong usage.</source>
     <message>
         <source>The two passwords are not the same. Type both again.</source>
         <translation>两次输入的密码不一致。请重新输入两次。</translation>
+    </message>
+    <message>
+        <source>Do the same again, or remove them.</source>
+        <translation>请再执行一次相同的操作，或将其删除。</translation>
     </message>
 </context>
 <context>

@@ -366,6 +366,7 @@ QString ArchiveExtraction::explainFailure() const
                     .atEncrypted = whatIsAt(m_paths.paths.encrypted),
                     .atInner = whatIsAt(m_paths.paths.inner),
                     .innerIsArchive = m_innerIsArchive,
+                    .keepsRest = !m_order.isPart(),
                     .decoderCommand = m_command,
                     .commandByName = commandByName,
                     .keyIsReadable = isReadableFile(m_order.key),

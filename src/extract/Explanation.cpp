@@ -4,6 +4,7 @@
 #include "runs/Looks.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 
 namespace {
 
@@ -148,6 +149,16 @@ QString explainDecryption(const FailedStage &stage)
     return Words::tr("\"%1\" can't be decrypted: %2.").arg(name, stage.tool.firstLine());
 }
 
+/// Where single entries are all that failed, their number; 0 where it may be more than that.
+int entriesNotMade(const FailedStage &stage)
+{
+    const QStringList lines = stage.tool.text().split(u'\n', Qt::SkipEmptyParts);
+    const QStringView refusal = u"Cannot create ";
+    const bool isAll =
+        std::ranges::all_of(lines, [&](const QString &line) { return line.startsWith(refusal); });
+    return isAll ? int(lines.size()) : 0;
+}
+
 QString explainInner(const FailedStage &stage)
 {
     const QString name = nameOf(stage.archive);
@@ -174,6 +185,12 @@ QString explainInner(const FailedStage &stage)
                          "path or out of the folder. Quillorent's own archiver does: choose it on the Tools "
                          "tab, and extract again.")
             .arg(name, stage.tool.firstLine());
+    if (const int count = entriesNotMade(stage); count > 0 && stage.keepsRest)
+        return Words::tr(
+                   "%n file(s) of \"%1\" can't be made in \"%2\", beginning with this: %3. All others are "
+                   "there.",
+                   nullptr, count)
+            .arg(name, stage.folder, stage.tool.firstLine());
     return explainArchive(stage);
 }
 

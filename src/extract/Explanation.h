@@ -25,6 +25,7 @@ struct FailedStage {
     Place atEncrypted = Place::File;
     Place atInner = Place::Nothing;
     bool innerIsArchive = false; ///< it begins as archives do
+    bool keepsRest = true;       ///< what could be made of its entries stays in the folder
 
     QString decoderCommand{};  ///< "smime" is certificate mode; empty: the method is unknown
     QString commandByName{};   ///< the one that the archive's name tells; empty: it tells none

@@ -2,6 +2,7 @@
 
 #include "files/Entry.h"
 #include "files/Names.h"
+#include "files/Room.h"
 
 #include <QFile>
 #include <QRandomGenerator>
@@ -103,8 +104,10 @@ bool isPrivateFolder(const QString &path)
     const QString name = quillorentLibrary::lastPathComponent(path);
     if (!name.startsWith(prefix) || name.size() != prefix.size() + 16) return false;
     struct stat attributes {};
-    return lstat(QFile::encodeName(path).constData(), &attributes) == 0 && S_ISDIR(attributes.st_mode) &&
-           attributes.st_uid == geteuid() && (attributes.st_mode & 0777) == 0700;
+    if (lstat(QFile::encodeName(path).constData(), &attributes) != 0 || !S_ISDIR(attributes.st_mode))
+        return false;
+    const bool isOwn = attributes.st_uid == geteuid() && (attributes.st_mode & 0777) == 0700;
+    return isOwn || isOfOtherSystems(path);
 }
 
 bool removePrivateFolder(const QString &path, const std::optional<FileIdentity> &identity)
@@ -113,7 +116,8 @@ bool removePrivateFolder(const QString &path, const std::optional<FileIdentity> 
     const auto there = entryAt(path);
     if (!there) return true;
     if (!isPrivateFolder(path)) return false;
-    if (identity && !identity->isSameFile(there->identity)) return false;
+    // Where numbers change, its own name, which is of chance, has to do.
+    if (identity && identity->inode != there->identity.inode && !isOfOtherSystems(path)) return false;
     if (identity)
         if (const OpenFolder folder = openFolderIn(AT_FDCWD, encoded.constData())) emptyFolder(folder.get());
     return rmdir(encoded.constData()) == 0;

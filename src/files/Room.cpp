@@ -43,11 +43,13 @@ QString whyNotWritable(const QString &folder)
         .arg(folder, qt_error_string(errno));
 }
 
-bool ignoresCase(const QString &folder)
+bool isOfOtherSystems(const QString &path)
 {
-    // statfs(2): FAT, exFAT, and the two drivers of NTFS.
-    constexpr std::array systems{0x4d44L, 0x2011bab0L, 0x5346544eL, 0x7366746eL};
+    // statfs(2): FAT, exFAT, the two drivers of NTFS, the two of SMB, and FUSE, which has drivers of all of
+    // them.
+    constexpr std::array systems{0x4d44L,     0x2011bab0L, 0x5346544eL, 0x7366746eL,
+                                 0xff534d42L, 0xfe534d42L, 0x65735546L};
     struct statfs status {};
-    if (statfs(QFile::encodeName(folder).constData(), &status) != 0) return false;
+    if (statfs(QFile::encodeName(path).constData(), &status) != 0) return false;
     return std::find(systems.begin(), systems.end(), long(status.f_type)) != systems.end();
 }

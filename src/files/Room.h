@@ -12,5 +12,7 @@
 /// Why nothing may be written into the folder; empty where it may.
 [[nodiscard]] QString whyNotWritable(const QString &folder);
 
-/// Whether names that differ in upper and lower case only are one name in the folder's file system.
-[[nodiscard]] bool ignoresCase(const QString &folder);
+/// Whether the file system is, or may be, one that other systems have made: names that differ in upper and
+/// lower case only can be one name there, rights are those that the disk was mounted with, and a file's
+/// number can change.
+[[nodiscard]] bool isOfOtherSystems(const QString &path);

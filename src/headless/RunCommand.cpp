@@ -37,7 +37,7 @@ void waitUntil(IsOver isOver)
 void tellOfClearFiles(const QuillorentAppDelegate &delegate)
 {
     if (const QString clear = delegate.clearText01.text(); !clear.isEmpty())
-        printError(clear + u'\n' + Words::tr("Back up again, or remove them."));
+        printError(clear + u'\n' + Words::tr("Do the same again, or remove them."));
 }
 
 /// Prints how the run ended, for people and, where it is wanted, for programs.

@@ -3,6 +3,7 @@
 #include "files/ArchiveFiles.h"
 #include "files/FolderLock.h"
 #include "files/PrivateFolder.h"
+#include "files/Room.h"
 #include "runs/RunJournal.h"
 
 #include <QCoreApplication>
@@ -76,13 +77,16 @@ bool repairFormer(RunRecord &record, const aftermath::IsWhole &isWhole)
     return isAny;
 }
 
-/// Whether what was left is what is there now. A folder's times change with what is in it.
+/// Whether what was left is what is there now. A disk that was connected again may have another number.
 bool isStill(const LeftFile &file, const FileEntry &there)
 {
     if (!file.identity) return true;
-    if (there.kind == FileEntry::Kind::Folder)
-        return isPrivateFolder(file.path) && file.identity->isSameFile(there.identity);
-    return *file.identity == there.identity;
+    if (there.kind == FileEntry::Kind::Folder) return isPrivateFolder(file.path);
+    const FileIdentity &was = *file.identity;
+    const FileIdentity &is = there.identity;
+    // Other systems' disks keep times less exactly than the program notes them.
+    return was.bytes == is.bytes &&
+           (isOfOtherSystems(file.path) || (was.inode == is.inode && was.modified == is.modified));
 }
 
 /// Of the files that may have been left, those that are there. One that can't be told from others that came
