@@ -86,7 +86,7 @@ ToolRun planToolRun(const CommandLine &line, bool hasPassword)
     if (leavesDerivationOpen(line)) append(run.arguments, {"-pbkdf2", "-iter", std::to_string(iterations)});
     if (leavesDerivationOpen(line) && !line.has({"md"})) append(run.arguments, {"-md", std::string(digest)});
     // Naming one provider keeps the tool from loading the default one, which has the digests.
-    if (needsLegacyProvider(cipherOf(line)) && !line.has({"provider", "provider-path"}))
+    if (LibraryCipher(cipherOf(line)).isLegacy() && !line.has({"provider", "provider-path"}))
         append(run.arguments, {"-provider", "legacy", "-provider", "default"});
     if (!line.has({"bufsize"})) append(run.arguments, {"-bufsize", std::string(bufferSize)});
     run.files.isOurs = isOurs(line);

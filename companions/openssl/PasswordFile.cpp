@@ -4,39 +4,12 @@
 #include "smime/Crypto.h"
 
 #include <openssl/rand.h>
-#include <strings.h>
 
 namespace {
 
-struct CipherFamily {
-    std::string_view name;
-    bool isLegacy;
-};
-
-// A longer name comes before the one that it begins with. Triple DES is not a legacy cipher, single DES is.
-constexpr std::array families{
-    CipherFamily{"aes", false},      CipherFamily{"aria", false},    CipherFamily{"camellia", false},
-    CipherFamily{"sm4", false},      CipherFamily{"des3", false},    CipherFamily{"des-ede", false},
-    CipherFamily{"chacha20", false}, CipherFamily{"des", true},      CipherFamily{"desx", true},
-    CipherFamily{"bf", true},        CipherFamily{"blowfish", true}, CipherFamily{"cast", true},
-    CipherFamily{"idea", true},      CipherFamily{"rc2", true},      CipherFamily{"rc4", true},
-    CipherFamily{"rc5", true},       CipherFamily{"seed", true}};
-
-/// Whether what follows the family's name is a key size or a mode, as in `aes256`, `cast5-cbc` and `rc4-40`.
-bool isVariant(std::string_view rest)
+CryptoHandle<EVP_CIPHER> fetchCipher(std::string_view name)
 {
-    return rest.empty() || rest.front() == '-' || (rest.front() >= '0' && rest.front() <= '9');
-}
-
-const CipherFamily *familyOf(std::string_view cipher)
-{
-    const auto belongs = [cipher](const CipherFamily &family) {
-        const std::size_t size = family.name.size();
-        return cipher.size() >= size && strncasecmp(cipher.data(), family.name.data(), size) == 0 &&
-               isVariant(cipher.substr(size));
-    };
-    const auto found = std::ranges::find_if(families, belongs);
-    return found == families.end() ? nullptr : &*found;
+    return CryptoHandle<EVP_CIPHER>(EVP_CIPHER_fetch(nullptr, std::string(name).c_str(), nullptr));
 }
 
 /// Whether bytes in any pieces, a key and an initialisation vector are all that it takes.
@@ -186,20 +159,16 @@ private:
 
 } // namespace
 
-bool isCipher(std::string_view name) { return familyOf(name) != nullptr; }
-
-bool needsLegacyProvider(std::string_view cipher)
-{
-    const CipherFamily *const family = familyOf(cipher);
-    return family && family->isLegacy;
-}
+bool isCipher(std::string_view name) { return EVP_get_cipherbyname(std::string(name).c_str()) != nullptr; }
 
 LibraryCipher::LibraryCipher(std::string_view name)
     // Naming one provider keeps the library from loading the default one, too.
-    : m_standard(OSSL_PROVIDER_load(nullptr, "default"))
-    , m_legacy(needsLegacyProvider(name) ? OSSL_PROVIDER_load(nullptr, "legacy") : nullptr)
-    , m_cipher(EVP_CIPHER_fetch(nullptr, std::string(name).c_str(), nullptr))
+    : m_standard(OSSL_PROVIDER_load(nullptr, "default")), m_cipher(fetchCipher(name))
 {
+    if (!m_cipher && isCipher(name)) {
+        m_legacy.reset(OSSL_PROVIDER_load(nullptr, "legacy"));
+        m_cipher = fetchCipher(name);
+    }
     ERR_clear_error();
     if (m_cipher && !isPlain(m_cipher.get())) m_cipher.reset();
 }

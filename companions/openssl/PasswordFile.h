@@ -9,10 +9,6 @@
 /// `DES3`).
 [[nodiscard]] bool isCipher(std::string_view name);
 
-/// Whether the cipher is found in the legacy provider only, which the tool does not load by itself.
-/// Source: https://docs.openssl.org/3.0/man7/OSSL_PROVIDER-legacy/
-[[nodiscard]] bool needsLegacyProvider(std::string_view cipher);
-
 /// A cipher of the library, with where it comes from.
 class LibraryCipher {
 public:
@@ -20,6 +16,9 @@ public:
 
     /// Null: the library has none of this name that a password or a certificate's key goes with.
     [[nodiscard]] const EVP_CIPHER *get() const { return m_cipher.get(); }
+    /// Whether only the legacy provider can have it, which the tool does not load by itself:
+    /// https://docs.openssl.org/3.0/man7/OSSL_PROVIDER-legacy/
+    [[nodiscard]] bool isLegacy() const { return m_legacy != nullptr; }
 
 private:
     CryptoHandle<OSSL_PROVIDER> m_standard;

@@ -31,12 +31,6 @@ bool isOneOf(const char *text, std::initializer_list<const char *> words)
     return std::ranges::any_of(words, [text](const char *word) { return strcasecmp(text, word) == 0; });
 }
 
-std::optional<std::string> valueOf(const CommandLine &line, std::string_view name)
-{
-    const char *const value = line.value(name);
-    return value ? std::optional<std::string>(value) : std::nullopt;
-}
-
 FilePair filesOf(const CommandLine &line) { return {line.file("in"), line.file("out"), isOurs(line)}; }
 
 MessageForm formOf(const CommandLine &line, std::string_view option)
@@ -72,14 +66,14 @@ std::optional<OwnRun> planOwnEncryption(const CommandLine &line)
         if (isCipherName ? !cipher.empty() : !isOwnEncryption(each)) return std::nullopt;
         if (isCipherName) cipher = each.name;
     }
-    if (cipher.empty() || needsLegacyProvider(cipher) || !line.has({"binary"})) return std::nullopt;
+    if (cipher.empty() || !line.has({"binary"})) return std::nullopt;
     const auto own = std::make_shared<SmimeEncryption>(
         SmimeEncryption{filesOf(line), formOf(line, "outform"), LibraryCipher(cipher)});
     std::string ignored;
     for (const char *const operand : line.operands())
         own->recipients.push_back(readCertificate(operand, ignored));
-    const bool isPossible =
-        own->cipher.get() && !own->recipients.empty() && std::ranges::all_of(own->recipients, canReceive);
+    const bool isPossible = own->cipher.get() && !own->cipher.isLegacy() && !own->recipients.empty() &&
+                            std::ranges::all_of(own->recipients, canReceive);
     if (!isPossible) return std::nullopt;
     return [own] {
         return convert(own->files, [&own](ByteSource &input, ByteSink &output, Fault &fault) {
@@ -181,10 +175,12 @@ CommandPlan planDecryption(const CommandLine &line, Secret &passPhrase)
 {
     if (!line.has({"inkey", "recip"}) || !std::ranges::all_of(line.options(), isOwnAffair))
         return planToolRun(line, false);
-    const std::optional<std::string> recipient = valueOf(line, "recip");
+    const char *const key = line.value("inkey");
+    std::optional<std::string> recipient;
+    if (const char *const file = line.value("recip")) recipient = file;
     // The tool looks for the key beside the certificate, too.
     SmimeDecryption decryption{filesOf(line), formOf(line, "inform"), recipient,
-                               valueOf(line, "inkey").value_or(recipient.value_or(""))};
+                               key ? key : recipient.value_or("")};
     if (!line.operands().empty()) decryption.mentionedCertificate = line.operands().front();
     const Option *const source = line.last({"passin"});
     if (source && isInlinePassPhrase(source->value)) {
