@@ -2165,10 +2165,10 @@ Ihre Datei bleibt, wie sie ist. Reparieren Sie sie, oder verschieben Sie sie: De
         <translation>„%1“ ist eine Verknüpfung</translation>
     </message>
     <message numerus="yes">
-        <source>%n file(s) of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there.</source>
+        <source>%n file(s) of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there. Extract into a folder on another disk to have these, too.</source>
         <translation>
-            <numerusform>%n Datei aus „%1“ kann in „%2“ nicht angelegt werden, nämlich: %3. Alles andere ist da.</numerusform>
-            <numerusform>%n Dateien aus „%1“ können in „%2“ nicht angelegt werden, zuerst diese: %3. Alles andere ist da.</numerusform>
+            <numerusform>%n Datei aus „%1“ kann in „%2“ nicht angelegt werden, nämlich: %3. Alles andere ist da. Entpacken Sie in einen Ordner auf einem anderen Datenträger, um auch sie zu bekommen.</numerusform>
+            <numerusform>%n Dateien aus „%1“ können in „%2“ nicht angelegt werden, zuerst diese: %3. Alles andere ist da. Entpacken Sie in einen Ordner auf einem anderen Datenträger, um auch sie zu bekommen.</numerusform>
         </translation>
     </message>
 </context>

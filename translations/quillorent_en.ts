@@ -18,10 +18,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n file(s) of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there.</source>
+        <source>%n file(s) of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there. Extract into a folder on another disk to have these, too.</source>
         <translation>
-            <numerusform>%n file of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;: %3. All others are there.</numerusform>
-            <numerusform>%n files of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there.</numerusform>
+            <numerusform>%n file of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;: %3. All others are there. Extract into a folder on another disk to have it, too.</numerusform>
+            <numerusform>%n files of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there. Extract into a folder on another disk to have these, too.</numerusform>
         </translation>
     </message>
 </context>

@@ -2165,10 +2165,10 @@ Su archivo se queda como está. Repárelo o muévalo a otro lugar: en el próxim
         <translation>“%1” es un enlace</translation>
     </message>
     <message numerus="yes">
-        <source>%n file(s) of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there.</source>
+        <source>%n file(s) of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there. Extract into a folder on another disk to have these, too.</source>
         <translation>
-            <numerusform>No se puede crear %n archivo de “%1” en “%2”: %3. Todo lo demás está ahí.</numerusform>
-            <numerusform>No se pueden crear %n archivos de “%1” en “%2”, empezando por este: %3. Todo lo demás está ahí.</numerusform>
+            <numerusform>No se puede crear %n archivo de “%1” en “%2”: %3. Todo lo demás está ahí. Extraiga en una carpeta de otro disco para tenerlo también.</numerusform>
+            <numerusform>No se pueden crear %n archivos de “%1” en “%2”, empezando por este: %3. Todo lo demás está ahí. Extraiga en una carpeta de otro disco para tenerlos también.</numerusform>
         </translation>
     </message>
 </context>

@@ -2165,10 +2165,10 @@ Leur fichier reste tel quel. Réparez-le, ou déplacez-le&#xa0;: un nouveau sera
         <translation>« %1 » est un lien</translation>
     </message>
     <message numerus="yes">
-        <source>%n file(s) of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there.</source>
+        <source>%n file(s) of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there. Extract into a folder on another disk to have these, too.</source>
         <translation>
-            <numerusform>%n fichier de «&#xa0;%1&#xa0;» ne peut pas être créé dans «&#xa0;%2&#xa0;»&#xa0;: %3. Tout le reste est là.</numerusform>
-            <numerusform>%n fichiers de «&#xa0;%1&#xa0;» ne peuvent pas être créés dans «&#xa0;%2&#xa0;», à commencer par celui-ci&#xa0;: %3. Tout le reste est là.</numerusform>
+            <numerusform>%n fichier de «&#xa0;%1&#xa0;» ne peut pas être créé dans «&#xa0;%2&#xa0;»&#xa0;: %3. Tout le reste est là. Extrayez dans un dossier d’un autre disque pour l’obtenir aussi.</numerusform>
+            <numerusform>%n fichiers de «&#xa0;%1&#xa0;» ne peuvent pas être créés dans «&#xa0;%2&#xa0;», à commencer par celui-ci&#xa0;: %3. Tout le reste est là. Extrayez dans un dossier d’un autre disque pour les obtenir aussi.</numerusform>
         </translation>
     </message>
 </context>

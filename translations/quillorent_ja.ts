@@ -2163,9 +2163,9 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
         <translation>「%1」はリンクです</translation>
     </message>
     <message numerus="yes">
-        <source>%n file(s) of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there.</source>
+        <source>%n file(s) of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there. Extract into a folder on another disk to have these, too.</source>
         <translation>
-            <numerusform>「%1」の %n 個のファイルを「%2」に作成できません。最初のもの: %3。ほかはすべてあります。</numerusform>
+            <numerusform>「%1」の %n 個のファイルを「%2」に作成できません。最初のもの: %3。ほかはすべてあります。これらも取り出すには、別のディスクのフォルダーに展開してください。</numerusform>
         </translation>
     </message>
 </context>

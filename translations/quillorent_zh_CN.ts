@@ -2163,9 +2163,9 @@ Their file stays as it is. Repair it, or move it away: the next start makes a ne
         <translation>“%1”是链接</translation>
     </message>
     <message numerus="yes">
-        <source>%n file(s) of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there.</source>
+        <source>%n file(s) of &quot;%1&quot; can&apos;t be made in &quot;%2&quot;, beginning with this: %3. All others are there. Extract into a folder on another disk to have these, too.</source>
         <translation>
-            <numerusform>“%1”中有 %n 个文件无法在“%2”中创建，首先是：%3。其余的都在。</numerusform>
+            <numerusform>“%1”中有 %n 个文件无法在“%2”中创建，首先是：%3。其余的都在。要同时得到这些文件，请提取到另一磁盘上的文件夹。</numerusform>
         </translation>
     </message>
 </context>

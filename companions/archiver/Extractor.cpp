@@ -6,8 +6,8 @@
 #include "StagedFile.h"
 
 #include <algorithm>
-#include <clocale>
 #include <cwctype>
+#include <filesystem>
 #include <mutex>
 #include <unordered_map>
 
@@ -18,25 +18,16 @@ namespace {
 constexpr unsigned windowsReadOnly = 1;
 constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
 
-bool makeFolders(const std::string &path)
-{
-    for (std::size_t slash = path.find('/', 1);; slash = path.find('/', slash + 1)) {
-        const std::string part = path.substr(0, slash);
-        if (mkdir(part.c_str(), 0777) != 0 && errno != EEXIST) {
-            struct stat status {};
-            if (stat(part.c_str(), &status) != 0)
-                return false; // a folder that is there may be on a read-only system
-        }
-        if (slash == std::string::npos) return true;
-    }
-}
-
 /// A folder, made with all folders above it where it is missing; closed, with errno set, where that fails.
 base::FileDescriptor openDestination(const std::string &path)
 {
     base::FileDescriptor folder(open(path.c_str(), folderFlags));
-    if (folder || errno != ENOENT || !makeFolders(path)) return folder;
-    return base::FileDescriptor(open(path.c_str(), folderFlags));
+    if (folder || errno != ENOENT) return folder;
+    std::error_code error;
+    std::filesystem::create_directories(path, error);
+    folder = base::FileDescriptor(open(path.c_str(), folderFlags));
+    if (error) errno = error.value(); // tells more
+    return folder;
 }
 
 unsigned readUmask()
@@ -115,54 +106,34 @@ private:
     FolderChain m_chain;
 };
 
-/// Found out by a file, for file systems don't tell.
-bool ignoresCase(int folder)
-{
-    const base::PassingNames names(".rar", "case");
-    base::StagedFile file = base::StagedFile::create(folder, names);
-    std::string other = file && file.giveName(names) ? file.passingName() : "";
-    std::ranges::transform(other, other.begin(), [](unsigned char letter) { return std::toupper(letter); });
-    return !other.empty() && faccessat(folder, other.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0;
-}
-
 /// Of entries whose names differ in upper and lower case only, the first has the name where the destination
 /// ignores that: any other would replace it. Paths are kept as hashes.
 class Names {
 public:
     explicit Names(int folder)
-        : m_locale(folder >= 0 && ignoresCase(folder) ? newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr)
-                                                      : nullptr)
     {
+        // File systems don't tell, so a file has to.
+        const base::PassingNames names(".rar", "case");
+        base::StagedFile file = base::StagedFile::create(folder, names);
+        std::string other = file && file.giveName(names) ? file.passingName() : "";
+        std::ranges::transform(other, other.begin(), [](unsigned char each) { return std::toupper(each); });
+        m_canMeet = !other.empty() && faccessat(folder, other.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0;
     }
-    ~Names()
-    {
-        if (m_locale) freelocale(m_locale);
-    }
-    Names(const Names &) = delete;
-    Names &operator=(const Names &) = delete;
 
     /// Whether no other entry has it.
     [[nodiscard]] bool claim(const std::string &path)
     {
-        if (!m_locale) return true;
-        const std::size_t own = std::hash<std::string>()(path);
-        const std::size_t common = std::hash<std::wstring>()(inUpperCase(path));
-        return m_owners.try_emplace(common, own).first->second == own;
-    }
-
-private:
-    [[nodiscard]] std::wstring inUpperCase(const std::string &path) const
-    {
-        const locale_t before = uselocale(m_locale);
+        if (!m_canMeet) return true;
         std::wstring letters(path.size(), L'\0');
         const std::size_t count = std::mbstowcs(letters.data(), path.c_str(), letters.size());
         if (count == static_cast<std::size_t>(-1)) letters.assign(path.begin(), path.end());
         std::ranges::transform(letters, letters.begin(), std::towupper);
-        uselocale(before);
-        return letters;
+        const std::size_t own = std::hash<std::string>()(path);
+        return m_owners.try_emplace(std::hash<std::wstring>()(letters), own).first->second == own;
     }
 
-    locale_t m_locale; ///< null: every name is free
+private:
+    bool m_canMeet = false;
     std::unordered_map<std::size_t, std::size_t> m_owners{};
 };
 
@@ -258,8 +229,7 @@ private:
         lock.unlock();
         if (isFree) return {enter(*components, name), components->back()};
         m_diagnostics.report("Cannot create " + printable(name) +
-                             ": upper and lower case are the same there, and another entry has the name; "
-                             "extract to a disk that tells them apart");
+                             ": another entry has the name where upper and lower case are the same");
         return {};
     }
 
@@ -379,11 +349,12 @@ private:
 void extractArchive(const std::string &archive, const std::string &folder, Paths paths,
                     Diagnostics &diagnostics)
 {
-    Extraction all{openDestination(folder), paths};
-    if (!all.root) {
+    base::FileDescriptor root = openDestination(folder);
+    if (!root) {
         diagnostics.reportSystem("Cannot open the destination " + printable(folder));
         return;
     }
+    Extraction all{std::move(root), paths};
     const auto make = [&all](Diagnostics &each) { return std::make_unique<Extractor>(all, each); };
     processArchive(archive, {make}, diagnostics);
     all.folders.apply(all.root.get(), diagnostics);

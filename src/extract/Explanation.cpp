@@ -188,7 +188,7 @@ QString explainInner(const FailedStage &stage)
     if (const int count = entriesNotMade(stage); count > 0 && stage.keepsRest)
         return Words::tr(
                    "%n file(s) of \"%1\" can't be made in \"%2\", beginning with this: %3. All others are "
-                   "there.",
+                   "there. Extract into a folder on another disk to have these, too.",
                    nullptr, count)
             .arg(name, stage.folder, stage.tool.firstLine());
     return explainArchive(stage);
