@@ -18,17 +18,11 @@ namespace {
 
 const std::string marker = "These words must not be read by anyone. ";
 
-void emptyFolder(const fs::path &folder)
-{
-    for (const auto &entry : fs::directory_iterator(folder))
-        fs::remove_all(entry.path());
-}
-
 bool isFilePlain(const fs::path &path) { return fs::is_regular_file(fs::symlink_status(path)); }
 
 } // namespace
 
-FaultHome::FaultHome(Kind kind, bool splits) : m_home(QUILLORENT_RUN), m_kind(kind), m_splits(splits)
+FaultHome::FaultHome(Kind kind, bool splits) : m_home(QUILLORENT_RUN), m_kind(kind)
 {
     m_home.encryptForCertificate();
     m_home.record["split"] = splits ? "1" : "0";
@@ -91,7 +85,8 @@ fs::path FaultHome::productOf(const Stage &stage) const
 /// The folder that the run writes to as it was before any run of this test, beside a file of the user's.
 void FaultHome::reset()
 {
-    emptyFolder(target());
+    for (const auto &entry : fs::directory_iterator(target()))
+        fs::remove_all(entry.path());
     writeFile(target() / "notes.txt", "the user's own");
     writeFile(m_home / "victim", "a file of the user's");
     if (m_kind == Kind::Backup) fs::copy(m_home / "kept", target());

@@ -78,7 +78,6 @@ private:
 
     ProgramHome m_home;
     Kind m_kind;
-    bool m_splits;
     bool m_isMounted = false;
     bool m_isOrdinaryUser = false;
     TreeSnapshot m_former, m_new;     ///< of the folder
