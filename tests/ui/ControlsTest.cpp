@@ -8,7 +8,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLineEdit>
 #include <array>
 #include <cstring>
 #include <fcntl.h>
@@ -98,13 +97,7 @@ protected:
                             isList ? plist::Value(plist::Array::make(text.split(u' '))) : plist::Value(text));
     }
 
-    /// Opens a profile with this record.
-    void open(const plist::Dictionary &record)
-    {
-        delegate.listPlist().setValue(u"opened"_s, record);
-        delegate.setterCurrentProfile(u"opened"_s);
-        settle();
-    }
+    using WindowTest::open;
     /// Opens a profile in which each control has the value of that round.
     void open(int round)
     {
@@ -146,9 +139,8 @@ protected:
                 delegate.openPanel = [&](const outlets::OpenPanel &) { return chosen; };
                 QTest::keyClick(&widget(control.button), Qt::Key_Space);
             }
-        } else if (auto *field = qobject_cast<QLineEdit *>(&pressed)) {
-            field->selectAll();
-            QTest::keyClicks(field, qobject_cast<ui::SizeEdit *>(field) ? value + u" kB"_s : value);
+        } else if (qobject_cast<QLineEdit *>(&pressed)) {
+            fill(control.name, qobject_cast<ui::SizeEdit *>(&pressed) ? value + u" kB"_s : value);
         } else if (qobject_cast<QComboBox *>(&pressed)) {
             QTest::keyClick(&pressed, Qt::Key_Home);
             for (qsizetype row = control.values.indexOf(value); row > 0; --row)
@@ -209,7 +201,7 @@ TEST_F(ControlsTest, KeepTheirStateUnderTheirOwnKeyAtOnce)
     };
     const plist::Dictionary other = delegate.currentRecord().deepCopy();
     const std::string untouched = textsOf(other);
-    delegate.listPlist().setValue(u"other"_s, other);
+    delegate.listPlist().setValue(u"another"_s, other);
     open(0);
     for (const Control &control : controls())
         for (const QString &value : control.values) {
@@ -249,7 +241,7 @@ TEST_F(ControlsTest, ShowTheirKeyOrItsAbsence)
         EXPECT_FALSE(delegate.currentRecord().contains(u"compress"_s)) << "showing a profile changes it";
     }
     delegate.currentRecord().setValue(u"path"_s, u"");
-    delegate.setterCurrentProfile(u"opened"_s);
+    delegate.setterCurrentProfile(delegate.currentProfile());
     EXPECT_EQ(delegate.fileText01.text(), QString()) << "an empty destination is a destination";
 }
 

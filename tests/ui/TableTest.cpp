@@ -3,11 +3,7 @@
 #include "ui/lists/ToolTable.h"
 #include "ui/widgets/LevelBar.h"
 
-#include <QLineEdit>
-#include <QPushButton>
 #include <semaphore>
-
-using namespace std::chrono_literals;
 
 namespace {
 
