@@ -223,13 +223,8 @@ TEST_F(FoldersTest, TheLastResultStaysAndIsThereAfterARestart)
                           .reason = reason,
                           .left = {{u"/x/Mail.rar"_s, true}}};
     };
-    struct Case {
-        Outcome outcome;
-        QList<ItemRecord> items;
-        QStringList headline;
-        QStringList details; ///< in this order
-    };
-    for (const Case &c : {
+    using Case = std::tuple<Outcome, QList<ItemRecord>, QStringList, QStringList>;
+    for (const auto &[outcome, items, headline, reasons] : {
              Case{Outcome::Succeeded,
                   {good, good},
                   {u"Backed up today at "_s, u"· 2 folders · 48.2 GB in 11 min"_s},
@@ -252,13 +247,13 @@ TEST_F(FoldersTest, TheLastResultStaysAndIsThereAfterARestart)
               {u"Cancelled today at "_s, u"1 of 2 folders"_s},
               {}},
          }) {
-        haveResult(c.outcome, c.items);
-        for (const QString &part : c.headline)
+        haveResult(outcome, items);
+        for (const QString &part : headline)
             EXPECT_TRUE(says(u"resultHeadline"_s, part)) << qPrintable(part);
-        EXPECT_EQ(widget(u"resultDetails"_s).isVisible(), !c.details.isEmpty());
+        EXPECT_EQ(widget(u"resultDetails"_s).isVisible(), !reasons.isEmpty());
         const QString details = said(u"resultDetails"_s);
         qsizetype place = 0;
-        for (const QString &part : c.details)
+        for (const QString &part : reasons)
             EXPECT_GE(place = details.indexOf(part, place), 0) << qPrintable(details);
     }
     // Archives are offered by their first files, once.

@@ -234,9 +234,8 @@ TEST_F(ProfilesTest, ASecondStartRaisesTheFirstWindow)
     std::filesystem::permissions(runtime.path(), std::filesystem::perms{0700});
     qputenv("XDG_RUNTIME_DIR", runtime.path().c_str());
     const std::string config = quillorentLibrary::preferencesFolder().toStdString();
-    const auto start = [&](const std::string &folder, const std::vector<std::string> &arguments = {}) {
-        std::vector<std::string> command{QUILLORENT};
-        command.insert(command.end(), arguments.begin(), arguments.end());
+    const auto start = [&](const std::string &folder,
+                           const std::vector<std::string> &command = {QUILLORENT}) {
         return std::make_unique<BackgroundProgram>(
             command, CommandOptions{.environment = {{"XDG_CONFIG_HOME", folder}}},
             (runtime / "log").string());
@@ -257,20 +256,16 @@ TEST_F(ProfilesTest, ASecondStartRaisesTheFirstWindow)
     window.showMinimized();
 
     const std::string archive = (runtime / "a b.rar.aes.rar").string();
-    const auto second = start(config, {archive});
+    const auto second = start(config, {QUILLORENT, archive});
     EXPECT_TRUE(waitUntil([&] { return second->hasEnded(); }));
     EXPECT_FALSE(window.isMinimized());
     EXPECT_TRUE(waitUntil([&] { return !program.delegate().extractFullList.strings().isEmpty(); }));
     EXPECT_EQ(program.delegate().extractFullList.strings(), QStringList(QString::fromStdString(archive)));
-    const auto third = start(config, {"--page", "password"});
+    const auto third = start(config, {QUILLORENT, "--page", "password"});
     auto *tabs = window.findChild<QTabWidget *>(u"mainTabs"_s);
     EXPECT_TRUE(waitUntil([&] { return tabs->currentWidget()->objectName() == u"passwordsPage"; }));
-    for (const std::vector<std::string> &wrong :
-         {std::vector<std::string>{"--page", "nowhere"}, {"--nonsense"}})
-        EXPECT_EQ(runCommand({QUILLORENT, wrong.front(), wrong.back()},
-                             {.environment = {{"XDG_CONFIG_HOME", config}}})
-                      .status,
-                  64);
+    for (const std::string wrong : {"--page=nowhere", "--nonsense"})
+        EXPECT_EQ(runCommand({QUILLORENT, wrong}, {.environment = {{"XDG_CONFIG_HOME", config}}}).status, 64);
     const auto other = start(program.path("other").toStdString());
     EXPECT_TRUE(waitUntil([&] { return sockets() == 2; })) << "settings of its own, a window of its own";
     EXPECT_FALSE(other->hasEnded());
