@@ -38,14 +38,9 @@ FaultHome::FaultHome(Kind kind, bool splits) : m_home(QUILLORENT_RUN), m_kind(ki
     fs::copy(m_home / "archives", m_home / "kept");
     m_names = namesIn(m_home / "kept");
     EXPECT_EQ(m_names.size() > 1, splits);
-    if (kind != Kind::Backup) {
-        m_new = m_former;
-        m_sources = snapshotTree(m_home / "archives");
-        return;
-    }
-    write("new", 2);
+    if (kind == Kind::Backup) write("new", 2);
     m_new = snapshotTree(m_home / "docs");
-    m_sources = m_new;
+    m_sources = snapshotTree(sources());
 }
 
 void FaultHome::layTripwire(ProgramHome &home, const std::string &plan)
@@ -160,8 +155,7 @@ std::optional<TreeSnapshot> FaultHome::opened(const std::string &prefix) const
 
 void FaultHome::expectSourcesUntouched() const
 {
-    const fs::path folder = m_home / (m_kind == Kind::Backup ? "docs" : "archives");
-    EXPECT_EQ(treeDifference(m_sources, snapshotTree(folder)), "");
+    EXPECT_EQ(treeDifference(m_sources, snapshotTree(sources())), "");
     EXPECT_TRUE(readFile(m_home / "victim") == "a file of the user's")
         << "a file was overwritten through a link";
     EXPECT_EQ(readFile(target() / "notes.txt"), "the user's own");

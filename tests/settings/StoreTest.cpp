@@ -62,13 +62,6 @@ protected:
                   document("<key>Default profile</key><dict>" + newKey + "</dict>"));
         static_cast<void>(takeNotices()); // of other tests
     }
-    ~Store() override
-    {
-        setResourceFolder({});
-        qunsetenv("XDG_CONFIG_HOME");
-        fs::permissions(folder.path(), fs::perms::owner_all);
-        if (fs::exists(config)) fs::permissions(config, fs::perms::owner_all);
-    }
 
     TemporaryFolder folder;
     fs::path config = folder / "new" / "config";
