@@ -44,10 +44,7 @@ protected:
             QCoreApplication::processEvents();
     }
 
-    static bool waitUntil(const std::function<bool()> &condition)
-    {
-        return TestProgram::waitUntil(condition);
-    }
+    static constexpr auto waitUntil = &TestProgram::waitUntil;
 
     /// The same for what was begun.
     void waitForEnd()
