@@ -9,8 +9,6 @@
 #include <sstream>
 #include <sys/stat.h>
 #include <system_error>
-#include <unistd.h>
-#include <vector>
 
 namespace fs = std::filesystem;
 

@@ -6,7 +6,6 @@
 #include "ui/WindowMemory.h"
 #include "ui/lists/FolderList.h"
 #include "ui/widgets/OpenPanelDialog.h"
-#include "ui/widgets/StepperButtons.h"
 
 #include <QFileDialog>
 #include <QMenu>
