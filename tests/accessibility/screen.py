@@ -27,15 +27,6 @@ NAMED = CONTROLS - {Role.PAGE_TAB_LIST} | {Role.PAGE_TAB, Role.MENU, Role.MENU_I
 Heard = collections.namedtuple("Heard", "event role name description text")
 
 
-class Failure(Exception):
-    pass
-
-
-def need(condition, text):
-    if not condition:
-        raise Failure(text)
-
-
 class Words:
     """What the program says, from the file of its translation; in English where there is none."""
 
@@ -86,7 +77,7 @@ class Screen:
     def quit(self):
         self.choose_in_menu(self.say("MainWindow", "&Quit"))
         status = self.program.wait(PATIENCE)
-        need(status == 0, f"the program ended with {status}")
+        assert status == 0, f"the program ended with {status}"
 
     # Waiting, and what is heard meanwhile.
 
@@ -112,9 +103,8 @@ class Screen:
             with contextlib.suppress(GLib.Error):  # what was looked at is gone: look again
                 if found := look():
                     return found
-            need(self.program.poll() is None, f"the program has ended ({self.program.poll()}); waited for {what}")
-            if time.monotonic() > end:
-                raise Failure(f"waited in vain for {what}; there is\n{self.outline()}")
+            assert self.program.poll() is None, f"the program has ended ({self.program.poll()}); waited for {what}"
+            assert time.monotonic() < end, f"waited in vain for {what}; there is\n{self.outline()}"
 
     # Finding.
 
@@ -141,9 +131,6 @@ class Screen:
         return (each for each in self.walk(self.application)
                 if each.get_role() in (Role.DIALOG, Role.FILE_CHOOSER, Role.ALERT))
 
-    def menu_bar(self):
-        return self.find(Role.MENU_BAR)
-
     def outline(self):
         lines = []
         with contextlib.suppress(GLib.Error):
@@ -156,8 +143,8 @@ class Screen:
         press(self.find(role, name, within, State.SENSITIVE))
 
     def choose_in_menu(self, name):
-        entries = [each for each in self.walk(self.menu_bar(), hidden=True) if each.get_name() == name]
-        need(entries, f"no menu has “{name}”")
+        entries = [each for each in self.walk(self.find(Role.MENU_BAR), hidden=True) if each.get_name() == name]
+        assert entries, f"no menu has “{name}”"
         press(entries[0])
 
     def focus(self, control):
@@ -165,7 +152,7 @@ class Screen:
         for _ in range(100):
             if control.path in with_parents(self.tab()):
                 return
-        raise Failure(f"Tab doesn't lead to “{control.get_name()}”")
+        raise AssertionError(f"Tab doesn't lead to “{control.get_name()}”")
 
     def tab(self):
         """What gets the focus; none where it stays."""
@@ -242,7 +229,7 @@ def name_of(accessible):
 def press(accessible):
     names = [accessible.get_action_name(number).lower() for number in range(accessible.get_n_actions())]
     wanted = next((name for name in ("press", "toggle") if name in names), None)
-    need(wanted, f"“{accessible.get_name()}” can't be pressed; it offers {names}")
+    assert wanted, f"“{accessible.get_name()}” can't be pressed; it offers {names}"
     Atspi.set_timeout(1000, 0)
     with contextlib.suppress(GLib.Error):  # some answer only when the sheet that they open is closed
         accessible.do_action(names.index(wanted))
@@ -287,13 +274,13 @@ def run(story):
     screen = None
     try:
         while not os.path.exists(ready):
-            need(manager.poll() is None, "there is no window manager")
+            assert manager.poll() is None, "there is no window manager"
             time.sleep(0.02)
         screen = Screen(os.path.join(build, "bin/quillorent"), *language,
                         translations=os.path.join(os.path.dirname(os.path.abspath(__file__)), "../../translations"))
         story(screen, home)
         screen.quit()
-    except Failure as failure:
+    except AssertionError as failure:
         sys.exit(f"{os.path.basename(sys.argv[0])}: {failure}")
     finally:
         if screen:

@@ -4,17 +4,12 @@
 #include "Tree.h"
 #include "plist/File.h"
 #include "settings/Paths.h"
-#include "tools/Threads.h"
 
 #include <QScopeGuard>
 #include <fstream>
 #include <sys/mount.h>
 
-using namespace std::chrono_literals;
-
 namespace {
-
-using C = QuillorentAppDelegate;
 
 class Profiles : public ProgramTest {};
 
@@ -51,7 +46,7 @@ TEST(Saving, LeavesTheOldFilesOnAFullDiskAndTellsOfBoth)
     while (filler << std::string(4096, 'x') << std::flush) {
     }
     const TreeSnapshot before = snapshotTree(config);
-    C &delegate = program.delegate();
+    QuillorentAppDelegate &delegate = program.delegate();
     delegate.addFolders({QString(10'000, u'x')});
     delegate.configPlist().setValue(u"new"_s, u"");
     QString told;

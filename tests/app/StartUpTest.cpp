@@ -1,6 +1,5 @@
 #include "TestProgram.h"
 #include "settings/Store.h"
-#include "tools/Threads.h"
 
 #include <gtest/gtest.h>
 
@@ -40,7 +39,7 @@ TEST(Quitting, SavesWhatIsChangedWhereTheSettingsSaySo)
             QuillorentAppDelegate &delegate = program.delegate();
             delegate.configPlist().dictionary(u"resources"_s).setSwitch(u"autosave"_s, autosave);
             delegate.saveSettings1Action();
-            ASSERT_TRUE(waitForThreads(std::chrono::seconds(60)));
+            ASSERT_TRUE(waitForThreads(60s));
             // Another window has made a profile, and changed this one.
             const std::filesystem::path file = quillorentLibrary::profilesPath().toStdString();
             std::string text = readFile(file);
@@ -64,9 +63,9 @@ TEST(Panel, WaitsOnAnotherThreadAndWakesForQuitting)
     for (const auto &end : endings) {
         detachThread(u"asks"_s, [&] { panel.runModal(); });
         ASSERT_TRUE(TestProgram::waitUntil([&] { return panel.place() == outlets::Panel::Place::Sheet; }));
-        EXPECT_FALSE(waitForThreads(std::chrono::milliseconds(20)));
+        EXPECT_FALSE(waitForThreads(20ms));
         end();
-        EXPECT_TRUE(waitForThreads(std::chrono::seconds(30)));
+        EXPECT_TRUE(waitForThreads(30s));
     }
     panel.runModal(); // and nobody waits from now on
 }

@@ -18,17 +18,11 @@ namespace {
 
 const std::string marker = "These words must not be read by anyone. ";
 
-void emptyFolder(const fs::path &folder)
-{
-    for (const auto &entry : fs::directory_iterator(folder))
-        fs::remove_all(entry.path());
-}
-
 bool isFilePlain(const fs::path &path) { return fs::is_regular_file(fs::symlink_status(path)); }
 
 } // namespace
 
-FaultHome::FaultHome(Kind kind, bool splits) : m_home(QUILLORENT_RUN), m_kind(kind), m_splits(splits)
+FaultHome::FaultHome(Kind kind, bool splits) : m_home(QUILLORENT_RUN), m_kind(kind)
 {
     m_home.encryptForCertificate();
     m_home.record["split"] = splits ? "1" : "0";
@@ -44,14 +38,9 @@ FaultHome::FaultHome(Kind kind, bool splits) : m_home(QUILLORENT_RUN), m_kind(ki
     fs::copy(m_home / "archives", m_home / "kept");
     m_names = namesIn(m_home / "kept");
     EXPECT_EQ(m_names.size() > 1, splits);
-    if (kind != Kind::Backup) {
-        m_new = m_former;
-        m_sources = snapshotTree(m_home / "archives");
-        return;
-    }
-    write("new", 2);
+    if (kind == Kind::Backup) write("new", 2);
     m_new = snapshotTree(m_home / "docs");
-    m_sources = m_new;
+    m_sources = snapshotTree(sources());
 }
 
 void FaultHome::layTripwire(ProgramHome &home, const std::string &plan)
@@ -91,7 +80,8 @@ fs::path FaultHome::productOf(const Stage &stage) const
 /// The folder that the run writes to as it was before any run of this test, beside a file of the user's.
 void FaultHome::reset()
 {
-    emptyFolder(target());
+    for (const auto &entry : fs::directory_iterator(target()))
+        fs::remove_all(entry.path());
     writeFile(target() / "notes.txt", "the user's own");
     writeFile(m_home / "victim", "a file of the user's");
     if (m_kind == Kind::Backup) fs::copy(m_home / "kept", target());
@@ -165,8 +155,7 @@ std::optional<TreeSnapshot> FaultHome::opened(const std::string &prefix) const
 
 void FaultHome::expectSourcesUntouched() const
 {
-    const fs::path folder = m_home / (m_kind == Kind::Backup ? "docs" : "archives");
-    EXPECT_EQ(treeDifference(m_sources, snapshotTree(folder)), "");
+    EXPECT_EQ(treeDifference(m_sources, snapshotTree(sources())), "");
     EXPECT_TRUE(readFile(m_home / "victim") == "a file of the user's")
         << "a file was overwritten through a link";
     EXPECT_EQ(readFile(target() / "notes.txt"), "the user's own");

@@ -64,6 +64,7 @@ private:
     [[nodiscard]] Path productOf(const Stage &stage) const;
     [[nodiscard]] CommandResult launch(const std::vector<std::string> &more = {}) const;
     [[nodiscard]] Path target() const { return m_home / (m_kind == Kind::Backup ? "archives" : "out"); }
+    [[nodiscard]] Path sources() const { return m_home / (m_kind == Kind::Backup ? "docs" : "archives"); }
     [[nodiscard]] std::optional<TreeSnapshot> opened(const std::string &prefix) const;
     [[nodiscard]] std::vector<std::string> inClear() const;
     [[nodiscard]] std::vector<std::string> foreignNames() const;
@@ -78,7 +79,6 @@ private:
 
     ProgramHome m_home;
     Kind m_kind;
-    bool m_splits;
     bool m_isMounted = false;
     bool m_isOrdinaryUser = false;
     TreeSnapshot m_former, m_new;     ///< of the folder

@@ -124,30 +124,24 @@ TEST_F(KeychainTest, FindsInternetPasswordsByAllTheirParts)
     const auto item = addInternet(u"host"_s, {}, 70000, ftpAccount);
     ASSERT_TRUE(item && addInternet(u"deep"_s, u"/a b"_s, 21, ftp));
     EXPECT_FALSE(addInternet(u"host"_s, u""_s, 70000, ftpAccount)) << "a null path is the empty one";
-    struct Case {
-        QString server;
-        QString path;
-        int port;
-        quint32 protocol;
-        quint32 foundProtocol; ///< 0: not found
-    };
-    for (const Case &c : {
-             Case{u"host"_s, {}, 70000, ftpAccount, ftpAccount},
-             Case{u"host"_s, u""_s, 70000 & 0xFFFF, ftp, ftpAccount},
-             Case{u"host"_s, {}, 21, ftp, 0},
-             Case{u"host"_s, u"/"_s, 70000, ftp, 0},
-             Case{u"deep"_s, u"/a b"_s, 21 + 65536, ftp, ftp},
-             Case{u"deep"_s, {}, 21, ftp, 0},
-             Case{u"deep"_s, u"/a b"_s, 21, ftpAccount, 0},
+    const quint32 none = 0; // is found
+    for (const auto &[server, path, port, protocol, foundProtocol] : {
+             std::tuple{u"host"_s, QString(), 70000, ftpAccount, ftpAccount},
+             {u"host"_s, u""_s, 70000 & 0xFFFF, ftp, ftpAccount},
+             {u"host"_s, {}, 21, ftp, none},
+             {u"host"_s, u"/"_s, 70000, ftp, none},
+             {u"deep"_s, u"/a b"_s, 21 + 65536, ftp, ftp},
+             {u"deep"_s, {}, 21, ftp, none},
+             {u"deep"_s, u"/a b"_s, 21, ftpAccount, none},
          }) {
-        SCOPED_TRACE(testing::Message() << c.server.toStdString() << ' ' << c.port << ' ' << c.protocol);
-        const auto found = findInternet(c.server, c.path, c.port, c.protocol);
-        ASSERT_EQ(found != nullptr, c.foundProtocol != 0);
+        SCOPED_TRACE(testing::Message() << server.toStdString() << ' ' << port << ' ' << protocol);
+        const auto found = findInternet(server, path, port, protocol);
+        ASSERT_EQ(found != nullptr, foundProtocol != none);
         if (!found) continue;
-        EXPECT_EQ(found->protocol(), c.foundProtocol);
-        EXPECT_EQ(found->port(), c.port);
-        EXPECT_EQ(found->path().isNull(), c.path.isNull());
-        EXPECT_EQ(found->password(), u"of "_s + c.server);
+        EXPECT_EQ(found->protocol(), foundProtocol);
+        EXPECT_EQ(found->port(), port);
+        EXPECT_EQ(found->path().isNull(), path.isNull());
+        EXPECT_EQ(found->password(), u"of "_s + server);
     }
     item->setServer(u"server"_s);
     item->setPath(u"/path"_s);
@@ -231,32 +225,25 @@ TEST_F(KeychainTest, RefusesWhatNoItemHasAndSaysWhy)
 
 TEST_F(KeychainTest, SaysInWhichStateTheServiceIs)
 {
-    struct Case {
-        std::string name;
-        std::function<void()> enter;
-        Status find;
-        Status add;
-        Status unlock;
-    };
-    const std::string bus = session.environment().at("DBUS_SESSION_BUS_ADDRESS");
+    using Enter = std::function<void()>;
+    const std::string bus = getenv("DBUS_SESSION_BUS_ADDRESS");
     const Status noService = Status::NoService;
     const Status noKeyring = Status::NoDefaultKeychain;
-    for (const Case &c : {
-             Case{"no service", [&] { session.stop(); }, noService, noService, noService},
-             Case{"no keyring", [&] { session.start(Keyring::None); }, noKeyring, noKeyring, noKeyring},
-             Case{"unlocked", [&] { session.start(); }, Status::ItemNotFound, Status::Success,
-                  Status::Success},
-             Case{"locked", [&] { session.start(Keyring::Locked); }, Status::Locked, Status::Locked,
-                  Status::UnlockDeclined},
-             Case{"again", [&] { session.start(); }, Status::Success, Status::DuplicateItem, Status::Success},
-             Case{"no bus", [] { setenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere/bus", 1); },
-                  noService, noService, noService},
+    for (const auto &[name, enter, find, add, unlock] : {
+             std::tuple{"no service", Enter([&] { session.stop(); }), noService, noService, noService},
+             {"no keyring", [&] { session.start(Keyring::None); }, noKeyring, noKeyring, noKeyring},
+             {"unlocked", [&] { session.start(); }, Status::ItemNotFound, Status::Success, Status::Success},
+             {"locked", [&] { session.start(Keyring::Locked); }, Status::Locked, Status::Locked,
+              Status::UnlockDeclined},
+             {"again", [&] { session.start(); }, Status::Success, Status::DuplicateItem, Status::Success},
+             {"no bus", [] { setenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere/bus", 1); }, noService,
+              noService, noService},
          }) {
-        SCOPED_TRACE(c.name);
-        c.enter();
-        EXPECT_EQ(statusOf(u"alice"_s), c.find);
-        EXPECT_EQ(statusOfAdding(u"alice"_s), c.add);
-        EXPECT_EQ(keychain()->unlock(), c.unlock);
+        SCOPED_TRACE(name);
+        enter();
+        EXPECT_EQ(statusOf(u"alice"_s), find);
+        EXPECT_EQ(statusOfAdding(u"alice"_s), add);
+        EXPECT_EQ(keychain()->unlock(), unlock);
     }
     setenv("DBUS_SESSION_BUS_ADDRESS", bus.c_str(), 1);
 }

@@ -3,9 +3,6 @@
 #include "keychain/EMGenericKeychainItem.h"
 #include "keychain/Keychain.h"
 #include "keys/Strength.h"
-#include "tools/Threads.h"
-
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -43,11 +40,7 @@ TEST_F(PasswordActions, EachSourceHasItsText)
     delegate.secureText01b.setText(u"typed, clear"_s);
     delegate.keychainPass.setText(u"keychain, masked"_s);
     delegate.keychainClear.setText(u"keychain, clear"_s);
-    struct Case {
-        int source;
-        bool isMasked;
-        QString password;
-    };
+    using Case = std::tuple<int, bool, QString>;
     for (const auto &[source, isMasked, password] :
          {Case{-1, true, u"typed, masked"_s}, Case{0, true, u"typed, masked"_s},
           Case{0, false, u"typed, clear"_s}, Case{1, true, u"keychain, masked"_s},
@@ -137,17 +130,13 @@ TEST_F(PasswordActions, SaysWhatIsTheMatterWithTheKeychain)
 // What is of no use neither takes the place of what is there, nor is it called fetched or stored.
 TEST_F(PasswordActions, RefusesWhatNoArchiveCanBeEncryptedWith)
 {
-    struct Case {
-        QByteArray secret;
-        QString words;
-        bool isFetched; ///< into the field, so that it is seen
-        bool isStored;
-    };
-    for (const auto &[secret, words, isFetched, isStored] :
-         {Case{"fjord", u"was fetched"_s, true, true}, Case{"", u"No password is given"_s, true, true},
-          Case{QByteArray("a\0b", 3), u"zero byte"_s, false, false},
-          Case{"a\nb", u"line break"_s, false, false}, Case{QByteArray(1024, 'x'), u"1023"_s, false, false},
-          Case{"\xff", u"no text"_s, false, true}}) {
+    for (const auto &[secret, words, isShown, isStored] :
+         {std::tuple{QByteArray("fjord"), u"was fetched"_s, true, true},
+          {"", u"No password is given"_s, true, true},
+          {QByteArray("a\0b", 3), u"zero byte"_s, false, false},
+          {"a\nb", u"line break"_s, false, false},
+          {QByteArray(1024, 'x'), u"1023"_s, false, false},
+          {"\xff", u"no text"_s, false, true}}) {
         SCOPED_TRACE(words.toStdString());
         const QString account = u"account of "_s + words;
         ASSERT_EQ(keychain()->addGenericPassword({service.toUtf8(), account.toUtf8()}, Secret(secret)).status,
@@ -157,10 +146,8 @@ TEST_F(PasswordActions, RefusesWhatNoArchiveCanBeEncryptedWith)
         delegate.keychainUser.setText(account);
         const QString answer = answerTo(fetching);
         EXPECT_TRUE(answer.contains(words)) << qPrintable(answer);
-        EXPECT_EQ(delegate.keychainPass.text(), isFetched ? QString::fromUtf8(secret) : u"former"_s);
-        EXPECT_EQ(delegate.keychainOrigin.text(), !isFetched         ? u"other"_s
-                                                  : secret.isEmpty() ? u""_s
-                                                                     : account);
+        EXPECT_EQ(delegate.keychainPass.text(), isShown ? QString::fromUtf8(secret) : u"former"_s);
+        EXPECT_EQ(delegate.keychainOrigin.text(), !isShown ? u"other"_s : secret.isEmpty() ? u""_s : account);
 
         delegate.keychainUser.setText(account + u'2');
         delegate.keychainPass.setText(QString::fromUtf8(secret));

@@ -42,82 +42,68 @@ Dictionary parsed(const std::string &words)
 
 TEST(MergeData, AddsWhatIsMissing)
 {
-    struct Merge {
-        const char *type;
-        const char *user;
-        const char *newDict;
-        const char *expected;
-    };
-    for (const Merge &merge : {
-             Merge{"config", "b=user", "a=new b=new", "b=user a=new"},
-             Merge{"config", "version=1", "version=2", "version=2"},
-             Merge{"config", "", "version=2 a=", "a="},
-             Merge{"config", "l[ x ]", "l[ a b ]", "l[ x l l ]"},
-             Merge{"config", "version=1 l[ a l ]", "l[ a b c ]", "version=2 l[ a l l l ]"},
-             Merge{"config", "l[ ]", "l[ a l ]", "l[ l ]"},
-             Merge{"config", "t{ a=user }", "t{ a=1 b=2 }", "t{ a=user t{ a=1 b=2 } }"},
-             Merge{"config", "t{ b=own a=user } l[ a b ]", "t{ a=1 } l[ b a ]", "t{ b=own a=user } l[ a b ]"},
-             Merge{"config", "l= t=", "l[ a ] t{ a= }", "l= t="},
-             Merge{"Config", "version=1", "version=2 a=", "version=1"}, // no type that is known
-             Merge{"profile", "P{ part=5 } Q{ }", "Default_profile{ part=1 path= n# }",
-                   "P{ part=5 path= } Q{ part=1 path= }"},
-             Merge{"profile", "P{ l[ a ] } Q{ }", "Default_profile{ l[ b ] }", "P{ l[ a l ] } Q{ l[ b ] }"},
-             Merge{"profile", "P{ t{ } } Q{ }", "Default_profile{ t{ a=1 } }", "P{ t{ } } Q{ t{ a=1 } }"},
-             Merge{"profile", "P{ t{ } }", "Default_profile{ t{ a=1 } } t{ b=2 }", "P{ t{ t{ b=2 } } }"},
-             Merge{"profile", "version=1", "Default_profile{ part=1 }", "version=1"},
+    for (const auto &[type, user, newDict, expected] : {
+             std::tuple{"config", "b=user", "a=new b=new", "b=user a=new"},
+             {"config", "version=1", "version=2", "version=2"},
+             {"config", "", "version=2 a=", "a="},
+             {"config", "l[ x ]", "l[ a b ]", "l[ x l l ]"},
+             {"config", "version=1 l[ a l ]", "l[ a b c ]", "version=2 l[ a l l l ]"},
+             {"config", "l[ ]", "l[ a l ]", "l[ l ]"},
+             {"config", "t{ a=user }", "t{ a=1 b=2 }", "t{ a=user t{ a=1 b=2 } }"},
+             {"config", "t{ b=own a=user } l[ a b ]", "t{ a=1 } l[ b a ]", "t{ b=own a=user } l[ a b ]"},
+             {"config", "l= t=", "l[ a ] t{ a= }", "l= t="},
+             {"Config", "version=1", "version=2 a=", "version=1"}, // no type that is known
+             {"profile", "P{ part=5 } Q{ }", "Default_profile{ part=1 path= n# }",
+              "P{ part=5 path= } Q{ part=1 path= }"},
+             {"profile", "P{ l[ a ] } Q{ }", "Default_profile{ l[ b ] }", "P{ l[ a l ] } Q{ l[ b ] }"},
+             {"profile", "P{ t{ } } Q{ }", "Default_profile{ t{ a=1 } }", "P{ t{ } } Q{ t{ a=1 } }"},
+             {"profile", "P{ t{ } }", "Default_profile{ t{ a=1 } } t{ b=2 }", "P{ t{ t{ b=2 } } }"},
+             {"profile", "version=1", "Default_profile{ part=1 }", "version=1"},
          }) {
-        SCOPED_TRACE(std::string(merge.user) + " and " + merge.newDict);
-        const Dictionary user = parsed(merge.user);
-        const Dictionary merged = quillorentLibrary::mergeData(user, parsed(merge.newDict), u"2"_s,
-                                                               QString::fromLatin1(merge.type));
-        EXPECT_TRUE(merged.isSameObject(user));
-        EXPECT_EQ(merged, parsed(merge.expected));
-        EXPECT_EQ(merged.keys(), parsed(merge.expected).keys());
+        SCOPED_TRACE(std::string(user) + " and " + newDict);
+        const Dictionary content = parsed(user);
+        const Dictionary merged =
+            quillorentLibrary::mergeData(content, parsed(newDict), u"2"_s, QString::fromLatin1(type));
+        EXPECT_TRUE(merged.isSameObject(content));
+        EXPECT_EQ(merged, parsed(expected));
+        EXPECT_EQ(merged.keys(), parsed(expected).keys());
         // Without a version it comes again at every start.
-        if (merge.type != std::string("config") || user.contains(u"version"_s)) continue;
-        quillorentLibrary::mergeData(user, parsed(merge.newDict), u"2"_s, u"config"_s);
-        EXPECT_EQ(user, parsed(merge.expected));
+        if (type != std::string("config") || content.contains(u"version"_s)) continue;
+        quillorentLibrary::mergeData(content, parsed(newDict), u"2"_s, u"config"_s);
+        EXPECT_EQ(content, parsed(expected));
     }
 }
 
 TEST(Reconcile, UnitesWhatBothSidesChanged)
 {
-    struct Case {
-        const char *base;
-        const char *mine;
-        const char *theirs;
-        const char *expected;
-        const char *conflicts; ///< mine goes first in them
-        const char *takenOver;
-    };
-    for (const Case &c : {
-             Case{"A=1 B=1", "A=2 B=1", "A=1 B=2", "A=2 B=2", "", "B"},
-             Case{"A=1 B=1", "A=1", "A=1 B=1 C=1", "A=1 C=1", "", "C"},
-             Case{"A=1 B=1 C=1", "A=2 B=1 C=1", "A=1", "A=2", "", "B C"},
-             Case{"A=1", "A=2", "A=2", "A=2", "", ""},
-             Case{"A=1 B=1", "A=2 B=1", "A=3 B=2", "A=2 B=2", "A", "B"},
-             Case{"A=1 B=1", "A=2", "B=2", "A=2", "A B", ""},
-             Case{"", "A=1", "A=2", "A=1", "A", ""},
-             Case{"t{ a=1 b=1 }", "t{ a=2 b=1 }", "t{ a=1 b=2 }", "t{ a=2 b=2 }", "", "t/b"},
-             Case{"t{ a=1 }", "t{ a=2 }", "t{ a=3 c=1 }", "t{ a=2 c=1 }", "t/a", "t/c"},
-             Case{"t{ u{ a=1 b=1 } }", "t{ u{ a=2 b=1 } }", "t{ u{ a=1 b=2 } }", "t{ u{ a=2 b=1 } }", "t/u",
-                  ""},
-             Case{"t{ a=1 }", "t{ a=1 }", "t=1", "t=1", "", "t"},
+    // In conflicts, mine goes first.
+    for (const auto &[base, here, there, expected, conflicts, takenOver] : {
+             std::tuple{"A=1 B=1", "A=2 B=1", "A=1 B=2", "A=2 B=2", "", "B"},
+             {"A=1 B=1", "A=1", "A=1 B=1 C=1", "A=1 C=1", "", "C"},
+             {"A=1 B=1 C=1", "A=2 B=1 C=1", "A=1", "A=2", "", "B C"},
+             {"A=1", "A=2", "A=2", "A=2", "", ""},
+             {"A=1 B=1", "A=2 B=1", "A=3 B=2", "A=2 B=2", "A", "B"},
+             {"A=1 B=1", "A=2", "B=2", "A=2", "A B", ""},
+             {"", "A=1", "A=2", "A=1", "A", ""},
+             {"t{ a=1 b=1 }", "t{ a=2 b=1 }", "t{ a=1 b=2 }", "t{ a=2 b=2 }", "", "t/b"},
+             {"t{ a=1 }", "t{ a=2 }", "t{ a=3 c=1 }", "t{ a=2 c=1 }", "t/a", "t/c"},
+             {"t{ u{ a=1 b=1 } }", "t{ u{ a=2 b=1 } }", "t{ u{ a=1 b=2 } }", "t{ u{ a=2 b=1 } }", "t/u", ""},
+             {"t{ a=1 }", "t{ a=1 }", "t=1", "t=1", "", "t"},
          }) {
-        SCOPED_TRACE(std::string(c.mine) + " and " + c.theirs);
+        SCOPED_TRACE(std::string(here) + " and " + there);
         using namespace quillorentLibrary;
-        const Dictionary mine = parsed(c.mine);
-        const Reconciled all = reconcile(parsed(c.base), mine, parsed(c.theirs), 2, Prefer::Mine);
-        EXPECT_EQ(all.content, parsed(c.expected));
-        EXPECT_EQ(all.conflicts.join(u' ').toStdString(), c.conflicts);
-        EXPECT_EQ(all.takenOver.join(u' ').toStdString(), c.takenOver);
-        EXPECT_EQ(mine, parsed(c.mine));
-        const Reconciled theirs = reconcile(parsed(c.base), mine, parsed(c.theirs), 2, Prefer::Theirs);
+        const Dictionary mine = parsed(here);
+        const Reconciled all = reconcile(parsed(base), mine, parsed(there), 2, Prefer::Mine);
+        EXPECT_EQ(all.content, parsed(expected));
+        EXPECT_EQ(all.conflicts.join(u' ').toStdString(), conflicts);
+        EXPECT_EQ(all.takenOver.join(u' ').toStdString(), takenOver);
+        EXPECT_EQ(mine, parsed(here));
+        const Reconciled theirs = reconcile(parsed(base), mine, parsed(there), 2, Prefer::Theirs);
         EXPECT_EQ(theirs.content == all.content, all.conflicts.isEmpty());
 
         // What was changed here meanwhile stays.
         mine.setValue(u"meanwhile"_s, 1);
-        takeOver(mine, parsed(c.mine), all.content, 2);
+        takeOver(mine, parsed(here), all.content, 2);
         all.content.setValue(u"meanwhile"_s, 1);
         EXPECT_EQ(mine, all.content);
     }

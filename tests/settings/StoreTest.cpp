@@ -3,6 +3,7 @@
 #include "plist/Value.h"
 #include "settings/UserFile.h"
 
+#include "Command.h"
 #include "TemporaryFolder.h"
 
 #include <future>
@@ -38,9 +39,7 @@ public:
     explicit OrdinaryUser(const fs::path &folder)
     {
         if (getuid() != 0) return;
-        EXPECT_EQ(lchown(folder.c_str(), nobody, nobody), 0);
-        for (const auto &entry : fs::recursive_directory_iterator(folder))
-            EXPECT_EQ(lchown(entry.path().c_str(), nobody, nobody), 0);
+        EXPECT_EQ(runCommand({"chown", "-hR", std::to_string(nobody), folder}).status, 0);
         EXPECT_EQ(setresuid(nobody, nobody, 0), 0);
     }
     ~OrdinaryUser() { EXPECT_EQ(setresuid(m_before, m_before, m_before), 0); }
@@ -62,13 +61,6 @@ protected:
         writeFile(templates / "profiles.plist",
                   document("<key>Default profile</key><dict>" + newKey + "</dict>"));
         static_cast<void>(takeNotices()); // of other tests
-    }
-    ~Store() override
-    {
-        setResourceFolder({});
-        qunsetenv("XDG_CONFIG_HOME");
-        fs::permissions(folder.path(), fs::perms::owner_all);
-        if (fs::exists(config)) fs::permissions(config, fs::perms::owner_all);
     }
 
     TemporaryFolder folder;

@@ -9,11 +9,9 @@ struct Credentials {
     std::filesystem::path key;
 };
 
-enum class Validity { TwoYears, FiveDays, EndedIn2021 };
-
-/// Makes `<name>.pem` and `<name>-key.pem` in the folder: RSA, self-signed, for "CN=<name>".
-Credentials makeCredentials(const std::filesystem::path &folder, const std::string &name,
-                            Validity validity = Validity::TwoYears);
+/// Makes `<name>.pem` and `<name>-key.pem` in the folder: RSA, self-signed, for "CN=<name>", valid for so
+/// many days; -1: it ended yesterday.
+Credentials makeCredentials(const std::filesystem::path &folder, const std::string &name, int days = 730);
 
 /// Runs the OpenSSL tool on words without spaces, in the folder; throws where it fails.
 void runOpenSsl(const std::filesystem::path &folder, const std::string &words);

@@ -34,12 +34,3 @@ void inParallel(std::size_t count, Make make, Work work)
     for (std::thread &thread : threads)
         thread.join();
 }
-
-/// The same for rows that share nothing.
-template <class Rows, class Work>
-void forEachInParallel(const Rows &rows, Work work)
-{
-    inParallel(
-        rows.size(), [] { return std::make_unique<char>(); },
-        [&](char, std::size_t row) { work(rows[row]); });
-}

@@ -3,6 +3,8 @@
 #include "Credentials.h"
 
 #include <algorithm>
+#include <fstream>
+#include <sstream>
 #include <stdexcept>
 #include <unistd.h>
 
@@ -104,12 +106,8 @@ void ProgramHome::becomeOrdinaryUser()
 {
     if (geteuid() != 0) return;
     writeProfile();
-    const auto give = [](const fs::path &path) {
-        if (lchown(path.c_str(), 65534, 65534) != 0) throw std::runtime_error("can't give " + path.string());
-    };
-    give(path());
-    for (const auto &entry : fs::recursive_directory_iterator(path()))
-        give(entry.path());
+    const CommandResult given = runCommand({"chown", "-hR", "65534:65534", path()});
+    if (given.status != 0) throw std::runtime_error(given.errors);
     launcher = {"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups", "--"};
 }
 
@@ -133,17 +131,13 @@ std::vector<int> ProgramHome::processes() const
 {
     std::vector<int> found;
     for (const auto &entry : fs::directory_iterator("/proc")) {
-        const std::string name = entry.path().filename().string();
-        if (name.find_first_not_of("0123456789") != std::string::npos) continue;
         // What is given a password wipes its arguments, and may hide its environment.
         const auto isOurs = [&](const char *file) {
-            try {
-                return contains(readFile(entry.path() / file), path().string());
-            } catch (const std::exception &) { // it ended in the meantime
-                return false;
-            }
+            std::ostringstream bytes; // none, where it ended in the meantime
+            bytes << std::ifstream(entry.path() / file).rdbuf();
+            return contains(bytes.str(), path().string());
         };
-        if (isOurs("cmdline") || isOurs("environ")) found.push_back(std::stoi(name));
+        if (isOurs("cmdline") || isOurs("environ")) found.push_back(std::stoi(entry.path().filename()));
     }
     return found;
 }

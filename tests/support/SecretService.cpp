@@ -44,20 +44,8 @@ SecretService::SecretService()
     writeFile(m_folder / "bus.conf", busConfiguration(m_folder / "bus"));
     m_bus = run({"dbus-daemon", "--nofork", "--config-file=" + (m_folder / "bus.conf").string()});
     waitUntil("the bus", [this] { return fs::exists(m_folder / "bus"); });
-
-    for (const std::string &bus : {address, machineAddress}) {
-        if (const char *own = getenv(bus.c_str())) m_replaced[bus] = own;
-        setenv(bus.c_str(), m_environment[bus].c_str(), 1);
-    }
-}
-
-SecretService::~SecretService()
-{
     for (const std::string &bus : {address, machineAddress})
-        if (m_replaced.contains(bus))
-            setenv(bus.c_str(), m_replaced[bus].c_str(), 1);
-        else
-            unsetenv(bus.c_str());
+        setenv(bus.c_str(), m_environment[bus].c_str(), 1);
 }
 
 std::unique_ptr<BackgroundProgram> SecretService::run(const std::vector<std::string> &arguments,
@@ -69,14 +57,17 @@ std::unique_ptr<BackgroundProgram> SecretService::run(const std::vector<std::str
 
 void SecretService::start(Keyring keyring)
 {
-    stop();
     const fs::path keyrings = m_folder / "data/keyrings";
+    if (keyring == Keyring::Locked && !fs::exists(keyrings)) start();
+    stop();
+    waitUntil("the end of the service", [&] { return !has(secrets); });
     if (keyring == Keyring::None) fs::remove_all(keyrings);
-    if (keyring == Keyring::Locked && !fs::exists(keyrings)) start(Keyring::Unlocked);
-    if (keyring == Keyring::Unlocked)
-        launch({"--unlock"}, "the keyring's password");
-    else
-        launch({}, {});
+
+    std::vector<std::string> arguments{"gnome-keyring-daemon", "--foreground", "--components=secrets",
+                                       "--control-directory=" + (m_folder / "control").string()};
+    if (keyring == Keyring::Unlocked) arguments.emplace_back("--unlock");
+    m_daemon = run(arguments, "the keyring's password");
+    waitUntil("the service", [&] { return has(secrets); });
 }
 
 void SecretService::stop() { m_daemon.reset(); }
@@ -84,18 +75,6 @@ void SecretService::stop() { m_daemon.reset(); }
 void SecretService::freeze() const { m_daemon->signal(SIGSTOP); }
 
 void SecretService::thaw() const { m_daemon->signal(SIGCONT); }
-
-void SecretService::launch(const std::vector<std::string> &more, const std::string &input)
-{
-    stop();
-    waitUntil("the end of the service", [&] { return !has(secrets); });
-
-    std::vector<std::string> arguments{"gnome-keyring-daemon", "--foreground", "--components=secrets",
-                                       "--control-directory=" + (m_folder / "control").string()};
-    arguments.insert(arguments.end(), more.begin(), more.end());
-    m_daemon = run(arguments, input);
-    waitUntil("the service", [&] { return has(secrets); });
-}
 
 bool SecretService::has(const std::string &name) const
 {

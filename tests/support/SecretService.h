@@ -8,17 +8,16 @@
 #include <string>
 #include <vector>
 
-/// A D-Bus session with a real Secret Service (gnome-keyring) in a home of its own. While it lives, the
-/// test's own process and what it starts find this session and no other; it is the machine's bus, too. Nobody
-/// can be asked for a password here. Make and use it on the main thread: its processes end with the thread
-/// that made them.
+/// A D-Bus session with a real Secret Service (gnome-keyring) in a home of its own. From now on, the test's
+/// own process and what it starts find this session and no other; it is the machine's bus, too. Nobody can be
+/// asked for a password here. Make and use it on the main thread: its processes end with the thread that made
+/// them.
 class SecretService {
 public:
     enum class Keyring { Unlocked, Locked, None };
 
     /// The session's bus alone; nothing answers as the Secret Service.
     SecretService();
-    ~SecretService();
     SecretService(const SecretService &) = delete;
     SecretService &operator=(const SecretService &) = delete;
 
@@ -30,9 +29,6 @@ public:
     void freeze() const; ///< it takes calls and does not answer them
     void thaw() const;   ///< it answers what has come in the meantime
 
-    /// For processes that shall see this session.
-    [[nodiscard]] const std::map<std::string, std::string> &environment() const { return m_environment; }
-
     /// Another service of the session, which is the machine's, too: returns when it has its name.
     [[nodiscard]] std::unique_ptr<BackgroundProgram> serve(const std::string &name,
                                                            const std::vector<std::string> &arguments) const;
@@ -43,11 +39,9 @@ private:
     [[nodiscard]] std::unique_ptr<BackgroundProgram> run(const std::vector<std::string> &arguments,
                                                          const std::string &input = {}) const;
     [[nodiscard]] bool has(const std::string &name) const;
-    void launch(const std::vector<std::string> &more, const std::string &input);
 
     TemporaryFolder m_folder;
     std::map<std::string, std::string> m_environment;
-    std::map<std::string, std::string> m_replaced; ///< of the test's own environment
     std::unique_ptr<BackgroundProgram> m_bus;
     std::unique_ptr<BackgroundProgram> m_daemon;
 };

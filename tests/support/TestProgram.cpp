@@ -1,16 +1,16 @@
 #include "TestProgram.h"
 
+#include "Stub.h"
+
 #include "app/Translations.h"
 #include "keychain/Keychain.h"
 #include "runs/Pauses.h"
 #include "settings/Paths.h"
-#include "tools/Threads.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QThread>
 
-using namespace std::chrono_literals;
 namespace fs = std::filesystem;
 
 QString toQString(const fs::path &path) { return QString::fromStdString(path.string()); }
@@ -53,7 +53,7 @@ QString TestProgram::path(const std::string &name) const { return toQString(m_fo
 void TestProgram::setUpBackup(const QStringList &folders, const QString &password)
 {
     m_delegate->addFolders(folders);
-    m_delegate->openPanel = [this](const outlets::OpenPanel &) { return QStringList{path("archives")}; };
+    choose(path("archives"));
     m_delegate->fileButton01Action();
     m_delegate->passCombo01.selectIndex(PasswordTab::TypedPassword);
     m_delegate->secureText01a.setText(password);
@@ -63,6 +63,16 @@ void TestProgram::setUpBackup(const QStringList &folders, const QString &passwor
 void TestProgram::useTool(const QString &name, const fs::path &executable)
 {
     m_delegate->configPlist().dictionary(QStringLiteral("external")).setValue(name, toQString(executable));
+}
+
+void TestProgram::useStub(const QString &name, const std::string &behaviour)
+{
+    useTool(name, Stub(m_folder.path(), name.toLower().toStdString(), behaviour).path());
+}
+
+void TestProgram::choose(const QString &path)
+{
+    m_delegate->openPanel = [path](const outlets::OpenPanel &) { return QStringList{path}; };
 }
 
 void TestProgram::backUp()

@@ -3,12 +3,14 @@
 #include "TemporaryFolder.h"
 
 #include "app/QuillorentAppDelegate.h"
+#include "tools/Threads.h"
 
 #include <filesystem>
 #include <functional>
 #include <memory>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 /// The whole program but its front end, in a home of its own, with the settings that a new user gets and
 /// short pauses. Its companions are those of the build tree. One at a time.
@@ -28,6 +30,10 @@ public:
     /// password.
     void setUpBackup(const QStringList &folders, const QString &password = QStringLiteral("correct horse"));
     void useTool(const QString &name, const std::filesystem::path &executable);
+    /// Puts a stub in place of the tool, "RAR", "OpenSSL" or "RSync".
+    void useStub(const QString &name, const std::string &behaviour);
+    /// From now on, who asks for files or a folder is given this one.
+    void choose(const QString &path);
 
     /// Starts a backup, whatever the destination holds, and waits for its end.
     void backUp();

@@ -9,8 +9,6 @@
 #include <sstream>
 #include <sys/stat.h>
 #include <system_error>
-#include <unistd.h>
-#include <vector>
 
 namespace fs = std::filesystem;
 
@@ -70,11 +68,6 @@ void setTime(const fs::path &path, std::int64_t seconds, std::int64_t nanosecond
     if (utimensat(AT_FDCWD, path.c_str(), times, AT_SYMLINK_NOFOLLOW) != 0) fail(path);
 }
 
-void setMode(const fs::path &path, mode_t mode)
-{
-    if (chmod(path.c_str(), mode) != 0) fail(path);
-}
-
 void makeOddNames(const fs::path &folder)
 {
     // Between the slashes; the last line has characters beyond ASCII, bytes that are no UTF-8, and characters
@@ -126,8 +119,6 @@ void makeSampleTree(const fs::path &folder)
 {
     makeOddNames(folder / "names");
     fs::create_directories(folder / "empty");
-    fs::create_directories(folder / "deep" / "er" / "still deeper" / "-" / "*");
-    fs::create_directories(folder / "caf\xE9" / "sub");
     writeFile(folder / "caf\xE9" / "sub" / "file", "below a name that is not UTF-8\n");
     writeFile(folder / "deep" / "er" / "still deeper" / "-" / "*" / "bottom", "far below\n");
     writeFile(folder / "empty.bin", "");
@@ -143,23 +134,22 @@ void makeSampleTree(const fs::path &folder)
     fs::create_symlink("nowhere/at all", folder / "dangling link");
     fs::create_symlink("names/latin1 caf\xE9", folder / "link to latin1");
 
-    const std::vector<std::pair<std::string, mode_t>> modes = {
-        {"private", 0600}, {"program", 0755}, {"read only", 0444}, {"everyone", 0777}};
-    for (const auto &[name, mode] : modes) {
+    for (const auto &[name, mode] :
+         {std::pair{"private", 0600}, {"program", 0755}, {"read only", 0444}, {"everyone", 0777}}) {
         writeFile(folder / "modes" / name, name);
-        setMode(folder / "modes" / name, mode);
+        fs::permissions(folder / "modes" / name, fs::perms(mode));
     }
     writeFile(folder / "read only folder" / "inside", "the folder can't be written to");
-    setMode(folder / "read only folder" / "inside", 0400);
+    fs::permissions(folder / "read only folder" / "inside", fs::perms(0400));
 
     setTime(folder / "one byte", 31'536'000, 1);                       // 1971
     setTime(folder / "names" / "plain.txt", 946'684'799, 999'999'999); // the end of 1999
     setTime(folder / "zeros.bin", 4'102'444'800, 500'000'000);         // 2100
     setTime(folder / "dangling link", 1'000'000'000, 123'456'789);
     setTime(folder / "empty", 1'200'000'000, 42);
-    setMode(folder / "empty", 0700);
-    setMode(folder / "modes", 01777);
-    setMode(folder / "read only folder", 0555);
+    fs::permissions(folder / "empty", fs::perms(0700));
+    fs::permissions(folder / "modes", fs::perms(01777));
+    fs::permissions(folder / "read only folder", fs::perms(0555));
     setTime(folder, 1'400'000'000, 44);
 }
 

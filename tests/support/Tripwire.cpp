@@ -29,11 +29,11 @@
 #include <cstdlib>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <sstream>
 #include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <vector>
 
 namespace {
 
@@ -45,18 +45,6 @@ struct Plan {
 };
 
 Plan *plan = nullptr; // stays for the whole process: it is looked at until the last moment
-
-std::vector<std::string> linesOf(const char *text)
-{
-    std::vector<std::string> lines(1);
-    for (; *text; ++text)
-        if (*text == '\n')
-            lines.emplace_back();
-        else
-            lines.back() += *text;
-    lines.resize(6);
-    return lines;
-}
 
 void limitFiles(const std::string &bytes, void (*onSignal)(int))
 {
@@ -154,7 +142,10 @@ __attribute__((constructor)) void begin(int argc, char **argv)
     const char *text = getenv("QUILLORENT_TRIPWIRE");
     std::array<char, 4096> self{};
     if (!text || readlink("/proc/self/exe", self.data(), self.size() - 1) < 0) return;
-    const std::vector<std::string> lines = linesOf(text);
+    std::array<std::string, 6> lines;
+    std::istringstream stream(text);
+    for (std::string &line : lines)
+        std::getline(stream, line);
     if (lines[0] != self.data()) return;
     for (int i = 1; i < argc; ++i)
         if (lines[1] == argv[i]) plan = new Plan{lines[2], lines[3], lines[4], lines[5]};
@@ -167,34 +158,22 @@ __attribute__((destructor)) void end() { actAt("end"); }
 
 extern "C" {
 // NOLINTBEGIN: the C library's own names
-int rename(const char *a, const char *b) noexcept
-{
-    return note("named", AT_FDCWD, a, AT_SYMLINK_NOFOLLOW, b), passOn("rename", a, b);
-}
-int renameat(int a, const char *b, int c, const char *d) noexcept
-{
-    return note("named", a, b, AT_SYMLINK_NOFOLLOW, pathOf(c, d)), passOn("renameat", a, b, c, d);
-}
 int renameat2(int a, const char *b, int c, const char *d, unsigned e) noexcept
 {
     return note("named", a, b, AT_SYMLINK_NOFOLLOW, pathOf(c, d)), passOn("renameat2", a, b, c, d, e);
 }
-int link(const char *a, const char *b) noexcept
-{
-    return note("named", AT_FDCWD, a, 0, b), passOn("link", a, b);
-}
+int renameat(int a, const char *b, int c, const char *d) noexcept { return renameat2(a, b, c, d, 0); }
+int rename(const char *a, const char *b) noexcept { return renameat2(AT_FDCWD, a, AT_FDCWD, b, 0); }
 int linkat(int a, const char *b, int c, const char *d, int e) noexcept
 {
     return note("named", a, b, e & AT_EMPTY_PATH, pathOf(c, d)), passOn("linkat", a, b, c, d, e);
 }
-int unlink(const char *a) noexcept
-{
-    return note("gone", AT_FDCWD, a, AT_SYMLINK_NOFOLLOW), passOn("unlink", a);
-}
+int link(const char *a, const char *b) noexcept { return linkat(AT_FDCWD, a, AT_FDCWD, b, 0); }
 int unlinkat(int a, const char *b, int c) noexcept
 {
     return note("gone", a, b, AT_SYMLINK_NOFOLLOW), passOn("unlinkat", a, b, c);
 }
+int unlink(const char *a) noexcept { return unlinkat(AT_FDCWD, a, 0); }
 int remove(const char *a) noexcept
 {
     return note("gone", AT_FDCWD, a, AT_SYMLINK_NOFOLLOW), passOn("remove", a);

@@ -2,19 +2,14 @@
 
 #include "Command.h"
 #include "SecretService.h"
-#include "Stub.h"
 #include "Tree.h"
 
 #include "tools/ToolRun.h"
 #include "ui/widgets/RunBar.h"
 #include "ui/widgets/TextArea.h"
 
-#include <QApplication>
 #include <QDir>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -29,37 +24,24 @@ protected:
     BackupTest()
     {
         writeFile(program.folder() / "docs" / "data", randomBytes(60'000));
-        delegate.openPanel = [this](const outlets::OpenPanel &panel) {
-            return QStringList{program.path(panel.canChooseFiles ? "docs" : "archives")};
-        };
+        program.choose(program.path("docs"));
         click(u"folderButton01"_s);
+        program.choose(program.path("archives"));
         click(u"fileButton01"_s);
-        showTab(u"passwordsPage"_s);
         type(u"correct horse"_s, u"correct horse"_s);
     }
 
     void type(const QString &password, const QString &repetition)
     {
         showTab(u"passwordsPage"_s);
-        for (const auto &[name, text] :
-             {std::pair{u"secureText01a"_s, password}, {u"secureText02"_s, repetition}}) {
-            widget<QLineEdit>(name).selectAll();
-            QTest::keyClick(&widget(name), Qt::Key_Delete);
-            QTest::keyClicks(&widget(name), text);
-        }
-        settle();
+        fill(u"secureText01a"_s, password);
+        fill(u"secureText02"_s, repetition);
         showTab(u"foldersPage"_s);
     }
 
     QStringList archives() const
     {
         return QDir(program.path("archives")).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-    }
-
-    void waitForEnd()
-    {
-        program.waitForEnd();
-        settle();
     }
 
     QPushButton *button(const QString &title)
@@ -75,10 +57,7 @@ protected:
 
 TEST_F(BackupTest, AWholeBackupByClicks)
 {
-    auto &size = widget<QLineEdit>(u"prefText01"_s);
-    size.selectAll();
-    QTest::keyClicks(&size, u"30 kB"_s);
-
+    fill(u"prefText01"_s, u"30 kB"_s);
     const auto &bar = widget<ui::RunBar>(u"view01progressIndicator01"_s);
     std::vector<int> shown;
     QObject::connect(&bar, &QProgressBar::valueChanged, &bar, [&](int value) { shown.push_back(value); });
@@ -91,20 +70,19 @@ TEST_F(BackupTest, AWholeBackupByClicks)
     EXPECT_FALSE(widget(u"consolePanel01"_s).isVisible()) << delegate.consoleTextView01.text().toStdString();
     const QStringList volumes = archives();
     EXPECT_GE(volumes.size(), 2);
-    EXPECT_TRUE(widget<ui::TextArea>(u"outputText01"_s).text().contains(u"1 of 1"));
-    const auto &protection = widget<QLabel>(u"protectionText"_s);
-    EXPECT_TRUE(waitUntil([&] { return protection.text().contains(u"it opens the archives"); }));
-    EXPECT_TRUE(widget<QLabel>(u"resultHeadline"_s).text().contains(u"· 1 folder · 6"));
+    EXPECT_TRUE(said(u"outputText01"_s).contains(u"1 of 1"));
+    EXPECT_TRUE(says(u"protectionText"_s, u"it opens the archives"_s));
+    EXPECT_TRUE(said(u"resultHeadline"_s).contains(u"· 1 folder · 6"));
     EXPECT_FALSE(widget(u"outputText01"_s).isVisible()) << "said twice";
 
     type(u"correct house"_s, u"correct house"_s);
-    EXPECT_FALSE(protection.text().contains(u"opens"));
-    EXPECT_TRUE(waitUntil([&] { return protection.text().contains(u"does not open the archives"); }));
+    EXPECT_FALSE(said(u"protectionText"_s).contains(u"opens"));
+    EXPECT_TRUE(says(u"protectionText"_s, u"does not open the archives"_s));
     type(u"correct horse"_s, u"correct horse"_s);
 
     // What is to be replaced is asked about first; the question is not answered by closing it.
     clickAndAnswer(u"buttonLaunch01"_s, u"warningPanel03"_s, [this] {
-        EXPECT_EQ(widget<QLineEdit>(u"folderNotEmptyText02"_s).text(), program.path("archives"));
+        EXPECT_EQ(said(u"folderNotEmptyText02"_s), program.path("archives"));
         QTest::keyClick(&widget(u"warningPanel03"_s), Qt::Key_Escape);
     });
     waitForEnd();
@@ -116,7 +94,7 @@ TEST_F(BackupTest, AWholeBackupByClicks)
     type(u"correct horse"_s, u"correct house"_s);
     EXPECT_FALSE(widget(u"repetitionHint"_s).isHidden());
     clickAndAnswer(u"buttonLaunch01"_s, u"concernsPanel01"_s, [this] {
-        EXPECT_TRUE(widget<ui::TextArea>(u"concernsText01"_s).text().contains(u"differ"));
+        EXPECT_TRUE(said(u"concernsText01"_s).contains(u"differ"));
         QTest::keyClick(&widget(u"concernsPanel01"_s), Qt::Key_Escape);
     });
     waitForEnd();
@@ -151,16 +129,14 @@ TEST_F(BackupTest, WhatIsLeftInClearIsShownUntilItIsRemoved)
 {
     const int heightBefore = widget<QTabWidget>(u"mainTabs"_s).height();
     EXPECT_GT(heightBefore, window.centralWidget()->height() - 80 - widget(u"mainTabs"_s).y());
-    const Stub failing(program.folder(), "openssl", "complain no");
-    program.useTool(u"OpenSSL"_s, failing.path());
+    program.useStub(u"OpenSSL"_s, "complain no");
     click(u"buttonLaunch01"_s);
     waitForEnd();
     click(u"consoleCloseButton"_s);
     EXPECT_EQ(archives(), QStringList{u"docs.rar"_s});
-    EXPECT_TRUE(waitUntil(
-        [this] { return widget<ui::TextArea>(u"resultDetails"_s).text().startsWith(u"What failed"); }));
+    EXPECT_TRUE(says(u"resultDetails"_s, u"What failed"_s));
     EXPECT_TRUE(widget(u"clearText01"_s).isVisible());
-    EXPECT_TRUE(widget<ui::TextArea>(u"clearText01"_s).text().contains(program.path("archives/docs.rar")));
+    EXPECT_TRUE(said(u"clearText01"_s).contains(program.path("archives/docs.rar")));
     EXPECT_LT(widget(u"mainTabs"_s).height(), heightBefore);
     click(u"clearRemove01"_s);
     EXPECT_TRUE(waitUntil([this] { return !widget(u"clearText01"_s).isVisible(); }));
@@ -179,19 +155,25 @@ TEST_F(BackupTest, WhoLooksElsewhereIsToldOfTheEnd)
                                       (program.folder() / "dunstrc").string()});
     QStringList opened;
     delegate.openAddress = [&](const QString &address) { opened.append(address); };
+    QWindow other;
+    other.show();
+    const auto comeBack = [&] {
+        window.activateWindow();
+        ASSERT_TRUE(waitUntil([] { return QApplication::activeWindow() != nullptr; }));
+    };
+    const auto backUpUnseen = [&] {
+        clickAndAnswer(u"buttonLaunch01"_s, u"warningPanel03"_s, [this] { click(u"buttonLaunch01b"_s); });
+        ASSERT_TRUE(waitUntil([this] { return widget(u"progressPanel01"_s).isVisible(); }));
+        other.requestActivate();
+        ASSERT_TRUE(waitUntil([] { return !QApplication::activeWindow(); }));
+        waitForEnd();
+    };
     // In front, whoever works with the window sees it there.
-    window.activateWindow();
-    ASSERT_TRUE(waitUntil([] { return QApplication::activeWindow() != nullptr; }));
+    comeBack();
     click(u"buttonLaunch01"_s);
     waitForEnd();
 
-    QWindow other;
-    other.show();
-    clickAndAnswer(u"buttonLaunch01"_s, u"warningPanel03"_s, [this] { click(u"buttonLaunch01b"_s); });
-    ASSERT_TRUE(waitUntil([this] { return widget(u"progressPanel01"_s).isVisible(); }));
-    other.requestActivate();
-    ASSERT_TRUE(waitUntil([] { return !QApplication::activeWindow(); }));
-    waitForEnd();
+    backUpUnseen();
     const auto displayed = [] {
         return QString::fromStdString(runCommand({"dunstctl", "count", "displayed"}).output);
     };
@@ -204,15 +186,9 @@ TEST_F(BackupTest, WhoLooksElsewhereIsToldOfTheEnd)
     EXPECT_NE(history.find("Backed up 1 of 1"), std::string::npos) << history;
 
     // Nor does the console of a failure come between: it would be as if somebody were here.
-    window.activateWindow();
-    ASSERT_TRUE(waitUntil([] { return QApplication::activeWindow() != nullptr; }));
-    const Stub failing(program.folder(), "openssl", "complain no");
-    program.useTool(u"OpenSSL"_s, failing.path());
-    clickAndAnswer(u"buttonLaunch01"_s, u"warningPanel03"_s, [this] { click(u"buttonLaunch01b"_s); });
-    ASSERT_TRUE(waitUntil([this] { return widget(u"progressPanel01"_s).isVisible(); }));
-    other.requestActivate();
-    ASSERT_TRUE(waitUntil([] { return !QApplication::activeWindow(); }));
-    waitForEnd();
+    comeBack();
+    program.useStub(u"OpenSSL"_s, "complain no");
+    backUpUnseen();
     EXPECT_TRUE(waitUntil([this] { return widget(u"consolePanel01"_s).isVisible(); }));
     EXPECT_TRUE(waitUntil([&] { return displayed().startsWith(u"1"); })) << "who is elsewhere is not told";
     EXPECT_EQ(QGuiApplication::focusWindow(), &other);
@@ -220,8 +196,7 @@ TEST_F(BackupTest, WhoLooksElsewhereIsToldOfTheEnd)
 
 TEST_F(BackupTest, StoppingAsks)
 {
-    const Stub hanging(program.folder(), "rar", "hang");
-    program.useTool(u"RAR"_s, hanging.path());
+    program.useStub(u"RAR"_s, "hang");
     click(u"buttonLaunch01"_s);
     ASSERT_TRUE(waitUntil([this] { return widget(u"progressPanel01"_s).isVisible() && toolsRunning() > 0; }));
     for (const QString &answer : {u"&Keep running"_s, QString()}) {

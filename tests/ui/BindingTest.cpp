@@ -4,7 +4,6 @@
 #include "ui/widgets/PanelDialog.h"
 #include "ui/widgets/SpokenSecrets.h"
 
-#include <QLineEdit>
 #include <thread>
 
 namespace {

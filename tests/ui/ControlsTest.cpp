@@ -8,7 +8,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLineEdit>
 #include <array>
 #include <cstring>
 #include <fcntl.h>
@@ -33,8 +32,8 @@ QList<Control> controls()
     return {
         {u"folders"_s, u"listTableView"_s, u"folderButton01"_s, lists, u""_s},
         {u"sync"_s, u"syncTableView"_s, u"syncButton01"_s, lists, u""_s},
-        {u"part"_s, u"prefText01"_s, {}, {u"2500"_s, u"10"_s}, {}}, // enabled by the next one
-        {u"split"_s, u"checkBox04"_s, {}, {u"0"_s, u"1"_s}, u"0"_s},
+        {u"split"_s, u"checkBox04"_s, {}, {u"0"_s, u"1"_s}, u"0"_s}, // enables the next one
+        {u"part"_s, u"prefText01"_s, {}, {u"2500"_s, u"10"_s}, {}},
         {u"keepdate"_s, u"checkBox05"_s, {}, truths, u"0"_s},
         {u"emptydir"_s, u"prefCheck02"_s, {}, truths, u"1"_s},
         {u"compress"_s, u"checkBox06"_s, {}, truths, u"0"_s},
@@ -65,18 +64,6 @@ QList<Control> controls()
     };
 }
 
-/// How many rounds it takes until every two keys had values that differ.
-constexpr int rounds = 5;
-
-/// The value of a control in a round.
-QString valueOf(const Control &control, int round)
-{
-    const QList<Control> all = controls();
-    const auto first =
-        std::find_if(all.begin(), all.end(), [&](const Control &each) { return each.key == control.key; });
-    return control.values[((first - all.begin()) >> round) % control.values.size()];
-}
-
 std::string textsOf(const plist::Dictionary &record)
 {
     QString text;
@@ -98,19 +85,13 @@ protected:
                             isList ? plist::Value(plist::Array::make(text.split(u' '))) : plist::Value(text));
     }
 
-    /// Opens a profile with this record.
-    void open(const plist::Dictionary &record)
-    {
-        delegate.listPlist().setValue(u"opened"_s, record);
-        delegate.setterCurrentProfile(u"opened"_s);
-        settle();
-    }
-    /// Opens a profile in which each control has the value of that round.
-    void open(int round)
+    using WindowTest::open;
+    /// Opens a profile in which those of the key have this value, and all others their first.
+    void open(const QString &key, const QString &value)
     {
         const plist::Dictionary record = plist::Dictionary::make();
         for (const Control &control : controls())
-            put(record, control, valueOf(control, round));
+            put(record, control, control.key == key ? value : control.values.first());
         open(record);
     }
 
@@ -146,9 +127,8 @@ protected:
                 delegate.openPanel = [&](const outlets::OpenPanel &) { return chosen; };
                 QTest::keyClick(&widget(control.button), Qt::Key_Space);
             }
-        } else if (auto *field = qobject_cast<QLineEdit *>(&pressed)) {
-            field->selectAll();
-            QTest::keyClicks(field, qobject_cast<ui::SizeEdit *>(field) ? value + u" kB"_s : value);
+        } else if (qobject_cast<QLineEdit *>(&pressed)) {
+            fill(control.name, qobject_cast<ui::SizeEdit *>(&pressed) ? value + u" kB"_s : value);
         } else if (qobject_cast<QComboBox *>(&pressed)) {
             QTest::keyClick(&pressed, Qt::Key_Home);
             for (qsizetype row = control.values.indexOf(value); row > 0; --row)
@@ -209,8 +189,8 @@ TEST_F(ControlsTest, KeepTheirStateUnderTheirOwnKeyAtOnce)
     };
     const plist::Dictionary other = delegate.currentRecord().deepCopy();
     const std::string untouched = textsOf(other);
-    delegate.listPlist().setValue(u"other"_s, other);
-    open(0);
+    delegate.listPlist().setValue(u"another"_s, other);
+    open({}, {});
     for (const Control &control : controls())
         for (const QString &value : control.values) {
             if (control.button == u"-") continue;
@@ -231,25 +211,29 @@ TEST_F(ControlsTest, KeepTheirStateUnderTheirOwnKeyAtOnce)
 
 TEST_F(ControlsTest, ShowTheirKeyOrItsAbsence)
 {
-    for (int round = 0; round < rounds; ++round) {
-        open(round);
-        for (const Control &control : controls())
-            EXPECT_EQ(shown(control), valueOf(control, round)) << qPrintable(control.key);
-        EXPECT_FALSE(widget<QComboBox>(u"prefSelector02"_s).currentText().isEmpty());
-        EXPECT_EQ(delegate.syncView.isHidden(), !delegate.syncCheck01.isOn());
-        EXPECT_EQ(delegate.partSize(), delegate.prefText01.text());
-        EXPECT_EQ(delegate.partSize(), QString::number(delegate.prefStepper01.value()));
-        EXPECT_EQ(delegate.passTabs.selectedIndex(), delegate.passCombo01.selectedIndex());
-        EXPECT_EQ(delegate.pkView.isHidden(), delegate.passCombo01.selectedIndex() != 2);
-        open(plist::Dictionary::make());
-        for (const Control &control : controls())
-            EXPECT_EQ(shown(control), control.without.value_or(valueOf(control, round)))
-                << qPrintable(control.key);
-        EXPECT_TRUE(delegate.syncView.isHidden());
-        EXPECT_FALSE(delegate.currentRecord().contains(u"compress"_s)) << "showing a profile changes it";
-    }
+    for (const Control &control : controls())
+        for (const QString &value : control.values) {
+            SCOPED_TRACE(qPrintable(control.key + u'=' + value));
+            const auto expected = [&](const Control &each) {
+                return each.key == control.key ? value : each.values.first();
+            };
+            open(control.key, value);
+            for (const Control &each : controls())
+                EXPECT_EQ(shown(each), expected(each)) << qPrintable(each.key);
+            EXPECT_FALSE(widget<QComboBox>(u"prefSelector02"_s).currentText().isEmpty());
+            EXPECT_EQ(delegate.syncView.isHidden(), !delegate.syncCheck01.isOn());
+            EXPECT_EQ(delegate.partSize(), delegate.prefText01.text());
+            EXPECT_EQ(delegate.partSize(), QString::number(delegate.prefStepper01.value()));
+            EXPECT_EQ(delegate.passTabs.selectedIndex(), delegate.passCombo01.selectedIndex());
+            EXPECT_EQ(delegate.pkView.isHidden(), delegate.passCombo01.selectedIndex() != 2);
+            open(plist::Dictionary::make());
+            for (const Control &each : controls())
+                EXPECT_EQ(shown(each), each.without.value_or(expected(each))) << qPrintable(each.key);
+            EXPECT_TRUE(delegate.syncView.isHidden());
+            EXPECT_FALSE(delegate.currentRecord().contains(u"compress"_s)) << "showing a profile changes it";
+        }
     delegate.currentRecord().setValue(u"path"_s, u"");
-    delegate.setterCurrentProfile(u"opened"_s);
+    delegate.setterCurrentProfile(delegate.currentProfile());
     EXPECT_EQ(delegate.fileText01.text(), QString()) << "an empty destination is a destination";
 }
 

@@ -1,17 +1,10 @@
 #include "TestWindow.h"
 
-#include "Stub.h"
-
-#include "tools/Threads.h"
 #include "tools/ToolRun.h"
 #include "ui/lists/ArchiveList.h"
 #include "ui/lists/BackupList.h"
-#include "ui/widgets/TextArea.h"
 
 #include <QDir>
-#include <QGuiApplication>
-#include <QLabel>
-#include <QTreeView>
 
 namespace {
 
@@ -25,7 +18,7 @@ protected:
         delegate.prefStepper01Action(u"4"_s);
         program.backUp();
         std::filesystem::create_directories(program.folder() / "out");
-        delegate.openPanel = [this](const outlets::OpenPanel &) { return QStringList{program.path("out")}; };
+        program.choose(program.path("out"));
         showTab(u"extractPage"_s);
         click(u"extractPathButton"_s);
     }
@@ -47,7 +40,7 @@ protected:
 TEST_F(ExtractTest, AWholeExtractionByHand)
 {
     dropOnList(program.path("archives/docs.rar.aes.part2.rar"));
-    EXPECT_TRUE(widget<ui::TextArea>(u"outputText02"_s).text().contains(u"first volume is missing"));
+    EXPECT_TRUE(said(u"outputText02"_s).contains(u"first volume is missing"));
     EXPECT_FALSE(widget(u"openFolderButton"_s).isEnabled());
     settle();
     click(u"extractButton03"_s);
@@ -59,8 +52,7 @@ TEST_F(ExtractTest, AWholeExtractionByHand)
     EXPECT_FALSE(isGrey(0));
 
     click(u"buttonLaunch02"_s);
-    program.waitForEnd();
-    settle();
+    waitForEnd();
     EXPECT_EQ(delegate.consoleTextView01.text(), QString());
     EXPECT_TRUE(widget(u"openFolderButton"_s).isEnabled());
     EXPECT_TRUE(
@@ -117,11 +109,9 @@ TEST_F(ExtractTest, OneFileIsFoundAndComesBackAlone)
     QTest::keyClicks(&widget(u"contentsSearch"_s), u"DAT"_s);
     QTest::keyClick(&widget(u"contentsTree"_s), Qt::Key_Space);
     settle();
-    EXPECT_TRUE(widget<QLabel>(u"contentsChoice"_s).text().contains(u"1 file"))
-        << widget<QLabel>(u"contentsChoice"_s).text().toStdString();
+    EXPECT_TRUE(says(u"contentsChoice"_s, u"1 file"_s));
     click(u"contentsPanel01RestoreButton"_s);
-    program.waitForEnd();
-    settle();
+    waitForEnd();
     const std::filesystem::path place =
         program.folder() / "out" / (program.folder() / "docs").relative_path();
     EXPECT_TRUE(readFile(place / "data") == readFile(program.folder() / "docs/data"));
@@ -141,30 +131,25 @@ TEST_F(ExtractTest, OneFileIsFoundAndComesBackAlone)
     settle();
     delegate.secureText01a.setText(u"wrong"_s);
     click(u"contentsButton01"_s);
-    program.waitForEnd();
-    EXPECT_TRUE(waitForThreads(std::chrono::seconds(60)));
-    settle();
+    waitForEnd();
     EXPECT_FALSE(widget(u"contentsPanel01"_s).isVisible());
-    EXPECT_TRUE(widget<ui::TextArea>(u"outputText02"_s).text().contains(u"password"));
+    EXPECT_TRUE(said(u"outputText02"_s).contains(u"password"));
 }
 
 TEST_F(ExtractTest, LookingIntoAnArchiveSaysSoAndStops)
 {
-    const Stub hanging(program.folder(), "rar", "hang");
-    program.useTool(u"RAR"_s, hanging.path());
+    program.useStub(u"RAR"_s, "hang");
     dropOnList(program.path("archives"));
-    for (const auto &[button, says] : {std::pair{u"contentsButton01"_s, u"\"docs.rar.aes.part1.rar\""_s},
-                                       {u"buttonLaunch02"_s, u"archives"_s}}) {
+    for (const auto &[button, words] : {std::pair{u"contentsButton01"_s, u"\"docs.rar.aes.part1.rar\""_s},
+                                        {u"buttonLaunch02"_s, u"archives"_s}}) {
         click(button);
         ASSERT_TRUE(waitUntil([] { return toolsRunning() > 0; }));
         settle();
-        EXPECT_TRUE(widget<QLabel>(u"progress02progressLabel01"_s).text().contains(says));
+        EXPECT_TRUE(said(u"progress02progressLabel01"_s).contains(words));
         click(u"buttonCancel02"_s);
-        program.waitForEnd();
-        EXPECT_TRUE(waitForThreads(std::chrono::seconds(60)));
-        settle();
+        waitForEnd();
         EXPECT_EQ(toolsRunning(), 0);
-        EXPECT_TRUE(widget<ui::TextArea>(u"outputText02"_s).text().startsWith(u"Cancelled"));
+        EXPECT_TRUE(said(u"outputText02"_s).startsWith(u"Cancelled"));
     }
     EXPECT_FALSE(widget(u"contentsPanel01"_s).isVisible());
     EXPECT_TRUE(QDir(program.path("out")).isEmpty());

@@ -2,20 +2,12 @@
 
 #include "TestWindow.h"
 
-#include "Stub.h"
 #include "Tree.h"
 
 #include "runs/RunJournal.h"
 #include "ui/lists/FolderList.h"
-#include "ui/pages/BackupResult.h"
-#include "ui/widgets/TextArea.h"
 
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QScrollArea>
-#include <QTabWidget>
 #include <QToolButton>
 
 namespace fs = std::filesystem;
@@ -34,10 +26,24 @@ protected:
     void haveDestination(const std::string &name)
     {
         fs::create_directories(program.folder() / name);
-        delegate.openPanel = [this, name](const outlets::OpenPanel &) {
-            return QStringList{program.path(name)};
-        };
+        program.choose(program.path(name));
         click(u"fileButton01"_s);
+    }
+
+    /// Leaves the record of a backup into "archives" that ended now, and nothing else that tells of it.
+    void haveResult(Outcome outcome, const QList<ItemRecord> &items)
+    {
+        fs::remove_all(recordsFolder().toStdString());
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        RunJournal({.kind = u"backup"_s,
+                    .profile = delegate.currentProfile(),
+                    .folder = program.path("archives"),
+                    .began = now.addSecs(-660),
+                    .ended = now,
+                    .outcome = outcome,
+                    .items = items})
+            .begin();
+        delegate.listTableView.reloadData();
     }
 
     /// What is shown of a row, in its columns.
@@ -89,16 +95,7 @@ TEST_F(FoldersTest, TheListTellsWhatIsKnownOfEachEntry)
         EXPECT_TRUE(waitUntil([&] { return row(index).startsWith(expected[index]); }))
             << qPrintable(row(index));
     // What a run has told is told after it, and by a window that opens later.
-    const QDateTime now = QDateTime::currentDateTimeUtc();
-    RunJournal({.kind = u"backup"_s,
-                .profile = delegate.currentProfile(),
-                .folder = program.path("inside/archives"),
-                .began = now.addSecs(-60),
-                .ended = now,
-                .outcome = Outcome::Succeeded,
-                .items = {{.path = paths[2], .outcome = Outcome::Succeeded, .bytes = 5}}})
-        .begin();
-    delegate.listTableView.reloadData();
+    haveResult(Outcome::Succeeded, {{.path = paths[2], .outcome = Outcome::Succeeded, .bytes = 5}});
     EXPECT_TRUE(waitUntil([&] { return row(2).startsWith(u"gone|.|not found|today at "); }))
         << qPrintable(row(2));
 }
@@ -119,7 +116,7 @@ TEST_F(FoldersTest, WhatWasRemovedComesBack)
         settle();
         EXPECT_EQ(folders(), (QStringList{all[1], all[3]}));
         ASSERT_TRUE(widget(u"undoButton"_s).isVisible());
-        EXPECT_EQ(widget<QLabel>(u"removedText"_s).text(), u"2 entries are off the list."_s);
+        EXPECT_EQ(said(u"removedText"_s), u"2 entries are off the list."_s);
         byKey ? pressUndo() : click(u"undoButton"_s);
         settle();
         EXPECT_EQ(folders(), all);
@@ -131,9 +128,7 @@ TEST_F(FoldersTest, WhatWasRemovedComesBack)
     settle();
     click(u"folderButton02"_s);
     ASSERT_TRUE(widget(u"undoButton"_s).isVisible());
-    delegate.listPlist().setValue(u"other"_s, delegate.defaultProfile().deepCopy());
-    delegate.setterCurrentProfile(u"other"_s);
-    settle();
+    open(delegate.defaultProfile().deepCopy());
     EXPECT_FALSE(widget(u"undoButton"_s).isVisible());
     pressUndo();
     EXPECT_EQ(folders(), QStringList());
@@ -217,7 +212,6 @@ TEST_F(FoldersTest, WhatKeepsABackupFromStartingIsSaidBefore)
 TEST_F(FoldersTest, TheLastResultStaysAndIsThereAfterARestart)
 {
     const QString folder = program.path("archives");
-    const QDateTime ended = QDateTime::currentDateTimeUtc();
     const ItemRecord good{
         .path = u"/home/anna/Docs"_s,
         .outcome = Outcome::Succeeded,
@@ -229,49 +223,38 @@ TEST_F(FoldersTest, TheLastResultStaysAndIsThereAfterARestart)
                           .reason = reason,
                           .left = {{u"/x/Mail.rar"_s, true}}};
     };
-    struct Case {
-        RunRecord record;
-        QStringList headline;
-        QStringList details; ///< in this order
-    };
-    for (const Case &c : {
-             Case{{.outcome = Outcome::Succeeded, .items = {good, good}},
+    using Case = std::tuple<Outcome, QList<ItemRecord>, QStringList, QStringList>;
+    for (const auto &[outcome, items, headline, reasons] : {
+             Case{Outcome::Succeeded,
+                  {good, good},
                   {u"Backed up today at "_s, u"· 2 folders · 48.2 GB in 11 min"_s},
                   {}},
-             {{.outcome = Outcome::Failed,
-             .items = {good, {.path = u"/gone"_s, .outcome = Outcome::Skipped, .reason = u"not there"_s}}},
+             {Outcome::Failed,
+              {good, {.path = u"/gone"_s, .outcome = Outcome::Skipped, .reason = u"not there"_s}},
               {u"but not everything · 1 of 2 folders · 24.1 GB"_s},
               {u"Left out: “gone” – not there"_s}},
-             {{.outcome = Outcome::Failed, .items = {good, failed(u"RAR 1st: No space left on device"_s)}},
+             {Outcome::Failed,
+              {good, failed(u"RAR 1st: No space left on device"_s)},
               {u"failed today at "_s, u"1 of 2 folders"_s},
               {u"What failed: “Mail” – RAR 1st: No space left"_s, u"What to do: Make room"_s,
                u"What was left: \"/x/Mail.rar\", which is not encrypted"_s}},
-             {{.outcome = Outcome::Failed, .items = {failed(u"odd"_s)}},
+             {Outcome::Failed,
+              {failed(u"odd"_s)},
               {u"0 of 1 folder"_s},
               {u"odd"_s, u"What to do: Back up again."_s}},
-             {{.outcome = Outcome::Cancelled, .items = {good, {.path = u"/x"_s, .outcome = Outcome::Open}}},
+             {Outcome::Cancelled,
+              {good, {.path = u"/x"_s, .outcome = Outcome::Open}},
               {u"Cancelled today at "_s, u"1 of 2 folders"_s},
               {}},
          }) {
-        fs::remove_all(recordsFolder().toStdString());
-        RunRecord record = c.record;
-        record.kind = u"backup"_s;
-        record.profile = delegate.currentProfile();
-        record.folder = folder;
-        record.began = ended.addSecs(-660);
-        record.ended = ended;
-        RunJournal(record).begin();
-        // As at the start: nothing but the record tells of it.
-        delegate.listTableView.reloadData();
-        const auto &headline = widget<QLabel>(u"resultHeadline"_s);
-        for (const QString &part : c.headline)
-            EXPECT_TRUE(waitUntil([&] { return headline.text().contains(part); }))
-                << qPrintable(part + u" in: "_s + headline.text());
-        const auto &details = widget<ui::TextArea>(u"resultDetails"_s);
-        EXPECT_EQ(details.isVisible(), !c.details.isEmpty());
+        haveResult(outcome, items);
+        for (const QString &part : headline)
+            EXPECT_TRUE(says(u"resultHeadline"_s, part)) << qPrintable(part);
+        EXPECT_EQ(widget(u"resultDetails"_s).isVisible(), !reasons.isEmpty());
+        const QString details = said(u"resultDetails"_s);
         qsizetype place = 0;
-        for (const QString &part : c.details)
-            EXPECT_GE(place = details.text().indexOf(part, place), 0) << qPrintable(details.text());
+        for (const QString &part : reasons)
+            EXPECT_GE(place = details.indexOf(part, place), 0) << qPrintable(details);
     }
     // Archives are offered by their first files, once.
     click(u"tryRestoreButton"_s);
@@ -280,8 +263,7 @@ TEST_F(FoldersTest, TheLastResultStaysAndIsThereAfterARestart)
     click(u"tryRestoreButton"_s);
     EXPECT_EQ(delegate.extractFullList.strings(), QStringList{good.archives.first()});
 
-    delegate.listPlist().setValue(u"other"_s, delegate.defaultProfile().deepCopy());
-    delegate.setterCurrentProfile(u"other"_s);
+    open(delegate.defaultProfile().deepCopy());
     showTab(u"foldersPage"_s);
     EXPECT_FALSE(widget(u"backupResult"_s).isVisible()) << "it is another profile's";
 }
@@ -305,7 +287,7 @@ TEST_F(FoldersTest, NamesAreShownAsTheyAre)
     settle();
     EXPECT_LE(scroll.widget()->minimumSizeHint().width(), scroll.width()) << "a name makes the page wide";
     showTab(u"extractPage"_s);
-    EXPECT_TRUE(waitUntil([&] { return widget<QLabel>(u"backupsFoundLabel"_s).text().contains(u"<img"); }));
+    EXPECT_TRUE(says(u"backupsFoundLabel"_s, u"<img"_s));
     int shown = 0;
     const auto expectPlain = [&](const QString &text, bool isPlain, const QString &where) {
         if (!text.contains(u"img src")) return;
@@ -335,7 +317,7 @@ TEST_F(FirstStartTest, LeadsThroughThreeStepsAndNeverComesAgain)
     ASSERT_TRUE(widget(u"firstSteps"_s).isVisible());
     EXPECT_FALSE(widget(u"listTableView"_s).isVisible());
     EXPECT_FALSE(widget(u"hindranceList"_s).isVisible());
-    delegate.openPanel = [this](const outlets::OpenPanel &) { return QStringList{program.path("docs")}; };
+    program.choose(program.path("docs"));
     click(u"firstStep1"_s);
     EXPECT_EQ(folders(), QStringList{program.path("docs")});
     EXPECT_FALSE(widget(u"firstStep1"_s).isVisible());
@@ -346,11 +328,8 @@ TEST_F(FirstStartTest, LeadsThroughThreeStepsAndNeverComesAgain)
     EXPECT_FALSE(ui::FirstSteps::wasSeen());
     QTest::keyClicks(window.focusWidget(), u"correct horse"_s);
     QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
-    for (const char *typed : {"correct horsf", "\be"}) {
-        for (; *typed; ++typed)
-            *typed == '\b' ? QTest::keyClick(window.focusWidget(), Qt::Key_Backspace)
-                           : QTest::keyClick(window.focusWidget(), *typed);
-        settle();
+    for (const QString &typed : {u"correct horsf"_s, u"correct horse"_s}) {
+        fill(window.focusWidget()->objectName(), typed);
         EXPECT_FALSE(widget(u"foldersPage"_s).isVisible()) << "a mistyped one leads nowhere";
         QTest::keyClick(window.focusWidget(), Qt::Key_Return);
     }

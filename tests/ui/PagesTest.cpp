@@ -5,12 +5,8 @@
 #include "ui/look/Appearance.h"
 #include "ui/widgets/ElidedLabel.h"
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QDir>
 #include <QGroupBox>
-#include <QLabel>
-#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStackedWidget>
@@ -74,20 +70,15 @@ private:
     }
 };
 
-/// The window's language, for a while.
-class Language {
-public:
-    /// The path of a compiled translation; empty: as the sources have it.
-    explicit Language(const QString &path)
-    {
-        if (path.isEmpty()) return;
-        EXPECT_TRUE(m_translator.load(path)) << path.toStdString();
-        QCoreApplication::installTranslator(&m_translator);
-    }
-
-private:
-    QTranslator m_translator; // its end uninstalls it
-};
+/// The window's language, for as long as the object lives. The path is a compiled translation's; empty: as
+/// the sources have it.
+std::unique_ptr<QTranslator> speak(const QString &path)
+{
+    auto language = std::make_unique<QTranslator>();
+    EXPECT_TRUE(path.isEmpty() || language->load(path)) << path.toStdString();
+    QCoreApplication::installTranslator(language.get());
+    return language;
+}
 
 QStringList languages()
 {
@@ -220,7 +211,7 @@ TEST(PagesTest, HaveEachMnemonicOnce)
 {
     for (const QString &path : languages()) {
         SCOPED_TRACE(path.toStdString());
-        const Language language(path);
+        const auto language = speak(path);
         Opened opened;
         opened.forEachView([&](const std::string &view, const QList<QWidget *> &widgets) {
             QStringList texts;
@@ -270,7 +261,7 @@ TEST(PagesTest, AreCutOffNowhere)
         const std::string trace = look.language.toStdString() + ' ' + std::to_string(look.points) + " pt " +
                                   (look.direction == Qt::LeftToRight ? "from the left" : "from the right");
         SCOPED_TRACE(trace);
-        const Language language(look.language);
+        const auto language = speak(look.language);
         QFont font = usual;
         font.setPointSize(look.points);
         QApplication::setFont(font);

@@ -7,10 +7,7 @@
 
 #include <QCheckBox>
 #include <QDir>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QWindow>
 #include <csignal>
@@ -44,7 +41,7 @@ protected:
             before();
             QTest::keyClick(widget(sheet.panel).windowHandle(), Qt::Key_Return);
         });
-        EXPECT_TRUE(waitForThreads(std::chrono::seconds(60)));
+        EXPECT_TRUE(waitForThreads(60s));
         EXPECT_FALSE(widget(sheet.panel).isVisible());
     }
     void answerDeletion(const QString &button)
@@ -71,15 +68,14 @@ TEST_F(ProfilesTest, AreMadeRenamedDuplicatedAndDeleted)
     EXPECT_EQ(record(u"Second"_s).array(u"folders"_s).strings(), QStringList{program.path("home/Pictures")});
     EXPECT_EQ(delegate.defaultProfile().array(u"folders"_s).count(), 0) << "the copy is not deep";
 
-    widget<QPushButton>(u"defaultProfileButton"_s).click();
-    settle();
+    click(u"defaultProfileButton"_s);
     const plist::Dictionary second = record(u"Second"_s);
     name(renaming, u"Renamed"_s, [&] { EXPECT_EQ(delegate.panel01text01.text(), u"Second"_s); });
     EXPECT_EQ(names(), (QStringList{first, u"Renamed"_s}));
     EXPECT_EQ(delegate.profileCombo01.titles(), names());
     EXPECT_TRUE(record(u"Renamed"_s).isSameObject(second));
     name(duplicating, u"Twin"_s);
-    EXPECT_EQ(widget<QLabel>(u"currentProfileTextView"_s).text(), u"Twin"_s);
+    EXPECT_EQ(said(u"currentProfileTextView"_s), u"Twin"_s);
     EXPECT_TRUE(record(u"Twin"_s).isSameObject(second)) << "one record until it is saved and read again";
     name(renaming, u"Sibling"_s);
     EXPECT_EQ(delegate.setting(u"resources"_s, u"selectedprofile"_s), u"Renamed"_s) << "at the next start";
@@ -138,16 +134,15 @@ TEST_F(ProfilesTest, WhatIsNotSavedShowsAndIsAskedFor)
 {
     click(u"profileButton01"_s);
     click(u"settingsSaveButton"_s);
-    ASSERT_TRUE(waitForThreads(std::chrono::seconds(60))); // a save takes the state of its own turn
-    ASSERT_TRUE(waitUntil([&] { return widget<QLabel>(u"unsavedText"_s).text() == u"All changes saved"; }));
+    ASSERT_TRUE(waitForThreads(60s)); // a save takes the state of its own turn
+    ASSERT_TRUE(says(u"unsavedText"_s, u"All changes saved"_s));
     EXPECT_FALSE(window.isWindowModified());
 
     widget<QCheckBox>(u"autosaveCheck01"_s).click();
     settle();
     ASSERT_FALSE(delegate.autosaveCheck01.isOn());
     delegate.addFolders({u"/one more"_s});
-    EXPECT_TRUE(waitUntil(
-        [&] { return widget<QLabel>(u"unsavedText"_s).text() == u"Profiles and settings not saved yet"; }));
+    EXPECT_TRUE(says(u"unsavedText"_s, u"Profiles and settings not saved yet"_s));
     EXPECT_TRUE(window.isWindowModified());
 
     const QSignalSpy closed(&window, &ui::Window::closed);
@@ -177,7 +172,7 @@ TEST_F(ProfilesTest, QuittingTellsWhatItCanNotSave)
     // Nobody may write where a folder stands in the file's place.
     ASSERT_TRUE(QFile::remove(path) && QDir().mkpath(path + u"/taken"_s));
     delegate.addFolders({u"/one more"_s});
-    delegate.openPanel = [&](const outlets::OpenPanel &) { return QStringList{copies.path()}; };
+    program.choose(copies.path());
     const QSignalSpy closed(&window, &ui::Window::closed);
     auto &panel = widget(u"quitPanel01"_s);
     int endings = 0;
@@ -190,7 +185,7 @@ TEST_F(ProfilesTest, QuittingTellsWhatItCanNotSave)
         EXPECT_TRUE(delegate.quitText01.text().contains(path));
         click(u"quitPanel01"_s + answer);
         if (answer == u"Again") continue; // and it fails again
-        ASSERT_TRUE(waitForThreads(std::chrono::seconds(60)));
+        ASSERT_TRUE(waitForThreads(60s));
         if (answer != u"Stay") ++endings;
         EXPECT_TRUE(waitUntil([&] { return closed.count() == endings; }));
     }
@@ -218,10 +213,10 @@ TEST_F(ProfilesTest, WhatOthersChangedTooIsAskedFor)
             EXPECT_TRUE(delegate.conflictText01.text().contains(name));
             click(u"conflictPanel01"_s + answer);
         });
-        ASSERT_TRUE(waitForThreads(std::chrono::seconds(60)));
+        ASSERT_TRUE(waitForThreads(60s));
         settle();
         const QString expected = answer + (answer == u"Theirs" ? u" of theirs"_s : u" of mine"_s);
-        EXPECT_EQ(widget<QLineEdit>(u"prefText01"_s).text(), expected);
+        EXPECT_EQ(said(u"prefText01"_s), expected);
         const bool isSaved = answer != u"Stop";
         EXPECT_EQ(plist::readFile(path).dictionary == delegate.listPlist(), isSaved);
         EXPECT_EQ(delegate.profileCombo01.titles().contains(u"New "_s + answer), isSaved);
@@ -239,9 +234,8 @@ TEST_F(ProfilesTest, ASecondStartRaisesTheFirstWindow)
     std::filesystem::permissions(runtime.path(), std::filesystem::perms{0700});
     qputenv("XDG_RUNTIME_DIR", runtime.path().c_str());
     const std::string config = quillorentLibrary::preferencesFolder().toStdString();
-    const auto start = [&](const std::string &folder, const std::vector<std::string> &arguments = {}) {
-        std::vector<std::string> command{QUILLORENT};
-        command.insert(command.end(), arguments.begin(), arguments.end());
+    const auto start = [&](const std::string &folder,
+                           const std::vector<std::string> &command = {QUILLORENT}) {
         return std::make_unique<BackgroundProgram>(
             command, CommandOptions{.environment = {{"XDG_CONFIG_HOME", folder}}},
             (runtime / "log").string());
@@ -262,20 +256,16 @@ TEST_F(ProfilesTest, ASecondStartRaisesTheFirstWindow)
     window.showMinimized();
 
     const std::string archive = (runtime / "a b.rar.aes.rar").string();
-    const auto second = start(config, {archive});
+    const auto second = start(config, {QUILLORENT, archive});
     EXPECT_TRUE(waitUntil([&] { return second->hasEnded(); }));
     EXPECT_FALSE(window.isMinimized());
     EXPECT_TRUE(waitUntil([&] { return !program.delegate().extractFullList.strings().isEmpty(); }));
     EXPECT_EQ(program.delegate().extractFullList.strings(), QStringList(QString::fromStdString(archive)));
-    const auto third = start(config, {"--page", "password"});
+    const auto third = start(config, {QUILLORENT, "--page", "password"});
     auto *tabs = window.findChild<QTabWidget *>(u"mainTabs"_s);
     EXPECT_TRUE(waitUntil([&] { return tabs->currentWidget()->objectName() == u"passwordsPage"; }));
-    for (const std::vector<std::string> &wrong :
-         {std::vector<std::string>{"--page", "nowhere"}, {"--nonsense"}})
-        EXPECT_EQ(runCommand({QUILLORENT, wrong.front(), wrong.back()},
-                             {.environment = {{"XDG_CONFIG_HOME", config}}})
-                      .status,
-                  64);
+    for (const std::string wrong : {"--page=nowhere", "--nonsense"})
+        EXPECT_EQ(runCommand({QUILLORENT, wrong}, {.environment = {{"XDG_CONFIG_HOME", config}}}).status, 64);
     const auto other = start(program.path("other").toStdString());
     EXPECT_TRUE(waitUntil([&] { return sockets() == 2; })) << "settings of its own, a window of its own";
     EXPECT_FALSE(other->hasEnded());

@@ -2,16 +2,11 @@
 
 #include "Command.h"
 #include "SecretService.h"
-#include "Stub.h"
 
 #include "ui/lists/FolderList.h"
 #include "ui/lists/PreviewTableView.h"
 #include "ui/widgets/Motion.h"
 #include "ui/widgets/RunBar.h"
-#include "ui/widgets/TextArea.h"
-
-#include <QLabel>
-#include <QPushButton>
 
 namespace {
 
@@ -23,10 +18,9 @@ protected:
         qputenv("TMPDIR", program.folder().c_str());
         writeFile(program.folder() / "src/d/x", "x");
         showTab(u"syncPage"_s);
-        delegate.openPanel = [this](const outlets::OpenPanel &panel) {
-            return QStringList{program.path(panel.canChooseFiles ? "src/d" : "archives")};
-        };
+        program.choose(program.path("src/d"));
         click(u"syncButton01"_s);
+        program.choose(program.path("archives"));
         click(u"syncButtoDest"_s);
     }
     ~SyncTest() override { qunsetenv("TMPDIR"); }
@@ -50,8 +44,7 @@ TEST_F(SyncTest, ControlsSayWhatTheyDo)
     EXPECT_FALSE(widget(u"syncServer"_s).isVisible());
     click(u"syncCheck01"_s);
     EXPECT_TRUE(meaning.text().contains(u"fill one in"));
-    QTest::keyClicks(&widget(u"syncUser"_s), u"me"_s);
-    settle();
+    fill(u"syncUser"_s, u"me"_s);
     EXPECT_FALSE(meaning.text().contains(u"fill one in"));
 }
 
@@ -63,16 +56,15 @@ TEST_F(SyncTest, ADeletionIsShownAndAskedAbout)
         const ui::OutletTableModel &rows = widget<ui::PreviewTableView>(u"previewTableView"_s).outletModel();
         EXPECT_EQ(rows.cell(0, u"c10"_s), u"deleted at the destination"_s);
         EXPECT_EQ(rows.cell(0, u"c30"_s), u"d/extra"_s);
-        EXPECT_TRUE(widget<ui::TextArea>(u"previewText01"_s).text().startsWith(u"Delete 1 file there?"));
+        EXPECT_TRUE(said(u"previewText01"_s).startsWith(u"Delete 1 file there?"));
         EXPECT_TRUE(widget<QPushButton>(u"previewPanel01CloseButton"_s).isDefault());
         EXPECT_TRUE(std::filesystem::exists(program.folder() / "archives/d/extra"));
         click(u"previewPanel01LaunchButton"_s);
     });
-    program.waitForEnd();
-    settle();
+    waitForEnd();
     EXPECT_FALSE(widget(u"previewPanel01"_s).isVisible());
-    EXPECT_TRUE(widget<ui::TextArea>(u"outputText03"_s).text().startsWith(u"Synchronised"));
-    EXPECT_EQ(std::filesystem::exists(program.folder() / "archives/d/extra"), false);
+    EXPECT_TRUE(said(u"outputText03"_s).startsWith(u"Synchronised"));
+    EXPECT_FALSE(std::filesystem::exists(program.folder() / "archives/d/extra"));
 }
 
 // Announced row by row, so many would keep the window from answering.
@@ -82,8 +74,7 @@ TEST_F(SyncTest, AHundredThousandRowsComeInOneStep)
     std::string lines;
     for (int row = 0; row < count; ++row)
         lines += ">f+++++++++\t1\td/" + std::to_string(row) + "\n";
-    const Stub rsync(program.folder(), "rsync", "print " + lines);
-    program.useTool(u"RSync"_s, rsync.path());
+    program.useStub(u"RSync"_s, "print " + lines);
     const auto &table = widget<ui::PreviewTableView>(u"previewTableView"_s);
     int announced = 0;
     QObject::connect(&table.outletModel(), &QAbstractItemModel::dataChanged, &table, [&] { ++announced; });

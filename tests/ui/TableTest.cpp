@@ -3,11 +3,7 @@
 #include "ui/lists/ToolTable.h"
 #include "ui/widgets/LevelBar.h"
 
-#include <QLineEdit>
-#include <QPushButton>
 #include <semaphore>
-
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -39,20 +35,14 @@ public:
     std::atomic<int> edition = 1;
 };
 
-std::unique_ptr<ui::OutletTableModel> makeModel(SlowSource &source)
-{
-    auto model = std::make_unique<ui::OutletTableModel>(
-        QList<ui::OutletTableModel::Column>{{u"quick"_s, {}}, {u"slow"_s, {}}});
-    model->setSource(&source);
-    return model;
-}
-
 } // namespace
 
 TEST_F(TableTest, SlowCellsComeLaterAndOnlyThoseOfTheLastReload)
 {
     SlowSource source;
-    auto model = makeModel(source);
+    auto model = std::make_unique<ui::OutletTableModel>(
+        QList<ui::OutletTableModel::Column>{{u"quick"_s, {}}, {u"slow"_s, {}}});
+    model->setSource(&source);
     EXPECT_EQ(model->cell(1, u"quick"_s), u"quick 1"_s);
     EXPECT_FALSE(model->cell(0, u"slow"_s).isValid());
 

@@ -2,14 +2,17 @@
 
 #include "TestProgram.h"
 
-#include "tools/Threads.h"
 #include "ui/Binding.h"
 #include "ui/Window.h"
 #include "ui/pages/FirstSteps.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QDropEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMimeData>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -30,7 +33,7 @@ protected:
         program.start();
         settle();
         // The table of tools has started them; a test that exchanges one must not have the new one looked at.
-        if (!waitForThreads(std::chrono::seconds(60))) qFatal("a tool does not end");
+        if (!waitForThreads(60s)) qFatal("a tool does not end");
         settle();
     }
 
@@ -41,9 +44,14 @@ protected:
             QCoreApplication::processEvents();
     }
 
-    static bool waitUntil(const std::function<bool()> &condition)
+    static constexpr auto waitUntil = &TestProgram::waitUntil;
+
+    /// The same for what was begun.
+    void waitForEnd()
     {
-        return TestProgram::waitUntil(condition);
+        program.waitForEnd();
+        EXPECT_TRUE(waitForThreads(60s));
+        settle();
     }
 
     /// The one widget of that name, which must be of that class.
@@ -56,11 +64,34 @@ protected:
         return *wanted;
     }
 
+    /// What a label, a field or a text of the window says.
+    QString said(const QString &name)
+    {
+        const QWidget &by = widget(name);
+        return by.property(by.inherits("QTextEdit") ? "plainText" : "text").toString();
+    }
+    /// Whether it comes to say these words, perhaps among others.
+    testing::AssertionResult says(const QString &name, const QString &words)
+    {
+        const bool isSaid = waitUntil([&] { return said(name).contains(words); });
+        return (isSaid ? testing::AssertionSuccess() : testing::AssertionFailure()) << qPrintable(said(name));
+    }
+
     void click(const QString &name)
     {
         // Near its beginning: a check box listens on its sign and words only.
         QWidget &control = widget(name);
         QTest::mouseClick(&control, Qt::LeftButton, {}, QPoint(10, control.height() / 2));
+        settle();
+    }
+
+    /// Types into a field, in place of what it holds.
+    void fill(const QString &name, const QString &text)
+    {
+        auto &field = widget<QLineEdit>(name);
+        field.selectAll();
+        QTest::keyClick(&field, Qt::Key_Delete);
+        QTest::keyClicks(&field, text);
         settle();
     }
 
@@ -78,6 +109,14 @@ protected:
     void showTab(const QString &page)
     {
         widget<QTabWidget>(QStringLiteral("mainTabs")).setCurrentWidget(&widget(page));
+        settle();
+    }
+
+    /// Opens another profile.
+    void open(const plist::Dictionary &record)
+    {
+        delegate.listPlist().setValue(u"other"_s, record);
+        delegate.setterCurrentProfile(u"other"_s);
         settle();
     }
 
