@@ -3,6 +3,7 @@
 #include "TemporaryFolder.h"
 
 #include <filesystem>
+#include <iterator>
 #include <map>
 #include <sstream>
 #include <string>
@@ -10,6 +11,20 @@
 #include <vector>
 
 using Environment = std::map<std::string, std::string>;
+using Arguments = std::vector<std::string>;
+
+inline Arguments operator+(Arguments first, const Arguments &second)
+{
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+/// The arguments that a line without quotes stands for.
+inline Arguments words(const std::string &line)
+{
+    std::istringstream stream(line);
+    return {std::istream_iterator<std::string>(stream), {}};
+}
 
 /// What a program's environment needs besides for Tripwire.cpp to come before the C library.
 inline Environment withTripwire(Environment environment = {})
@@ -25,8 +40,7 @@ inline const std::vector<Environment> fileSystems = {withTripwire(),
 
 /// Before a command: root may do anything, so rules of permission are tested as nobody. `program` is copied
 /// into the folder, which everybody may use from then on.
-inline std::vector<std::string> asOrdinaryUser(const std::filesystem::path &folder,
-                                               const std::string &program)
+inline Arguments asOrdinaryUser(const std::filesystem::path &folder, const std::string &program)
 {
     std::filesystem::permissions(folder, std::filesystem::perms::all);
     std::filesystem::copy_file(program, folder / "program");

@@ -1,16 +1,13 @@
 #pragma once
 
 #include "Command.h"
+#include "Companion.h"
 #include "Headers.h"
-#include "TemporaryFolder.h"
 
-#include <filesystem>
 #include <gtest/gtest.h>
-#include <string>
-#include <vector>
 
 /// Runs the archiver as the application does.
-CommandResult rar(std::vector<std::string> arguments, const CommandOptions &options = {});
+CommandResult rar(const Arguments &arguments, const CommandOptions &options = {});
 
 /// What is said by a run that ends with a status other than 0; "success" by any other.
 std::string failure(const CommandResult &result);
@@ -26,11 +23,12 @@ std::string base64Text(std::size_t size);
 /// A file whose last change was at `seconds` since 1970.
 void writeDated(const std::filesystem::path &file, std::int64_t seconds, std::int64_t nanoseconds);
 
-/// The volumes of a set from 1 on, as long as there are any.
+/// The volumes of a set from 1 on, as long as there are any; where there are none, the archive itself.
 std::vector<std::filesystem::path> volumesOf(const std::filesystem::path &archive);
 
-/// Whether an archive of the one file "file" has this content, by our reader and by those of others.
-void expectContent(const std::vector<std::filesystem::path> &volumes, const std::string &content);
+/// The folders below `out` into which our reader and those of others have extracted an archive or a set.
+std::vector<std::filesystem::path> extractedByAll(const std::filesystem::path &archive,
+                                                  const std::filesystem::path &out);
 
 /// An entry with its packed data, to be put into an archive by hand.
 struct HandmadeEntry {
@@ -39,6 +37,9 @@ struct HandmadeEntry {
 };
 /// Header of a stored file with the right sizes and checksum.
 HandmadeEntry storedFile(const std::string &name, const std::string &content);
+/// The same of one that was packed to these blocks; a solid one goes on from the entry before.
+HandmadeEntry packedFile(const std::string &name, const std::string &content, const std::string &blocks,
+                         bool solid = false);
 HandmadeEntry linkEntry(const std::string &name, const std::string &target,
                         archiver::LinkTarget::Kind kind = archiver::LinkTarget::Kind::Symbolic);
 HandmadeEntry folderEntry(const std::string &name, unsigned mode = 0755);
@@ -55,6 +56,9 @@ archiver::Bytes bytesOf(const std::string &text);
 /// Each test has a folder of its own, and usual names for what it puts there.
 class ArchiverTest : public testing::Test {
 protected:
+    /// Writes a set of these volumes and no more. The first one's path.
+    [[nodiscard]] std::filesystem::path writeSet(const std::vector<std::string> &volumes) const;
+
     TemporaryFolder temporary;
     const std::filesystem::path archive = temporary / "a.rar";
     const std::filesystem::path source = temporary / "source";

@@ -4,22 +4,6 @@
 #include "Companion.h"
 
 #include <gtest/gtest.h>
-#include <iterator>
-
-using Arguments = std::vector<std::string>;
-
-inline Arguments operator+(Arguments first, const Arguments &second)
-{
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
-}
-
-/// The arguments that a line without quotes stands for.
-inline Arguments words(const std::string &line)
-{
-    std::istringstream stream(line);
-    return {std::istream_iterator<std::string>(stream), {}};
-}
 
 inline const std::string front = OPENSSL_FRONT;
 inline const std::filesystem::path inner =
