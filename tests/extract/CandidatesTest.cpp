@@ -1,20 +1,8 @@
 #include "app/extraction/ExtractDecisions.h"
 
-#include "TestProgram.h"
+#include "ProgramTest.h"
 
-#include <gtest/gtest.h>
-
-namespace {
-
-class Candidates : public testing::Test {
-protected:
-    Candidates() { program.start(); }
-
-    TestProgram program;
-    QuillorentAppDelegate &delegate = program.delegate();
-};
-
-} // namespace
+class Candidates : public ProgramTest {};
 
 TEST_F(Candidates, ComeAndGo)
 {

@@ -76,6 +76,10 @@ TEST_F(ExtractFindings, TellWhatIsWrongAndWhatToDo)
              {list({archive, other}),
               {u"docs.rar.aes\" for a while"_s, u"docs.rar\" for a while"_s,
                u"docs.rar.aes.aes\" for a while"_s}},
+             {[&](auto &o) {
+                  o = extractOrder({archive, other}), o.chosen = {"letter"};
+              },
+              {u"!one archive at a time"_s}},
              {list({archive, folder / "gone.rar"}), {u"is not there any more"_s}},
              {list({archive, folder / "a.part2.rar", folder / "b.part3.rar"}),
               {u"a.part2.rar"_s, u"b.part3.rar"_s}},

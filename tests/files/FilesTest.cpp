@@ -7,10 +7,6 @@
 #include "files/Names.h"
 #include "files/Sizes.h"
 
-#include <QDateTime>
-#include <QDir>
-#include <QRegularExpression>
-
 namespace fs = std::filesystem;
 using namespace quillorentLibrary;
 
@@ -39,17 +35,6 @@ TEST_F(Files, NamesakesAreToldApart)
                                      {u"/"_s, u"/"_s},
                                      {QString(), QString()}})
         EXPECT_EQ(lastPathComponent(path), name);
-}
-
-TEST_F(Files, TemporaryNamesCountMillisecondsFromTheReferenceDate)
-{
-    const QDateTime reference(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC);
-    const qint64 before = reference.msecsTo(QDateTime::currentDateTimeUtc());
-    const QString name = createTempFileName();
-    const qint64 after = reference.msecsTo(QDateTime::currentDateTimeUtc());
-    const QRegularExpressionMatch match = QRegularExpression(u"^(.*/)Quillorent_(\\d+)\\.txt$"_s).match(name);
-    EXPECT_EQ(match.captured(1), QDir::tempPath() + u'/') << qPrintable(name);
-    EXPECT_TRUE(before <= match.captured(2).toLongLong() && match.captured(2).toLongLong() <= after);
 }
 
 TEST_F(Files, AFolderIsEmptyWhereNothingButHiddenFilesAreInIt)

@@ -4,6 +4,7 @@
 #include "sync/ListFile.h"
 #include "sync/SyncArguments.h"
 
+#include <QDateTime>
 #include <QFileInfo>
 #include <gtest/gtest.h>
 
@@ -64,8 +65,12 @@ TEST(SyncList, IsANewFileOfTheUserAlone)
     const fs::path trap = folder / "victim";
     writeFile(trap, "precious");
     qputenv("TMPDIR", folder.path().c_str());
+    const QDateTime reference(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC);
+    const qint64 before = reference.msecsTo(QDateTime::currentDateTimeUtc());
     const ListFile first = makeListFile("/x");
     const qint64 number = QFileInfo(first.path).baseName().mid(11).toLongLong();
+    EXPECT_TRUE(before <= number && number <= reference.msecsTo(QDateTime::currentDateTimeUtc()));
+    EXPECT_EQ(first.path, toQString(folder / "Quillorent_%1.txt").arg(number));
     for (qint64 next = 1; next <= 300; ++next)
         fs::create_symlink(trap, folder / ("Quillorent_" + std::to_string(number + next) + ".txt"));
     const ListFile second = makeListFile("/y");
