@@ -1,9 +1,4 @@
 #include "Rar.h"
-#include "Tree.h"
-
-#include <sys/stat.h>
-
-namespace fs = std::filesystem;
 
 using CommandLine = ArchiverTest;
 

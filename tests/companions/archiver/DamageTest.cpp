@@ -1,10 +1,5 @@
 #include "ArchiveProcessor.h"
 #include "Rar.h"
-#include "Tree.h"
-
-#include <sys/stat.h>
-
-namespace fs = std::filesystem;
 
 namespace {
 

@@ -1,9 +1,5 @@
 #include "Rar.h"
-#include "Tree.h"
 
-#include <sys/stat.h>
-
-namespace fs = std::filesystem;
 using Kind = archiver::LinkTarget::Kind;
 
 /// Archives that want to write outside of the folder they are extracted to.

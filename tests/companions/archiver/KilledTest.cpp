@@ -1,12 +1,8 @@
 #include "Rar.h"
 #include "StagedFile.h"
-#include "Tree.h"
 
 #include <csignal>
 #include <regex>
-#include <sys/stat.h>
-
-namespace fs = std::filesystem;
 
 namespace {
 

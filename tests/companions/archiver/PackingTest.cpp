@@ -1,12 +1,10 @@
 #include "ArchiveWriter.h"
 #include "HuffmanEncoder.h"
 #include "Rar.h"
-#include "Tree.h"
 
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace fs = std::filesystem;
 using Method = archiver::ArchiveWriter::Packing;
 
 namespace {

@@ -1,12 +1,9 @@
 #include "Rar.h"
 
 #include "HuffmanEncoder.h"
-#include "Tree.h"
 #include "VolumeSource.h"
 
 #include <chrono>
-
-namespace fs = std::filesystem;
 
 CommandResult rar(const Arguments &arguments, const CommandOptions &options)
 {

@@ -3,6 +3,7 @@
 #include "Command.h"
 #include "Companion.h"
 #include "Headers.h"
+#include "Tree.h"
 
 #include <gtest/gtest.h>
 
@@ -13,22 +14,20 @@ CommandResult rar(const Arguments &arguments, const CommandOptions &options = {}
 std::string failure(const CommandResult &result);
 
 /// First pass: a folder, stored. Second pass: a file, packed; `volume` is a switch such as "-v10", or empty.
-CommandResult addTree(const std::filesystem::path &archive, const std::filesystem::path &source);
-CommandResult packFile(const std::filesystem::path &archive, const std::filesystem::path &file,
-                       const std::string &volume = "");
+CommandResult addTree(const fs::path &archive, const fs::path &source);
+CommandResult packFile(const fs::path &archive, const fs::path &file, const std::string &volume = "");
 
 /// Text as `openssl enc -a` writes it: lines of 64 characters of base64, about `size` bytes.
 std::string base64Text(std::size_t size);
 
 /// A file whose last change was at `seconds` since 1970.
-void writeDated(const std::filesystem::path &file, std::int64_t seconds, std::int64_t nanoseconds);
+void writeDated(const fs::path &file, std::int64_t seconds, std::int64_t nanoseconds);
 
 /// The volumes of a set from 1 on, as long as there are any; where there are none, the archive itself.
-std::vector<std::filesystem::path> volumesOf(const std::filesystem::path &archive);
+std::vector<fs::path> volumesOf(const fs::path &archive);
 
 /// The folders below `out` into which our reader and those of others have extracted an archive or a set.
-std::vector<std::filesystem::path> extractedByAll(const std::filesystem::path &archive,
-                                                  const std::filesystem::path &out);
+std::vector<fs::path> extractedByAll(const fs::path &archive, const fs::path &out);
 
 /// An entry with its packed data, to be put into an archive by hand.
 struct HandmadeEntry {
@@ -57,12 +56,12 @@ archiver::Bytes bytesOf(const std::string &text);
 class ArchiverTest : public testing::Test {
 protected:
     /// Writes a set of these volumes and no more. The first one's path.
-    [[nodiscard]] std::filesystem::path writeSet(const std::vector<std::string> &volumes) const;
+    [[nodiscard]] fs::path writeSet(const std::vector<std::string> &volumes) const;
 
     TemporaryFolder temporary;
-    const std::filesystem::path archive = temporary / "a.rar";
-    const std::filesystem::path source = temporary / "source";
-    const std::filesystem::path out = temporary / "out";
+    const fs::path archive = temporary / "a.rar";
+    const fs::path source = temporary / "source";
+    const fs::path out = temporary / "out";
     /// Where `source` comes to be when it is extracted to `out`.
-    const std::filesystem::path extracted = out / source.relative_path();
+    const fs::path extracted = out / source.relative_path();
 };

@@ -2,7 +2,6 @@
 #include "LiteralBlock.h"
 #include "Rar.h"
 #include "TokenStream.h"
-#include "Tree.h"
 
 #include <algorithm>
 #include <cstring>
@@ -10,7 +9,6 @@
 #include <random>
 
 using namespace archiver;
-namespace fs = std::filesystem;
 
 namespace {
 

@@ -2,9 +2,6 @@
 
 #include <array>
 #include <csignal>
-#include <sys/stat.h>
-
-namespace fs = std::filesystem;
 
 namespace {
 

@@ -6,9 +6,9 @@
 #include <gtest/gtest.h>
 
 inline const std::string front = OPENSSL_FRONT;
-inline const std::filesystem::path inner =
-    std::filesystem::path(OPENSSL_FRONT).replace_filename("openssl-inner"); ///< as which it goes on
-inline const std::string stock = "openssl";                                 ///< the system's own tool
+inline const fs::path inner =
+    fs::path(OPENSSL_FRONT).replace_filename("openssl-inner"); ///< as which it goes on
+inline const std::string stock = "openssl";                    ///< the system's own tool
 
 /// Runs a program in `folder`; what it writes to both streams is in `output`.
 inline CommandResult runIn(const TemporaryFolder &folder, const std::string &program, const std::string &line,

@@ -4,8 +4,6 @@
 #include "smime/EncryptedMessage.h"
 #include "smime/KeyOpener.h"
 
-namespace fs = std::filesystem;
-
 namespace {
 
 /// Gives a text in pieces of `pieceSize` bytes.
