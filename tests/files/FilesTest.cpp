@@ -14,21 +14,16 @@ class Files : public ProgramTest {};
 
 TEST_F(Files, NamesakesAreToldApart)
 {
-    struct Case {
-        QString path;
-        QStringList paths;
-        QString name;
-    };
-    for (const Case &c : {
-             Case{u"/a/docs"_s, {u"/a/docs"_s}, u"docs"_s},
-             Case{u"/a/docs"_s, {u"/a/docs"_s, u"/b/docs"_s}, u"docs-0"_s},
-             Case{u"/b/docs/"_s, {u"/a/docs"_s, u"/b/docs/"_s}, u"docs-1"_s},
-             Case{u"/a/docs"_s, {u"/x"_s, u"/a/docs"_s, u"/a/docs"_s}, u"docs-1"_s},
-             Case{u"/c/docs"_s, {u"/a/docs"_s, u"/b/docs"_s}, u"docs--1"_s},
-             Case{u"/c/docs"_s, {u"/a/docs"_s}, u"docs"_s},
-             Case{u"/a/Docs"_s, {u"/a/Docs"_s, u"/b/docs"_s}, u"Docs"_s},
+    for (const auto &[path, paths, name] : std::vector<std::tuple<QString, QStringList, QString>>{
+             {u"/a/docs"_s, {u"/a/docs"_s}, u"docs"_s},
+             {u"/a/docs"_s, {u"/a/docs"_s, u"/b/docs"_s}, u"docs-0"_s},
+             {u"/b/docs/"_s, {u"/a/docs"_s, u"/b/docs/"_s}, u"docs-1"_s},
+             {u"/a/docs"_s, {u"/x"_s, u"/a/docs"_s, u"/a/docs"_s}, u"docs-1"_s},
+             {u"/c/docs"_s, {u"/a/docs"_s, u"/b/docs"_s}, u"docs--1"_s},
+             {u"/c/docs"_s, {u"/a/docs"_s}, u"docs"_s},
+             {u"/a/Docs"_s, {u"/a/Docs"_s, u"/b/docs"_s}, u"Docs"_s},
          })
-        EXPECT_EQ(nameRepeated(c.path, c.paths), c.name) << qPrintable(c.path + c.paths.join(u' '));
+        EXPECT_EQ(nameRepeated(path, paths), name) << qPrintable(path + paths.join(u' '));
     for (const auto &[path, name] : {std::pair{u"/a/b.c"_s, u"b.c"_s},
                                      {u"/a/b//"_s, u"b"_s},
                                      {u"b"_s, u"b"_s},

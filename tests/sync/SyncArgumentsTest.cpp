@@ -18,24 +18,20 @@ std::string joined(const QStringList &list) { return list.join(u'|').toStdString
 
 TEST(SyncList, NamesEntriesBelowTheirCommonFolder)
 {
-    struct Case {
-        QStringList entries;
-        const char *root;
-        const char *list;
-    };
-    for (const Case &c : {
-             Case{{u"/a/b/x.txt"_s, u"/a/c/y.txt"_s}, "/a", "/b/x.txt\n/c/y.txt"},
-             Case{{u"/a/x"_s, u"/a/b/a/c"_s}, "/a", "/x\n/b/c"},
-             Case{{u"/usr/x"_s, u"/etc/y"_s}, "/", "/usr/x\n/etc/y"},
-             Case{{u"/"_s}, "/", "/"},
-             Case{{u"/a/#x y"_s, u"/a/*"_s}, "/a", "/#x y\n/*"},
-             Case{{u"/a/ü/"_s, u"/a/b"_s}, "/a", "/ü/\n/b"},
-             Case{{u"/data/doc"_s, u"/data2/x"_s}, "/data", "/doc\n2/x"}, // a part of a name will do
-             Case{{}, "", ""},
-             Case{{u"a"_s, u"/b"_s}, "", "a\n/b"},
+    for (const auto &[entries, root, names] :
+         std::vector<std::tuple<QStringList, const char *, const char *>>{
+             {{u"/a/b/x.txt"_s, u"/a/c/y.txt"_s}, "/a", "/b/x.txt\n/c/y.txt"},
+             {{u"/a/x"_s, u"/a/b/a/c"_s}, "/a", "/x\n/b/c"},
+             {{u"/usr/x"_s, u"/etc/y"_s}, "/", "/usr/x\n/etc/y"},
+             {{u"/"_s}, "/", "/"},
+             {{u"/a/#x y"_s, u"/a/*"_s}, "/a", "/#x y\n/*"},
+             {{u"/a/ü/"_s, u"/a/b"_s}, "/a", "/ü/\n/b"},
+             {{u"/data/doc"_s, u"/data2/x"_s}, "/data", "/doc\n2/x"}, // a part of a name will do
+             {{}, "", ""},
+             {{u"a"_s, u"/b"_s}, "", "a\n/b"},
          }) {
-        EXPECT_EQ(syncArguments::rootOf(c.entries).toStdString(), c.root) << joined(c.entries);
-        EXPECT_EQ(syncArguments::list(c.entries).toStdString(), c.list) << joined(c.entries);
+        EXPECT_EQ(syncArguments::rootOf(entries).toStdString(), root) << joined(entries);
+        EXPECT_EQ(syncArguments::list(entries).toStdString(), names) << joined(entries);
     }
     EXPECT_EQ(joined(syncArguments::misnamedEntries(
                   {u"/data/doc"_s, u"/data2/x"_s, u"/data/in/data/y"_s, u"/data/z"_s})),
