@@ -13,8 +13,9 @@ namespace {
 class Repair : public EngineTest {
 protected:
     /// The record that a backup of `docs` leaves when it is killed while it packs.
-    void writeKilledRecord(const QList<Aside> &former, const QDateTime &packingSince)
+    void writeKilledRecord(const QList<Aside> &former)
     {
+        const QDateTime packingSince = QDateTime::currentDateTimeUtc();
         RunJournal({.kind = u"backup"_s,
                     .folder = text(archives),
                     .began = packingSince,
@@ -64,7 +65,7 @@ TEST_F(Repair, FindsTheFormerArchiveOrTheNewOneWhole)
                     fs::remove_all(path);
                 fs::copy(folder / "old", archives);
                 const QList<Aside> plan = *planAside(filesOfArchive(final), u"former"_s);
-                writeKilledRecord(plan, QDateTime::currentDateTimeUtc());
+                writeKilledRecord(plan);
                 for (const Aside &aside : plan) {
                     const fs::path from = aside.from.toStdString();
                     const std::string state = moment.substr(aside == plan.first() ? 0 : 2, 2);
@@ -138,7 +139,7 @@ TEST_F(Repair, NeverTakesTheUsersFilesForLeftOnes)
 
 TEST_F(Repair, WhatAKilledRunLeftInClearStaysNamed)
 {
-    writeKilledRecord({}, QDateTime::currentDateTimeUtc());
+    writeKilledRecord({});
     writeFile(archives / "docs.rar", "half of it");
     backUp({docs});
     expectSuccess();

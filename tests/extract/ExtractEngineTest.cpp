@@ -251,12 +251,9 @@ TEST_F(ExtractEngine, ADamagedArchiveKeepsTheOthersBack)
     backUp({sample("a")});
     backUp({folder / "data"}, 100);
     fs::rename(archives, folder / "whole");
-    struct Case {
-        const char *reason;
-        QString concern; ///< empty: it can't be seen by looking at names and sizes
-        std::function<void(const Paths &)> spoil;
-    };
-    for (const auto &[reason, concern, spoil] : std::vector<Case>{
+    using Spoil = std::function<void(const Paths &)>;
+    // No concern: it can't be seen by looking at names and sizes.
+    for (const auto &[reason, concern, spoil] : std::vector<std::tuple<const char *, QString, Spoil>>{
              {"A volume is missing", u"may not be the last"_s, [](auto &set) { fs::remove(set[3]); }},
              {"A volume is missing", u"volume 3 is missing"_s, [](auto &set) { fs::remove(set[2]); }},
              {"is cut short", {}, [](auto &set) { fs::resize_file(set[3], 5000); }},

@@ -10,7 +10,6 @@
 #include "sync/SyncRun.h"
 
 #include <gtest/gtest.h>
-#include <set>
 #include <sstream>
 #include <thread>
 
@@ -30,13 +29,9 @@ inline void fill(const fs::path &folder, const std::string &files)
 /// The reverse of it, in the order of their names.
 inline std::string filesIn(const fs::path &folder)
 {
-    std::set<std::string> found;
-    for (const auto &entry : fs::recursive_directory_iterator(folder))
-        if (entry.is_regular_file())
-            found.insert(fs::relative(entry, folder).string() + "=" + readFile(entry.path()));
     std::string text;
-    for (const std::string &file : found)
-        text.append(text.empty() ? "" : " ").append(file);
+    for (const auto &[path, entry] : snapshotTree(folder))
+        if (entry.type == 'f') text += (text.empty() ? "" : " ") + path + "=" + readFile(folder / path);
     return text;
 }
 

@@ -179,22 +179,17 @@ TEST_F(Packing, everyWayToCutIntoVolumesIsReadable)
 {
     // Around every multiple of the packed size of a block the next volume starts in, before or behind a
     // block's header; and the last volume may hold next to nothing.
-    struct Cut {
-        Method method;
-        std::uint64_t volume;
-        std::size_t length;
-    };
-    std::vector<Cut> cuts;
+    std::vector<std::tuple<Method, std::uint64_t, std::size_t>> cuts;
     const std::size_t whole = 2 * block + 100'000;
     const std::uint64_t packed = 395'300;
     for (const std::uint64_t size : {200'001u, 262'144u, 500'009u, 600'000u})
-        cuts.push_back({{5}, size, whole});
+        cuts.emplace_back(Method{5}, size, whole);
     for (std::uint64_t more = 40; more < 260; more += 11)
-        cuts.push_back({{5}, packed + more, whole});
+        cuts.emplace_back(Method{5}, packed + more, whole);
     for (std::uint64_t more = 40; more < 260; more += 23)
-        cuts.push_back({{5}, 2 * packed + more, whole});
+        cuts.emplace_back(Method{5}, 2 * packed + more, whole);
     for (std::size_t length = 1750; length < 1900; length += 10) // about 900 of 1000 bytes are data
-        cuts.push_back({{0}, 1000, length});
+        cuts.emplace_back(Method{0}, 1000, length);
     for (const auto &[method, size, length] : cuts) {
         const std::string content = base64Text(length);
         EXPECT_EQ(write(content, method, size), "");

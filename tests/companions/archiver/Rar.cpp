@@ -12,16 +12,6 @@ CommandResult rar(const Arguments &arguments, const CommandOptions &options)
 
 std::string failure(const CommandResult &result) { return result.status != 0 ? result.errors : "success"; }
 
-CommandResult addTree(const fs::path &archive, const fs::path &source)
-{
-    return rar({"a", "-r", "-ol", "-o+", "-m0", "", "-t", "-idq", archive, source});
-}
-
-CommandResult packFile(const fs::path &archive, const fs::path &file, const std::string &volume)
-{
-    return rar({"a", "-m5", "-o+", "-t", "-idq", "", volume, "-ep", archive, file});
-}
-
 std::string base64Text(std::size_t size)
 {
     constexpr std::string_view alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";

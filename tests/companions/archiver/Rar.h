@@ -13,10 +13,6 @@ CommandResult rar(const Arguments &arguments, const CommandOptions &options = {}
 /// What is said by a run that ends with a status other than 0; "success" by any other.
 std::string failure(const CommandResult &result);
 
-/// First pass: a folder, stored. Second pass: a file, packed; `volume` is a switch such as "-v10", or empty.
-CommandResult addTree(const fs::path &archive, const fs::path &source);
-CommandResult packFile(const fs::path &archive, const fs::path &file, const std::string &volume = "");
-
 /// Text as `openssl enc -a` writes it: lines of 64 characters of base64, about `size` bytes.
 std::string base64Text(std::size_t size);
 

@@ -46,20 +46,12 @@ TokenStream randomStream(Numbers &numbers, const std::string &before, std::size_
         for (std::size_t count = below(numbers, 3000); count > 0 && stream.size() < end; --count) {
             const std::size_t most = literals ? 0 : std::min<std::size_t>(stream.size(), 1 << 20);
             const std::size_t length = 5 + below(numbers, below(numbers, 20) ? 30 : 4080);
-            switch (most > 0 ? below(numbers, 8) : 0) {
-            case 5:
-                stream.match(1 + below(numbers, below(numbers, 2) ? most : std::min<std::size_t>(most, 40)),
-                             length);
-                break;
-            case 6:
-                if (stream.canRepeat()) stream.again(below(numbers, 4), length);
-                break;
-            case 7:
-                if (stream.canRepeat()) stream.same();
-                break;
-            default:
-                stream.literal(static_cast<char>(below(numbers, 256)));
-            }
+            const std::size_t kind = most > 0 ? below(numbers, 8) : 0;
+            const std::size_t farthest = below(numbers, 2) ? most : std::min<std::size_t>(most, 40);
+            if (kind < 5) stream.literal(static_cast<char>(below(numbers, 256)));
+            if (kind == 5) stream.match(1 + below(numbers, farthest), length);
+            if (kind == 6 && stream.canRepeat()) stream.again(below(numbers, 4), length);
+            if (kind == 7 && stream.canRepeat()) stream.same();
         }
         stream.endBlock(false);
     }
@@ -222,23 +214,17 @@ TEST_F(UnpackerTest, filtersAreUndone)
 TEST_F(UnpackerTest, whatMakesNoSenseIsDamageOfOneEntry)
 {
     const std::vector<std::pair<const char *, std::function<void(TokenStream &)>>> cases = {
-        {"an old match where there was none",
-         [](TokenStream &stream) { stream.put(258, 9), stream.put(0, 6); }},
-        {"a distance of more than there is",
-         [](TokenStream &stream) { stream.put(262, 9), stream.put(9, 6), stream.put(0, 3); }},
-        {"the largest distance",
-         [](TokenStream &stream) {
-             stream.put(262, 9), stream.put(63, 6), stream.put(~0u, 26), stream.put(15, 4);
-         }},
-        {"a symbol without a code", [](TokenStream &stream) { stream.put(511, 9); }},
-        {"half a match at the end", [](TokenStream &stream) { stream.put(262, 9); }},
-        {"a filter that never ends", [](TokenStream &stream) { stream.filter(0, 100, 1); }},
-        {"a filter over another's stretch",
-         [](TokenStream &stream) { stream.filter(2, 8, 1), stream.filter(0, 8, 1); }},
-        {"a filter too long", [](TokenStream &stream) { stream.filter(0, 5 << 20, 1); }},
-        {"a filter of no kind", [](TokenStream &stream) { stream.filter(0, 8, 7); }},
-        {"too many codes", [](TokenStream &stream) { stream.endBlock(false), stream.codes(8); }},
-        {"more than was told", [](TokenStream &stream) { stream.match(1, 2000); }}};
+        {"an old match where there was none", [](auto &s) { s.put(258, 9), s.put(0, 6); }},
+        {"a distance of more than there is", [](auto &s) { s.put(262, 9), s.put(9, 6), s.put(0, 3); }},
+        {"the largest distance", [](auto &s) { s.put(262, 9), s.put(63, 6), s.put(~0u, 26), s.put(15, 4); }},
+        {"a symbol without a code", [](auto &s) { s.put(511, 9); }},
+        {"half a match at the end", [](auto &s) { s.put(262, 9); }},
+        {"a filter that never ends", [](auto &s) { s.filter(0, 100, 1); }},
+        {"a filter over another's stretch", [](auto &s) { s.filter(2, 8, 1), s.filter(0, 8, 1); }},
+        {"a filter too long", [](auto &s) { s.filter(0, 5 << 20, 1); }},
+        {"a filter of no kind", [](auto &s) { s.filter(0, 8, 7); }},
+        {"too many codes", [](auto &s) { s.endBlock(false), s.codes(8); }},
+        {"more than was told", [](auto &s) { s.match(1, 2000); }}};
     for (const auto &[what, spoil] : cases) {
         TokenStream stream = literalStream("some text");
         const std::string told = stream.content() + "12345678";
