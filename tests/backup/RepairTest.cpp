@@ -50,6 +50,7 @@ TEST_F(Repair, FindsTheFormerArchiveOrTheNewOneWhole)
             writeFile(docs / "file", randomBytes(250'000, kind == std::string("new")));
             backUp({docs}, volume);
             expectSuccess();
+            fs::remove_all(folder / kind);
             fs::rename(archives, folder / kind);
             fs::create_directories(archives);
         }
@@ -82,8 +83,6 @@ TEST_F(Repair, FindsTheFormerArchiveOrTheNewOneWhole)
                 EXPECT_TRUE(contents(archives) == contents(folder / (moment[2] == 'n' ? "new" : "old")))
                     << namesIn(archives);
             }
-        for (const char *kind : {"old", "new"})
-            fs::remove_all(folder / kind);
     }
 }
 

@@ -8,8 +8,7 @@ TEST_F(CommandLine, refusesWhatItDoesNotKnow)
     for (const std::string line :
          {"-h", "", "a", "a x.rar", "b x.rar y", "t", "t x.rar y", "lb x.rar y", "x x.rar y z",
           "a -v x.rar y", "a -v0 x.rar y", "a -v1k x.rar y", "a -v-1 x.rar y", "a -m6 x.rar y"}) {
-        const CommandResult result =
-            runCommand({"sh", "-c", "exec \"$0\" " + line, QUILLORENT_RAR}, {.folder = temporary.path()});
+        const CommandResult result = rar(words(line), {.folder = temporary.path()});
         EXPECT_TRUE(failure(result).starts_with("\nERROR: ")) << line << result.errors;
         EXPECT_EQ(entriesIn(temporary.path()), 0u);
     }

@@ -40,11 +40,10 @@ HandmadeEntry encodedFile(const std::string &name, const std::string &content, b
 /// Packed in the older format, each byte but 255 as a code of eight bits that is the byte itself.
 HandmadeEntry olderPackedFile(const std::string &name, const std::string &content)
 {
+    // Lengths of codes: 8 for 255 literals, 9 for the last and for the end.
     std::string tables(46, '\0');
     for (const int bit :
-         {37,  40,  80,  337, 339, 341, 342, 344, 347, 348, 350,
-          351, 353, 356, 357, 359, 360, 362, 365, 366}) // lengths of codes: 8 for 255 literals, 9 for the
-                                                        // last and for the end
+         {37, 40, 80, 337, 339, 341, 342, 344, 347, 348, 350, 351, 353, 356, 357, 359, 360, 362, 365, 366})
         tables[std::size_t(bit) / 8] = static_cast<char>(tables[std::size_t(bit) / 8] | 0x80 >> bit % 8);
     HandmadeEntry entry = packedFile(name, content, tables + content + std::string("\xFF\x80\0\0\0\0", 6));
     entry.header.version = 29;

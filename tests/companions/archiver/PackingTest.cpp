@@ -24,14 +24,6 @@ std::string skewed(std::size_t size)
     return bytes;
 }
 
-std::string repeated(const std::string &pattern, std::size_t size)
-{
-    std::string text;
-    while (text.size() < size)
-        text += pattern;
-    return text.substr(0, size);
-}
-
 /// Words in no order, unlike those of other seeds; and once more, from 200,000 on.
 std::string prose(std::size_t size, unsigned seed)
 {
@@ -43,7 +35,10 @@ std::string prose(std::size_t size, unsigned seed)
     std::string text;
     for (const char choice : randomBytes(60'000, seed + 1))
         text += words[static_cast<unsigned char>(choice) % words.size()];
-    return repeated(text.substr(0, 200'000), size);
+    text = text.substr(0, 200'000);
+    while (text.size() < size)
+        text += text;
+    return text.substr(0, size);
 }
 
 class Packing : public ArchiverTest {

@@ -135,15 +135,13 @@ TEST_F(UnpackerTest, matchesOfAllKindsComeBack)
                 const std::string name = std::to_string(first) + "-" + std::to_string(number);
                 TokenStream stream =
                     randomStream(numbers, window, number == 0 ? first : std::size_t{number} * 20'000, tables);
+                entries.push_back(storedFile(name + "s", name));
+                contents[name + "s"] = name;
                 entries.push_back(packedEntry(stream, name, stream.content(), number > 0));
                 contents[name] = stream.content();
                 window = stream.window();
-                entries.push_back(storedFile(name + "s", name));
-                contents[name + "s"] = name;
             }
         }
-        contents.erase(entries.back().header.name);
-        entries.pop_back();
         expectContents(entries, contents, tables);
     }
 }
