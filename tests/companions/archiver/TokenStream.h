@@ -76,14 +76,15 @@ public:
         m_haveTables = true;
         for (unsigned symbol = 0; symbol < archiver::lengthSymbols; ++symbol)
             put(5, 4);
-        const std::size_t others = archiver::mainSymbols - archiver::literalSymbols;
-        for (const auto &[symbols, length] : {std::pair{archiver::literalSymbols, mainBits},
-                                              {others, literalsOnly ? 0 : mainBits},
-                                              {64, 6},
-                                              {16, 4},
-                                              {44, 6}})
-            for (std::size_t symbol = 0; symbol < symbols; ++symbol)
+        const auto putLengths = [this](std::size_t symbols, unsigned length) {
+            for (; symbols > 0; --symbols)
                 put(length, 5);
+        };
+        putLengths(archiver::literalSymbols, mainBits);
+        putLengths(archiver::mainSymbols - archiver::literalSymbols, literalsOnly ? 0 : mainBits);
+        putLengths(64, 6);
+        putLengths(16, 4);
+        putLengths(44, 6);
     }
     void endBlock(bool last)
     {
