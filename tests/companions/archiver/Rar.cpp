@@ -3,7 +3,7 @@
 #include "HuffmanEncoder.h"
 #include "VolumeSource.h"
 
-#include <chrono>
+#include <fcntl.h>
 
 CommandResult rar(const Arguments &arguments, const CommandOptions &options)
 {
@@ -23,10 +23,9 @@ std::string base64Text(std::size_t size)
 
 void writeDated(const fs::path &file, std::int64_t seconds, std::int64_t nanoseconds)
 {
-    using namespace std::chrono;
     writeFile(file, "dated");
-    const sys_time time{std::chrono::seconds(seconds) + std::chrono::nanoseconds(nanoseconds)};
-    fs::last_write_time(file, file_clock::from_sys(time));
+    const timespec times[2] = {{seconds, nanoseconds}, {seconds, nanoseconds}};
+    ASSERT_EQ(utimensat(AT_FDCWD, file.c_str(), times, 0), 0);
 }
 
 std::vector<fs::path> volumesOf(const fs::path &archive)
