@@ -55,11 +55,9 @@ TEST_F(BackupFindings, TellWhatIsWrongAndWhatToDo)
     const auto there = [this](const std::string &name) {
         return [this, name](BackupOrder &) { writeFile(archives / name, "x"); };
     };
-    struct Case {
-        std::function<void(BackupOrder &)> change;
-        QString expected; ///< "sign|a part|another part"; empty: nothing is found
-    };
-    for (const Case &c : std::vector<Case>{
+    using Change = std::function<void(BackupOrder &)>;
+    // Expected is "sign|a part|another part", or nothing.
+    for (const auto &[change, expected] : std::vector<std::pair<Change, QString>>{
              {[](BackupOrder &) {}, {}},
              {[](BackupOrder &o) { o.destination = u"/no/such"_s; }, u"!|/no/such|does not exist"_s},
              {[](BackupOrder &o) { o.showsOtherDestination = true; }, u"!|not this profile's own"_s},
@@ -102,10 +100,10 @@ TEST_F(BackupFindings, TellWhatIsWrongAndWhatToDo)
          }) {
         fs::remove_all(archives);
         fs::create_directories(archives);
-        const QString found = look(c.change);
-        SCOPED_TRACE((c.expected + u" in: "_s + found).toStdString());
-        const QStringList parts = c.expected.split(u'|');
-        EXPECT_EQ(found.isEmpty(), c.expected.isEmpty());
+        const QString found = look(change);
+        SCOPED_TRACE((expected + u" in: "_s + found).toStdString());
+        const QStringList parts = expected.split(u'|');
+        EXPECT_EQ(found.isEmpty(), expected.isEmpty());
         EXPECT_TRUE(found.isEmpty() || found.startsWith(parts.first()));
         EXPECT_EQ(found.startsWith(u'!'), parts.first() == u"!");
         for (const QString &part : parts.mid(1))

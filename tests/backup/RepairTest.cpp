@@ -13,8 +13,9 @@ namespace {
 class Repair : public EngineTest {
 protected:
     /// The record that a backup of `docs` leaves when it is killed while it packs.
-    void writeKilledRecord(const QList<Aside> &former, const QDateTime &packingSince)
+    void writeKilledRecord(const QList<Aside> &former)
     {
+        const QDateTime packingSince = QDateTime::currentDateTimeUtc();
         RunJournal({.kind = u"backup"_s,
                     .folder = text(archives),
                     .began = packingSince,
@@ -49,6 +50,7 @@ TEST_F(Repair, FindsTheFormerArchiveOrTheNewOneWhole)
             writeFile(docs / "file", randomBytes(250'000, kind == std::string("new")));
             backUp({docs}, volume);
             expectSuccess();
+            fs::remove_all(folder / kind);
             fs::rename(archives, folder / kind);
             fs::create_directories(archives);
         }
@@ -64,7 +66,7 @@ TEST_F(Repair, FindsTheFormerArchiveOrTheNewOneWhole)
                     fs::remove_all(path);
                 fs::copy(folder / "old", archives);
                 const QList<Aside> plan = *planAside(filesOfArchive(final), u"former"_s);
-                writeKilledRecord(plan, QDateTime::currentDateTimeUtc());
+                writeKilledRecord(plan);
                 for (const Aside &aside : plan) {
                     const fs::path from = aside.from.toStdString();
                     const std::string state = moment.substr(aside == plan.first() ? 0 : 2, 2);
@@ -81,8 +83,6 @@ TEST_F(Repair, FindsTheFormerArchiveOrTheNewOneWhole)
                 EXPECT_TRUE(contents(archives) == contents(folder / (moment[2] == 'n' ? "new" : "old")))
                     << namesIn(archives);
             }
-        for (const char *kind : {"old", "new"})
-            fs::remove_all(folder / kind);
     }
 }
 
@@ -138,7 +138,7 @@ TEST_F(Repair, NeverTakesTheUsersFilesForLeftOnes)
 
 TEST_F(Repair, WhatAKilledRunLeftInClearStaysNamed)
 {
-    writeKilledRecord({}, QDateTime::currentDateTimeUtc());
+    writeKilledRecord({});
     writeFile(archives / "docs.rar", "half of it");
     backUp({docs});
     expectSuccess();

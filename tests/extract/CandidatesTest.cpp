@@ -1,20 +1,8 @@
 #include "app/extraction/ExtractDecisions.h"
 
-#include "TestProgram.h"
+#include "ProgramTest.h"
 
-#include <gtest/gtest.h>
-
-namespace {
-
-class Candidates : public testing::Test {
-protected:
-    Candidates() { program.start(); }
-
-    TestProgram program;
-    QuillorentAppDelegate &delegate = program.delegate();
-};
-
-} // namespace
+class Candidates : public ProgramTest {};
 
 TEST_F(Candidates, ComeAndGo)
 {
@@ -69,16 +57,12 @@ TEST_F(Candidates, AreDecryptedByChoiceOrByName)
 {
     using quillorentLibrary::decideDecryption;
     const QString archive = u"/x/a.rar.bf.part01.rar"_s;
-    for (const auto &[choice, expected] :
-         std::vector<std::pair<int, QString>>{{-1, u"aes-256-cbc"_s},
-                                              {0, u"aes-256-cbc"_s},
-                                              {1, u"bf-cbc"_s},
-                                              {2, u"des-ede3-cbc"_s},
-                                              {3, u"smime"_s},
-                                              {5, u"aes-256-cbc"_s},
-                                              {ExtractTab::automaticDecryption, u"bf-cbc"_s}}) {
+    const QStringList choices{u"aes-256-cbc"_s, u"bf-cbc"_s, u"des-ede3-cbc"_s, u"smime"_s};
+    for (const int choice : {-1, 0, 1, 2, 3, 5}) {
         delegate.decryptionCombo01.selectIndex(choice);
-        EXPECT_EQ(decideDecryption(archive), expected) << choice;
+        EXPECT_EQ(decideDecryption(archive), choices.value(choice, choices.first())) << choice;
     }
+    delegate.decryptionCombo01.selectIndex(ExtractTab::automaticDecryption);
+    EXPECT_EQ(decideDecryption(archive), u"bf-cbc"_s);
     EXPECT_EQ(decideDecryption(u"/x/holiday.rar"_s), std::nullopt);
 }

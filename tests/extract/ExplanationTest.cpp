@@ -18,7 +18,6 @@ TEST(Explanation, TellsTheCausesApart)
         void (*change)(FailedStage &) = [](FailedStage &) {};
     };
     const auto isMessage = [](FailedStage &s) { s.decoderCommand = u"smime"_s; };
-    const auto isArchive = [](FailedStage &s) { s.innerIsArchive = true; };
     std::set<QString> sentences;
     for (const auto &[kind, said, part, change] : std::vector<Case>{
              {Kind::UnpackOuter, u"\nCannot write a: No space left on device\n"_s, u"is full"_s},
@@ -36,7 +35,7 @@ TEST(Explanation, TellsTheCausesApart)
              {Kind::Decrypt, {}, u"not readable text"_s, [](auto &s) { s.tool = {std::nullopt}; }},
              {Kind::UnpackInner, u"error"_s, u"private key is wrong"_s, isMessage},
              {Kind::UnpackInner, u"Skipping the symbolic link a -> /b"_s, u"Quillorent's own archiver"_s,
-              isArchive},
+              [](auto &s) { s.innerIsArchive = true; }},
              {Kind::Test, u"/x belongs to another set of volumes"_s, u"do not belong together"_s},
              {Kind::Test, u"\"/rar\" was ended by signal 9 (Killed).\n"_s, u"short of memory"_s,
               [](auto &s) { s.tool.wasKilled = true; }},

@@ -26,14 +26,6 @@ protected:
         expectSuccess();
     }
 
-    [[nodiscard]] ExtractOrder keyedOrder(const Paths &listed) const
-    {
-        ExtractOrder order = extractOrder(listed);
-        order.key = text(keys.key);
-        order.certificate = text(keys.certificate);
-        return order;
-    }
-
     [[nodiscard]] Paths volumes(const std::string &whole) const
     {
         Paths paths;
@@ -81,7 +73,10 @@ TEST_F(ExtractEngine, BringsBackWhatWasBackedUp)
             backUpBy(tree, extension, cipher, volume);
             for (const auto &entry : fs::directory_iterator(archives))
                 EXPECT_EQ(entry.status().permissions(), fs::perms(0600)) << entry.path();
-            run(keyedOrder(volumes("odd tree.rar" + extension.toStdString() + ".rar")));
+            ExtractOrder order = extractOrder(volumes("odd tree.rar" + extension.toStdString() + ".rar"));
+            order.key = text(keys.key);
+            order.certificate = text(keys.certificate);
+            run(std::move(order));
             expectSuccess();
             EXPECT_EQ(findings.concerns.join(u'\n').toStdString(), "");
             EXPECT_EQ(treeDifference(tree, extracted(tree)), "");
@@ -241,12 +236,10 @@ TEST_F(ExtractEngine, EachCauseReadsDifferently)
 TEST_F(ExtractEngine, WhatComesBackHasTheUsersOwnRights)
 {
     backUp({sample("docs")});
-    const mode_t before = umask(077);
     ExtractOrder order = extractOrder({archives / "docs.rar.aes.rar"});
     order.archiver = writeScript(folder / "making", realRar.toStdString() + " \"$@\"; mkdir -p " +
                                                         (out / "made").string() + "-$1");
     run(std::move(order));
-    umask(before);
     EXPECT_EQ(fs::status(out / "made-x").permissions(), fs::perms(0777 & ~usual));
     EXPECT_EQ(fs::status(out / "made-e").permissions(), fs::perms(0700))
         << "what is between is for no one else";
@@ -258,12 +251,9 @@ TEST_F(ExtractEngine, ADamagedArchiveKeepsTheOthersBack)
     backUp({sample("a")});
     backUp({folder / "data"}, 100);
     fs::rename(archives, folder / "whole");
-    struct Case {
-        const char *reason;
-        QString concern; ///< empty: it can't be seen by looking at names and sizes
-        std::function<void(const Paths &)> spoil;
-    };
-    for (const auto &[reason, concern, spoil] : std::vector<Case>{
+    using Spoil = std::function<void(const Paths &)>;
+    // No concern: it can't be seen by looking at names and sizes.
+    for (const auto &[reason, concern, spoil] : std::vector<std::tuple<const char *, QString, Spoil>>{
              {"A volume is missing", u"may not be the last"_s, [](auto &set) { fs::remove(set[3]); }},
              {"A volume is missing", u"volume 3 is missing"_s, [](auto &set) { fs::remove(set[2]); }},
              {"is cut short", {}, [](auto &set) { fs::resize_file(set[3], 5000); }},

@@ -42,11 +42,9 @@ TEST_F(ExtractFindings, TellWhatIsWrongAndWhatToDo)
     const auto there = [this](const std::string &name) {
         return [this, name](ExtractOrder &) { writeFile(out / name, "mine"); };
     };
-    struct Case {
-        std::function<void(ExtractOrder &)> change;
-        QStringList expected; ///< a part of each finding, in their order
-    };
-    for (const Case &c : std::vector<Case>{
+    using Change = std::function<void(ExtractOrder &)>;
+    // Expected is a part of each finding, in their order.
+    for (const auto &[change, expected] : std::vector<std::pair<Change, QStringList>>{
              {[](ExtractOrder &) {}, {}},
              {[](ExtractOrder &o) { o.folder = u"/no/such"_s; }, {u"!/no/such\" does not exist"_s}},
              {[&](ExtractOrder &o) {
@@ -76,6 +74,10 @@ TEST_F(ExtractFindings, TellWhatIsWrongAndWhatToDo)
              {list({archive, other}),
               {u"docs.rar.aes\" for a while"_s, u"docs.rar\" for a while"_s,
                u"docs.rar.aes.aes\" for a while"_s}},
+             {[&](auto &o) {
+                  o = extractOrder({archive, other}), o.chosen = {"letter"};
+              },
+              {u"!one archive at a time"_s}},
              {list({archive, folder / "gone.rar"}), {u"is not there any more"_s}},
              {list({archive, folder / "a.part2.rar", folder / "b.part3.rar"}),
               {u"a.part2.rar"_s, u"b.part3.rar"_s}},
@@ -83,17 +85,17 @@ TEST_F(ExtractFindings, TellWhatIsWrongAndWhatToDo)
         fs::remove_all(out);
         fs::create_directories(out);
         ExtractOrder order = extractOrder({archive});
-        c.change(order);
+        change(order);
         FolderLock lock;
         const Findings found = lookAtExtraction(order, lock);
         QStringList lines = found.concerns;
         for (const QString &obstacle : found.obstacles)
             lines.append(u'!' + obstacle);
         if (!found.overwrites.isEmpty()) lines.append(u'?' + found.overwrites);
-        SCOPED_TRACE((c.expected.join(u'|') + u" in: "_s + lines.join(u'\n')).toStdString());
-        ASSERT_EQ(lines.size(), c.expected.size());
+        SCOPED_TRACE((expected.join(u'|') + u" in: "_s + lines.join(u'\n')).toStdString());
+        ASSERT_EQ(lines.size(), expected.size());
         for (qsizetype i = 0; i < lines.size(); ++i) {
-            const QString part = c.expected[i];
+            const QString part = expected[i];
             const bool hasSign = part.startsWith(u'!') || part.startsWith(u'?');
             EXPECT_TRUE(lines[i].contains(hasSign ? part.mid(1) : part));
             EXPECT_EQ(lines[i].startsWith(u'!') || lines[i].startsWith(u'?'), hasSign);

@@ -7,10 +7,6 @@
 #include "files/Names.h"
 #include "files/Sizes.h"
 
-#include <QDateTime>
-#include <QDir>
-#include <QRegularExpression>
-
 namespace fs = std::filesystem;
 using namespace quillorentLibrary;
 
@@ -18,38 +14,22 @@ class Files : public ProgramTest {};
 
 TEST_F(Files, NamesakesAreToldApart)
 {
-    struct Case {
-        QString path;
-        QStringList paths;
-        QString name;
-    };
-    for (const Case &c : {
-             Case{u"/a/docs"_s, {u"/a/docs"_s}, u"docs"_s},
-             Case{u"/a/docs"_s, {u"/a/docs"_s, u"/b/docs"_s}, u"docs-0"_s},
-             Case{u"/b/docs/"_s, {u"/a/docs"_s, u"/b/docs/"_s}, u"docs-1"_s},
-             Case{u"/a/docs"_s, {u"/x"_s, u"/a/docs"_s, u"/a/docs"_s}, u"docs-1"_s},
-             Case{u"/c/docs"_s, {u"/a/docs"_s, u"/b/docs"_s}, u"docs--1"_s},
-             Case{u"/c/docs"_s, {u"/a/docs"_s}, u"docs"_s},
-             Case{u"/a/Docs"_s, {u"/a/Docs"_s, u"/b/docs"_s}, u"Docs"_s},
+    for (const auto &[path, paths, name] : std::vector<std::tuple<QString, QStringList, QString>>{
+             {u"/a/docs"_s, {u"/a/docs"_s}, u"docs"_s},
+             {u"/a/docs"_s, {u"/a/docs"_s, u"/b/docs"_s}, u"docs-0"_s},
+             {u"/b/docs/"_s, {u"/a/docs"_s, u"/b/docs/"_s}, u"docs-1"_s},
+             {u"/a/docs"_s, {u"/x"_s, u"/a/docs"_s, u"/a/docs"_s}, u"docs-1"_s},
+             {u"/c/docs"_s, {u"/a/docs"_s, u"/b/docs"_s}, u"docs--1"_s},
+             {u"/c/docs"_s, {u"/a/docs"_s}, u"docs"_s},
+             {u"/a/Docs"_s, {u"/a/Docs"_s, u"/b/docs"_s}, u"Docs"_s},
          })
-        EXPECT_EQ(nameRepeated(c.path, c.paths), c.name) << qPrintable(c.path + c.paths.join(u' '));
+        EXPECT_EQ(nameRepeated(path, paths), name) << qPrintable(path + paths.join(u' '));
     for (const auto &[path, name] : {std::pair{u"/a/b.c"_s, u"b.c"_s},
                                      {u"/a/b//"_s, u"b"_s},
                                      {u"b"_s, u"b"_s},
                                      {u"/"_s, u"/"_s},
                                      {QString(), QString()}})
         EXPECT_EQ(lastPathComponent(path), name);
-}
-
-TEST_F(Files, TemporaryNamesCountMillisecondsFromTheReferenceDate)
-{
-    const QDateTime reference(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC);
-    const qint64 before = reference.msecsTo(QDateTime::currentDateTimeUtc());
-    const QString name = createTempFileName();
-    const qint64 after = reference.msecsTo(QDateTime::currentDateTimeUtc());
-    const QRegularExpressionMatch match = QRegularExpression(u"^(.*/)Quillorent_(\\d+)\\.txt$"_s).match(name);
-    EXPECT_EQ(match.captured(1), QDir::tempPath() + u'/') << qPrintable(name);
-    EXPECT_TRUE(before <= match.captured(2).toLongLong() && match.captured(2).toLongLong() <= after);
 }
 
 TEST_F(Files, AFolderIsEmptyWhereNothingButHiddenFilesAreInIt)

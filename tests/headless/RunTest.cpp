@@ -4,7 +4,6 @@
 #include "Tree.h"
 
 #include <csignal>
-#include <functional>
 #include <gtest/gtest.h>
 #include <thread>
 
@@ -18,18 +17,13 @@ using Words = std::vector<std::string>;
 
 const std::string libexec = QUILLORENT_LIBEXEC;
 
-struct Case {
-    Words arguments;
-    int status;
-    std::string reason;
-};
-
-void expectReasons(const ProgramHome &home, const std::vector<Case> &cases)
+void expectReasons(const ProgramHome &home, int status,
+                   const std::vector<std::pair<Words, std::string>> &argumentsAndReasons)
 {
-    for (const Case &c : cases) {
-        const CommandResult result = home.run(c.arguments);
-        EXPECT_EQ(result.status, c.status) << c.reason << ": " << result.errors;
-        EXPECT_TRUE(contains(result.errors, c.reason)) << c.reason << " is not in: " << result.errors;
+    for (const auto &[arguments, reason] : argumentsAndReasons) {
+        const CommandResult result = home.run(arguments);
+        EXPECT_EQ(result.status, status) << reason << ": " << result.errors;
+        EXPECT_TRUE(contains(result.errors, reason)) << reason << " is not in: " << result.errors;
         EXPECT_FALSE(contains(result.errors, "from a file")) << "the password is shown";
         EXPECT_EQ(result.output, "");
     }
@@ -51,17 +45,18 @@ TreeSnapshot untouched(const ProgramHome &home)
 TEST(Run, RefusesWrongUsage)
 {
     const ProgramHome home(QUILLORENT_RUN);
-    expectReasons(home, {{{}, 64, "command is missing"},
-                         {{"restore"}, 64, "\"restore\" is no command"},
-                         {{"backup", "--now"}, 64, "now"},
-                         {{"backup", "Mine", "Yours"}, 64, "\"Yours\" is one word too many"},
-                         {{"tools", "--yes"}, 64, "does not go with"},
-                         {{"sync", "--password-file", "/x"}, 64, "does not go with"},
-                         {{"backup", "--password-file"}, 64, "password-file"},
-                         {{"backup", "--to", "/x"}, 64, "does not go with"},
-                         {{"backup", "--", "x.rar"}, 64, "\"x.rar\" is one word too many"},
-                         {{"extract", "Mine"}, 64, "Archives are missing"},
-                         {{"extract", "--method", "rot13", "--", "x.rar"}, 64, "\"rot13\" is no method"}});
+    expectReasons(home, 64,
+                  {{{}, "command is missing"},
+                   {{"restore"}, "\"restore\" is no command"},
+                   {{"backup", "--now"}, "now"},
+                   {{"backup", "Mine", "Yours"}, "\"Yours\" is one word too many"},
+                   {{"tools", "--yes"}, "does not go with"},
+                   {{"sync", "--password-file", "/x"}, "does not go with"},
+                   {{"backup", "--password-file"}, "password-file"},
+                   {{"backup", "--to", "/x"}, "does not go with"},
+                   {{"backup", "--", "x.rar"}, "\"x.rar\" is one word too many"},
+                   {{"extract", "Mine"}, "Archives are missing"},
+                   {{"extract", "--method", "rot13", "--", "x.rar"}, "\"rot13\" is no method"}});
     EXPECT_TRUE(contains(home.run({"--help"}).output, "Exit status"));
 }
 
@@ -92,15 +87,18 @@ TEST(Run, SaysWhyItCanNotStart)
     const auto extract = [&](const std::string &archive) {
         return Words{"extract", "Mine", "--password-file", password, "--", archive};
     };
-    expectReasons(home, {{{"backup", "Yours"}, 2, "no profile \"Yours\"; there are: Default profile, Mine."},
-                         {{"backup", "Mine"}, 2, "No password is given"},
-                         {{"backup", "Mine", "--password-file", home.text("nothing")},
-                          2,
-                          "Can't read the password from \"" + home.text("nothing")},
-                         {{"backup", "Default profile", "--password-file", password}, 2, "destination"},
-                         {{"sync", "Default profile"}, 2, "The list is empty"},
-                         {extract("/no/such.rar"), 2, "There is no archive \"/no/such.rar\""},
-                         {extract(home.text("later.part2.rar")), 2, "The first volume is missing"}});
+    const auto backUp = [](const std::string &from) {
+        return Words{"backup", "Mine", "--password-file", from};
+    };
+    expectReasons(home, 2,
+                  {{{"backup", "Yours"}, "no profile \"Yours\"; there are: Default profile, Mine."},
+                   {{"backup", "Mine"}, "No password is given"},
+                   {backUp(home.text("nothing")), "Can't read the password from \"" + home.text("nothing")},
+                   {backUp("/dev/zero"), "Give a file"},
+                   {{"backup", "Default profile", "--password-file", password}, "destination"},
+                   {{"sync", "Default profile"}, "The list is empty"},
+                   {extract("/no/such.rar"), "There is no archive \"/no/such.rar\""},
+                   {extract(home.text("later.part2.rar")), "The first volume is missing"}});
     for (const auto &[content, reason] : std::vector<std::pair<std::string, std::string>>{
              {"", "Write the password there"},
              {"\nfrom a file", "Write the password there"},
@@ -110,13 +108,11 @@ TEST(Run, SaysWhyItCanNotStart)
              {std::string(1024, 'x'), "longer than 1023 bytes"},
              {std::string(8'000'000, 'x'), "Give a file whose first line is the password alone"}}) {
         writeFile(home / "password", content);
-        expectReasons(home, {{{"backup", "Mine", "--password-file", password}, 2, reason},
-                             {extract(home.text("docs")), 2, reason}});
+        expectReasons(home, 2, {{backUp(password), reason}, {extract(home.text("docs")), reason}});
     }
-    const std::string endless = "/dev/zero";
-    expectReasons(home, {{{"backup", "Mine", "--password-file", endless}, 2, "Give a file"}});
     writeFile(home.settings(), "damaged");
-    expectReasons(home, {{{"backup", "Mine"}, 2, home.settings()}, {{"tools"}, 1, home.settings()}});
+    expectReasons(home, 2, {{{"backup", "Mine"}, home.settings()}});
+    expectReasons(home, 1, {{{"tools"}, home.settings()}});
     EXPECT_EQ(readFile(home.settings()), "damaged");
 }
 
@@ -139,20 +135,18 @@ TEST(Run, EndsBeforeAnythingIsTouched)
     writeFile(extracted, "edited");
     writeFile(home / "copy/docs/extra", "there alone");
     writeFile(home / "archives/docs.rar", "photos");
-    using Run = std::function<CommandResult(const Words &)>;
-    for (const auto &[run, told] : std::vector<std::pair<Run, std::string>>{
-             {[&](const Words &more) { return home.backUp(more); }, home.text("archives/docs.rar")},
-             {[&](const Words &more) { return home.extract({archive}, more); }, home.text("out")},
-             {[&](const Words &more) {
-                  return more.empty() ? home.run({"sync", "Mine"}) : home.run({"sync", "Mine", "--yes"});
-              },
-              "--yes"}}) {
+    for (const auto &[words, told] :
+         std::vector<std::pair<Words, std::string>>{{{"backup", "Mine"}, home.text("archives/docs.rar")},
+                                                    {{"extract", "Mine", "--", archive}, home.text("out")},
+                                                    {{"sync", "Mine"}, "--yes"}}) {
         const TreeSnapshot before = untouched(home);
-        const CommandResult refused = run({});
+        const CommandResult refused = home.run(words);
         EXPECT_EQ(refused.status, 2) << refused.errors;
         EXPECT_TRUE(contains(refused.errors, told)) << refused.errors;
         EXPECT_EQ(treeDifference(before, untouched(home)), "");
-        EXPECT_EQ(run({"--yes"}).status, 0) << told;
+        Words overruling = words;
+        overruling.insert(overruling.begin() + 2, "--yes");
+        EXPECT_EQ(home.run(overruling).status, 0) << told;
     }
     EXPECT_EQ(readFile(home / "archives/kept-docs.rar"), "photos");
     EXPECT_EQ(readFile(extracted), "content");

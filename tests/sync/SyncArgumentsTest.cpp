@@ -4,6 +4,7 @@
 #include "sync/ListFile.h"
 #include "sync/SyncArguments.h"
 
+#include <QDateTime>
 #include <QFileInfo>
 #include <gtest/gtest.h>
 
@@ -17,24 +18,20 @@ std::string joined(const QStringList &list) { return list.join(u'|').toStdString
 
 TEST(SyncList, NamesEntriesBelowTheirCommonFolder)
 {
-    struct Case {
-        QStringList entries;
-        const char *root;
-        const char *list;
-    };
-    for (const Case &c : {
-             Case{{u"/a/b/x.txt"_s, u"/a/c/y.txt"_s}, "/a", "/b/x.txt\n/c/y.txt"},
-             Case{{u"/a/x"_s, u"/a/b/a/c"_s}, "/a", "/x\n/b/c"},
-             Case{{u"/usr/x"_s, u"/etc/y"_s}, "/", "/usr/x\n/etc/y"},
-             Case{{u"/"_s}, "/", "/"},
-             Case{{u"/a/#x y"_s, u"/a/*"_s}, "/a", "/#x y\n/*"},
-             Case{{u"/a/ü/"_s, u"/a/b"_s}, "/a", "/ü/\n/b"},
-             Case{{u"/data/doc"_s, u"/data2/x"_s}, "/data", "/doc\n2/x"}, // a part of a name will do
-             Case{{}, "", ""},
-             Case{{u"a"_s, u"/b"_s}, "", "a\n/b"},
+    for (const auto &[entries, root, names] :
+         std::vector<std::tuple<QStringList, const char *, const char *>>{
+             {{u"/a/b/x.txt"_s, u"/a/c/y.txt"_s}, "/a", "/b/x.txt\n/c/y.txt"},
+             {{u"/a/x"_s, u"/a/b/a/c"_s}, "/a", "/x\n/b/c"},
+             {{u"/usr/x"_s, u"/etc/y"_s}, "/", "/usr/x\n/etc/y"},
+             {{u"/"_s}, "/", "/"},
+             {{u"/a/#x y"_s, u"/a/*"_s}, "/a", "/#x y\n/*"},
+             {{u"/a/ü/"_s, u"/a/b"_s}, "/a", "/ü/\n/b"},
+             {{u"/data/doc"_s, u"/data2/x"_s}, "/data", "/doc\n2/x"}, // a part of a name will do
+             {{}, "", ""},
+             {{u"a"_s, u"/b"_s}, "", "a\n/b"},
          }) {
-        EXPECT_EQ(syncArguments::rootOf(c.entries).toStdString(), c.root) << joined(c.entries);
-        EXPECT_EQ(syncArguments::list(c.entries).toStdString(), c.list) << joined(c.entries);
+        EXPECT_EQ(syncArguments::rootOf(entries).toStdString(), root) << joined(entries);
+        EXPECT_EQ(syncArguments::list(entries).toStdString(), names) << joined(entries);
     }
     EXPECT_EQ(joined(syncArguments::misnamedEntries(
                   {u"/data/doc"_s, u"/data2/x"_s, u"/data/in/data/y"_s, u"/data/z"_s})),
@@ -64,8 +61,12 @@ TEST(SyncList, IsANewFileOfTheUserAlone)
     const fs::path trap = folder / "victim";
     writeFile(trap, "precious");
     qputenv("TMPDIR", folder.path().c_str());
+    const QDateTime reference(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC);
+    const qint64 before = reference.msecsTo(QDateTime::currentDateTimeUtc());
     const ListFile first = makeListFile("/x");
     const qint64 number = QFileInfo(first.path).baseName().mid(11).toLongLong();
+    EXPECT_TRUE(before <= number && number <= reference.msecsTo(QDateTime::currentDateTimeUtc()));
+    EXPECT_EQ(first.path, toQString(folder / "Quillorent_%1.txt").arg(number));
     for (qint64 next = 1; next <= 300; ++next)
         fs::create_symlink(trap, folder / ("Quillorent_" + std::to_string(number + next) + ".txt"));
     const ListFile second = makeListFile("/y");

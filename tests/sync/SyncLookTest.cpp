@@ -4,7 +4,6 @@
 
 TEST(SyncLook, TellsBeforeAnythingIsTouched)
 {
-    namespace fs = std::filesystem;
     const SyncSample sample;
     writeFile(sample.folder / "src/x", "x");
     writeFile(sample.folder / "src/d/y", "y");

@@ -4,8 +4,6 @@
 
 #include "app/Process.h"
 
-namespace fs = std::filesystem;
-
 namespace {
 
 /// An order whose destination is the folder "there", which exists, on the test's own server.
@@ -16,7 +14,7 @@ struct RemoteSync : SyncSample {
         prepareProcess();
         qputenv("DISPLAY", ":0");
         qputenv("SSH_ASKPASS", window.path().c_str());
-        std::filesystem::create_directories(folder / "there");
+        fs::create_directories(folder / "there");
         writeFile(folder / "src/d/x", "x");
         list({"d"});
         order.destination = path("there");
@@ -60,36 +58,32 @@ TEST(SyncRemote, CopiesAndDeletesWithAKey)
     EXPECT_FALSE(fs::exists(sync.folder / "there/d/extra"));
 }
 
+// With a sentence of ours, before what ssh or rsync says.
 TEST(SyncRemote, EndsWithASentenceAndWithoutAPrompt)
 {
-    struct Case {
-        const char *name;
-        std::function<void(RemoteSync &)> spoil;
-        QString sentence;
-        QString said; ///< by ssh or rsync
-    };
-    for (const Case &c : {
-             Case{"no key", [](RemoteSync &s) { s.connectAs(Sshd::Client::WithoutKey); },
-                  u"The server \"server\" did not let you in. Nobody can type"_s, u"Permission denied ("_s},
-             Case{"unknown host", [](RemoteSync &s) { s.connectAs(Sshd::Client::NewToTheServer); },
-                  u"ssh does not know the server \"server\" yet"_s, u"Host key verification failed"_s},
-             Case{"refused", [](RemoteSync &s) { s.connectAs(Sshd::Client::AtAClosedPort); },
-                  u"The server \"server\" refuses the connection"_s, u"Connection refused"_s},
-             Case{"empty user", [](RemoteSync &s) { s.order.user.clear(); },
-                  u"since it was sent an empty user name"_s, u"Permission denied ("_s},
-             Case{"unknown folder", [](RemoteSync &s) { s.order.destination = s.path("no/such"); },
-                  u"does not exist"_s, u"No such file or directory"_s},
-             Case{"port", [](RemoteSync &s) { s.order.port = u"22"_s; }, u"took the port"_s, u"22:"_s},
+    using Spoil = std::function<void(RemoteSync &)>;
+    for (const auto &[spoil, sentence, said] : std::vector<std::tuple<Spoil, QString, QString>>{
+             {[](auto &s) { s.connectAs(Sshd::Client::WithoutKey); },
+              u"The server \"server\" did not let you in. Nobody can type"_s, u"Permission denied ("_s},
+             {[](auto &s) { s.connectAs(Sshd::Client::NewToTheServer); },
+              u"ssh does not know the server \"server\" yet"_s, u"Host key verification failed"_s},
+             {[](auto &s) { s.connectAs(Sshd::Client::AtAClosedPort); },
+              u"The server \"server\" refuses the connection"_s, u"Connection refused"_s},
+             {[](auto &s) { s.order.user.clear(); }, u"since it was sent an empty user name"_s,
+              u"Permission denied ("_s},
+             {[](auto &s) { s.order.destination = s.path("no/such"); }, u"does not exist"_s,
+              u"No such file or directory"_s},
+             {[](auto &s) { s.order.port = u"22"_s; }, u"took the port"_s, u"22:"_s},
          }) {
-        SCOPED_TRACE(c.name);
+        SCOPED_TRACE(sentence.toStdString());
         RemoteSync sync;
-        c.spoil(sync);
+        spoil(sync);
         QString console = QString::fromStdString(sync.run());
         // Now and then rsync ends before the words from the other side have arrived.
         for (int again = 0; console.isEmpty() && again < 5; ++again)
             console = QString::fromStdString(sync.run());
-        EXPECT_TRUE(console.section(u'\n', 0, 0).contains(c.sentence)) << qPrintable(console);
-        EXPECT_TRUE(console.contains(u"\nRSync ERROR : \n"_s) && console.contains(c.said))
+        EXPECT_TRUE(console.section(u'\n', 0, 0).contains(sentence)) << qPrintable(console);
+        EXPECT_TRUE(console.contains(u"\nRSync ERROR : \n"_s) && console.contains(said))
             << qPrintable(console);
         EXPECT_TRUE(fs::is_empty(sync.folder / "there"));
     }

@@ -3,7 +3,6 @@
 
 #include <csignal>
 
-namespace fs = std::filesystem;
 using Change = PreviewRow::Change;
 
 TEST(SyncRun, MakesTheFolderThatASingleFileGoesTo)
@@ -38,22 +37,19 @@ TEST(SyncRun, ComparesByDateOrByContent)
 // What is deleted where, in a first and a second run; and the preview tells of nothing else.
 TEST(SyncRun, DeletesWhatTheSwitchesSay)
 {
-    struct Case {
-        QString switches;
-        std::string sources;
-        std::vector<std::string> destinations;
-        std::vector<QStringList> deleted;
-    };
     const std::string merged = "d/a=1 d/extra=3 e/f=2 other=4";
     const std::string bare = "d/a=1 e/f=2 other=4";
     const QStringList extra{u"d/extra"_s};
-    for (const Case &c : {Case{{}, "d/a=1 e/f=2", {merged, merged}, {{}, {}}},
-                          Case{u"delete"_s, "d/a=1 e/f=2", {bare, bare}, {extra, {}}},
-                          Case{u"remove"_s, "", {merged, merged}, {{}, {}}},
-                          Case{u"delete remove"_s, "", {bare, "other=4"}, {extra, {u"d/a"_s, u"e/f"_s}}}}) {
+    using Twice = std::vector<std::string>;
+    for (const auto &[switches, sources, destinations, deleted] :
+         std::vector<std::tuple<QString, std::string, Twice, std::vector<QStringList>>>{
+             {{}, "d/a=1 e/f=2", {merged, merged}, {{}, {}}},
+             {u"delete"_s, "d/a=1 e/f=2", {bare, bare}, {extra, {}}},
+             {u"remove"_s, "", {merged, merged}, {{}, {}}},
+             {u"delete remove"_s, "", {bare, "other=4"}, {extra, {u"d/a"_s, u"e/f"_s}}}}) {
         SyncSample sync;
         fill(sync.folder.path(), "src/d/a=1 src/e/f=2 dst/d/extra=3 dst/other=4");
-        sync.order = orderOf(c.switches, sync.path("src"), sync.path("dst"));
+        sync.order = orderOf(switches, sync.path("src"), sync.path("dst"));
         sync.list({"d", "e"});
         for (std::size_t run = 0; run < 2; ++run) {
             const TreeSnapshot before = snapshotTree(sync.folder / "src");
@@ -61,11 +57,11 @@ TEST(SyncRun, DeletesWhatTheSwitchesSay)
             sync.preview();
             EXPECT_EQ(treeDifference(before, snapshotTree(sync.folder / "src")), "");
             EXPECT_EQ(treeDifference(beforeThere, snapshotTree(sync.folder / "dst")), "");
-            EXPECT_EQ(sync.previewed(Change::Delete), c.deleted[run]) << qPrintable(c.switches);
+            EXPECT_EQ(sync.previewed(Change::Delete), deleted[run]) << qPrintable(switches);
             EXPECT_EQ(sync.previewed(Change::Copy).size(), run == 0 ? 2 : 0);
             EXPECT_EQ(sync.run(), "");
-            EXPECT_EQ(filesIn(sync.folder / "src"), c.sources) << qPrintable(c.switches);
-            EXPECT_EQ(filesIn(sync.folder / "dst"), c.destinations[run]) << qPrintable(c.switches);
+            EXPECT_EQ(filesIn(sync.folder / "src"), sources) << qPrintable(switches);
+            EXPECT_EQ(filesIn(sync.folder / "dst"), destinations[run]) << qPrintable(switches);
         }
     }
 }

@@ -10,15 +10,16 @@
 #include "sync/SyncRun.h"
 
 #include <gtest/gtest.h>
-#include <set>
 #include <sstream>
 #include <thread>
+
+namespace fs = std::filesystem;
 
 /// rsync takes two times within one second for the same.
 inline constexpr TreeComparison sameSecond{.nanoseconds = false, .root = false};
 
 /// Makes the files of a folder: "d/a=1 d/b=2" is two, with a letter each.
-inline void fill(const std::filesystem::path &folder, const std::string &files)
+inline void fill(const fs::path &folder, const std::string &files)
 {
     std::istringstream words(files);
     for (std::string word; words >> word;)
@@ -26,15 +27,11 @@ inline void fill(const std::filesystem::path &folder, const std::string &files)
 }
 
 /// The reverse of it, in the order of their names.
-inline std::string filesIn(const std::filesystem::path &folder)
+inline std::string filesIn(const fs::path &folder)
 {
-    std::set<std::string> found;
-    for (const auto &entry : std::filesystem::recursive_directory_iterator(folder))
-        if (entry.is_regular_file())
-            found.insert(std::filesystem::relative(entry, folder).string() + "=" + readFile(entry.path()));
     std::string text;
-    for (const std::string &file : found)
-        text.append(text.empty() ? "" : " ").append(file);
+    for (const auto &[path, entry] : snapshotTree(folder))
+        if (entry.type == 'f') text += (text.empty() ? "" : " ") + path + "=" + readFile(folder / path);
     return text;
 }
 
@@ -52,7 +49,7 @@ struct SyncSample : private RunMonitor, private SyncEvents {
     {
         qputenv("TMPDIR", folder.path().c_str()); // list files stay, and so would lie about
         qputenv("XDG_STATE_HOME", folder.path().c_str());
-        std::filesystem::create_directories(folder / "quillorent/runs");
+        fs::create_directories(folder / "quillorent/runs");
     }
     ~SyncSample() override
     {

@@ -73,17 +73,17 @@ TEST_F(SyncStart, AsksBeforeItDeletesAndDoesJustWhatItShowed)
     delegate.previewPanel01Launch();
     ASSERT_TRUE(TestProgram::waitUntil([&] { return delegate.previewPanel01.place() == Place::Sheet; }));
     EXPECT_TRUE(delegate.previewText01.text().contains(u"more to delete by now. Delete 2 files there"));
-    std::filesystem::remove(program.folder() / "dst/d/late");
+    fs::remove(program.folder() / "dst/d/late");
     delegate.previewPanel01Launch();
     program.waitForEnd();
     EXPECT_EQ(files(), "e/c=3 -> d/a=1 d/b=2");
-    EXPECT_FALSE(std::filesystem::exists(program.folder() / "elsewhere"));
+    EXPECT_FALSE(fs::exists(program.folder() / "elsewhere"));
 }
 
 TEST_F(SyncStart, AsksNothingWhereNothingIsDeleted)
 {
     setSwitches(true, false);
-    std::filesystem::remove(program.folder() / "dst/d/extra");
+    fs::remove(program.folder() / "dst/d/extra");
     int questions = 0;
     delegate.previewPanel01.observe([&] { ++questions; });
     delegate.buttonLaunch03();

@@ -20,38 +20,28 @@ ToolResult runStub(const Stub &stub, const QStringList &arguments = {})
 
 } // namespace
 
-TEST(RunTool, JudgesByWhatTheToolSays)
-{
-    struct Case {
-        std::string behaviour;
-        bool isSilent;
-        std::optional<QString> output;
-    };
-    const TemporaryFolder folder;
-    for (const Case &c : {
-             Case{"nothing", true, u""_s},
-             Case{"print hello", false, u"hello"_s},
-             Case{"print \n", false, u"\n"_s},
-             Case{"complain oh", false, u"oh"_s},
-             Case{"print " + std::string(1'000'000, 'x'), false, QString(1'000'000, u'x')},
-             Case{"bad-bytes", false, std::nullopt},
-             Case{"helper", false, u"late"_s},
-             Case{"terminal", false, u"none"_s},
-         }) {
-        const ToolResult result = runStub(Stub(folder.path(), "tool", c.behaviour));
-        EXPECT_EQ(result.isSilent(), c.isSilent) << c.behaviour.substr(0, 20);
-        EXPECT_TRUE(result.output == c.output)
-            << c.behaviour.substr(0, 20) << ": " << qPrintable(result.text().left(200));
-    }
-}
-
-TEST(RunTool, PassesArgumentsAsTheyAre)
+TEST(RunTool, PassesArgumentsAsTheyAreAndJudgesByWhatTheToolSays)
 {
     const TemporaryFolder folder;
     const QStringList arguments{u""_s,      u"a b"_s, u"$HOME `id` \"'"_s, u"*"_s, u"line\nbreak"_s,
                                 u"naïve"_s, u""_s};
-    EXPECT_EQ(runStub(Stub(folder.path(), "tool", "arguments"), arguments).output,
-              u'[' + arguments.join(u"]["_s) + u']');
+    for (const auto &[behaviour, isSilent, output] :
+         std::vector<std::tuple<std::string, bool, std::optional<QString>>>{
+             {"nothing", true, u""_s},
+             {"print hello", false, u"hello"_s},
+             {"print \n", false, u"\n"_s},
+             {"complain oh", false, u"oh"_s},
+             {"print " + std::string(1'000'000, 'x'), false, QString(1'000'000, u'x')},
+             {"bad-bytes", false, std::nullopt},
+             {"helper", false, u"late"_s},
+             {"terminal", false, u"none"_s},
+             {"arguments", false, u'[' + arguments.join(u"]["_s) + u']'}, // as they are
+         }) {
+        const ToolResult result = runStub(Stub(folder.path(), "tool", behaviour), arguments);
+        EXPECT_EQ(result.isSilent(), isSilent) << behaviour.substr(0, 20);
+        EXPECT_TRUE(result.output == output)
+            << behaviour.substr(0, 20) << ": " << qPrintable(result.text().left(200));
+    }
 }
 
 TEST(RunTool, SaysWhyAToolCanNotStart)

@@ -1,10 +1,4 @@
-#include "Companion.h"
 #include "Rar.h"
-#include "Tree.h"
-
-#include <sys/stat.h>
-
-namespace fs = std::filesystem;
 
 using CommandLine = ArchiverTest;
 
@@ -14,8 +8,7 @@ TEST_F(CommandLine, refusesWhatItDoesNotKnow)
     for (const std::string line :
          {"-h", "", "a", "a x.rar", "b x.rar y", "t", "t x.rar y", "lb x.rar y", "x x.rar y z",
           "a -v x.rar y", "a -v0 x.rar y", "a -v1k x.rar y", "a -v-1 x.rar y", "a -m6 x.rar y"}) {
-        const CommandResult result =
-            runCommand({"sh", "-c", "exec \"$0\" " + line, QUILLORENT_RAR}, {.folder = temporary.path()});
+        const CommandResult result = rar(words(line), {.folder = temporary.path()});
         EXPECT_TRUE(failure(result).starts_with("\nERROR: ")) << line << result.errors;
         EXPECT_EQ(entriesIn(temporary.path()), 0u);
     }
@@ -26,7 +19,7 @@ TEST_F(CommandLine, namesInTheArchive)
     writeFile(temporary / "a/b/file", "1");
     writeFile(temporary / "a/*", "not a wildcard");
     const std::string absolute = temporary / "a/b/file";
-    const std::vector<std::pair<std::vector<std::string>, std::string>> cases = {
+    const std::vector<std::pair<Arguments, std::string>> cases = {
         {{absolute}, absolute.substr(1) + "\n"},
         {{"./b//file"}, "b/file\n"},
         {{"../a/b/file"}, "a/b/file\n"},
@@ -36,8 +29,7 @@ TEST_F(CommandLine, namesInTheArchive)
         {{"-ep", absolute}, "file\n"},
         {{"b/file", "", "b/file"}, "b/file\nb/file\n"}};
     for (const auto &[arguments, names] : cases) {
-        std::vector<std::string> all = {"", "a", "-m0", "-idq", "../a.rar"};
-        all.insert(all.end(), arguments.begin(), arguments.end());
+        const Arguments all = Arguments{"", "a", "-m0", "-idq", "../a.rar"} + arguments;
         ASSERT_EQ(rar(all, {.folder = temporary / "a"}).errors, "");
         EXPECT_EQ(runCommand({"bsdtar", "-tf", archive}).output, names);
     }
@@ -107,11 +99,9 @@ TEST_F(CommandLine, whatPermissionsForbidIsNamed)
     for (const fs::path &closed : {source / "secret", source / "hidden"})
         fs::permissions(closed, fs::perms::none);
     fs::permissions(out, fs::perms{0555});
-    const auto run = [user = asOrdinaryUser(temporary.path(), QUILLORENT_RAR)](const fs::path &made,
-                                                                               const fs::path &of) {
-        std::vector<std::string> command = user;
-        command.insert(command.end(), {"a", made, of});
-        return failure(runCommand(command));
+    const Arguments user = asOrdinaryUser(temporary.path(), QUILLORENT_RAR);
+    const auto run = [&](const fs::path &made, const fs::path &of) {
+        return failure(runCommand(user + Arguments{"a", made, of}));
     };
     const auto denied = [](const std::string &what) { return "\nCannot " + what + ": Permission denied\n"; };
     EXPECT_EQ(run(archive, source), denied("open " + (source / "hidden").string()) +

@@ -1,10 +1,5 @@
 #include "ArchiveProcessor.h"
 #include "Rar.h"
-#include "Tree.h"
-
-#include <sys/stat.h>
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -56,7 +51,7 @@ TEST_F(Damage, isFoundWhereverItIs)
               0u);
 
     writeFile(temporary / "text", base64Text(1500));
-    ASSERT_EQ(packFile(archive, temporary / "text").errors, "");
+    ASSERT_EQ(rar({"a", "-m5", "-ep", archive, temporary / "text"}).errors, "");
     EXPECT_LE(unnoticedDamages(readFile(archive)),
               2u); // the bits behind the last code in a packed block mean nothing
 }

@@ -1,10 +1,5 @@
-#include "Companion.h"
 #include "Rar.h"
-#include "Tree.h"
 
-#include <sys/stat.h>
-
-namespace fs = std::filesystem;
 using Kind = archiver::LinkTarget::Kind;
 
 /// Archives that want to write outside of the folder they are extracted to.
@@ -77,10 +72,9 @@ TEST_F(Hostile, foldersMayBeDeeperThanManyMayBeOpenOrFitOnTheStack)
         deep += "/a";
     writeFile(archive, handmadeArchive({storedFile(deep + "/file", "x"), storedFile("top/next/file", "y")}));
     fs::create_directory(out);
-    const auto limited = [&](std::vector<std::string> arguments) {
-        const std::string script = "ulimit -n 150; ulimit -s 512; exec \"$@\"";
-        arguments.insert(arguments.begin(), {"sh", "-c", script, "sh", QUILLORENT_RAR});
-        return runCommand(arguments, {.folder = out}).errors;
+    const auto limited = [&](const Arguments &arguments) {
+        const Arguments shell{"sh", "-c", "ulimit -n 150; ulimit -s 512; exec \"$0\" \"$@\"", QUILLORENT_RAR};
+        return runCommand(shell + arguments, {.folder = out}).errors;
     };
     EXPECT_EQ(limited({"x", archive}), "");
     EXPECT_EQ(limited({"a", "-t", "-v20", "again.rar", "top"}), "");

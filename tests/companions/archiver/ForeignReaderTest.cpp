@@ -1,14 +1,10 @@
-#include "ArchiveProcessor.h"
 #include "HuffmanEncoder.h"
 #include "Rar.h"
 
 #include <algorithm>
 #include <functional>
-#include <map>
-#include <mutex>
 
 using namespace archiver;
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -18,72 +14,38 @@ struct Unpacked {
     std::string messages;
 };
 
-class Collector final : public EntryReceiver {
-public:
-    Collector(Unpacked &all, std::mutex &mutex) : m_all(all), m_mutex(mutex) {}
-    void folder(const FileHeader &header) override { add(header.name + "/", ""); }
-    void link(const FileHeader &header) override { add(header.name, "-> " + header.link->path); }
-    bool beginFile(const FileHeader &) override { return m_content.clear(), true; }
-    void finishFile(const FileHeader &header) override { add(header.name, m_content); }
-    bool write(Bytes bytes) override
-    {
-        m_content.append(bytes.begin(), bytes.end());
-        return true;
-    }
-
-private:
-    void add(const std::string &name, const std::string &content)
-    {
-        const std::lock_guard lock(m_mutex);
-        m_all.entries[name] = content;
-    }
-    Unpacked &m_all;
-    std::mutex &m_mutex;
-    std::string m_content;
-};
-
 class ForeignArchive : public ArchiverTest {
 protected:
     Unpacked unpack(const std::vector<std::string> &volumes)
     {
-        for (std::size_t index = 0; index < volumes.size(); ++index)
-            writeFile(temporary / ("set.part" + std::to_string(index + 1) + ".rar"), volumes[index]);
-        fs::remove(temporary / ("set.part" + std::to_string(volumes.size() + 1) + ".rar"));
-        Unpacked unpacked;
-        Diagnostics diagnostics(unpacked.messages);
-        std::mutex mutex;
-        const auto make = [&](Diagnostics &) { return std::make_unique<Collector>(unpacked, mutex); };
-        processArchive(temporary / "set.part1.rar", {make}, diagnostics);
+        fs::remove_all(out);
+        fs::create_directory(out);
+        Unpacked unpacked{{}, rar({"x", writeSet(volumes), out}).errors};
+        for (const auto &[path, entry] : snapshotTree(out)) {
+            if (entry.type == 'l') unpacked.entries[path] = "-> " + entry.target;
+            if (entry.type == 'f') unpacked.entries[path] = readFile(out / path);
+            if (entry.type == 'd' && path != ".") unpacked.entries[path + "/"] = "";
+        }
         return unpacked;
     }
 };
 
-HandmadeEntry packedFile(const std::string &name, const std::string &content, bool sharesDictionary)
+HandmadeEntry encodedFile(const std::string &name, const std::string &content, bool solid)
 {
     HuffmanEncoder encoder;
-    HandmadeEntry entry = storedFile(name, content);
     const Bytes packed = content.empty() ? Bytes() : encoder.encode(bytesOf(content), true);
-    entry.data.assign(packed.begin(), packed.end());
-    entry.header.packedSize = entry.data.size();
-    entry.header.method = HuffmanEncoder::method;
-    entry.header.dictionary = HuffmanEncoder::dictionary;
-    entry.header.solid = sharesDictionary;
-    return entry;
+    return packedFile(name, content, {packed.begin(), packed.end()}, solid);
 }
 
 /// Packed in the older format, each byte but 255 as a code of eight bits that is the byte itself.
 HandmadeEntry olderPackedFile(const std::string &name, const std::string &content)
 {
+    // Lengths of codes: 8 for 255 literals, 9 for the last and for the end.
     std::string tables(46, '\0');
     for (const int bit :
-         {37,  40,  80,  337, 339, 341, 342, 344, 347, 348, 350,
-          351, 353, 356, 357, 359, 360, 362, 365, 366}) // lengths of codes: 8 for 255 literals, 9 for the
-                                                        // last and for the end
+         {37, 40, 80, 337, 339, 341, 342, 344, 347, 348, 350, 351, 353, 356, 357, 359, 360, 362, 365, 366})
         tables[std::size_t(bit) / 8] = static_cast<char>(tables[std::size_t(bit) / 8] | 0x80 >> bit % 8);
-    HandmadeEntry entry = storedFile(name, content);
-    entry.data = tables + content + std::string("\xFF\x80\0\0\0\0", 6);
-    entry.header.packedSize = entry.data.size();
-    entry.header.method = 3;
+    HandmadeEntry entry = packedFile(name, content, tables + content + std::string("\xFF\x80\0\0\0\0", 6));
     entry.header.version = 29;
     return entry;
 }
@@ -111,7 +73,7 @@ TEST_F(ForeignArchive, isReadWhateverElseItsHeadersSay)
 {
     const std::string content(1000, 'A');
     const std::string bytes = handmadeArchive(
-        {storedFile("file", content), packedFile("empty", "", true), linkEntry("link", "file")});
+        {storedFile("file", content), encodedFile("empty", "", true), linkEntry("link", "file")});
     const std::map<std::string, std::string> expected = {
         {"file", content}, {"empty", ""}, {"link", "-> file"}};
     const std::size_t mainAt = signature.size();
@@ -133,7 +95,7 @@ TEST_F(ForeignArchive, isReadWhateverElseItsHeadersSay)
           withRecord(bytes, fileAt, windowsTimes), withRecord(bytes, fileAt, hash)}) {
         const Unpacked unpacked = unpack({each});
         EXPECT_EQ(unpacked.messages, "");
-        EXPECT_TRUE(unpacked.entries == expected);
+        EXPECT_EQ(unpacked.entries, expected);
     }
     hash.back() ^= 1;
     EXPECT_EQ(unpack({withRecord(bytes, fileAt, hash)}).messages, "\nfile: checksum error\n");
@@ -152,9 +114,9 @@ TEST_F(ForeignArchive, thatIsBrokenIsSaidToBeOnceAndKeptBack)
         {"#2.rar is volume 3 of a set, where volume 2 was expected", [](auto &set) { set[1] = set[2]; }},
         {"#1.rar is not the first volume: start with the first one", [](auto &set) { set[0] = set[1]; }},
         {"#2.rar does not continue file: it belongs to another set", [&](auto &set) { set[1] = others[1]; }}};
-    for (const HandmadeEntry &entry : {storedFile("file", text), packedFile("file", text, true)})
+    for (const HandmadeEntry &entry : {storedFile("file", text), encodedFile("file", text, true)})
         for (auto [message, spoil] : cases) {
-            Volumes set = handmadeSet({packedFile("first", text, false), entry}, {700, 1900}, presentFormat);
+            Volumes set = handmadeSet({encodedFile("first", text, false), entry}, {700, 1900}, presentFormat);
             spoil(set);
             const Unpacked unpacked = unpack(set);
             message.replace(message.find('#'), 1, temporary / "set.part");
@@ -172,22 +134,25 @@ TEST_F(ForeignArchive, ofTheOlderFormatIsReadAndChecked)
     const std::string wide("caf???\\z\0\x01\x01"
                            "caf\xE9\xAC\x3D\xD8\0\xDE\0",
                            21);
-    const std::map<std::string, std::string> expected = {
-        {"folder/", ""},         {"folder/stored", text}, {"folder/link", "-> ../target"},
-        {"packed", text + text}, {"a\u0308", "NFD"},      {"\u00E4", "NFC"},
-        {"b\xE4", "latin"},      {"empty", ""},           {"caf\u01E9\U0001F600/z", "wide"}};
-    const std::vector<HandmadeEntry> entries = {storedFile("folder\\stored", text),
-                                                link,
-                                                folderEntry("folder"),
-                                                olderPackedFile("packed", text + text),
-                                                storedFile("a\u0308", "NFD"),
-                                                storedFile("\u00E4", "NFC"),
-                                                storedFile("b\xE4", "latin"),
-                                                storedFile("empty", ""),
-                                                storedFile(wide, "wide")};
+    std::map<std::string, std::string> expected = {{"caf\u01E9\U0001F600/", ""}};
+    std::vector<HandmadeEntry> entries;
+    for (const auto &[entry, name, content] :
+         std::vector<std::tuple<HandmadeEntry, std::string, std::string>>{
+             {storedFile("folder\\stored", text), "folder/stored", text},
+             {link, "folder/link", "-> ../target"},
+             {folderEntry("folder"), "folder/", ""},
+             {olderPackedFile("packed", text + text), "packed", text + text},
+             {storedFile("a\u0308", "NFD"), "a\u0308", "NFD"},
+             {storedFile("\u00E4", "NFC"), "\u00E4", "NFC"},
+             {storedFile("b\xE4", "latin"), "b\xE4", "latin"},
+             {storedFile("empty", ""), "empty", ""},
+             {storedFile(wide, "wide"), "caf\u01E9\U0001F600/z", "wide"}}) {
+        entries.push_back(entry);
+        expected[name] = content;
+    }
     Unpacked unpacked = unpack({handmadeArchive(entries, olderFormat)});
     EXPECT_EQ(unpacked.messages, "");
-    EXPECT_TRUE(unpacked.entries == expected);
+    EXPECT_EQ(unpacked.entries, expected);
     for (const HandmadeEntry &entry : {storedFile("file", text), olderPackedFile("file", text)})
         for (const std::size_t cut : {1u, 100u, 400u}) {
             unpacked = unpack(handmadeSet({entry}, {cut, 2 * cut}, olderFormat));

@@ -1,30 +1,16 @@
 #include "Rar.h"
 
-#include "Tree.h"
+#include "HuffmanEncoder.h"
 #include "VolumeSource.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
 
-namespace fs = std::filesystem;
-
-CommandResult rar(std::vector<std::string> arguments, const CommandOptions &options)
+CommandResult rar(const Arguments &arguments, const CommandOptions &options)
 {
-    arguments.insert(arguments.begin(), QUILLORENT_RAR);
-    return runCommand(arguments, options);
+    return runCommand(Arguments{QUILLORENT_RAR} + arguments, options);
 }
 
 std::string failure(const CommandResult &result) { return result.status != 0 ? result.errors : "success"; }
-
-CommandResult addTree(const fs::path &archive, const fs::path &source)
-{
-    return rar({"a", "-r", "-ol", "-o+", "-m0", "", "-t", "-idq", archive, source});
-}
-
-CommandResult packFile(const fs::path &archive, const fs::path &file, const std::string &volume)
-{
-    return rar({"a", "-m5", "-o+", "-t", "-idq", "", volume, "-ep", archive, file});
-}
 
 std::string base64Text(std::size_t size)
 {
@@ -51,30 +37,24 @@ std::vector<fs::path> volumesOf(const fs::path &archive)
             paths.emplace_back(archiver::volumePath(base, paths.size() + 1, digits));
         if (!paths.empty()) return paths;
     }
-    return {};
+    return {archive};
 }
 
-void expectContent(const std::vector<fs::path> &volumes, const std::string &content)
+std::vector<fs::path> extractedByAll(const fs::path &archive, const fs::path &out)
 {
-    TemporaryFolder temporary;
+    const std::vector<fs::path> volumes = volumesOf(archive);
     std::string joined;
     for (const fs::path &volume : volumes)
         joined += readFile(volume);
-    writeFile(temporary / "joined", joined);
-    const fs::path &first = volumes.front();
-    const CommandResult ours = rar({"e", "-idq", first, temporary / "ours"});
+    writeFile(out / "joined", joined);
+    std::vector<fs::path> folders{out / "ours", out / "bsdtar", out / "unar"};
+    EXPECT_EQ(failure(rar({"x", "-idq", volumes.front(), folders[0]})), "success");
     // Into a folder: on its way to a pipe, an empty entry makes bsdtar write zeros without end now and then.
-    fs::create_directory(temporary / "other");
-    const CommandResult other =
-        runCommand({"bsdtar", "-xf", temporary / "joined", "-C", temporary / "other"});
-    const CommandResult third = runCommand({"unar", "-q", "-D", "-o", temporary / "third", first});
-    EXPECT_EQ(ours.errors + other.errors, "");
+    fs::create_directory(folders[1]);
+    EXPECT_EQ(runCommand({"bsdtar", "-xf", out / "joined", "-C", folders[1]}).errors, "");
+    const CommandResult third = runCommand({"unar", "-q", "-D", "-o", folders[2], volumes.front()});
     EXPECT_EQ(third.status, 0) << third.output;
-    // Long texts are compared as a whole: googletest would take minutes over their difference.
-    EXPECT_TRUE(rar({"p", "-idq", first}).output == content);
-    EXPECT_TRUE(readFile(temporary / "ours/file") == content);
-    EXPECT_TRUE(readFile(temporary / "other/file") == content);
-    EXPECT_TRUE(readFile(temporary / "third/file") == content);
+    return folders;
 }
 
 archiver::Bytes bytesOf(const std::string &text)
@@ -91,6 +71,18 @@ HandmadeEntry storedFile(const std::string &name, const std::string &content)
     entry.header.packedSize = content.size();
     entry.header.crc = archiver::crc32(bytesOf(content));
     entry.data = content;
+    return entry;
+}
+
+HandmadeEntry packedFile(const std::string &name, const std::string &content, const std::string &blocks,
+                         bool solid)
+{
+    HandmadeEntry entry = storedFile(name, content);
+    entry.data = blocks;
+    entry.header.packedSize = blocks.size();
+    entry.header.method = archiver::HuffmanEncoder::method;
+    entry.header.dictionary = archiver::HuffmanEncoder::dictionary;
+    entry.header.solid = solid;
     return entry;
 }
 
@@ -146,4 +138,13 @@ std::vector<std::string> handmadeSet(const std::vector<HandmadeEntry> &entries,
         start = end;
     }
     return volumes;
+}
+
+fs::path ArchiverTest::writeSet(const std::vector<std::string> &volumes) const
+{
+    for (const fs::path &old : volumesOf(temporary / "set.rar"))
+        fs::remove(old);
+    for (std::size_t index = 0; index < volumes.size(); ++index)
+        writeFile(archiver::volumePath((temporary / "set").string(), index + 1, 1), volumes[index]);
+    return temporary / "set.part1.rar";
 }

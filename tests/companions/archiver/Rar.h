@@ -1,36 +1,29 @@
 #pragma once
 
 #include "Command.h"
+#include "Companion.h"
 #include "Headers.h"
-#include "TemporaryFolder.h"
+#include "Tree.h"
 
-#include <filesystem>
 #include <gtest/gtest.h>
-#include <string>
-#include <vector>
 
 /// Runs the archiver as the application does.
-CommandResult rar(std::vector<std::string> arguments, const CommandOptions &options = {});
+CommandResult rar(const Arguments &arguments, const CommandOptions &options = {});
 
 /// What is said by a run that ends with a status other than 0; "success" by any other.
 std::string failure(const CommandResult &result);
-
-/// First pass: a folder, stored. Second pass: a file, packed; `volume` is a switch such as "-v10", or empty.
-CommandResult addTree(const std::filesystem::path &archive, const std::filesystem::path &source);
-CommandResult packFile(const std::filesystem::path &archive, const std::filesystem::path &file,
-                       const std::string &volume = "");
 
 /// Text as `openssl enc -a` writes it: lines of 64 characters of base64, about `size` bytes.
 std::string base64Text(std::size_t size);
 
 /// A file whose last change was at `seconds` since 1970.
-void writeDated(const std::filesystem::path &file, std::int64_t seconds, std::int64_t nanoseconds);
+void writeDated(const fs::path &file, std::int64_t seconds, std::int64_t nanoseconds);
 
-/// The volumes of a set from 1 on, as long as there are any.
-std::vector<std::filesystem::path> volumesOf(const std::filesystem::path &archive);
+/// The volumes of a set from 1 on, as long as there are any; where there are none, the archive itself.
+std::vector<fs::path> volumesOf(const fs::path &archive);
 
-/// Whether an archive of the one file "file" has this content, by our reader and by those of others.
-void expectContent(const std::vector<std::filesystem::path> &volumes, const std::string &content);
+/// The folders below `out` into which our reader and those of others have extracted an archive or a set.
+std::vector<fs::path> extractedByAll(const fs::path &archive, const fs::path &out);
 
 /// An entry with its packed data, to be put into an archive by hand.
 struct HandmadeEntry {
@@ -39,6 +32,9 @@ struct HandmadeEntry {
 };
 /// Header of a stored file with the right sizes and checksum.
 HandmadeEntry storedFile(const std::string &name, const std::string &content);
+/// The same of one that was packed to these blocks; a solid one goes on from the entry before.
+HandmadeEntry packedFile(const std::string &name, const std::string &content, const std::string &blocks,
+                         bool solid = false);
 HandmadeEntry linkEntry(const std::string &name, const std::string &target,
                         archiver::LinkTarget::Kind kind = archiver::LinkTarget::Kind::Symbolic);
 HandmadeEntry folderEntry(const std::string &name, unsigned mode = 0755);
@@ -55,10 +51,13 @@ archiver::Bytes bytesOf(const std::string &text);
 /// Each test has a folder of its own, and usual names for what it puts there.
 class ArchiverTest : public testing::Test {
 protected:
+    /// Writes a set of these volumes and no more. The first one's path.
+    [[nodiscard]] fs::path writeSet(const std::vector<std::string> &volumes) const;
+
     TemporaryFolder temporary;
-    const std::filesystem::path archive = temporary / "a.rar";
-    const std::filesystem::path source = temporary / "source";
-    const std::filesystem::path out = temporary / "out";
+    const fs::path archive = temporary / "a.rar";
+    const fs::path source = temporary / "source";
+    const fs::path out = temporary / "out";
     /// Where `source` comes to be when it is extracted to `out`.
-    const std::filesystem::path extracted = out / source.relative_path();
+    const fs::path extracted = out / source.relative_path();
 };

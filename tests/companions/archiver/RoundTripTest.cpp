@@ -1,10 +1,5 @@
 #include "EntryName.h"
 #include "Rar.h"
-#include "Tree.h"
-
-#include <sys/stat.h>
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -14,7 +9,12 @@ protected:
     void SetUp() override
     {
         makeSampleTree(source);
-        ASSERT_EQ(addTree(archive, source).errors, "");
+        ASSERT_EQ(packInto(archive), "");
+    }
+    /// As the first pass does. What is said.
+    std::string packInto(const fs::path &made) const
+    {
+        return rar({"a", "-r", "-ol", "-o+", "-m0", "", "-t", "-idq", made, source}).errors;
     }
 };
 
@@ -56,9 +56,9 @@ TEST_F(RoundTrip, otherArchiversReadIt)
 TEST_F(RoundTrip, theArchiveItselfIsLeftOut)
 {
     const fs::path inside = source / "inside.rar";
-    ASSERT_EQ(addTree(inside, source).errors, "");
+    ASSERT_EQ(packInto(inside), "");
     const auto size = fs::file_size(inside);
-    ASSERT_EQ(addTree(inside, source).errors, "");
+    ASSERT_EQ(packInto(inside), "");
     EXPECT_EQ(fs::file_size(inside), size);
     EXPECT_EQ(rar({"lb", inside}).output.find("inside.rar"), std::string::npos);
 }

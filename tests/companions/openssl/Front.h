@@ -4,27 +4,11 @@
 #include "Companion.h"
 
 #include <gtest/gtest.h>
-#include <iterator>
-
-using Arguments = std::vector<std::string>;
-
-inline Arguments operator+(Arguments first, const Arguments &second)
-{
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
-}
-
-/// The arguments that a line without quotes stands for.
-inline Arguments words(const std::string &line)
-{
-    std::istringstream stream(line);
-    return {std::istream_iterator<std::string>(stream), {}};
-}
 
 inline const std::string front = OPENSSL_FRONT;
-inline const std::filesystem::path inner =
-    std::filesystem::path(OPENSSL_FRONT).replace_filename("openssl-inner"); ///< as which it goes on
-inline const std::string stock = "openssl";                                 ///< the system's own tool
+inline const fs::path inner =
+    fs::path(OPENSSL_FRONT).replace_filename("openssl-inner"); ///< as which it goes on
+inline const std::string stock = "openssl";                    ///< the system's own tool
 
 /// Runs a program in `folder`; what it writes to both streams is in `output`.
 inline CommandResult runIn(const TemporaryFolder &folder, const std::string &program, const std::string &line,

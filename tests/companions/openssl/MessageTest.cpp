@@ -4,24 +4,19 @@
 #include "smime/EncryptedMessage.h"
 #include "smime/KeyOpener.h"
 
-namespace fs = std::filesystem;
-
 namespace {
 
-/// Gives a text in pieces of `pieceSize` bytes.
-class TextSource final : public ByteSource {
-public:
-    TextSource(std::string_view text, std::size_t pieceSize) : m_rest(text), m_pieceSize(pieceSize) {}
+/// Gives a text in pieces.
+struct TextSource final : public ByteSource {
+    TextSource(std::string_view text, std::size_t size) : rest(text), pieceSize(size) {}
     Bytes read() override
     {
-        const std::string_view piece = m_rest.substr(0, m_pieceSize);
-        m_rest.remove_prefix(piece.size());
+        const std::string_view piece = rest.substr(0, pieceSize);
+        rest.remove_prefix(piece.size());
         return {reinterpret_cast<const std::uint8_t *>(piece.data()), piece.size()};
     }
-
-private:
-    std::string_view m_rest;
-    std::size_t m_pieceSize;
+    std::string_view rest;
+    std::size_t pieceSize; ///< bytes
 };
 
 struct TextSink final : public ByteSink {

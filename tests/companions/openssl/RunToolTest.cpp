@@ -2,8 +2,6 @@
 #include "PassPhrase.h"
 #include "SystemTool.h"
 
-namespace fs = std::filesystem;
-
 namespace {
 
 /// Runs a tool with this content, whose standard output is to become the file.
