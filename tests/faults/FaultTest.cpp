@@ -153,6 +153,39 @@ TEST(Permission, GoesAtEachStage)
                });
 }
 
+// There rights are nobody's, links can't be made, and "a" is "A".
+TEST(DiskOfOtherSystems, LosesNothingInSilenceAndKeepsNothingInClear)
+{
+    ProgramHome home(QUILLORENT_RUN);
+    home.encryptForCertificate();
+    for (const std::string name : {"A", "a", "\u00c9", "\u00e9", "sub/x"})
+        writeFile(home / "docs" / name, name);
+    ASSERT_EQ(home.backUp().status, 0);
+    const std::string archive = home.text("archives/docs.rar.smime.rar");
+    std::filesystem::create_symlink("A", home / "docs/link");
+    ASSERT_EQ(home.backUp({"--yes"}).status, 0);
+    FaultHome::layTripwire(home, {});
+    home.environment["QUILLORENT_OTHER_SYSTEMS"] = home.text("out");
+
+    const CommandResult whole = home.extract({archive});
+    EXPECT_EQ(whole.status, 1);
+    for (const std::string said : {"3 files of", "/docs/link: links can't be made", "All others are there"})
+        EXPECT_TRUE(contains(whole.errors, said)) << whole.errors;
+    const std::filesystem::path place = home / "out" / home.path().relative_path() / "docs";
+    EXPECT_EQ(namesIn(place), (std::vector<std::string>{"A", "file", "sub", "\u00c9"}));
+    for (const std::string name : {"A", "\u00c9", "sub/x"})
+        EXPECT_EQ(readFile(place / name), name);
+    const CommandResult listed = home.run({"list", "Mine", "--to", home.text("out"), "--", archive});
+    EXPECT_TRUE(contains(listed.errors, "can't be unpacked")) << listed.errors;
+    for (const std::string &name : namesIn(home / "out"))
+        EXPECT_FALSE(name.starts_with(".")) << name << " is not encrypted, and stayed";
+
+    home.folders = {home.text("docs"), home.text("other/DOCS")};
+    home.record["path"] = home.text("out");
+    writeFile(home / "other/DOCS/file", "other");
+    EXPECT_TRUE(contains(home.backUp({"--yes"}).errors, "would both need the file"));
+}
+
 TEST(Settings, StayWhereTheirMergeCanNotBeWritten)
 {
     for (const std::string deed : {"late", "full\n500"}) {

@@ -20,6 +20,9 @@
 // fails: "safe INODE PATH", "named INODE PATH" and "gone INODE PATH", a line each.
 //
 // With QUILLORENT_NO_NAMELESS every file must have a name, as on some file systems.
+//
+// QUILLORENT_OTHER_SYSTEMS names a folder that is as if on a disk of other systems: no folder keeps its
+// rights, there are no links, and the archiver's file is found by its name in upper case.
 
 #include <array>
 #include <cerrno>
@@ -27,12 +30,14 @@
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sstream>
 #include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 namespace {
@@ -137,6 +142,12 @@ int passOnSync(const char *name, int file)
     return passOn(name, file);
 }
 
+bool isOfOtherSystems(int folder, const char *name)
+{
+    const char *disk = getenv("QUILLORENT_OTHER_SYSTEMS");
+    return disk && pathOf(folder, name).starts_with(disk);
+}
+
 __attribute__((constructor)) void begin(int argc, char **argv)
 {
     const char *text = getenv("QUILLORENT_TRIPWIRE");
@@ -178,8 +189,30 @@ int remove(const char *a) noexcept
 {
     return note("gone", AT_FDCWD, a, AT_SYMLINK_NOFOLLOW), passOn("remove", a);
 }
-int mkdir(const char *a, mode_t b) noexcept { return passOn("mkdir", a, b); }
-int mkdirat(int a, const char *b, mode_t c) noexcept { return passOn("mkdirat", a, b, c); }
+int mkdirat(int a, const char *b, mode_t c) noexcept
+{
+    const int result = passOn("mkdirat", a, b, c);
+    if (result == 0 && isOfOtherSystems(a, b)) fchmodat(a, b, 0777, 0);
+    return result;
+}
+int mkdir(const char *a, mode_t b) noexcept { return mkdirat(AT_FDCWD, a, b); }
+int symlinkat(const char *a, int b, const char *c) noexcept
+{
+    if (isOfOtherSystems(b, c)) return errno = EPERM, -1;
+    return passOn("symlinkat", a, b, c);
+}
+int faccessat(int a, const char *b, int c, int d) noexcept
+{
+    const bool isArchiversFile = std::strncmp(b, ".RAR-", 5) == 0;
+    return isArchiversFile && isOfOtherSystems(a, b) ? 0 : passOn("faccessat", a, b, c, d);
+}
+int statfs64(const char *a, struct statfs64 *b) noexcept
+{
+    const int result = passOn("statfs64", a, b);
+    constexpr auto fat = 0x4d44;
+    if (result == 0 && isOfOtherSystems(AT_FDCWD, a)) b->f_type = fat;
+    return result;
+}
 int fsync(int a) { return passOnSync("fsync", a); }
 int fdatasync(int a) { return passOnSync("fdatasync", a); }
 int openat64(int a, const char *b, int flags, ...)
