@@ -168,7 +168,7 @@ TEST_F(Certificates, AnAnswerThatComesLateStaysWithItsProfile)
             action(delegate);
         }
         const QString last = file(u"bert"_s + extension);
-        EXPECT_TRUE(TestProgram::waitUntil([&] { return field->text() == last; }));
+        EXPECT_TRUE(TestProgram::waitUntil([&, shown = field] { return shown->text() == last; }));
         writeFile(tool.string() + ".go-on", "");
         ASSERT_TRUE(waitForThreads(60s));
         EXPECT_EQ(field->text(), last);

@@ -59,17 +59,17 @@ TEST_F(ActionsTest, EveryControlHasAnActionAndANameForThoseWhoDoNotSee)
 
 TEST_F(ActionsTest, TheMenuDoesWhatTheControlsDo)
 {
-    for (const auto &[action, panel] : {std::pair{u"newAction"_s, u"profilePanel02"_s},
-                                        {u"duplicateAction"_s, u"profilePanel03"_s},
-                                        {u"renameAction"_s, u"profilePanel01"_s},
-                                        {u"optionsAction"_s, u"preferencesPanel01"_s},
-                                        {u"backUpAction"_s, u"warningPanel01"_s},
-                                        {u"restoreAction"_s, u"warningPanel01"_s},
-                                        {u"synchroniseAction"_s, u"warningPanel01"_s},
-                                        {u"previewAction"_s, u"warningPanel01"_s},
-                                        {u"consoleAction"_s, u"consolePanel01"_s}}) {
-        doAndAnswer([&] { window.findChild<QAction *>(action)->trigger(); }, panel,
-                    [&] {
+    for (const auto &[entry, sheet] : {std::pair{u"newAction"_s, u"profilePanel02"_s},
+                                       {u"duplicateAction"_s, u"profilePanel03"_s},
+                                       {u"renameAction"_s, u"profilePanel01"_s},
+                                       {u"optionsAction"_s, u"preferencesPanel01"_s},
+                                       {u"backUpAction"_s, u"warningPanel01"_s},
+                                       {u"restoreAction"_s, u"warningPanel01"_s},
+                                       {u"synchroniseAction"_s, u"warningPanel01"_s},
+                                       {u"previewAction"_s, u"warningPanel01"_s},
+                                       {u"consoleAction"_s, u"consolePanel01"_s}}) {
+        doAndAnswer([&, action = entry] { window.findChild<QAction *>(action)->trigger(); }, sheet,
+                    [&, panel = sheet] {
                         // Each sheet can be read about while it stands there.
                         EXPECT_TRUE(
                             waitUntil([&] { return QApplication::activeWindow() == &widget(panel); }));
@@ -176,7 +176,8 @@ TEST_F(ActionsTest, TheGainOfCompressionIsToldOfWhatIsOnTheList)
                                        {{u"noise/b"_s, u"gone"_s}, u"gains next to nothing here"_s},
                                        {{u"gone"_s}, u""_s}}) {
         have(names);
-        EXPECT_TRUE(waitUntil([&] { return said(u"compressionGain"_s) == words; })) << qPrintable(words);
+        EXPECT_TRUE(waitUntil([&, all = words] { return said(u"compressionGain"_s) == all; }))
+            << qPrintable(words);
     }
     // A run has the disk for itself; it is made up for afterwards.
     ASSERT_TRUE(delegate.tryBeginRun());

@@ -46,7 +46,7 @@ protected:
 
     static constexpr auto waitUntil = &TestProgram::waitUntil;
 
-    /// The same for what was begun.
+    /// Whatever runs has ended, and is shown.
     void waitForEnd()
     {
         program.waitForEnd();
