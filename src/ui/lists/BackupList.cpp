@@ -51,10 +51,12 @@ void BackupList::setBackups(const QList<FoundBackup> &backups)
     const QSignalBlocker quiet(this);
     clear();
     QTreeWidgetItem *newest = nullptr;
+    QString name; // of the newest
     for (const FoundBackup &backup : backups) {
-        if (newest && newest->text(Name) != printableName(backup.name)) newest = nullptr;
+        if (backup.name != name) newest = nullptr;
         add(backup, newest);
         if (!newest) newest = topLevelItem(topLevelItemCount() - 1);
+        name = backup.name;
     }
     updateGeometry();
 }
