@@ -3480,6 +3480,10 @@ Was Sie geändert haben, bleibt nur, solange das Programm läuft. Schaffen Sie P
         <source>rsync, the program that copies, reported a problem; its own words follow.</source>
         <translation>rsync, das Programm, das kopiert, hat ein Problem gemeldet; seine eigenen Worte folgen.</translation>
     </message>
+    <message>
+        <source>Beside &quot;%1&quot; there is a name that differs in upper and lower case only. The destination may take both for one, so that only one of them arrives. Rename one of them.</source>
+        <translation>Neben „%1“ gibt es einen Namen, der sich nur in Groß- und Kleinschreibung unterscheidet. Das Ziel hält beide vielleicht für denselben, sodass nur eines von beiden ankommt. Benennen Sie eines davon um.</translation>
+    </message>
 </context>
 <context>
     <name>synchronisation</name>

@@ -3480,6 +3480,10 @@ Lo que ha cambiado se conserva solo mientras el programa esté abierto. Libere e
         <source>rsync, the program that copies, reported a problem; its own words follow.</source>
         <translation>rsync, el programa que copia, comunicó un problema; a continuación, sus propias palabras.</translation>
     </message>
+    <message>
+        <source>Beside &quot;%1&quot; there is a name that differs in upper and lower case only. The destination may take both for one, so that only one of them arrives. Rename one of them.</source>
+        <translation>Junto a “%1” hay un nombre que solo se diferencia en mayúsculas y minúsculas. El destino puede tomar los dos por uno solo, de modo que solo llegue uno de ellos. Cambie el nombre de uno de los dos.</translation>
+    </message>
 </context>
 <context>
     <name>synchronisation</name>

@@ -3480,6 +3480,10 @@ Vos modifications ne sont conservées que tant que le programme fonctionne. Lib�
         <source>rsync, the program that copies, reported a problem; its own words follow.</source>
         <translation>rsync, le programme qui copie, a signalé un problème ; voici son message.</translation>
     </message>
+    <message>
+        <source>Beside &quot;%1&quot; there is a name that differs in upper and lower case only. The destination may take both for one, so that only one of them arrives. Rename one of them.</source>
+        <translation>À côté de «&#xa0;%1&#xa0;», il y a un nom qui ne diffère que par les majuscules et les minuscules. La destination peut prendre les deux pour un seul, si bien qu’un seul des deux arrive. Renommez l’un des deux.</translation>
+    </message>
 </context>
 <context>
     <name>synchronisation</name>

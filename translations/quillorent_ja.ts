@@ -3473,6 +3473,10 @@ What you changed is kept only as long as the program runs. Make room, or make th
         <source>rsync, the program that copies, reported a problem; its own words follow.</source>
         <translation>コピーを行うプログラムrsyncが問題を報告しました。内容は次のとおりです。</translation>
     </message>
+    <message>
+        <source>Beside &quot;%1&quot; there is a name that differs in upper and lower case only. The destination may take both for one, so that only one of them arrives. Rename one of them.</source>
+        <translation>「%1」のそばに、大文字と小文字だけが異なる名前があります。同期先では両方が同じ名前とみなされ、一方しか届かないおそれがあります。どちらかの名前を変更してください。</translation>
+    </message>
 </context>
 <context>
     <name>synchronisation</name>

@@ -3473,6 +3473,10 @@ What you changed is kept only as long as the program runs. Make room, or make th
         <source>rsync, the program that copies, reported a problem; its own words follow.</source>
         <translation>负责复制的程序 rsync 报告了问题；它的消息如下。</translation>
     </message>
+    <message>
+        <source>Beside &quot;%1&quot; there is a name that differs in upper and lower case only. The destination may take both for one, so that only one of them arrives. Rename one of them.</source>
+        <translation>“%1”旁边有一个仅大小写不同的名称。目标位置可能把两者视为同一个，因而只有其中一个能到达。请为其中一个改名。</translation>
+    </message>
 </context>
 <context>
     <name>synchronisation</name>

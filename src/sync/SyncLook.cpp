@@ -1,14 +1,18 @@
 #include "sync/SyncLook.h"
 
+#include "files/FolderWalk.h"
 #include "files/Names.h"
 #include "files/Paths.h"
+#include "files/Room.h"
 #include "runs/Looks.h"
 #include "sync/SyncArguments.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <filesystem>
+#include <unordered_map>
 
 namespace {
 
@@ -65,6 +69,44 @@ void lookAtEntries(const SyncOrder &order, Findings &findings)
                                     .arg(entry));
 }
 
+/// Of what is to be copied, the first that differs from another in upper and lower case only.
+std::optional<QString> firstNamesake(const QStringList &entries)
+{
+    std::unordered_map<std::size_t, std::size_t> owners; // hashes: there may be millions of paths
+    for (const QString &entry : entries) {
+        FolderWalk walk(QFile::encodeName(entry).toStdString());
+        while (walk.next()) {
+            const QString path = QFile::decodeName(QByteArray::fromStdString(walk.path()));
+            const auto [owner, isNew] = owners.try_emplace(qHash(path.toCaseFolded()), qHash(path));
+            if (!isNew && owner->second != qHash(path)) return path;
+        }
+    }
+    return std::nullopt;
+}
+
+bool isOnDiskOfOtherSystems(QString path)
+{
+    while (!QFileInfo::exists(path) && path.contains(u'/'))
+        path.truncate(path.lastIndexOf(u'/'));
+    return isOfOtherSystems(path);
+}
+
+/// Where case is ignored one of two comes over the other; and where what has come there goes from here, that
+/// is lost.
+void lookForNamesakes(const SyncOrder &order, Findings &findings)
+{
+    const bool isHere = !order.isRemote && isOnDiskOfOtherSystems(resolved(order.destination));
+    if (!isHere && !(order.isRemote && order.removesSources)) return; // most servers know case
+    const std::optional<QString> path = firstNamesake(order.entries);
+    if (!path) return;
+    const QString text =
+        Words::tr("Beside \"%1\" there is a name that differs in upper and lower case only. The "
+                  "destination may take both for one, so that only one of them arrives. Rename "
+                  "one of them.")
+            .arg(*path);
+    isHere &&order.removesSources ? findings.addObstacle(text) : findings.addConcern(text);
+}
+
 } // namespace
 
 void lookAtSync(const SyncOrder &order, Findings &findings)
@@ -74,5 +116,6 @@ void lookAtSync(const SyncOrder &order, Findings &findings)
     findings.addObstacle(checkDestination(order));
     lookAtEntries(order, findings);
     lookForEmptySources(order, findings);
+    lookForNamesakes(order, findings);
     findings.addConcern(concernAboutRecords());
 }

@@ -180,6 +180,10 @@ TEST(DiskOfOtherSystems, LosesNothingInSilenceAndKeepsNothingInClear)
     for (const std::string &name : namesIn(home / "out"))
         EXPECT_FALSE(name.starts_with(".")) << name << " is not encrypted, and stayed";
 
+    home.record["rsyncdst"] = home.text("out/copy");
+    home.record["rsyncdelete2"] = "1";
+    EXPECT_TRUE(contains(home.run({"sync", "Mine", "--yes"}).errors, "differs in upper and lower case only"));
+    EXPECT_EQ(readFile(home / "docs/A") + readFile(home / "docs/a"), "Aa");
     home.folders = {home.text("docs"), home.text("other/DOCS")};
     home.record["path"] = home.text("out");
     writeFile(home / "other/DOCS/file", "other");

@@ -10,6 +10,8 @@ TEST(SyncLook, TellsBeforeAnythingIsTouched)
     for (const char *folder : {"src/full", "src/new"}) // as the mount point of an unmounted disk looks
         fs::create_directories(sample.folder / folder);
     writeFile(sample.folder / "dst/full/precious", "1");
+    for (const char *name : {"case/A/x", "case/a"})
+        writeFile(sample.folder / name, "x");
     fs::create_directory_symlink(sample.folder / "src/d", sample.folder / "link");
     for (const auto &[changes, obstacle, concern] : {
              std::tuple("delete remove", "", ""),
@@ -18,6 +20,8 @@ TEST(SyncLook, TellsBeforeAnythingIsTouched)
              {"delete add=%1/src/full", "",
               "src/full\" is empty, and everything in its copy would be deleted"},
              {"delete add=%1/src/full server=box", "", "is empty"},
+             {"delete remove add=%1/case server=box", "", "differs in upper and lower case only"},
+             {"delete add=%1/case server=box", "", ""},
              {"dst=%1/src/d/copies/../copy", "", "lies inside"},
              {"dst=%1/link/copy", "", "lies inside"},
              {"add=%1/src2/x", "", "src2/x\" does not lie under the common folder"},
