@@ -130,7 +130,7 @@ QStringList claimsOf(const BackupItem &item)
 
 void lookForMeetings(const BackupOrder &order, Found &found)
 {
-    const bool foldsCase = isOfOtherSystems(order.destination);
+    const bool foldsCase = mayIgnoreCase(order.destination);
     const auto asFound = [foldsCase](const QString &name) { return foldsCase ? name.toCaseFolded() : name; };
     QHash<QString, QString> owners;
     for (const BackupItem &item : order.items)

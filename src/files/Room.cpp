@@ -1,6 +1,10 @@
 #include "files/Room.h"
 
+#include "files/Entry.h"
+#include "files/Names.h"
+
 #include <QCoreApplication>
+#include <QDirIterator>
 #include <QFile>
 #include <QLocale>
 #include <QStorageInfo>
@@ -52,4 +56,19 @@ bool isOfOtherSystems(const QString &path)
     struct statfs status {};
     if (statfs(QFile::encodeName(path).constData(), &status) != 0) return false;
     return std::find(systems.begin(), systems.end(), long(status.f_type)) != systems.end();
+}
+
+bool mayIgnoreCase(const QString &folder)
+{
+    if (!isOfOtherSystems(folder)) return false;
+    QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    while (entries.hasNext()) {
+        const auto entry = entryAt(entries.next());
+        const QString name = entries.fileName();
+        const QString other = name == name.toUpper() ? name.toLower() : name.toUpper();
+        if (!entry || other == name) continue;
+        const auto found = entryAt(quillorentLibrary::joined(folder, other));
+        return found && found->identity.isSameFile(entry->identity);
+    }
+    return true;
 }

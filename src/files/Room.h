@@ -16,3 +16,7 @@
 /// lower case only can be one name there, rights are those that the disk was mounted with, and a file's
 /// number can change.
 [[nodiscard]] bool isOfOtherSystems(const QString &path);
+
+/// Whether names that differ in upper and lower case only may be one name in the folder, as far as what is
+/// there tells.
+[[nodiscard]] bool mayIgnoreCase(const QString &folder);

@@ -84,18 +84,19 @@ std::optional<QString> firstNamesake(const QStringList &entries)
     return std::nullopt;
 }
 
-bool isOnDiskOfOtherSystems(QString path)
+/// Of the folder, or of the one above it that it would be made in.
+bool willIgnoreCase(QString path)
 {
     while (!QFileInfo::exists(path) && path.contains(u'/'))
         path.truncate(path.lastIndexOf(u'/'));
-    return isOfOtherSystems(path);
+    return mayIgnoreCase(path);
 }
 
 /// Where case is ignored one of two comes over the other; and where what has come there goes from here, that
 /// is lost.
 void lookForNamesakes(const SyncOrder &order, Findings &findings)
 {
-    const bool isHere = !order.isRemote && isOnDiskOfOtherSystems(resolved(order.destination));
+    const bool isHere = !order.isRemote && willIgnoreCase(resolved(order.destination));
     if (!isHere && !(order.isRemote && order.removesSources)) return; // most servers know case
     const std::optional<QString> path = firstNamesake(order.entries);
     if (!path) return;

@@ -180,12 +180,14 @@ TEST(DiskOfOtherSystems, LosesNothingInSilenceAndKeepsNothingInClear)
     for (const std::string &name : namesIn(home / "out"))
         EXPECT_FALSE(name.starts_with(".")) << name << " is not encrypted, and stayed";
 
-    home.record["rsyncdst"] = home.text("out/copy");
+    for (const std::string key : {"rsyncdst", "path"}) {
+        home.record[key] = home.text("out/" + key); // empty: what is there would tell
+        std::filesystem::create_directory(home.record[key]);
+    }
     home.record["rsyncdelete2"] = "1";
     EXPECT_TRUE(contains(home.run({"sync", "Mine", "--yes"}).errors, "differs in upper and lower case only"));
     EXPECT_EQ(readFile(home / "docs/A") + readFile(home / "docs/a"), "Aa");
     home.folders = {home.text("docs"), home.text("other/DOCS")};
-    home.record["path"] = home.text("out");
     writeFile(home / "other/DOCS/file", "other");
     EXPECT_TRUE(contains(home.backUp({"--yes"}).errors, "would both need the file"));
 }
